@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "support/LoopbackMessages.h"
+
+QByteArray LoopbackRequest::header(const QByteArray &name) const
+{
+    for (const auto &[key, value] : headers) {
+        if (key.compare(name, Qt::CaseInsensitive) == 0)
+            return value;
+    }
+    return {};
+}
+
+LoopbackResponse LoopbackResponse::page(const QByteArray &body)
+{
+    LoopbackResponse response;
+    response.headers = {{"Content-Type", "text/html; charset=utf-8"}};
+    response.body = body;
+    return response;
+}
+
+LoopbackResponse LoopbackResponse::error(int status)
+{
+    LoopbackResponse response = page("<html><body>error " + QByteArray::number(status) + "</body></html>");
+    response.status = status;
+    return response;
+}
+
+LoopbackResponse LoopbackResponse::redirect(int status, const QByteArray &location)
+{
+    LoopbackResponse response;
+    response.status = status;
+    response.headers = {{"Location", location}};
+    return response;
+}
