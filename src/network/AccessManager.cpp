@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "network/AccessManager.h"
+
+#include "network/LimitedReply.h"
+#include "network/NetworkLog.h"
+#include "network/Redirects.h"
+#include "network/RefusedReply.h"
+#include "network/RetryAfter.h"
+
+#include <utility>
+
+namespace {
+
+// Naming the codings ourselves keeps Qt from inflating, which it does without any bound.
+QNetworkRequest asSent(const QNetworkRequest &request, LimitedReply::Kind kind)
+{
+    QNetworkRequest sent = request;
+    sent.setRawHeader("Accept-Encoding", kind == LimitedReply::Kind::Page ? "gzip, deflate" : "identity");
+    sent.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    return sent;
+}
+
+} // namespace
+
+AccessManager::AccessManager(QObject *parent, RestingHosts::Clock clock)
+    : QNetworkAccessManager(parent)
+    , m_restingHosts(std::move(clock))
+{
+}
+
+void AccessManager::setLimits(const RequestLimits &limits)
+{
+    m_limits = limits;
+}
+
+QNetworkReply *AccessManager::createRequest(Operation operation, const QNetworkRequest &request,
+                                            QIODevice *outgoingData)
+{
+    if (QNetworkReply *refused = refusal(operation, request))
+        return refused;
+    const bool isDownload = request.attribute(DownloadAttribute).toBool();
+    const auto kind = isDownload ? LimitedReply::Kind::Download : LimitedReply::Kind::Page;
+    QNetworkReply *source = QNetworkAccessManager::createRequest(operation, asSent(request, kind), outgoingData);
+    auto *reply = new LimitedReply(source, request, kind, m_limits, this);
+    connect(reply, &QNetworkReply::metaDataChanged, this, [this, reply] { noteWish(*reply); });
+    return reply;
+}
+
+QNetworkReply *AccessManager::refusal(Operation operation, const QNetworkRequest &request)
+{
+    const QUrl url = request.url();
+    if (!isWebAddress(url)) {
+        const QString text = tr("Not a web address: %1").arg(url.toDisplayString());
+        return new RefusedReply(operation, request, QNetworkReply::ProtocolUnknownError, text, this);
+    }
+    const qint64 seconds = m_restingHosts.remaining(url).count();
+    if (seconds > 0) {
+        const QString text = tr("%1 asked for a pause and can be asked again in %2 s.", "%1 is a host name")
+                                 .arg(url.host())
+                                 .arg(seconds);
+        return new RefusedReply(operation, request, QNetworkReply::ServiceUnavailableError, text, this);
+    }
+    return nullptr;
+}
+
+void AccessManager::noteWish(const QNetworkReply &reply)
+{
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (status != 429 && status != 503)
+        return;
+    const auto pause = retryAfter(reply.rawHeader("Retry-After"), QDateTime::currentDateTimeUtc());
+    if (!pause)
+        return;
+    qCInfo(networkLog) << reply.url().host() << "asked for a pause of" << pause->count() << "s";
+    m_restingHosts.rest(reply.url(), *pause);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "network/RequestLimits.h"
+#include "network/RestingHosts.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkRequest>
+
+// The access manager of every connection that the program opens. It keeps hostile and broken servers from doing harm:
+//
+// - Each request has limits of time and size (RequestLimits). Bodies are inflated here, never beyond the limit.
+// - Only http and https addresses are asked; anything else is an error reply.
+// - Redirects are not followed: whoever sent the request does that by hand (Redirects.h).
+// - A server that answers 429 or 503 with "Retry-After" gets no request for that time; they fail at once instead.
+//
+// Replies, cookies and proxies are used as with any QNetworkAccessManager; see LimitedReply for what a reply promises.
+// A reply given by authenticationRequired() or proxyAuthenticationRequired() is not the one that was handed out but the
+// one behind it.
+class AccessManager : public QNetworkAccessManager
+{
+    Q_OBJECT
+
+public:
+    // A request attribute (bool): the body goes through as it comes, not inflated, and without limits of size and total
+    // time. It is read on readyRead().
+    static constexpr auto DownloadAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 1);
+
+    explicit AccessManager(QObject *parent = nullptr, RestingHosts::Clock clock = &std::chrono::steady_clock::now);
+
+    // For the requests that are made from now on.
+    void setLimits(const RequestLimits &limits);
+
+protected:
+    QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request, QIODevice *outgoingData) override;
+
+private:
+    // An error reply when this request must not be sent, else null.
+    QNetworkReply *refusal(Operation operation, const QNetworkRequest &request);
+    void noteWish(const QNetworkReply &reply);
+
+    RequestLimits m_limits;
+    RestingHosts m_restingHosts;
+};

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "network/Inflater.h"
+#include "network/RequestLimits.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QPointer>
+#include <QTimer>
+
+#include <optional>
+
+// The reply that AccessManager hands out: stands before Qt's own reply and enforces the limits of one request.
+//
+// A page is collected and inflated here and can be read once finished() is emitted; a reply with an error has nothing
+// to read, so that a cut page is never mistaken for a whole one. A download is passed on as it comes, not inflated,
+// without limits of size and total time. Status, headers, attributes and address are those of Qt's reply; the headers
+// "Content-Encoding" and "Content-Length" of an inflated page are left out, as they no longer describe what is read.
+//
+// finished() is emitted exactly once and always from the event loop, after abort() too. The error texts are for users.
+class LimitedReply final : public QNetworkReply
+{
+    Q_OBJECT
+
+public:
+    enum class Kind { Page, Download };
+
+    // `source` stays with its owner, the access manager, until this reply is deleted, which then releases it.
+    // `request` is what the caller asked for.
+    LimitedReply(QNetworkReply *source, const QNetworkRequest &request, Kind kind, const RequestLimits &limits,
+                 QObject *parent);
+    ~LimitedReply() override;
+
+    [[nodiscard]] bool isSequential() const override { return true; }
+    [[nodiscard]] qint64 bytesAvailable() const override;
+
+    void abort() override;
+    // Holds back a download that is not read; a page is limited anyway.
+    void setReadBufferSize(qint64 bytes) override;
+    void ignoreSslErrors() override;
+
+protected:
+    qint64 readData(char *data, qint64 maximumBytes) override;
+    void sslConfigurationImplementation(QSslConfiguration &configuration) const override;
+    void setSslConfigurationImplementation(const QSslConfiguration &configuration) override;
+    void ignoreSslErrorsImplementation(const QList<QSslError> &errors) override;
+
+private:
+    void forwardSignals();
+    void startTimers();
+    void noteProgress();
+
+    void takeHead();
+    void copyHeaders(bool inflated);
+    // False after a content coding that nobody can undo.
+    bool chooseDecoder();
+    void takeBody();
+    void addToBody(const QByteArray &chunk);
+    void sourceFinished();
+    [[nodiscard]] bool isBodyExpected() const;
+    [[nodiscard]] bool isBodyCut() const;
+    [[nodiscard]] int httpStatus() const;
+    [[nodiscard]] QString sourceErrorText() const;
+
+    void failAsTooLarge();
+    void fail(NetworkError error, const QString &text);
+    // Nothing of the source counts any more; conclude() follows from the event loop.
+    void settle();
+    void conclude();
+
+    QPointer<QNetworkReply> m_source;
+    Kind m_kind;
+    RequestLimits m_limits;
+    QTimer m_idleTimer;
+    QTimer m_totalTimer;
+    std::optional<Inflater> m_inflater;
+    QByteArray m_body;
+    qint64 m_readBytes = 0;     // of m_body
+    qint64 m_receivedBytes = 0; // as transferred, before inflation
+    NetworkError m_failure = NoError;
+    QString m_failureText;
+    bool m_settled = false;
+};

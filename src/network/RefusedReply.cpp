@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "network/RefusedReply.h"
+
+RefusedReply::RefusedReply(QNetworkAccessManager::Operation operation, const QNetworkRequest &request,
+                           NetworkError error, const QString &text, QObject *parent)
+    : QNetworkReply(parent)
+{
+    setOperation(operation);
+    setRequest(request);
+    setUrl(request.url());
+    setError(error, text);
+    open(ReadOnly);
+    QMetaObject::invokeMethod(this, &RefusedReply::conclude, Qt::QueuedConnection);
+}
+
+qint64 RefusedReply::readData(char * /*data*/, qint64 /*maximumBytes*/)
+{
+    return -1;
+}
+
+void RefusedReply::conclude()
+{
+    setFinished(true);
+    emit errorOccurred(error());
+    emit finished();
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+#include <chrono>
+
+// What one request may cost. The clients have no time-outs of their own: these are the only ones.
+struct RequestLimits
+{
+    std::chrono::milliseconds idle = std::chrono::seconds(60);   // without any progress, in either direction
+    std::chrono::milliseconds total = std::chrono::seconds(120); // from the call to the last byte
+    qint64 bodyBytes = 1024 * 1024;                              // after inflation; song pages have 20 to 300 kB
+};
