@@ -56,36 +56,43 @@ bool Inflater::begin()
     return inflateInit2(m_stream.get(), bare ? -MAX_WBITS : gzipOrZlib) == Z_OK;
 }
 
-bool Inflater::continuesAfterEnd() const
+bool Inflater::beginNextMember()
 {
-    return m_format == Format::Gzip && m_stream->avail_in > 0 && m_stream->next_in[0] == firstGzipByte;
+    if (m_format != Format::Gzip || m_stream->avail_in == 0 || m_stream->next_in[0] != firstGzipByte)
+        return false;
+    m_state = State::Inflating;
+    return inflateReset(m_stream.get()) == Z_OK;
 }
 
 Inflater::Result Inflater::inflateInput(QByteArray *output)
 {
-    std::array<char, 16384> buffer{};
-    bool outputWasFull = false;
-    while (m_stream->avail_in > 0 || outputWasFull) {
-        if (m_state == State::Ended) {
-            if (!continuesAfterEnd())
-                return Result::Good;
-            inflateReset(m_stream.get());
-            m_state = State::Inflating;
-        }
-        m_stream->next_out = reinterpret_cast<Bytef *>(buffer.data());
-        m_stream->avail_out = static_cast<uInt>(buffer.size());
-        const int result = inflate(m_stream.get(), Z_NO_FLUSH);
-        if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR)
-            return Result::Damaged;
-        const int produced = static_cast<int>(buffer.size() - m_stream->avail_out);
-        if (output->size() + produced > m_maximumBytes)
-            return Result::TooLarge;
-        output->append(buffer.data(), produced);
-        outputWasFull = m_stream->avail_out == 0;
-        if (result == Z_STREAM_END) {
-            m_state = State::Ended;
-            outputWasFull = false;
-        }
+    bool isMoreToCome = true;
+    while (isMoreToCome) {
+        if (m_state == State::Ended && !beginNextMember())
+            return Result::Good;
+        const Result result = inflatePiece(output);
+        if (result != Result::Good)
+            return result;
+        const bool outputWasFull = m_state == State::Inflating && m_stream->avail_out == 0;
+        isMoreToCome = m_stream->avail_in > 0 || outputWasFull;
     }
+    return Result::Good;
+}
+
+Inflater::Result Inflater::inflatePiece(QByteArray *output)
+{
+    std::array<char, 16384> buffer{};
+    m_stream->next_out = reinterpret_cast<Bytef *>(buffer.data());
+    m_stream->avail_out = static_cast<uInt>(buffer.size());
+    const int status = inflate(m_stream.get(), Z_NO_FLUSH);
+    // Z_BUF_ERROR only says that there was nothing to do.
+    if (status != Z_OK && status != Z_STREAM_END && status != Z_BUF_ERROR)
+        return Result::Damaged;
+    const int produced = static_cast<int>(buffer.size() - m_stream->avail_out);
+    if (output->size() + produced > m_maximumBytes)
+        return Result::TooLarge;
+    output->append(buffer.data(), produced);
+    if (status == Z_STREAM_END)
+        m_state = State::Ended;
     return Result::Good;
 }

@@ -33,8 +33,9 @@ private:
     enum class State { Empty, Inflating, Ended };
 
     [[nodiscard]] bool begin();
-    [[nodiscard]] bool continuesAfterEnd() const;
+    [[nodiscard]] bool beginNextMember();
     Result inflateInput(QByteArray *output);
+    Result inflatePiece(QByteArray *output);
 
     Format m_format;
     qint64 m_maximumBytes;

@@ -138,8 +138,7 @@ void LimitedReply::forwardSignals()
     connect(source, &QNetworkReply::downloadProgress, this, &QNetworkReply::downloadProgress);
     connect(source, &QNetworkReply::encrypted, this, &QNetworkReply::encrypted);
     connect(source, &QNetworkReply::sslErrors, this, &QNetworkReply::sslErrors);
-    // The manager went away before a reply that somebody else owns.
-    connect(source, &QObject::destroyed, this, &LimitedReply::abort);
+    connect(source, &QObject::destroyed, this, &LimitedReply::endWithManager);
 }
 
 void LimitedReply::startTimers()
@@ -298,6 +297,13 @@ void LimitedReply::settle()
         m_source->abort();
     }
     QMetaObject::invokeMethod(this, &LimitedReply::conclude, Qt::QueuedConnection);
+}
+
+void LimitedReply::endWithManager()
+{
+    // Qt's access manager hangs slots on the reply that use the manager; they must not outlive it.
+    disconnect(this, nullptr, this, nullptr);
+    abort();
 }
 
 void LimitedReply::conclude()

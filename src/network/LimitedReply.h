@@ -68,6 +68,8 @@ private:
     // Nothing of the source counts any more; conclude() follows from the event loop.
     void settle();
     void conclude();
+    // The manager, and the source with it, is going away before a reply that somebody else owns.
+    void endWithManager();
 
     QPointer<QNetworkReply> m_source;
     Kind m_kind;

@@ -8,8 +8,10 @@ RefusedReply::RefusedReply(QNetworkAccessManager::Operation operation, const QNe
     setOperation(operation);
     setRequest(request);
     setUrl(request.url());
-    setError(error, text);
     open(ReadOnly);
+    setError(error, text); // after open(), which resets the text
+    // Qt's access manager hangs slots on the reply that use the manager; they must not outlive it.
+    connect(parent, &QObject::destroyed, this, [this] { disconnect(this, nullptr, this, nullptr); });
     QMetaObject::invokeMethod(this, &RefusedReply::conclude, Qt::QueuedConnection);
 }
 

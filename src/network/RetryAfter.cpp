@@ -16,13 +16,14 @@ QDateTime withLikelyCentury(const QDateTime &date, const QDateTime &now)
 
 QDateTime parseHttpDate(const QString &text, const QDateTime &now)
 {
-    // The preferred form, that of RFC 850, and that of asctime().
-    static const QString formats[] = {QStringLiteral("ddd, dd MMM yyyy HH:mm:ss 'GMT'"),
-                                      QStringLiteral("dddd, dd-MMM-yy HH:mm:ss 'GMT'"),
-                                      QStringLiteral("ddd MMM d HH:mm:ss yyyy")};
-    const QString singleSpaced = text.simplified();
+    // The preferred form, that of RFC 850, and that of asctime(), each without its first word: the name of the day
+    // says nothing new, and Qt, which puts a year of two digits into the 20th century, would find it wrong.
+    static const QString formats[] = {QStringLiteral("dd MMM yyyy HH:mm:ss 'GMT'"),
+                                      QStringLiteral("dd-MMM-yy HH:mm:ss 'GMT'"),
+                                      QStringLiteral("MMM d HH:mm:ss yyyy")};
+    const QString withoutDay = text.simplified().section(QLatin1Char(' '), 1);
     for (const QString &format : formats) {
-        QDateTime date = QLocale::c().toDateTime(singleSpaced, format);
+        QDateTime date = QLocale::c().toDateTime(withoutDay, format);
         date.setTimeSpec(Qt::UTC);
         if (date.isValid())
             return withLikelyCentury(date, now);

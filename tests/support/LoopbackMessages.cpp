@@ -13,9 +13,8 @@ QByteArray LoopbackRequest::header(const QByteArray &name) const
 LoopbackResponse LoopbackResponse::page(const QByteArray &body)
 {
     LoopbackResponse response;
-    response.headers = {{"Content-Type", "text/html; charset=utf-8"}};
     response.body = body;
-    return response;
+    return response.with("Content-Type", "text/html; charset=utf-8");
 }
 
 LoopbackResponse LoopbackResponse::error(int status)
@@ -29,6 +28,12 @@ LoopbackResponse LoopbackResponse::redirect(int status, const QByteArray &locati
 {
     LoopbackResponse response;
     response.status = status;
-    response.headers = {{"Location", location}};
+    return response.with("Location", location);
+}
+
+LoopbackResponse LoopbackResponse::with(const QByteArray &header, const QByteArray &value) const
+{
+    LoopbackResponse response = *this;
+    response.headers.append(qMakePair(header, value));
     return response;
 }

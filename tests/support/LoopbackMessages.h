@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMetaType>
 #include <QPair>
 #include <QString>
 #include <QUrlQuery>
@@ -43,4 +44,8 @@ struct LoopbackResponse
     [[nodiscard]] static LoopbackResponse page(const QByteArray &body);
     [[nodiscard]] static LoopbackResponse error(int status);
     [[nodiscard]] static LoopbackResponse redirect(int status, const QByteArray &location);
+    // A copy with one more header.
+    [[nodiscard]] LoopbackResponse with(const QByteArray &header, const QByteArray &value) const;
 };
+
+Q_DECLARE_METATYPE(LoopbackResponse)
