@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr int shownAddressCharacters = 120; // a data: address can be as long as a page
+
 // Naming the codings ourselves keeps Qt from inflating, which it does without any bound.
 QNetworkRequest asSent(const QNetworkRequest &request, LimitedReply::Kind kind)
 {
@@ -50,7 +52,7 @@ QNetworkReply *AccessManager::refusal(Operation operation, const QNetworkRequest
 {
     const QUrl url = request.url();
     if (!isWebAddress(url)) {
-        const QString text = tr("Not a web address: %1").arg(url.toDisplayString());
+        const QString text = tr("Not a web address: %1").arg(url.toDisplayString().left(shownAddressCharacters));
         return new RefusedReply(operation, request, QNetworkReply::ProtocolUnknownError, text, this);
     }
     const qint64 seconds = m_restingHosts.remaining(url).count();

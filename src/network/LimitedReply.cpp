@@ -42,8 +42,8 @@ QString statusText(int status)
 } // namespace
 
 LimitedReply::LimitedReply(QNetworkReply *source, const QNetworkRequest &request, Kind kind,
-                           const RequestLimits &limits, QObject *parent)
-    : QNetworkReply(parent)
+                           const RequestLimits &limits, QNetworkAccessManager *manager)
+    : QNetworkReply(manager)
     , m_source(source)
     , m_kind(kind)
     , m_limits(limits)
@@ -51,6 +51,7 @@ LimitedReply::LimitedReply(QNetworkReply *source, const QNetworkRequest &request
     setOperation(source->operation());
     setRequest(request);
     setUrl(source->url());
+    connect(manager, &QObject::destroyed, this, &LimitedReply::endWithManager);
     forwardSignals();
     startTimers();
     open(ReadOnly);
@@ -138,7 +139,6 @@ void LimitedReply::forwardSignals()
     connect(source, &QNetworkReply::downloadProgress, this, &QNetworkReply::downloadProgress);
     connect(source, &QNetworkReply::encrypted, this, &QNetworkReply::encrypted);
     connect(source, &QNetworkReply::sslErrors, this, &QNetworkReply::sslErrors);
-    connect(source, &QObject::destroyed, this, &LimitedReply::endWithManager);
 }
 
 void LimitedReply::startTimers()

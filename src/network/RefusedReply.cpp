@@ -2,8 +2,8 @@
 #include "network/RefusedReply.h"
 
 RefusedReply::RefusedReply(QNetworkAccessManager::Operation operation, const QNetworkRequest &request,
-                           NetworkError error, const QString &text, QObject *parent)
-    : QNetworkReply(parent)
+                           NetworkError error, const QString &text, QNetworkAccessManager *manager)
+    : QNetworkReply(manager)
 {
     setOperation(operation);
     setRequest(request);
@@ -11,7 +11,7 @@ RefusedReply::RefusedReply(QNetworkAccessManager::Operation operation, const QNe
     open(ReadOnly);
     setError(error, text); // after open(), which resets the text
     // Qt's access manager hangs slots on the reply that use the manager; they must not outlive it.
-    connect(parent, &QObject::destroyed, this, [this] { disconnect(this, nullptr, this, nullptr); });
+    connect(manager, &QObject::destroyed, this, [this] { disconnect(this, nullptr, this, nullptr); });
     QMetaObject::invokeMethod(this, &RefusedReply::conclude, Qt::QueuedConnection);
 }
 

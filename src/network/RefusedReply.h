@@ -11,7 +11,7 @@ class RefusedReply final : public QNetworkReply
 
 public:
     RefusedReply(QNetworkAccessManager::Operation operation, const QNetworkRequest &request, NetworkError error,
-                 const QString &text, QObject *parent);
+                 const QString &text, QNetworkAccessManager *manager);
 
     // Does nothing: the reply has failed already.
     void abort() override {}

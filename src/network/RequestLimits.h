@@ -10,5 +10,5 @@ struct RequestLimits
 {
     std::chrono::milliseconds idle = std::chrono::seconds(60);   // without any progress, in either direction
     std::chrono::milliseconds total = std::chrono::seconds(120); // from the call to the last byte
-    qint64 bodyBytes = 1024 * 1024;                              // after inflation; song pages have 20 to 300 kB
+    qint64 bodyBytes = 1024LL * 1024;                            // after inflation; song pages have 20 to 300 kB
 };

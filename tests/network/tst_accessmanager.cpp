@@ -164,7 +164,8 @@ void tst_AccessManager::waitFor(QNetworkReply *reply)
     QSignalSpy ofReply(reply, &QNetworkReply::finished);
     QSignalSpy errors(reply, &QNetworkReply::errorOccurred);
     QSignalSpy ofManager(m_manager.get(), &QNetworkAccessManager::finished);
-    QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 20000);
+    QVERIFY(ofReply.wait(20000));
+    QVERIFY(reply->isFinished());
     QCoreApplication::processEvents();
     QCOMPARE(ofReply.count(), 1);
     QCOMPARE(errors.count(), reply->error() == QNetworkReply::NoError ? 0 : 1);
@@ -236,10 +237,9 @@ void tst_AccessManager::answers_data()
     QTest::newRow("cut before the body") << cut(LoopbackResponse::page(song), 0) << Reply::RemoteHostClosedError
                                          << QByteArray();
     QTest::newRow("chunks") << chunked("2\r\nla\r\n2\r\nlu\r\n0\r\n\r\n") << Reply::NoError << QByteArray("lalu");
-    QTest::newRow("chunks without an end")
-        << chunked("2\r\nla\r\n9\r\nlu") << Reply::RemoteHostClosedError << QByteArray();
-    QTest::newRow("chunks that stop between two")
-        << chunked("2\r\nla\r\n") << Reply::RemoteHostClosedError << QByteArray();
+    QTest::newRow("chunks of gzip without an end")
+        << chunked("9\r\n" + gzip.body.left(9) + "\r\n").with("Content-Encoding", "gzip")
+        << Reply::RemoteHostClosedError << QByteArray();
 
     QTest::newRow("redirect by 302") << LoopbackResponse::redirect(302, "/elsewhere") << Reply::NoError << QByteArray();
     QTest::newRow("redirect to itself by 307")
@@ -264,7 +264,8 @@ void tst_AccessManager::answers()
     QCOMPARE(reply->bytesAvailable(), qint64(body.size()));
     QCOMPARE(reply->readAll(), body);
     QCOMPARE(reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), response.status);
-    QCOMPARE(m_server->requests().size(), 1);
+    if (response.status / 100 == 3)
+        QCOMPARE(m_server->requests().size(), 1); // not followed
     if (response.status >= 400)
         QVERIFY2(reply->errorString().contains(QString::number(response.status)), qPrintable(reply->errorString()));
 }
@@ -282,7 +283,7 @@ void tst_AccessManager::bombCostsNoMoreThanTheLimit()
     const long before = peakMemoryKiB();
     const auto reply = get("/page");
     QCOMPARE(reply->error(), QNetworkReply::UnknownContentError);
-    QVERIFY2(peakMemoryKiB() - before < 32 * 1024, "inflating cost more than 32 MiB");
+    QVERIFY2(peakMemoryKiB() - before < 32L * 1024, "inflating cost more than 32 MiB");
 }
 
 void tst_AccessManager::describesThePageThatIsRead()
@@ -365,7 +366,7 @@ void tst_AccessManager::timeLimits()
 {
     QFETCH(LoopbackResponse, response);
     QFETCH(QString, text);
-    m_manager->setLimits({300ms, 1100ms, limitBytes});
+    m_manager->setLimits({500ms, 1100ms, limitBytes});
     m_server->route(QStringLiteral("/page"), response);
 
     const auto reply = get("/page");
@@ -376,9 +377,11 @@ void tst_AccessManager::timeLimits()
 
 void tst_AccessManager::downloadIsStreamedWhole()
 {
+    // It takes longer than the server may be silent.
     const QByteArray packed = deflated(QByteArray(2000, 'x'), gzipWindow);
-    m_manager->setLimits({10s, 1ms, 10});
-    m_server->route(QStringLiteral("/setup"), dripped(coded("gzip", packed), 2ms));
+    m_manager->setLimits({500ms, 1ms, 10});
+    m_server->route(QStringLiteral("/setup"),
+                    dripped(coded("gzip", packed), std::chrono::milliseconds(800 / packed.size())));
     QNetworkRequest request(m_server->url("/setup"));
     request.setAttribute(AccessManager::DownloadAttribute, true);
 
@@ -488,14 +491,16 @@ void tst_AccessManager::managerDeletedBeforeAReplyOfSomebodyElse()
 {
     m_server->route(QStringLiteral("/hang"), hanging());
     const std::unique_ptr<QNetworkReply> reply(m_manager->get(QNetworkRequest(m_server->url("/hang"))));
-    reply->setParent(nullptr);
-    QTRY_COMPARE(m_server->requests().size(), 1);
+    const std::unique_ptr<QNetworkReply> aborted(m_manager->get(QNetworkRequest(m_server->url("/hang"))));
+    QTRY_COMPARE(m_server->requests().size(), 2);
     QSignalSpy finished(reply.get(), &QNetworkReply::finished);
+    aborted->abort();
     const std::unique_ptr<QNetworkReply> refused(m_manager->get(QNetworkRequest(QUrl(QStringLiteral("file:///x")))));
-    refused->setParent(nullptr);
+    for (const auto &survivor : {reply.get(), aborted.get(), refused.get()})
+        survivor->setParent(nullptr);
     m_manager.reset();
     QVERIFY(finished.wait());
-    QTRY_VERIFY(refused->isFinished());
+    QTRY_VERIFY(refused->isFinished() && aborted->isFinished());
     QCOMPARE(reply->error(), QNetworkReply::OperationCanceledError);
 }
 

@@ -40,12 +40,12 @@ QUrl LoopbackServer::url(const QByteArray &target) const
 
 void LoopbackServer::route(const QString &path, const LoopbackResponse &response)
 {
-    route(path, [response](const LoopbackRequest &) { return response; });
+    m_routes.insert(path, [response](const LoopbackRequest &) { return response; });
 }
 
-void LoopbackServer::route(const QString &path, Handler handler)
+void LoopbackServer::route(const QString &path, const Handler &handler)
 {
-    m_routes.insert(path, std::move(handler));
+    m_routes.insert(path, handler);
 }
 
 void LoopbackServer::routeOthers(Handler handler)

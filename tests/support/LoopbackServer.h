@@ -40,7 +40,7 @@ public:
 
     // `path` is the decoded path without a query. A later route replaces an earlier one.
     void route(const QString &path, const LoopbackResponse &response);
-    void route(const QString &path, Handler handler);
+    void route(const QString &path, const Handler &handler);
     // Answers every path that has no route of its own.
     void routeOthers(Handler handler);
 
