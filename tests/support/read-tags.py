@@ -1,0 +1,108 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Prints as JSON what mutagen, a reader that shares no code with this project, finds in audio files.
+
+Usage: read-tags.py FILE... prints an array with one object a file:
+  format      name of mutagen's class, null when it does not know the file; then only "file" and "error" follow
+  title, artists, lyrics (null when there are none; a list of one text for each frame or field)
+  id3         "2.3.0", "2.4.0" or null        id3v1   the bytes of the ID3v1 tag at the end in hexadecimal, or null
+  usltEncodings  0 Latin-1, 1 UTF-16, 3 UTF-8, one for each USLT frame
+  ape         whether there is an APE tag     pictures  SHA-256 of the bytes of each picture
+  others      every other frame, item or field as text, by its name
+  duration    seconds
+"""
+import base64
+import hashlib
+import json
+import sys
+
+import mutagen
+from mutagen.apev2 import APENoHeaderError, APEv2
+from mutagen.flac import Picture
+from mutagen.id3 import ID3
+
+TITLES = {"TIT2", "title", "Title", "\xa9nam"}
+ARTISTS = {"TPE1", "artist", "Artist", "Author", "\xa9ART"}
+LYRICS = {"USLT", "lyrics", "Lyrics", "LYRICS", "\xa9lyr", "WM/Lyrics"}
+PICTURES = {"APIC", "covr", "WM/Picture", "metadata_block_picture", "coverart"}
+
+
+def digest(data):
+    return hashlib.sha256(data).hexdigest()
+
+
+def id3_entries(tag):
+    for frame in tag.values():
+        if frame.FrameID == "APIC":
+            yield "APIC", [frame.data]
+        elif frame.FrameID == "USLT":
+            yield "USLT", [frame.text]
+        elif frame.FrameID in TITLES | ARTISTS:
+            yield frame.FrameID, [str(text) for text in frame.text]
+        else:
+            yield frame.HashKey, [frame.pprint()]
+
+
+def picture_bytes(name, value):
+    if name == "metadata_block_picture":
+        return Picture(base64.b64decode(value)).data
+    if name == "WM/Picture":
+        return value.value
+    return bytes(value)
+
+
+def mapping_entries(tag):
+    for name, values in tag.items():
+        values = values if isinstance(values, list) else list(values) if hasattr(values, "kind") else [values]
+        if name in PICTURES:
+            yield name, [picture_bytes(name, value) for value in values]
+        else:
+            yield name, [str(value) for value in values]
+
+
+def entries(tag):
+    if tag is None:
+        return []
+    return id3_entries(tag) if isinstance(tag, ID3) else mapping_entries(tag)
+
+
+def describe(path):
+    song = mutagen.File(path)
+    if song is None:
+        return {"file": path, "format": None, "error": "unknown format"}
+    result = {"file": path, "format": type(song).__name__, "title": None, "artists": [], "lyrics": None, "pictures": [],
+              "others": {}, "id3": None, "usltEncodings": [], "duration": song.info.length}
+    for name, values in entries(song.tags):
+        if name in TITLES:
+            result["title"] = values[0]
+        elif name in ARTISTS:
+            result["artists"] += values
+        elif name in LYRICS:
+            result["lyrics"] = (result["lyrics"] or []) + values
+        elif name in PICTURES:
+            result["pictures"] += [digest(value) for value in values]
+        else:
+            result["others"][name] = values
+    result["pictures"] += [digest(picture.data) for picture in getattr(song, "pictures", [])]
+    if isinstance(song.tags, ID3):
+        result["id3"] = ".".join(str(part) for part in song.tags.version)
+        result["usltEncodings"] = [int(frame.encoding) for frame in song.tags.getall("USLT")]
+    with open(path, "rb") as file:
+        data = file.read()
+    result["id3v1"] = data[-128:].hex() if data[-128:-125] == b"TAG" else None
+    try:
+        APEv2(path)
+        result["ape"] = True
+    except APENoHeaderError:
+        result["ape"] = False
+    return result
+
+
+def safely(path):
+    try:
+        return describe(path)
+    except Exception as error:  # whatever a broken file makes the reader raise is the answer
+        return {"file": path, "format": None, "error": repr(error)}
+
+
+print(json.dumps([safely(path) for path in sys.argv[1:]], indent=1))
