@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "tags/TagWriter.h"
+
+#include "tags/TagUpdate.h"
+#include "tags/WriterThread.h"
+
+namespace {
+
+// Empty when there is nothing to complain of.
+QString reasonText(tags::UpdateResult result)
+{
+    switch (result) {
+    case tags::UpdateResult::Unchanged:
+    case tags::UpdateResult::Saved:
+        return {};
+    case tags::UpdateResult::Missing:
+        return TagWriter::tr("the file is no longer there");
+    case tags::UpdateResult::NotRegular:
+        return TagWriter::tr("this is not a regular file");
+    case tags::UpdateResult::ReadOnly:
+        return TagWriter::tr("the file is read-only");
+    case tags::UpdateResult::Unreadable:
+        return TagWriter::tr("the file cannot be opened");
+    case tags::UpdateResult::NotAudio:
+        return TagWriter::tr("no audio was found in the file");
+    case tags::UpdateResult::NoLyricsPlace:
+        return TagWriter::tr("files of this format cannot hold lyrics");
+    case tags::UpdateResult::SaveFailed:
+        break;
+    }
+    return TagWriter::tr("the file could not be saved");
+}
+
+} // namespace
+
+TagWriter::TagWriter()
+{
+    moveToThread(tags::WriterThread::instance().thread());
+}
+
+void TagWriter::queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
+                           const QString &lyrics)
+{
+    const auto writeNow = [this, fileToWrite, id, _artist, title, lyrics,
+                           ticket = tags::WriterThread::instance().takeTicket()] {
+        write(fileToWrite, id, _artist, title, lyrics);
+    };
+    QMetaObject::invokeMethod(this, writeNow, Qt::QueuedConnection);
+}
+
+int TagWriter::pendingWrites()
+{
+    return tags::WriterThread::instance().pendingWrites();
+}
+
+bool TagWriter::waitForQueued(std::chrono::milliseconds withoutProgress)
+{
+    return tags::WriterThread::instance().waitForQueued(withoutProgress);
+}
+
+void TagWriter::write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
+                      const QString &lyrics)
+{
+    if (!_artist.isEmpty() || !title.isEmpty() || !lyrics.isEmpty()) {
+        const QString reason = reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}));
+        if (!reason.isEmpty())
+            emit failed(id, reason);
+    }
+    emit written(id);
+}

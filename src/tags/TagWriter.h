@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <chrono>
+
+// Stores lyrics, and an edited artist and title, in the tags of audio files. Only what differs is changed, and a file
+// is saved only when something did; the lyrics are stored as given.
+//
+// Every writer moves to the one writer thread of the process when it is made, so that files are written one at a time,
+// in the order of the calls; connections to the GUI thread are queued by themselves. Use one writer a file:
+//
+//     auto *writer = new TagWriter;
+//     connect(writer, &TagWriter::failed, ...); connect(writer, &TagWriter::written, ...);
+//     writer->queueWrite(url, id, artist, title, lyrics);
+//
+// and call deleteLater() once written() has arrived.
+class TagWriter : public QObject
+{
+    Q_OBJECT
+
+public:
+    // For the GUI thread. It has no parent, since it changes threads.
+    TagWriter();
+
+    // Calls write() on the writer thread. The write counts as queued from this call on, until written() was emitted or
+    // the writer was deleted.
+    void queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
+                    const QString &lyrics);
+
+    static int pendingWrites();
+    // Blocks until no write is queued; false, giving up, when no write ended for that long. The answers of the writes
+    // are signals to the calling thread, so they arrive after this returns.
+    static bool waitForQueued(std::chrono::milliseconds withoutProgress);
+
+public slots:
+    // Blocks. Three empty texts do nothing at all; an empty artist or title leaves the file's own; empty lyrics remove
+    // those that are stored.
+    void write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
+               const QString &lyrics);
+
+signals:
+    // The file was left as it was; reason says why in words for the user. Always before written().
+    void failed(quint16 id, QString reason);
+    // In every case, exactly once for each write.
+    void written(quint16 id);
+};

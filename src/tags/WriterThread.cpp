@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "tags/WriterThread.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QLoggingCategory>
+#include <QThread>
+
+Q_DECLARE_LOGGING_CATEGORY(lcTags)
+
+namespace tags {
+
+namespace {
+
+// For a program that ends without having waited itself. Long enough for a network share that has gone to sleep.
+constexpr std::chrono::seconds patienceAtEnd{30};
+
+} // namespace
+
+WriterThread &WriterThread::instance()
+{
+    // Never destroyed: a write that hangs in the kernel would still be using it, and a running QThread must not be
+    // destroyed at all.
+    static auto *const writer = new WriterThread;
+    return *writer;
+}
+
+WriterThread::WriterThread() = default;
+WriterThread::~WriterThread() = default;
+
+QThread *WriterThread::thread()
+{
+    if (!m_thread) {
+        m_thread = std::make_unique<QThread>();
+        m_thread->setObjectName(QStringLiteral("tag writer"));
+        qAddPostRoutine(stopAtEnd);
+    }
+    if (!m_thread->isRunning())
+        m_thread->start(QThread::InheritPriority);
+    return m_thread.get();
+}
+
+WriterThread::Ticket WriterThread::takeTicket()
+{
+    const QMutexLocker locker(&m_mutex);
+    ++m_pending;
+    return {this, [](WriterThread *writer) {
+                writer->endWrite();
+            }};
+}
+
+void WriterThread::endWrite()
+{
+    const QMutexLocker locker(&m_mutex);
+    --m_pending;
+    ++m_ended;
+    m_stalled = false;
+    m_writeEnded.wakeAll();
+}
+
+int WriterThread::pendingWrites() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_pending;
+}
+
+bool WriterThread::waitForQueued(std::chrono::milliseconds withoutProgress)
+{
+    const QMutexLocker locker(&m_mutex);
+    quint64 seen = m_ended;
+    QDeadlineTimer deadline(withoutProgress);
+    while (m_pending > 0) {
+        if (!m_writeEnded.wait(&m_mutex, deadline)) {
+            m_stalled = true;
+            return false;
+        }
+        if (m_ended != seen) {
+            seen = m_ended;
+            deadline = QDeadlineTimer(withoutProgress);
+        }
+    }
+    return true;
+}
+
+void WriterThread::stopAtEnd()
+{
+    WriterThread &self = instance();
+    // Whoever waited in vain before is not made to wait again; the thread is then left to end with the process.
+    const bool stalled = [&self] {
+        const QMutexLocker locker(&self.m_mutex);
+        return self.m_stalled;
+    }();
+    if (stalled || !self.waitForQueued(patienceAtEnd)) {
+        qCWarning(lcTags) << "gave up" << self.pendingWrites() << "queued writes";
+        return;
+    }
+    self.m_thread->quit();
+    self.m_thread->wait();
+    self.m_thread.reset();
+}
+
+} // namespace tags

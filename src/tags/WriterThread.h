@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMutex>
+#include <QWaitCondition>
+
+#include <chrono>
+#include <memory>
+
+class QThread;
+
+namespace tags {
+
+// The one thread of the process that writes files, and the count of the writes that wait for it. It runs from first
+// use until the application object is destroyed, which waits for the writes that are still queued.
+// Everything but thread() may be called in any thread.
+class WriterThread
+{
+public:
+    static WriterThread &instance();
+
+    // Started when it is not running. For the GUI thread.
+    QThread *thread();
+
+    // A write counts as queued until the last copy of its ticket is gone.
+    using Ticket = std::shared_ptr<void>;
+    Ticket takeTicket();
+
+    [[nodiscard]] int pendingWrites() const;
+
+    // Blocks until no write is queued. False when no write ended for that long.
+    bool waitForQueued(std::chrono::milliseconds withoutProgress);
+
+private:
+    WriterThread();
+    ~WriterThread();
+
+    static void stopAtEnd();
+    void endWrite();
+
+    std::unique_ptr<QThread> m_thread;
+    mutable QMutex m_mutex;
+    QWaitCondition m_writeEnded;
+    int m_pending = 0;
+    quint64 m_ended = 0;
+    bool m_stalled = false;
+};
+
+} // namespace tags
