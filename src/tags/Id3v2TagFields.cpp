@@ -30,7 +30,6 @@ constexpr const char *artistFrame = "TPE1";
 constexpr const char *ratingFrame = "POPM";
 // The e-mail field by which Windows Media Player, and those who follow it, find their own rating.
 constexpr QLatin1String windowsMediaEmail{"Windows Media Player 9 Series"};
-constexpr QLatin1String artistSeparator{"\\\\"};
 
 struct FrameName
 {

@@ -34,4 +34,7 @@ constexpr std::array<QLatin1String, 6> basicKeys{keys::title, keys::artist, keys
 constexpr std::array<QLatin1String, 7> extendedKeys{keys::rating,   keys::bpm,         keys::track, keys::disc,
                                                     keys::composer, keys::albumArtist, keys::lyrics};
 
+// Two backslashes, between several artists in one text.
+constexpr QLatin1String artistSeparator{R"(\\)"};
+
 } // namespace tags

@@ -12,7 +12,9 @@
 #include <taglib/fileref.h>
 #include <taglib/id3v2header.h>
 #include <taglib/id3v2tag.h>
+#include <taglib/infotag.h>
 #include <taglib/mpegfile.h>
+#include <taglib/wavfile.h>
 
 #include <QLoggingCategory>
 
@@ -24,8 +26,6 @@ Q_DECLARE_LOGGING_CATEGORY(lcTags)
 namespace tags {
 
 namespace {
-
-constexpr QLatin1String artistSeparator{"\\\\"};
 
 bool holdsAudio(const TagLib::FileRef &reference)
 {
@@ -42,17 +42,9 @@ const TagLib::ID3v2::Tag *id3v2Of(const FileTags &tags)
     return nullptr;
 }
 
-// The text that was read is compared first. The tag that is going to be written may lack the name all the same: a WAV
-// file that has its names in RIFF INFO alone gets an ID3v2 chunk, which must then hold them too, since players
-// and this program look there first.
-bool differs(const FileTags &tags, const TagCopy &read, const QString &key, const QString &wanted)
-{
-    return !wanted.isEmpty() && (wanted != read.value(key) || value(tags, key).isEmpty());
-}
-
 bool artistDiffers(const FileTags &tags, const TagCopy &read, const QString &wanted)
 {
-    if (!differs(tags, read, keys::artist, wanted))
+    if (wanted.isEmpty() || wanted == read.value(keys::artist))
         return false;
     const TagLib::ID3v2::Tag *tag = id3v2Of(tags);
     return !tag || wanted != id3v2::value(*tag, keys::artist);
@@ -75,7 +67,7 @@ bool updateNames(TagLib::File &file, const SongTexts &texts)
     const FileTags tags = tagsOf(file);
     const TagCopy read = TagCopy::ofFile(file);
     const bool newArtist = artistDiffers(tags, read, texts.artist);
-    const bool newTitle = differs(tags, read, keys::title, texts.title);
+    const bool newTitle = !texts.title.isEmpty() && texts.title != read.value(keys::title);
     for (TagLib::Tag *member : tags.members) {
         if (member && newArtist)
             setArtist(*member, texts.artist);
@@ -106,6 +98,14 @@ UpdateResult updateMpeg(TagLib::MPEG::File &file, const SongTexts &texts)
                               hadId3v2 ? File::DoNotDuplicate : File::Duplicate));
 }
 
+// Readers, this program among them, ask an ID3v2 chunk first, so a new one takes over what RIFF INFO says.
+void fillNewChunk(TagLib::File &file)
+{
+    auto *wav = dynamic_cast<TagLib::RIFF::WAV::File *>(&file);
+    if (wav && !wav->hasID3v2Tag())
+        TagLib::Tag::duplicate(wav->InfoTag(), wav->ID3v2Tag(), false);
+}
+
 UpdateResult updateOther(TagLib::File &file, const SongTexts &texts)
 {
     const FileTags tags = tagsOf(file);
@@ -117,7 +117,10 @@ UpdateResult updateOther(TagLib::File &file, const SongTexts &texts)
     bool changed = updateNames(file, texts);
     for (TagLib::Tag *member : tags.members)
         changed = (member && setLyrics(*member, texts.lyrics)) || changed;
-    return changed ? resultOf(file.save()) : UpdateResult::Unchanged;
+    if (!changed)
+        return UpdateResult::Unchanged;
+    fillNewChunk(file);
+    return resultOf(file.save());
 }
 
 UpdateResult updateWritable(const QString &path, const SongTexts &texts)

@@ -8,7 +8,7 @@ Usage: read-tags.py FILE... prints an array with one object a file:
   id3         "2.3.0", "2.4.0" or null        id3v1   the bytes of the ID3v1 tag at the end in hexadecimal, or null
   usltEncodings  0 Latin-1, 1 UTF-16, 3 UTF-8, one for each USLT frame
   ape         whether there is an APE tag     pictures  SHA-256 of the bytes of each picture
-  others      every other frame, item or field as text, by its name
+  others      every other frame, item or field that is not empty as text, by its name
   duration    seconds
 """
 import base64
@@ -21,10 +21,11 @@ from mutagen.apev2 import APENoHeaderError, APEv2
 from mutagen.flac import Picture
 from mutagen.id3 import ID3
 
-TITLES = {"TIT2", "title", "Title", "\xa9nam"}
-ARTISTS = {"TPE1", "artist", "Artist", "Author", "\xa9ART"}
-LYRICS = {"USLT", "lyrics", "Lyrics", "LYRICS", "\xa9lyr", "WM/Lyrics"}
-PICTURES = {"APIC", "covr", "WM/Picture", "metadata_block_picture", "coverart"}
+# In lower case, since Vorbis comments and APE tags do not tell capitals from small letters.
+TITLES = {"tit2", "title", "\xa9nam"}
+ARTISTS = {"tpe1", "artist", "author", "\xa9art"}
+LYRICS = {"uslt", "lyrics", "\xa9lyr", "wm/lyrics"}
+PICTURES = {"apic", "covr", "wm/picture", "metadata_block_picture", "coverart"}
 
 
 def digest(data):
@@ -37,7 +38,7 @@ def id3_entries(tag):
             yield "APIC", [frame.data]
         elif frame.FrameID == "USLT":
             yield "USLT", [frame.text]
-        elif frame.FrameID in TITLES | ARTISTS:
+        elif frame.FrameID in ("TIT2", "TPE1"):
             yield frame.FrameID, [str(text) for text in frame.text]
         else:
             yield frame.HashKey, [frame.pprint()]
@@ -54,7 +55,7 @@ def picture_bytes(name, value):
 def mapping_entries(tag):
     for name, values in tag.items():
         values = values if isinstance(values, list) else list(values) if hasattr(values, "kind") else [values]
-        if name in PICTURES:
+        if name.lower() in PICTURES:
             yield name, [picture_bytes(name, value) for value in values]
         else:
             yield name, [str(value) for value in values]
@@ -73,16 +74,16 @@ def describe(path):
     result = {"file": path, "format": type(song).__name__, "title": None, "artists": [], "lyrics": None, "pictures": [],
               "others": {}, "id3": None, "usltEncodings": [], "duration": song.info.length}
     for name, values in entries(song.tags):
-        if name in TITLES:
+        if name.lower() in TITLES:
             result["title"] = values[0]
-        elif name in ARTISTS:
+        elif name.lower() in ARTISTS:
             result["artists"] += values
-        elif name in LYRICS:
+        elif name.lower() in LYRICS:
             result["lyrics"] = (result["lyrics"] or []) + values
-        elif name in PICTURES:
+        elif name.lower() in PICTURES:
             result["pictures"] += [digest(value) for value in values]
-        else:
-            result["others"][name] = values
+        elif any(values):
+            result["others"][name.capitalize() if isinstance(song.tags, APEv2) else name] = values
     result["pictures"] += [digest(picture.data) for picture in getattr(song, "pictures", [])]
     if isinstance(song.tags, ID3):
         result["id3"] = ".".join(str(part) for part in song.tags.version)

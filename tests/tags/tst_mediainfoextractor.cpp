@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "tags/MediaInfoExtractor.h"
+#include "tags/SongFiles.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThreadPool>
+
+#include <memory>
+
+class TestMediaInfoExtractor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void resultsAreAnnounced_data();
+    void resultsAreAnnounced();
+    void overtakenResultsAreDropped();
+    void aRequestFromTheAnswerIsServed();
+    void extractorMayDieDuringARead();
+};
+
+namespace {
+
+QString title(const QList<QVariant> &arguments)
+{
+    return arguments.at(1).value<MediaFileTags>().value(QStringLiteral("title"));
+}
+
+} // namespace
+
+void TestMediaInfoExtractor::resultsAreAnnounced_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("decodeCover");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QSize>("thumbnail");
+    const QString song = QStringLiteral("The Song");
+    QTest::newRow("with cover") << QStringLiteral("rich.mp3") << true << song << QSize(50, 33);
+    QTest::newRow("cover not wanted") << QStringLiteral("rich.mp3") << false << song << QSize();
+    QTest::newRow("no cover") << QStringLiteral("plain.ogg") << true << song << QSize();
+    QTest::newRow("not audio") << QStringLiteral("list.txt") << true << QString() << QSize();
+    QTest::newRow("vanished") << QStringLiteral("vanished.mp3") << true << QString() << QSize();
+}
+
+void TestMediaInfoExtractor::resultsAreAnnounced()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, decodeCover);
+    QFETCH(QSize, thumbnail);
+    const SongFiles files;
+    const QString path = files.path(name);
+    if (name == QLatin1String("list.txt"))
+        QCOMPARE(files.write(name, "a shopping list"), path);
+    else if (name != QLatin1String("vanished.mp3"))
+        QCOMPARE(files.copy(name), path);
+    MediaInfoExtractor extractor;
+    extractor.setDecodeCover(decodeCover);
+    QSignalSpy spy(&extractor, &MediaInfoExtractor::infoExtracted);
+    extractor.request(path);
+    QVERIFY(spy.wait());
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.first().at(0).toString(), path);
+    QTEST(title(spy.first()), "title");
+    QCOMPARE(spy.first().at(1).value<MediaFileTags>().thumbnail().size(),
+             thumbnail.isValid() ? thumbnail : QSize(0, 0));
+}
+
+void TestMediaInfoExtractor::overtakenResultsAreDropped()
+{
+    const SongFiles files;
+    MediaInfoExtractor extractor;
+    QSignalSpy spy(&extractor, &MediaInfoExtractor::infoExtracted);
+    extractor.request(files.copy(QStringLiteral("plain.ogg")));
+    extractor.request(files.copy(QStringLiteral("plain.flac")));
+    const QString newest = files.copy(QStringLiteral("v1-fills-v2.mp3"));
+    extractor.request(newest);
+    QVERIFY(spy.wait());
+    // One more read shows that no answer is left over.
+    extractor.request(newest);
+    QVERIFY(spy.wait());
+    QCOMPARE(spy.count(), 2);
+    for (const QList<QVariant> &arguments : spy) {
+        QCOMPARE(arguments.at(0).toString(), newest);
+        QCOMPARE(title(arguments), QStringLiteral("Title Of One"));
+    }
+}
+
+void TestMediaInfoExtractor::aRequestFromTheAnswerIsServed()
+{
+    const SongFiles files;
+    const QString first = files.copy(QStringLiteral("plain.ogg"));
+    const QString second = files.copy(QStringLiteral("plain.flac"));
+    MediaInfoExtractor extractor;
+    QStringList answers;
+    connect(&extractor, &MediaInfoExtractor::infoExtracted, this, [&](const QString &path) {
+        answers.append(path);
+        if (path == first)
+            extractor.request(second);
+    });
+    extractor.request(first);
+    QTRY_COMPARE(answers, (QStringList{first, second}));
+}
+
+void TestMediaInfoExtractor::extractorMayDieDuringARead()
+{
+    const SongFiles files;
+    const QString path = files.copy(QStringLiteral("rich.mp3"));
+    for (int round = 0; round < 50; ++round) {
+        auto extractor = std::make_unique<MediaInfoExtractor>();
+        QSignalSpy spy(extractor.get(), &MediaInfoExtractor::infoExtracted);
+        extractor->request(path);
+        extractor.reset();
+        QCoreApplication::processEvents();
+        QCOMPARE(spy.count(), 0);
+    }
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(30'000));
+    QCoreApplication::processEvents();
+}
+
+QTEST_GUILESS_MAIN(TestMediaInfoExtractor)
+#include "tst_mediainfoextractor.moc"
