@@ -16,25 +16,18 @@ using TagLib::ASF::Attribute;
 
 constexpr const char *lyricsName = "WM/Lyrics";
 constexpr const char *userRatingName = "WM/SharedUserRating";
+constexpr const char *trackName = "WM/TrackNumber";
 constexpr const char *olderTrackName = "WM/Track";
 constexpr unsigned largestUserRating = 100;
 constexpr unsigned largestOlderTrack = 2000;
 
-// Null for a key that has no attribute, the rating among them.
-const char *attributeOf(const QString &key)
-{
-    if (key == keys::track)
-        return "WM/TrackNumber";
-    if (key == keys::disc)
-        return "WM/PartOfSet";
-    if (key == keys::bpm)
-        return "WM/BeatsPerMinute";
-    if (key == keys::composer)
-        return "WM/Composer";
-    if (key == keys::albumArtist)
-        return "WM/AlbumArtist";
-    return key == keys::lyrics ? lyricsName : nullptr;
-}
+// The rating has two places of its own.
+constexpr std::array<KeyName, 6> names{{{keys::track, trackName},
+                                        {keys::disc, "WM/PartOfSet"},
+                                        {keys::bpm, "WM/BeatsPerMinute"},
+                                        {keys::composer, "WM/Composer"},
+                                        {keys::albumArtist, "WM/AlbumArtist"},
+                                        {keys::lyrics, lyricsName}}};
 
 unsigned numberOf(const Attribute &attribute)
 {
@@ -71,7 +64,7 @@ QString firstText(const TagLib::ASF::Tag &tag, const char *name)
 
 QString track(const TagLib::ASF::Tag &tag)
 {
-    const QString text = firstText(tag, attributeOf(keys::track));
+    const QString text = firstText(tag, trackName);
     if (!text.isEmpty() || !tag.contains(olderTrackName))
         return text;
     const unsigned number = numberOf(tag.attribute(olderTrackName).front());
@@ -112,7 +105,7 @@ QString value(const TagLib::ASF::Tag &tag, const QString &key)
         return track(tag);
     if (key == keys::rating)
         return rating(tag);
-    const char *name = attributeOf(key);
+    const char *name = nameOf(names, key);
     return name ? firstText(tag, name) : QString();
 }
 
@@ -120,7 +113,7 @@ void setValue(TagLib::ASF::Tag &tag, const QString &key, const QString &value)
 {
     if (key == keys::rating)
         return setRating(tag, value);
-    const char *name = attributeOf(key);
+    const char *name = nameOf(names, key);
     if (!name)
         return;
     tag.removeItem(name);

@@ -12,7 +12,6 @@
 
 #include <QStringList>
 
-#include <algorithm>
 #include <memory>
 
 namespace tags::id3v2 {
@@ -31,23 +30,11 @@ constexpr const char *ratingFrame = "POPM";
 // The e-mail field by which Windows Media Player, and those who follow it, find their own rating.
 constexpr QLatin1String windowsMediaEmail{"Windows Media Player 9 Series"};
 
-struct FrameName
-{
-    QLatin1String key;
-    const char *frame;
-};
-
-constexpr FrameName textFrames[] = {
-    {keys::track, "TRCK"},    {keys::disc, "TPOS"},        {keys::bpm, "TBPM"},
-    {keys::composer, "TCOM"}, {keys::albumArtist, "TPE2"},
-};
-
-const char *textFrameOf(const QString &key)
-{
-    const auto *found = std::find_if(std::begin(textFrames), std::end(textFrames),
-                                     [&key](const auto &entry) { return entry.key == key; });
-    return found == std::end(textFrames) ? nullptr : found->frame;
-}
+constexpr std::array<KeyName, 5> textFrames{{{keys::track, "TRCK"},
+                                             {keys::disc, "TPOS"},
+                                             {keys::bpm, "TBPM"},
+                                             {keys::composer, "TCOM"},
+                                             {keys::albumArtist, "TPE2"}}};
 
 FrameList framesOf(const TagLib::ID3v2::Tag &tag, const char *name)
 {
@@ -157,7 +144,7 @@ QString value(const TagLib::ID3v2::Tag &tag, const QString &key)
         return artists(tag);
     if (key == keys::lyrics)
         return firstText(framesOf(tag, lyricsFrame));
-    const char *name = textFrameOf(key);
+    const char *name = nameOf(textFrames, key);
     return name ? firstText(framesOf(tag, name)) : QString();
 }
 
@@ -169,7 +156,7 @@ void setValue(TagLib::ID3v2::Tag &tag, const QString &key, const QString &value)
         setTextFrame(tag, artistFrame, value.split(artistSeparator));
     else if (key == keys::lyrics)
         setLyrics(tag, value);
-    else if (const char *name = textFrameOf(key))
+    else if (const char *name = nameOf(textFrames, key))
         setTextFrame(tag, name, {value});
 }
 

@@ -18,23 +18,13 @@ using TagLib::MP4::Item;
 constexpr const char *lyricsItem = "\251lyr"; // 0xA9 is the copyright sign that item names of texts begin with
 constexpr int percentPerStar = 20;
 
-// Null for a key that has no item.
-const char *itemOf(const QString &key)
-{
-    if (key == keys::track)
-        return "trkn";
-    if (key == keys::disc)
-        return "disk";
-    if (key == keys::rating)
-        return "rate";
-    if (key == keys::bpm)
-        return "tmpo";
-    if (key == keys::composer)
-        return "\251wrt";
-    if (key == keys::albumArtist)
-        return "aART";
-    return key == keys::lyrics ? lyricsItem : nullptr;
-}
+constexpr std::array<KeyName, 7> names{{{keys::track, "trkn"},
+                                        {keys::disc, "disk"},
+                                        {keys::rating, "rate"},
+                                        {keys::bpm, "tmpo"},
+                                        {keys::composer, "\251wrt"},
+                                        {keys::albumArtist, "aART"},
+                                        {keys::lyrics, lyricsItem}}};
 
 QString textOf(const Item &item)
 {
@@ -77,7 +67,7 @@ void setRating(TagLib::MP4::Tag &tag, const char *name, const QString &value)
 
 QString value(const TagLib::MP4::Tag &tag, const QString &key)
 {
-    const char *name = itemOf(key);
+    const char *name = nameOf(names, key);
     if (!name || !tag.contains(name))
         return {};
     const Item item = tag.item(name);
@@ -92,7 +82,7 @@ QString value(const TagLib::MP4::Tag &tag, const QString &key)
 
 void setValue(TagLib::MP4::Tag &tag, const QString &key, const QString &value)
 {
-    const char *name = itemOf(key);
+    const char *name = nameOf(names, key);
     if (!name)
         return;
     if (value.isEmpty())

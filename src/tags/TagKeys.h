@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLatin1String>
+#include <QString>
 
+#include <algorithm>
 #include <array>
 
 namespace tags {
@@ -33,6 +34,22 @@ constexpr std::array<QLatin1String, 6> basicKeys{keys::title, keys::artist, keys
 // In the order in which they are copied from one tag to another.
 constexpr std::array<QLatin1String, 7> extendedKeys{keys::rating,   keys::bpm,         keys::track, keys::disc,
                                                     keys::composer, keys::albumArtist, keys::lyrics};
+
+// Under which name a format stores the value of a key.
+struct KeyName
+{
+    QLatin1String key;
+    const char *name;
+};
+
+// Null for a key that is not in the table.
+template<std::size_t Size>
+const char *nameOf(const std::array<KeyName, Size> &table, const QString &key)
+{
+    const auto found =
+        std::find_if(table.begin(), table.end(), [&key](const KeyName &entry) { return key == entry.key; });
+    return found == table.end() ? nullptr : found->name;
+}
 
 // Two backslashes, between several artists in one text.
 constexpr QLatin1String artistSeparator{R"(\\)"};

@@ -33,21 +33,12 @@ const PairFields *pairOf(const QString &key)
     return key == keys::disc ? &discFields : nullptr;
 }
 
-// Null for a key that has no single field.
-const char *fieldOf(const QString &key)
-{
-    if (key == keys::rating)
-        return "RATING";
-    if (key == keys::bpm)
-        return "BPM";
-    if (key == keys::composer)
-        return "COMPOSER";
-    if (key == keys::albumArtist)
-        return "ALBUMARTIST";
-    if (key == keys::lyrics)
-        return lyricsField;
-    return key == keys::cuesheet ? "CUESHEET" : nullptr;
-}
+constexpr std::array<KeyName, 6> names{{{keys::rating, "RATING"},
+                                        {keys::bpm, "BPM"},
+                                        {keys::composer, "COMPOSER"},
+                                        {keys::albumArtist, "ALBUMARTIST"},
+                                        {keys::lyrics, lyricsField},
+                                        {keys::cuesheet, "CUESHEET"}}};
 
 TagLib::StringList valuesOf(const XiphComment &tag, const char *field)
 {
@@ -104,7 +95,7 @@ QString value(const XiphComment &tag, const QString &key)
 {
     if (const PairFields *pair = pairOf(key))
         return pairText(tag, *pair);
-    const char *field = fieldOf(key);
+    const char *field = nameOf(names, key);
     if (!field)
         return {};
     const QString text = firstText(tag, field);
@@ -115,7 +106,7 @@ void setValue(XiphComment &tag, const QString &key, const QString &value)
 {
     if (const PairFields *pair = pairOf(key))
         setPair(tag, *pair, value);
-    else if (const char *field = fieldOf(key))
+    else if (const char *field = nameOf(names, key))
         setField(tag, field, value);
 }
 

@@ -70,17 +70,6 @@ QByteArray png(int width, int height)
     return buffer.data();
 }
 
-// The header alone says how large it is.
-QByteArray pngThatClaims(int width, int height)
-{
-    QByteArray data = png(1, 1);
-    for (int i = 0; i < 4; ++i) {
-        data[16 + i] = static_cast<char>(width >> (24 - 8 * i));
-        data[20 + i] = static_cast<char>(height >> (24 - 8 * i));
-    }
-    return data;
-}
-
 } // namespace
 
 class TestTagFields : public QObject
@@ -275,8 +264,8 @@ void TestTagFields::coversAreRefused_data()
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("no picture") << QByteArray("\xff\xd8 this is no picture");
     QTest::newRow("cut") << png(100, 100).left(60);
-    QTest::newRow("too wide") << pngThatClaims(8193, 10);
-    QTest::newRow("too high") << pngThatClaims(10, 20000);
+    QTest::newRow("too wide") << png(8193, 10);
+    QTest::newRow("too high") << png(10, 8193);
     QTest::newRow("too many bytes") << png(10, 10) + QByteArray(32 * 1024 * 1024, '\0');
     QTest::newRow("a drawing program") << QByteArray(
         "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/></svg>");
@@ -287,6 +276,7 @@ void TestTagFields::coversAreRefused()
     QFETCH(QByteArray, data);
     QVERIFY(decodeThumbnail(data).isNull());
     QVERIFY(decodeCover(data).isNull());
+    QVERIFY(!decodeCover(png(8192, 10)).isNull());
 }
 
 QTEST_GUILESS_MAIN(TestTagFields)
