@@ -13,13 +13,14 @@ DelayedMediaInfoExtractor::DelayedMediaInfoExtractor(const QString &fileName, bo
 
 void DelayedMediaInfoExtractor::run()
 {
-    MediaFileTags tags;
+    // Decoding a picture, and copying the record for the listener, may run out of memory.
     try {
+        MediaFileTags tags;
         tags.read(m_fileName);
         if (m_decodeCover)
             tags.makeThumbnail();
+        emit extracted(m_fileName, tags);
     } catch (const std::exception &) {
-        // Decoding a picture may run out of memory; what was read before stays good.
+        emit extracted(m_fileName, MediaFileTags());
     }
-    emit extracted(m_fileName, tags);
 }

@@ -28,7 +28,7 @@ constexpr const char *lyricsFrame = "USLT";
 constexpr const char *artistFrame = "TPE1";
 constexpr const char *ratingFrame = "POPM";
 // The e-mail field by which Windows Media Player, and those who follow it, find their own rating.
-constexpr QLatin1String windowsMediaEmail{"Windows Media Player 9 Series"};
+constexpr QLatin1String windowsMediaEmail = latin1("Windows Media Player 9 Series");
 
 constexpr std::array<KeyName, 5> textFrames{{{keys::track, "TRCK"},
                                              {keys::disc, "TPOS"},
