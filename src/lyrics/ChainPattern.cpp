@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/ChainPattern.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Reads the sets of characters that a pattern is made of, one after another.
+class SetReader
+{
+public:
+    using CharacterSet = ChainPattern::CharacterSet;
+
+    explicit SetReader(const QString &pattern)
+        : m_pattern(pattern)
+    {
+    }
+
+    [[nodiscard]] bool atEnd() const { return m_at >= m_pattern.size(); }
+
+    bool take(char c)
+    {
+        if (atEnd() || m_pattern.at(m_at) != QLatin1Char(c))
+            return false;
+        ++m_at;
+        return true;
+    }
+
+    CharacterSet takeSet()
+    {
+        if (take('.'))
+            return CharacterSet::anyCharacter();
+        if (take('['))
+            return takeBracketed();
+        if (take('\\'))
+            return takeEscaped();
+        return CharacterSet::of(m_pattern.mid(m_at++, 1));
+    }
+
+private:
+    CharacterSet takeEscaped()
+    {
+        if (take('s'))
+            return CharacterSet::spaces();
+        if (take('d'))
+            return CharacterSet::digits();
+        return CharacterSet::of(m_pattern.mid(m_at++, 1));
+    }
+
+    CharacterSet takeBracketed()
+    {
+        const bool negated = take('^');
+        const int end = m_pattern.indexOf(QLatin1Char(']'), m_at);
+        Q_ASSERT(end > m_at);
+        const QString characters = m_pattern.mid(m_at, end - m_at);
+        m_at = end + 1;
+        return CharacterSet::of(characters, negated);
+    }
+
+    QString m_pattern;
+    int m_at = 0;
+};
+
+} // namespace
+
+ChainPattern::CharacterSet ChainPattern::CharacterSet::of(const QString &characters, bool negated)
+{
+    CharacterSet set(negated ? Kind::Unlisted : Kind::Listed);
+    set.m_characters = characters;
+    return set;
+}
+
+bool ChainPattern::CharacterSet::contains(QChar c) const
+{
+    switch (m_kind) {
+    case Kind::Listed:
+        return m_characters.contains(c);
+    case Kind::Unlisted:
+        return !m_characters.contains(c);
+    case Kind::Space:
+        return c.isSpace();
+    case Kind::Digit:
+        return c.isDigit();
+    }
+    return false;
+}
+
+int ChainPattern::Link::indexIn(const QString &text, int from) const
+{
+    const auto matchesAt = [&](int at) {
+        return std::all_of(piece.begin(), piece.end(),
+                           [&](const CharacterSet &set) { return set.contains(text.at(at++)); });
+    };
+    const int last = text.size() - length();
+    for (int at = from; at <= last; ++at) {
+        at = prefix.isEmpty() ? at : text.indexOf(prefix, at);
+        if (at < 0 || at > last)
+            return -1;
+        if (prefix.size() == length() || matchesAt(at))
+            return at;
+    }
+    return -1;
+}
+
+ChainPattern::ChainPattern(const QString &pattern, Matching matching)
+    : m_matching(matching)
+    , m_links(1)
+{
+    SetReader reader(pattern);
+    while (!reader.atEnd()) {
+        if (reader.take('(')) {
+            m_groups.push_back({here(), {}});
+            continue;
+        }
+        if (reader.take(')')) {
+            m_groups.back().end = here();
+            continue;
+        }
+        const CharacterSet set = reader.takeSet();
+        const bool more = reader.take('+');
+        if (more)
+            addPiece(set);
+        if (more || reader.take('*'))
+            closeLink(set);
+        else
+            addPiece(set);
+    }
+    Q_ASSERT(!m_afterGap);
+}
+
+// Behind a gap stands the beginning of the next piece, which has no link of its own yet.
+ChainPattern::Mark ChainPattern::here() const
+{
+    if (m_afterGap)
+        return {m_links.size(), 0};
+    return {m_links.size() - 1, m_links.back().length()};
+}
+
+void ChainPattern::addPiece(const CharacterSet &set)
+{
+    if (m_afterGap)
+        m_links.emplace_back();
+    m_afterGap = false;
+    Link &link = m_links.back();
+    if (set.isSingle() && link.prefix.size() == link.length())
+        link.prefix.append(set.characters());
+    link.piece.push_back(set);
+}
+
+void ChainPattern::closeLink(const CharacterSet &gap)
+{
+    Q_ASSERT(!m_afterGap && m_links.back().length() > 0);
+    m_links.back().gap = gap;
+    m_afterGap = true;
+}

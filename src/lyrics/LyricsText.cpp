@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/LyricsText.h"
+
+#include <QChar>
+#include <QLatin1String>
+#include <QStringView>
+
+#include <algorithm>
+
+namespace {
+
+// "&#x" and five hexadecimal digits, without the ";".
+constexpr int longestReference = 8;
+
+int hexDigitValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    const char lower = static_cast<char>(c | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+bool isHexDigit(QChar c)
+{
+    return c.unicode() < 0x80 && hexDigitValue(static_cast<char>(c.unicode())) >= 0;
+}
+
+bool isDecimalDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+/// The code point that "x41" or "65" stands for, -1 when it is none of the references we decode.
+int codePointOf(QStringView digits)
+{
+    const bool hex = digits.startsWith(QLatin1Char('x'));
+    if (hex)
+        digits = digits.mid(1);
+    if (digits.size() < 2 || digits.size() > (hex ? 5 : 6))
+        return -1;
+    if (!std::all_of(digits.begin(), digits.end(), hex ? isHexDigit : isDecimalDigit))
+        return -1;
+    return digits.toString().toInt(nullptr, hex ? 16 : 10);
+}
+
+void appendCodePoint(QString &text, int codePoint)
+{
+    const auto ucs4 = static_cast<uint>(codePoint);
+    if (QChar::requiresSurrogates(ucs4))
+        text.append(QChar(QChar::highSurrogate(ucs4))).append(QChar(QChar::lowSurrogate(ucs4)));
+    else
+        text.append(QChar(static_cast<ushort>(ucs4)));
+}
+
+/// Replaces the reference that a ";" behind the text would complete, if there is one, and tells its code point.
+int takeReferenceAtEnd(QString &text)
+{
+    const QStringView tail = QStringView(text).right(std::min(text.size(), longestReference));
+    const auto start = tail.lastIndexOf(QLatin1Char('&'));
+    if (start < 0 || !tail.mid(start).startsWith(QLatin1String("&#")))
+        return -1;
+    const int codePoint = codePointOf(tail.mid(start + 2));
+    if (codePoint >= 0)
+        text.chop(static_cast<int>(tail.size() - start));
+    return codePoint;
+}
+
+// A decoded character may complete another reference ("&#3&#56;;" is "&#38;" is "&"). References cannot overlap, so
+// the order of decoding does not matter, and going once over the text while looking back from each ";" decodes them
+// all.
+QString decodeNumericReferences(const QString &text)
+{
+    QString decoded;
+    decoded.reserve(text.size());
+    for (const QChar c : text) {
+        int next = c.unicode();
+        while (next == ';') {
+            const int codePoint = takeReferenceAtEnd(decoded);
+            if (codePoint < 0)
+                break;
+            next = codePoint;
+        }
+        appendCodePoint(decoded, next);
+    }
+    return decoded;
+}
+
+QString withoutComments(QString html)
+{
+    const QLatin1String opening("<!--");
+    const int first = html.indexOf(opening);
+    const int last = html.lastIndexOf(QLatin1String("-->"));
+    // Several comments count as one: the text between them goes as well. This is deliberate.
+    if (first >= 0 && last >= first + opening.size())
+        html.remove(first, last + 3 - first);
+    return html;
+}
+
+/// The position behind a break tag that starts at \a position and behind one newline after it; -1 when none starts
+/// there.
+int endOfBreak(const QString &html, int position)
+{
+    int i = position + 3;
+    while (i < html.size() && html.at(i).isSpace())
+        ++i;
+    if (i < html.size() && html.at(i) == QLatin1Char('/'))
+        ++i;
+    if (i >= html.size() || html.at(i) != QLatin1Char('>'))
+        return -1;
+    ++i;
+    return i < html.size() && html.at(i) == QLatin1Char('\n') ? i + 1 : i;
+}
+
+QString withBreaksAsNewlines(const QString &html)
+{
+    QString result;
+    result.reserve(html.size());
+    int copied = 0;
+    int position = 0;
+    while ((position = html.indexOf(QLatin1String("<br"), position)) >= 0) {
+        const int end = endOfBreak(html, position);
+        if (end < 0) {
+            ++position;
+            continue;
+        }
+        result.append(QStringView(html).mid(copied, position - copied)).append(QLatin1Char('\n'));
+        copied = position = end;
+    }
+    return result.append(QStringView(html).mid(copied));
+}
+
+} // namespace
+
+QByteArray decodePercentEscapes(const QByteArray &bytes)
+{
+    QByteArray decoded;
+    decoded.reserve(bytes.size());
+    for (int i = 0; i < bytes.size(); ++i) {
+        const bool room = bytes.at(i) == '%' && i + 2 < bytes.size();
+        const int high = room ? hexDigitValue(bytes.at(i + 1)) : -1;
+        const int low = room ? hexDigitValue(bytes.at(i + 2)) : -1;
+        if (high < 0 || low < 0) {
+            decoded.append(bytes.at(i));
+            continue;
+        }
+        decoded.append(static_cast<char>(high * 16 + low));
+        i += 2;
+    }
+    return decoded;
+}
+
+QString decodeHtmlEntities(const QString &text)
+{
+    QString decoded = decodeNumericReferences(text);
+    // The order is part of the meaning: what "&amp;" uncovers is decoded by the lines below it.
+    decoded.replace(QLatin1String("&amp;"), QLatin1String("&"));
+    decoded.replace(QLatin1String("&gt;"), QLatin1String(">"));
+    decoded.replace(QLatin1String("&lt;"), QLatin1String("<"));
+    decoded.replace(QLatin1String("&quot;"), QLatin1String("\""));
+    decoded.replace(QLatin1String("&#39;"), QLatin1String("'"));
+    decoded.replace(QLatin1String("&#039;"), QLatin1String("'"));
+    return decoded;
+}
+
+// One pass is enough: a "<" that stays is followed by a ">" that stays too, or by no ">" at all, so no removal can make
+// a new tag out of it.
+QString stripTags(const QString &html)
+{
+    QString text;
+    text.reserve(html.size());
+    int copied = 0;
+    int position = 0;
+    while ((position = html.indexOf(QLatin1Char('<'), position)) >= 0) {
+        const int end = html.indexOf(QLatin1Char('>'), position);
+        if (end < 0)
+            break;
+        if (end == position + 1) {
+            ++position;
+            continue;
+        }
+        text.append(QStringView(html).mid(copied, position - copied));
+        copied = position = end + 1;
+    }
+    return text.append(QStringView(html).mid(copied));
+}
+
+QString cleanLyrics(const QString &html)
+{
+    QString text = html;
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    text = withBreaksAsNewlines(withoutComments(text));
+    return decodeHtmlEntities(stripTags(text).trimmed());
+}
+
+QString withoutBrokenCharacters(const QString &text)
+{
+    QString whole;
+    whole.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool pair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (pair)
+            whole.append(c).append(text.at(++i));
+        else if (!c.isNull())
+            whole.append(c.isSurrogate() ? QChar(QChar::ReplacementCharacter) : c);
+    }
+    return whole;
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/SongNames.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+const QStringList &guestMarkers()
+{
+    static const QStringList markers{QStringLiteral(" ft. "), QStringLiteral(" feat. "), QStringLiteral(" featuring ")};
+    return markers;
+}
+
+const QStringList &titleSuffixes()
+{
+    static const QStringList suffixes{QStringLiteral(" (official)"), QStringLiteral(" (Extended Video)")};
+    return suffixes;
+}
+
+// Looked for in the name itself, not in a lower-case copy: lower-casing may change the length ("İ" becomes two units).
+QString withoutGuests(QString name)
+{
+    for (const QString &marker : guestMarkers()) {
+        const int index = name.indexOf(marker, 0, Qt::CaseInsensitive);
+        if (index >= 0)
+            name.truncate(index);
+    }
+    return name;
+}
+
+bool isIgnoredWhenComparing(QChar c)
+{
+    switch (c.unicode()) {
+    case 0x2019: // right single quotation mark
+    case '`':
+    case '"':
+    case '\'':
+    case ' ':
+    case ',':
+    case '&':
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString folded(const QString &name)
+{
+    QString text = name.toLower();
+    const auto *const end = std::remove_if(text.begin(), text.end(), isIgnoredWhenComparing);
+    text.truncate(static_cast<int>(end - text.cbegin()));
+    return text;
+}
+
+} // namespace
+
+QString normalisedArtist(const QString &artist)
+{
+    const int separator = artist.indexOf(QLatin1String("\\\\"));
+    return withoutGuests(artist.left(separator)).trimmed();
+}
+
+QString normalisedTitle(const QString &title)
+{
+    QString name = withoutGuests(title);
+    for (const QString &suffix : titleSuffixes()) {
+        if (name.endsWith(suffix, Qt::CaseInsensitive))
+            name.chop(suffix.size());
+    }
+    return name.trimmed();
+}
+
+bool looselyAgree(const QString &left, const QString &right)
+{
+    const QString a = folded(left);
+    const QString b = folded(right);
+    return a.contains(b) || b.contains(a);
+}

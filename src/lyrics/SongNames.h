@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// How the names of songs are put into queries and compared with what a site answers.
+
+/// The artist as sites list it: the first of several names joined by two backslashes, without a guest that is announced
+/// by " ft. ", " feat. " or " featuring ", trimmed.
+[[nodiscard]] QString normalisedArtist(const QString &artist);
+
+/// The title without a guest (as above), then without " (official)" and " (Extended Video)" at its end, trimmed.
+[[nodiscard]] QString normalisedTitle(const QString &title);
+
+/// Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
+/// spaces, commas and ampersands. A name of which nothing is left resembles every other.
+[[nodiscard]] bool looselyAgree(const QString &left, const QString &right);

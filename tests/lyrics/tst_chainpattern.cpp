@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "RandomText.h"
+#include "lyrics/ChainScan.h"
+
+#include <QRegExp>
+#include <QTest>
+
+using Matching = ChainPattern::Matching;
+Q_DECLARE_METATYPE(Matching)
+
+namespace {
+
+QStringList allMatches(const ChainScan &scan)
+{
+    QStringList matches;
+    for (auto match = scan.next(); match; match = scan.next(match->end()))
+        matches << QStringLiteral("%1+%2").arg(match->position).arg(match->length) << match->captures;
+    return matches;
+}
+
+QStringList allMatches(QRegExp expression, const QString &text)
+{
+    QStringList matches;
+    for (int at = expression.indexIn(text); at >= 0; at = expression.indexIn(text, at + expression.matchedLength()))
+        matches << QStringLiteral("%1+%2").arg(at).arg(expression.matchedLength()) << expression.capturedTexts().mid(1);
+    return matches;
+}
+
+} // namespace
+
+class TestChainPattern : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void matchesWhatQRegExpMatches_data();
+    void matchesWhatQRegExpMatches();
+    void firstCaptureIsThatOfTheFirstMatch();
+};
+
+void TestChainPattern::matchesWhatQRegExpMatches_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<Matching>("matching");
+    QTest::addColumn<QString>("pieces"); // separated by blanks
+    QTest::newRow("search row, longest") << R"re(<div[^>]*data-sorting-artist="([^"]*)"[^>]*>)re" << Matching::Longest
+                                         << R"re(<div data-sorting-artist=" " > x)re";
+    QTest::newRow("attribute, longest") << R"re(data-sorting-song="([^"]*)")re" << Matching::Longest
+                                        << R"re(data-sorting-song=" " x > <)re";
+    QTest::newRow("song link, longest") << R"re(<a[^>]*href="([^"]*)"[^>]*class="song")re" << Matching::Longest
+                                        << R"re(<a href=" " class="song" > /x)re";
+    QTest::newRow("song link, shortest") << R"re(<a[^>]*href="([^"]*)"[^>]*class="song")re" << Matching::Shortest
+                                         << R"re(<a href=" " class="song" > /x)re";
+    QTest::newRow("content block") << R"re(<div[^>]*id=["']content["'].*>(.*)</div>)re" << Matching::Shortest
+                                   << R"re(<div id="content" id='content" > </div> x)re";
+    QTest::newRow("content block, longest") << R"re(<div[^>]*id=["']content["'].*>(.*)</div>)re" << Matching::Longest
+                                            << R"re(<div id="content" > </div> x)re";
+    QTest::newRow("table body") << R"re(<div[^>]*class="songs-table"[^<]*>.*<table>.*<tbody>(.*)</tbody>)re"
+                                << Matching::Shortest << R"re(<div class="songs-table" > <table> <tbody> </tbody> x)re";
+    QTest::newRow("table row of five cells")
+        << R"re(<tr.*>.*<td.*>.*<td.*>.*<a.*href="([^"]*)".*>([^<]*)</a>.*<td.*>(.*)</td>.*<td.*>.*<td.*>.*</tr>)re"
+        << Matching::Shortest << R"re(<tr> <td> <a href="x"> y</a> </td> </tr> <td> <td> " >)re";
+    QTest::newRow("table row with two names")
+        << R"re(<tr>.*<td[^<]*class[^<]*>.*<a.*href="([^"]*)".*>.*<b>(.*)</b>.*<b>([^<]*)</b>.*</td></tr>)re"
+        << Matching::Shortest << R"re(<tr> <td class > <a href="x" <b> </b> y </td></tr> <b>)re";
+    QTest::newRow("song text") << R"re(<div[^>]*id="song_text"[^>]*>(.*)</div>.*<div.*class="switch-block".*>)re"
+                               << Matching::Shortest << R"re(<div id="song_text" > </div> class="switch-block" x)re";
+    QTest::newRow("blanks, then anything") << R"re(<div\s*id="native_roll">.*</div>)re" << Matching::Shortest
+                                           << "<div id=\"native_roll\"> </div> \t \n \u00a0 x";
+    QTest::newRow("quotes any number of times")
+        << R"re(<div class="lyrics"*>(.*)</div>)re" << Matching::Shortest << R"re(<div~class="lyrics " > </div> x)re";
+    QTest::newRow("digits") << R"re(&#(\d+);)re" << Matching::Shortest
+                            << QStringLiteral("&# 1 22 ; x ") + QChar(0x0661);
+    QTest::newRow("break tag") << R"re(<br.*>)re" << Matching::Shortest << R"re(<br > / x)re";
+    QTest::newRow("container") << R"re(<div[^>]*class="Lyrics__Container.*>)re" << Matching::Shortest
+                               << R"re(<div class="Lyrics__Container " > x)re";
+    QTest::newRow("two captures side by side") << R"re(a(.*)b(.*)c(b*)a)re" << Matching::Shortest << "a b c x";
+    QTest::newRow("two captures, longest") << R"re(a(.*)b([^x]*)c(b*)a)re" << Matching::Longest << "a b c x";
+    QTest::newRow("capture over several pieces") << R"re(a(b*c.*b+)a[^b]*c)re" << Matching::Longest << "a b c x";
+}
+
+void TestChainPattern::matchesWhatQRegExpMatches()
+{
+    QFETCH(QString, pattern);
+    QFETCH(Matching, matching);
+    QFETCH(QString, pieces);
+    const ChainPattern chain(pattern, matching);
+    QRegExp expression(pattern);
+    expression.setMinimal(matching == Matching::Shortest);
+    QStringList words = pieces.split(QLatin1Char(' '));
+    words.replaceInStrings(QStringLiteral("~"), QStringLiteral(" "));
+    RandomText pages(words << QStringLiteral(" "));
+    int matched = 0;
+    for (int i = 0; i < 3000; ++i) {
+        const QString page = pages.next(6 + i % 40);
+        const QStringList expected = allMatches(expression, page);
+        matched += expected.isEmpty() ? 0 : 1;
+        QVERIFY2(allMatches(ChainScan(chain, page)) == expected,
+                 qPrintable(QStringLiteral("%1\nexpected %2\ngot %3")
+                                .arg(page, expected.join(QLatin1Char('|')),
+                                     allMatches(ChainScan(chain, page)).join(QLatin1Char('|')))));
+    }
+    QVERIFY2(matched > 20, "the pages must match often enough to say something");
+}
+
+void TestChainPattern::firstCaptureIsThatOfTheFirstMatch()
+{
+    const ChainPattern pattern(QStringLiteral("<b>(.*)</b>"));
+    QCOMPARE(firstCapture(pattern, QStringLiteral("<b>one</b><b>two</b>")).value_or(QString()), QStringLiteral("one"));
+    QVERIFY(!firstCapture(pattern, QStringLiteral("<b>one")));
+}
+
+QTEST_APPLESS_MAIN(TestChainPattern)
+#include "tst_chainpattern.moc"

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "RandomText.h"
+#include "lyrics/LyricsText.h"
+
+#include <QRegExp>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+/// The same steps with the expressions that define them, however long they take.
+namespace plain {
+
+QString decodeHtmlEntities(QString text)
+{
+    const QRegularExpression reference(QStringLiteral("&#(x[a-fA-F0-9]{2,5}|\\d{2,6});"));
+    for (auto match = reference.match(text); match.hasMatch(); match = reference.match(text)) {
+        QString digits = match.captured(1);
+        const bool hex = digits.startsWith(QLatin1Char('x'));
+        const uint code = hex ? digits.mid(1).toUInt(nullptr, 16) : digits.toUInt(nullptr, 10);
+        text.replace(match.captured(0), QString::fromUcs4(&code, 1));
+    }
+    const auto names = QStringLiteral("&amp; & &gt; > &lt; < &quot; \" &#39; ' &#039; '").split(QLatin1Char(' '));
+    for (int i = 0; i < names.size(); i += 2)
+        text.replace(names.at(i), names.at(i + 1));
+    return text;
+}
+
+QString stripTags(QString text)
+{
+    QRegExp tag(QStringLiteral("</?[^>]+/?>"));
+    tag.setMinimal(true);
+    QString before;
+    do {
+        before = text;
+        text.remove(tag);
+    } while (text != before);
+    return text;
+}
+
+QString cleanLyrics(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.remove(QRegExp(QStringLiteral("<!--(.*)-->")));
+    text.replace(QRegExp(QStringLiteral("<br\\s*/?>\n?")), QStringLiteral("\n"));
+    text.remove(QRegExp(QStringLiteral("^\\s*\n\\s*")));
+    text.remove(QRegExp(QStringLiteral("\\s*\n?\\s*$")));
+    return plain::decodeHtmlEntities(plain::stripTags(text).trimmed());
+}
+
+} // namespace plain
+
+using TextFunction = QString (*)(const QString &);
+
+template<typename Plain>
+void compareOnRandomTexts(const QString &pieces, TextFunction fast, Plain slow)
+{
+    RandomText texts(pieces.split(QLatin1Char(' ')) << QStringLiteral(" "));
+    for (int i = 0; i < 5000; ++i) {
+        const QString text = texts.next(24);
+        QVERIFY2(fast(text) == slow(text),
+                 qPrintable(QStringLiteral("'%1' gave '%2' instead of '%3'").arg(text, fast(text), slow(text))));
+    }
+}
+
+} // namespace
+
+class TestLyricsText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleansFragments_data();
+    void cleansFragments();
+    void cleansLikeThePlainExpressions();
+    void decodesEntities_data();
+    void decodesEntities();
+    void decodesLikeThePlainExpressions();
+    void decodesPercentEscapes_data();
+    void decodesPercentEscapes();
+    void removesBrokenCharacters_data();
+    void removesBrokenCharacters();
+};
+
+void TestLyricsText::cleansFragments_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<QString>("lyrics");
+    QTest::newRow("nothing") << ""
+                             << "";
+    QTest::newRow("breaks, one newline behind each goes") << "<p>a<br/>\nb<br>c</p>\r\n"
+                                                          << "a\nb\nc";
+    QTest::newRow("two newlines behind a break") << "a<br >\n\nb"
+                                                 << "a\n\nb";
+    QTest::newRow("upper-case breaks are tags") << "a<BR>b"
+                                                << "ab";
+    QTest::newRow("comments go from first to last") << "x<!-- 1 -->y<!-- 2 -->z"
+                                                    << "xz";
+    QTest::newRow("a comment mark cannot share its dashes") << "a<!-->b"
+                                                            << "ab";
+    QTest::newRow("a tag swallows an opening bracket") << "<<b>i</b>>"
+                                                       << "i>";
+    QTest::newRow("an empty pair of brackets is no tag") << "a <> b"
+                                                         << "a <> b";
+    QTest::newRow("a bracket that is never closed stays") << "I <3 you"
+                                                          << "I <3 you";
+    QTest::newRow("blank ends go, inner space stays") << " \n\t<i> a  b </i>\u00a0\n"
+                                                      << "a  b";
+    QTest::newRow("entities come last and make no tags") << "&lt;b&gt;a&lt;/b&gt;"
+                                                         << "<b>a</b>";
+    QTest::newRow("other scripts") << "<p>Привет<br>שלום 🎵</p>"
+                                   << "Привет\nשלום 🎵";
+}
+
+void TestLyricsText::cleansFragments()
+{
+    QFETCH(QString, html);
+    QTEST(cleanLyrics(html), "lyrics");
+}
+
+void TestLyricsText::cleansLikeThePlainExpressions()
+{
+    const QString pieces =
+        QStringLiteral("<!-- --> -- <br br > /> </ < / \r\n \n \t \u00a0 \u0085 \u200b x &amp; &#60; b>");
+    compareOnRandomTexts(pieces, cleanLyrics, plain::cleanLyrics);
+    compareOnRandomTexts(pieces, stripTags, plain::stripTags);
+}
+
+void TestLyricsText::decodesEntities_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("decoded");
+    QTest::newRow("hexadecimal, decimal, one digit only") << "&#x41;&#66;&#9;"
+                                                          << "AB&#9;";
+    QTest::newRow("too many digits") << "&#x1F3B50;&#0000065;"
+                                     << "&#x1F3B50;&#0000065;";
+    QTest::newRow("upper-case X") << "&#X41;"
+                                  << "&#X41;";
+    QTest::newRow("an ampersand uncovers a name") << "&amp;lt;&amp;#39;&amp;#039;"
+                                                  << "<''";
+    QTest::newRow("an ampersand uncovers no number") << "&amp;#8217;"
+                                                     << "&#8217;";
+    QTest::newRow("a number uncovers another") << "&#38;#65;&#3&#56;;"
+                                               << "A&";
+    QTest::newRow("beyond the basic plane")
+        << "&#x1F3B5;&#127925;&#xFFFFF;" << QStringLiteral("🎵🎵") + QStringLiteral("\U000FFFFF");
+    QTest::newRow("a pair written as halves") << "&#xD83C;&#xDFB5;"
+                                              << "🎵";
+    QTest::newRow("NUL is kept for whoever removes it") << "a&#00;b" << QStringLiteral("a%1b").arg(QChar(0));
+    QTest::newRow("names are case-sensitive, others stay") << "&AMP;&nbsp;&apos;"
+                                                           << "&AMP;&nbsp;&apos;";
+    QTest::newRow("no end") << "&#65"
+                            << "&#65";
+}
+
+void TestLyricsText::decodesEntities()
+{
+    QFETCH(QString, text);
+    QTEST(decodeHtmlEntities(text), "decoded");
+}
+
+// Halves of surrogate pairs are left out: a regular expression gives up on a text that holds one.
+void TestLyricsText::decodesLikeThePlainExpressions()
+{
+    compareOnRandomTexts(
+        QStringLiteral("&#38; &#35; &#x3b; &#59; &#x78; &#48; & # x 1 0 ; amp; &amp; lt; &quot; &#039; 39; &#00; 🎵"),
+        decodeHtmlEntities, plain::decodeHtmlEntities);
+}
+
+void TestLyricsText::decodesPercentEscapes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("decoded");
+    QTest::newRow("well formed, either case") << QByteArray("a%20b%C3%a9") << QByteArray("a b\xC3\xA9");
+    QTest::newRow("100% sure") << QByteArray("100% sure, 5%!") << QByteArray("100% sure, 5%!");
+    QTest::newRow("cut off") << QByteArray("%4 %4") << QByteArray("%4 %4");
+    QTest::newRow("decoded once") << QByteArray("%2541%%41") << QByteArray("%41%A");
+    QTest::newRow("at the very end") << QByteArray("x%41%") << QByteArray("xA%");
+    QTest::newRow("NUL") << QByteArray("a%00b") << QByteArray("a\0b", 3);
+}
+
+void TestLyricsText::decodesPercentEscapes()
+{
+    QFETCH(QByteArray, bytes);
+    QTEST(decodePercentEscapes(bytes), "decoded");
+}
+
+void TestLyricsText::removesBrokenCharacters_data()
+{
+    const QChar high(0xD83C);
+    const QChar low(0xDFB5);
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("whole");
+    QTest::newRow("nothing to do") << "la 🎵\n\tla"
+                                   << "la 🎵\n\tla";
+    QTest::newRow("NUL") << QStringLiteral("a%1b").arg(QChar(0)) << "ab";
+    QTest::newRow("a high half at the end") << QStringLiteral("a") + high << "a\ufffd";
+    QTest::newRow("halves in the wrong order") << QString(low) + high << "\ufffd\ufffd";
+    QTest::newRow("a high half before a pair") << QString(high) + high + low << "\ufffd🎵";
+}
+
+void TestLyricsText::removesBrokenCharacters()
+{
+    QFETCH(QString, text);
+    QTEST(withoutBrokenCharacters(text), "whole");
+}
+
+QTEST_APPLESS_MAIN(TestLyricsText)
+#include "tst_lyricstext.moc"

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "RandomText.h"
+#include "lyrics/NestedElements.h"
+
+#include <QRegExp>
+#include <QTest>
+
+namespace {
+
+/// Counts anew from the given place.
+int countedClosingTag(const QString &html, int openingTag)
+{
+    QRegExp tag(QStringLiteral("</?div"));
+    int depth = 1;
+    for (int at = tag.indexIn(html, openingTag + 1); at >= 0; at = tag.indexIn(html, at + tag.matchedLength())) {
+        depth += tag.cap(0).startsWith(QLatin1String("</")) ? -1 : 1;
+        if (depth == 0)
+            return at;
+    }
+    return -1;
+}
+
+} // namespace
+
+class TestNestedElements : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsTheEnd_data();
+    void findsTheEnd();
+    void countsLikeThePlainExpression();
+};
+
+void TestNestedElements::findsTheEnd_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<QString>("element"); // from its opening tag to its closing tag
+    QTest::newRow("nested") << "<div>a<div>b</div>c</div></div>"
+                            << "<div>a<div>b</div>c";
+    QTest::newRow("a longer name counts as well") << "<div><divider>a</div>b</div>"
+                                                  << "<div><divider>a</div>b";
+    QTest::newRow("other elements and other case do not") << "<div><span></DIV></span></div>"
+                                                          << "<div><span></DIV></span>";
+    QTest::newRow("never closed") << "<div><div></div>"
+                                  << "";
+}
+
+void TestNestedElements::findsTheEnd()
+{
+    QFETCH(QString, html);
+    const int end = NestedElements(html, QStringLiteral("div")).closingTag(0);
+    QTEST(html.left(qMax(0, end)), "element");
+}
+
+void TestNestedElements::countsLikeThePlainExpression()
+{
+    RandomText pages(QStringLiteral("<div </div < > </ <DIV </span> x").split(QLatin1Char(' ')));
+    for (int i = 0; i < 3000; ++i) {
+        const QString page = pages.next(30);
+        const NestedElements divs(page, QStringLiteral("div"));
+        for (int at = 0; at < page.size(); ++at)
+            QVERIFY2(divs.closingTag(at) == countedClosingTag(page, at), qPrintable(page));
+    }
+}
+
+QTEST_APPLESS_MAIN(TestNestedElements)
+#include "tst_nestedelements.moc"
