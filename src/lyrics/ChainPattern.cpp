@@ -102,6 +102,15 @@ int ChainPattern::Link::indexIn(const QString &text, int from) const
     return -1;
 }
 
+int ChainPattern::Link::endOfGap(const QString &text, int from, int limit) const
+{
+    if (gap.isAnyCharacter())
+        return limit;
+    while (from < limit && gap.contains(text.at(from)))
+        ++from;
+    return from;
+}
+
 ChainPattern::ChainPattern(const QString &pattern, Matching matching)
     : m_matching(matching)
     , m_links(1)
@@ -114,6 +123,7 @@ ChainPattern::ChainPattern(const QString &pattern, Matching matching)
         }
         if (reader.take(')')) {
             m_groups.back().end = here();
+            Q_ASSERT(m_groups.back().end.link == m_groups.back().begin.link + 1);
             continue;
         }
         const CharacterSet set = reader.takeSet();

@@ -10,7 +10,7 @@
 /// in step with the page, where QRegExp tries the rest of the page anew from every opening tag.
 ///
 /// Understood are plain characters, `\` before a special one, `.`, `\s`, `\d`, `[...]` and `[^...]` with plain
-/// characters in them, `*` and `+` behind any of these, and groups that capture, not nested. The first and the last
+/// characters in them, `*` and `+` behind any of these, and groups that capture one gap. The first and the last
 /// piece are not gaps, and two gaps do not touch. Anything else is a mistake of the programmer and asserts. Meaning,
 /// matches and captures are those of a case-sensitive QRegExp.
 class ChainPattern
@@ -62,14 +62,17 @@ public:
         [[nodiscard]] int length() const { return static_cast<int>(piece.size()); }
         /// Where the piece stands first from \a from on, -1 when nowhere.
         [[nodiscard]] int indexIn(const QString &text, int from) const;
+        /// Where the gap that begins at \a from ends at the latest, looking no further than \a limit.
+        [[nodiscard]] int endOfGap(const QString &text, int from, int limit) const;
     };
 
-    /// One end of a capture: a place inside or at the edge of a piece.
+    /// One end of a capture: a place inside or at the edge of a piece, counted from where the piece begins.
     struct Mark
     {
         std::size_t link = 0;
         int offset = 0;
     };
+    /// Begins in one piece and ends in the next.
     struct Group
     {
         Mark begin;

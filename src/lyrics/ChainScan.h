@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "lyrics/ChainCaptures.h"
 #include "lyrics/ChainPattern.h"
 
 #include <QStringList>
@@ -34,24 +35,13 @@ public:
     [[nodiscard]] std::optional<ChainMatch> next(int from = 0) const;
 
 private:
-    /// A place where a piece stands and from which the rest of the pattern can be matched.
-    struct Spot
-    {
-        int position;
-        int end;
-    };
-    /// In the order of their positions, in which their ends rise as well.
-    using Spots = std::vector<Spot>;
-
-    [[nodiscard]] Spots placesOf(std::size_t link) const;
-    void keepViable(std::size_t link, Spots &spots) const;
-    [[nodiscard]] std::vector<int> path(const Spot &start) const;
-    [[nodiscard]] bool isCapturing(std::size_t link) const;
+    [[nodiscard]] ChainSpots placesOf(std::size_t link) const;
+    void keepViable(std::size_t link, ChainSpots &spots) const;
 
     ChainPattern m_pattern;
     QString m_text;
-    /// For each piece of the pattern.
-    std::vector<Spots> m_spots;
+    /// For each piece, where it stands and the rest of the pattern can be matched from there.
+    std::vector<ChainSpots> m_spots;
 };
 
 /// The first capture of the first match.

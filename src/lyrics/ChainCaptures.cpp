@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/ChainCaptures.h"
+
+#include <algorithm>
+#include <deque>
+
+namespace {
+
+/// One of the ways to a place of a piece: the best one, going by what it captured.
+struct Route
+{
+    int position;
+    ChainCaptures captures;
+};
+
+int rank(const ChainCapture &left, const ChainCapture &right)
+{
+    const bool leftEmpty = left.begin == left.end;
+    const bool rightEmpty = right.begin == right.end;
+    if (leftEmpty || rightEmpty)
+        return static_cast<int>(leftEmpty) - static_cast<int>(rightEmpty);
+    return left.begin != right.begin ? left.begin - right.begin : right.end - left.end;
+}
+
+bool isBetter(const Route &left, const Route &right)
+{
+    for (std::size_t i = 0; i < left.captures.size(); ++i) {
+        const int order = rank(left.captures[i], right.captures[i]);
+        if (order != 0)
+            return order < 0;
+    }
+    return false;
+}
+
+/// Leads routes over the gap behind one piece to the places of the next piece, which are asked for in rising order.
+class GapCrossing
+{
+public:
+    GapCrossing(const ChainPattern::Link &piece, const QString &text, const std::vector<Route> &routes, int matchEnd)
+        : m_piece(piece)
+        , m_text(text)
+        , m_routes(routes)
+        , m_matchEnd(matchEnd)
+    {
+    }
+
+    /// The best route that reaches \a position; null when none does.
+    const Route *to(int position)
+    {
+        while (m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) < position)
+            enter(m_routes[m_entered++]);
+        while (!m_inGap.empty() && m_inGap.front().gapEnd < position)
+            m_inGap.pop_front();
+        const Route *best = m_inGap.empty() ? nullptr : m_inGap.front().route;
+        const bool emptyGap = m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) == position;
+        if (emptyGap && (!best || isBetter(m_routes[m_entered], *best)))
+            best = &m_routes[m_entered];
+        return best;
+    }
+
+private:
+    struct Entry
+    {
+        const Route *route;
+        int gapEnd;
+    };
+
+    [[nodiscard]] int gapBegin(const Route &route) const { return route.position + m_piece.length(); }
+
+    // Earlier gaps never end later, so a route that is worse than a later one is of no more use.
+    void enter(const Route &route)
+    {
+        while (!m_inGap.empty() && isBetter(route, *m_inGap.back().route))
+            m_inGap.pop_back();
+        if (gapBegin(route) > m_gapEnd)
+            m_gapEnd = m_piece.endOfGap(m_text, gapBegin(route), m_matchEnd);
+        m_inGap.push_back({&route, m_gapEnd});
+    }
+
+    const ChainPattern::Link &m_piece;
+    const QString &m_text;
+    const std::vector<Route> &m_routes;
+    int m_matchEnd;
+    std::size_t m_entered = 0;
+    int m_gapEnd = -1;
+    /// The routes within whose gap the place may lie, the best and earliest first.
+    std::deque<Entry> m_inGap;
+};
+
+/// The places behind \a position from which a match goes on to \a matchEnd.
+std::pair<ChainSpots::const_iterator, ChainSpots::const_iterator> placesBehind(const ChainSpots &spots, int position,
+                                                                               int matchEnd)
+{
+    const auto before = [](const ChainSpot &spot, int place) {
+        return spot.position < place;
+    };
+    const auto endsBefore = [](const ChainSpot &spot, int end) {
+        return spot.end < end;
+    };
+    const auto behind = std::lower_bound(spots.begin(), spots.end(), position, before);
+    return {std::lower_bound(behind, spots.end(), matchEnd, endsBefore),
+            std::lower_bound(behind, spots.end(), matchEnd + 1, endsBefore)};
+}
+
+} // namespace
+
+ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, const std::vector<ChainSpots> &spots,
+                           const ChainSpot &start)
+{
+    std::vector<Route> routes{{start.position, {}}};
+    auto group = pattern.groups().begin();
+    for (std::size_t link = 1; link < spots.size() && group != pattern.groups().end(); ++link) {
+        const bool captures = group->end.link == link;
+        GapCrossing crossing(pattern.links()[link - 1], text, routes, start.end);
+        std::vector<Route> reached;
+        const auto [first, last] = placesBehind(spots[link], start.position, start.end);
+        for (auto spot = first; spot != last; ++spot) {
+            const Route *route = crossing.to(spot->position);
+            if (!route)
+                continue;
+            reached.push_back({spot->position, route->captures});
+            if (captures)
+                reached.back().captures.push_back(
+                    {route->position + group->begin.offset, spot->position + group->end.offset});
+        }
+        routes = std::move(reached);
+        group += captures ? 1 : 0;
+    }
+    return std::min_element(routes.begin(), routes.end(), isBetter)->captures;
+}
