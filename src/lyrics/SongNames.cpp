@@ -2,6 +2,7 @@
 #include "lyrics/SongNames.h"
 
 #include <QStringList>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -77,4 +78,9 @@ bool looselyAgree(const QString &left, const QString &right)
     const QString a = folded(left);
     const QString b = folded(right);
     return a.contains(b) || b.contains(a);
+}
+
+QString queryValue(const QString &name)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(name));
 }

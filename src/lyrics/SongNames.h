@@ -15,3 +15,6 @@
 /// Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
 /// spaces, commas and ampersands. A name of which nothing is left resembles every other.
 [[nodiscard]] bool looselyAgree(const QString &left, const QString &right);
+
+/// A name, or names, as the value of a query: percent-encoded wholly, so that "+", "&", "#" and "%" arrive as they are.
+[[nodiscard]] QString queryValue(const QString &name);

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/LyricsProvider.h"
+
+#include "lyrics/LyricsText.h"
+#include "network/AccessManager.h"
+#include "network/Redirects.h"
+
+#include <utility>
+
+namespace {
+
+/// Only these two; 302 and 303 are read as pages, deliberately.
+bool isFollowedRedirect(const QNetworkReply &reply)
+{
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    return status == 301 || status == 307;
+}
+
+} // namespace
+
+LyricsProvider::LyricsProvider(QNetworkAccessManager *networkManager, QObject *parent)
+    : QObject(parent)
+    , m_networkManager(networkManager)
+{
+}
+
+LyricsProvider::~LyricsProvider()
+{
+    if (!m_reply)
+        return;
+    m_reply->disconnect(this);
+    m_reply->abort();
+    m_reply->deleteLater();
+}
+
+bool LyricsProvider::canSearch(const QString &artist, const QString &title) const
+{
+    return !artist.trimmed().isEmpty() && !title.trimmed().isEmpty();
+}
+
+bool LyricsProvider::search(const QString &artist, const QString &title)
+{
+    if (isBusy() || !canSearch(artist, title))
+        return false;
+    m_errorString.clear();
+    m_busy = true;
+    const ProviderStep step = firstStep(artist, title);
+    if (step.kind() == ProviderStep::Kind::Ask)
+        carryOut(step);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, step] { carryOut(step); }, Qt::QueuedConnection);
+    return true;
+}
+
+QByteArray LyricsProvider::browserUserAgent()
+{
+    return QByteArrayLiteral("Mozilla/5.0 (X11; Linux x86_64) AppleWebKit/537.36 (KHTML, like Gecko) "
+                             "Chrome/46.0.2490.86 Safari/537.36");
+}
+
+QNetworkRequest LyricsProvider::redirectedRequest(const QUrl &target) const
+{
+    return QNetworkRequest(target);
+}
+
+QNetworkAccessManager *LyricsProvider::accessManager()
+{
+    if (m_networkManager)
+        return m_networkManager;
+    if (!m_ownNetworkManager)
+        m_ownNetworkManager = new AccessManager(this);
+    return m_ownNetworkManager;
+}
+
+void LyricsProvider::carryOut(const ProviderStep &step)
+{
+    if (step.kind() == ProviderStep::Kind::Result) {
+        finish(step.lyrics(), step.errorString());
+        return;
+    }
+    m_readPage = step.pageFunction();
+    m_redirects = 0;
+    send(step.request());
+}
+
+void LyricsProvider::send(QNetworkRequest request)
+{
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    QNetworkReply *reply = accessManager()->get(request);
+    m_reply = reply;
+    connect(reply, &QNetworkReply::finished, this, [this, reply] { replyFinished(reply); });
+}
+
+void LyricsProvider::replyFinished(QNetworkReply *reply)
+{
+    if (reply != m_reply)
+        return;
+    m_reply->deleteLater();
+    m_reply.clear();
+    if (isFollowedRedirect(*reply))
+        follow(*reply);
+    else if (reply->error() != QNetworkReply::NoError)
+        finish(QString(), reply->errorString());
+    else
+        readPage(*reply);
+}
+
+void LyricsProvider::follow(const QNetworkReply &reply)
+{
+    const QUrl target = redirectTarget(reply.request().url(), reply.rawHeader("Location"));
+    if (target.isEmpty())
+        finish(QString(), tr("%1 redirects to something that is not a web page.").arg(name()));
+    else if (++m_redirects > maximumRedirects)
+        finish(QString(), tr("%1 redirects too often.").arg(name()));
+    else
+        send(redirectedRequest(target));
+}
+
+void LyricsProvider::readPage(QNetworkReply &reply)
+{
+    const Page page{decoded(reply.readAll()), reply.request().url()};
+    const ProviderStep::PageFunction read = std::exchange(m_readPage, {});
+    carryOut(read(page));
+}
+
+/// Every result leaves here, whichever site it comes from: this is the place to look at it as a whole.
+void LyricsProvider::finish(const QString &lyrics, const QString &errorString)
+{
+    m_readPage = {};
+    m_errorString = errorString;
+    m_busy = false;
+    emit finished(withoutBrokenCharacters(lyrics));
+}
+
+QString LyricsProvider::decoded(QByteArray body) const
+{
+    if (hasPercentEncodedPages())
+        body = decodePercentEscapes(body);
+    const int nul = body.indexOf('\0');
+    if (nul >= 0)
+        body.truncate(nul);
+    return QString::fromUtf8(body);
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/ProviderStep.h"
+
+#include <utility>
+
+ProviderStep ProviderStep::ask(const QNetworkRequest &request, PageFunction read)
+{
+    Q_ASSERT(read);
+    ProviderStep step;
+    step.m_request = request;
+    step.m_read = std::move(read);
+    return step;
+}
+
+ProviderStep ProviderStep::lyrics(const QString &text)
+{
+    ProviderStep step;
+    step.m_lyrics = text;
+    return step;
+}
+
+ProviderStep ProviderStep::failure(const QString &reason)
+{
+    ProviderStep step;
+    step.m_errorString = reason;
+    return step;
+}

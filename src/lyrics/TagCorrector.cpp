@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/TagCorrector.h"
+
+TagCorrector::TagCorrector(QObject *parent)
+    : QObject(parent)
+{
+}

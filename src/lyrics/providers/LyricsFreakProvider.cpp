@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/providers/LyricsFreakProvider.h"
+
+#include "lyrics/ChainScan.h"
+#include "lyrics/LyricsText.h"
+#include "lyrics/NestedElements.h"
+#include "lyrics/SongNames.h"
+#include "network/Endpoints.h"
+
+#include <QUrlQuery>
+
+namespace {
+
+using Matching = ChainPattern::Matching;
+
+QUrl searchPageUrl()
+{
+    return endpointUrl(Endpoint::LyricsFreak, QStringLiteral("/search.php"));
+}
+
+QString trimmedName(const QString &encoded)
+{
+    return decodeHtmlEntities(encoded).trimmed();
+}
+
+/// The song that the opening tag of a row names; empty when it names none.
+QString songOfRow(const QString &openingTag)
+{
+    static const ChainPattern song(QStringLiteral("data-sorting-song=\"([^\"]*)\""), Matching::Longest);
+    return trimmedName(firstCapture(song, openingTag).value_or(QString()));
+}
+
+std::optional<QString> linkInBlock(const QString &block)
+{
+    static const ChainPattern link(QStringLiteral("<a[^>]*href=\"([^\"]*)\"[^>]*class=\"song\""), Matching::Longest);
+    return firstCapture(link, block);
+}
+
+} // namespace
+
+LyricsFreakProvider::LyricsFreakProvider(QNetworkAccessManager *networkManager, QObject *parent)
+    : LyricsProvider(networkManager, parent)
+{
+}
+
+QString LyricsFreakProvider::name() const
+{
+    return QStringLiteral("LyricsFreak");
+}
+
+QString LyricsFreakProvider::siteUrl() const
+{
+    return endpointBase(Endpoint::LyricsFreak).toString();
+}
+
+LyricsProvider *LyricsFreakProvider::clone(QObject *parent) const
+{
+    return new LyricsFreakProvider(sharedNetworkManager(), parent);
+}
+
+ProviderStep LyricsFreakProvider::firstStep(const QString &artist, const QString &title)
+{
+    m_artist = normalisedArtist(artist);
+    m_title = normalisedTitle(title);
+    QUrlQuery query;
+    query.addQueryItem(QStringLiteral("a"), QStringLiteral("search"));
+    query.addQueryItem(QStringLiteral("type"), QStringLiteral("song"));
+    query.addQueryItem(QStringLiteral("q"), queryValue(m_title));
+    QUrl url = searchPageUrl();
+    url.setQuery(query);
+    QNetworkRequest request(url);
+    request.setRawHeader("Referer", searchPageUrl().toEncoded());
+    return ProviderStep::ask(request, [this](const Page &page) { return infoRequestFinished(page); });
+}
+
+QNetworkRequest LyricsFreakProvider::redirectedRequest(const QUrl &target) const
+{
+    QNetworkRequest request(target);
+    request.setRawHeader("User-Agent", browserUserAgent());
+    request.setRawHeader("Referer", searchPageUrl().toEncoded());
+    return request;
+}
+
+ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const
+{
+    const std::optional<QString> link = songLink(page.text, m_artist, m_title);
+    if (!link)
+        return ProviderStep::nothing();
+    const bool onSite = link->startsWith(QLatin1Char('/'));
+    const QUrl url = onSite ? endpointUrl(Endpoint::LyricsFreak, *link) : QUrl(*link);
+    return ProviderStep::ask(QNetworkRequest(url), &LyricsFreakProvider::lyricsRequestFinished);
+}
+
+ProviderStep LyricsFreakProvider::lyricsRequestFinished(const Page &page)
+{
+    return ProviderStep::lyrics(lyricsOfPage(page.text));
+}
+
+std::optional<QString> LyricsFreakProvider::songLink(const QString &searchPage, const QString &artist,
+                                                     const QString &title)
+{
+    static const ChainPattern rowPattern(QStringLiteral("<div[^>]*data-sorting-artist=\"([^\"]*)\"[^>]*>"),
+                                         Matching::Longest);
+    const ChainScan rows(rowPattern, searchPage);
+    const NestedElements divs(searchPage, QStringLiteral("div"));
+    // Up to here there is no link: the blocks of rows that stand inside one that was looked at need no second look.
+    int searchedEnd = 0;
+    for (auto row = rows.next(); row; row = rows.next(row->end())) {
+        const QString openingTag = searchPage.mid(row->position, row->length);
+        const bool wanted = row->position >= searchedEnd && looselyAgree(artist, trimmedName(row->captures.at(0))) &&
+                            looselyAgree(title, songOfRow(openingTag));
+        const int blockEnd = wanted ? divs.closingTag(row->position) : -1;
+        if (blockEnd < 0)
+            continue;
+        std::optional<QString> link = linkInBlock(searchPage.mid(row->position, blockEnd - row->position));
+        if (link)
+            return link;
+        searchedEnd = blockEnd;
+    }
+    return std::nullopt;
+}
+
+QString LyricsFreakProvider::lyricsOfPage(const QString &songPage)
+{
+    static const ChainPattern content(QStringLiteral("<div[^>]*id=[\"']content[\"'].*>(.*)</div>"));
+    return cleanLyrics(firstCapture(content, songPage).value_or(QString()));
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "lyrics/LyricsProvider.h"
+
+#include <optional>
+
+/// LyricsFreak: its song search for the title, then the page of the first song in the answer whose artist and title
+/// both resemble the wanted ones.
+class LyricsFreakProvider final : public LyricsProvider
+{
+    Q_OBJECT
+
+public:
+    explicit LyricsFreakProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
+
+    [[nodiscard]] QString name() const override;
+    [[nodiscard]] QString siteUrl() const override;
+    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+
+    /// The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
+    /// nothing when there is none.
+    [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist,
+                                                         const QString &title);
+    /// The lyrics of a song's page; empty when there are none.
+    [[nodiscard]] static QString lyricsOfPage(const QString &songPage);
+
+protected:
+    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
+
+private:
+    [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
+    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
+
+    QString m_artist; // both normalised
+    QString m_title;
+};

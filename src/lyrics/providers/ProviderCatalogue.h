@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <vector>
+
+class LyricsProvider;
+class QNetworkAccessManager;
+
+/// A client for each lyrics site, in the order in which the sites are tried unless the user wants another. The manager
+/// is not owned and must outlive the clients.
+[[nodiscard]] std::vector<std::unique_ptr<LyricsProvider>> makeProviders(QNetworkAccessManager *networkManager);
