@@ -1,0 +1,377 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/LyricsProvider.h"
+#include "lyrics/LyricsSearch.h"
+#include "lyrics/TagCorrector.h"
+
+#include <QMap>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+/// What the scripted sites and correctors answer, and what they were asked. Names are written "Artist/Title".
+struct Script
+{
+    /// By "Site:Artist/Title"; "!reason" is a failure. Anything else is not found.
+    QMap<QString, QString> answers;
+    /// Sites whose clones refuse every search.
+    QStringList refusing;
+    QStringList asked;
+    QList<QPointer<LyricsProvider>> clones;
+};
+
+QString joined(const QString &artist, const QString &title)
+{
+    return artist + QLatin1Char('/') + title;
+}
+
+class ScriptedSite : public LyricsProvider
+{
+public:
+    ScriptedSite(const QString &name, Script *script, QObject *parent = nullptr)
+        : LyricsProvider(nullptr, parent)
+        , m_name(name)
+        , m_script(script)
+    {
+    }
+
+    QString name() const override { return m_name; }
+    QString siteUrl() const override { return {}; }
+    bool canSearch(const QString &artist, const QString &title) const override
+    {
+        const bool refused = parent() && m_script->refusing.contains(m_name);
+        return !refused && LyricsProvider::canSearch(artist, title);
+    }
+    LyricsProvider *clone(QObject *parent) const override
+    {
+        auto *copy = new ScriptedSite(m_name, m_script, parent);
+        m_script->clones.append(copy);
+        return copy;
+    }
+
+protected:
+    ProviderStep firstStep(const QString &artist, const QString &title) override
+    {
+        const QString question = m_name + QLatin1Char(':') + joined(artist, title);
+        m_script->asked.append(question);
+        const QString answer = m_script->answers.value(question);
+        return answer.startsWith(QLatin1Char('!')) ? ProviderStep::failure(answer.mid(1))
+                                                   : ProviderStep::lyrics(answer);
+    }
+
+private:
+    QString m_name;
+    Script *m_script;
+};
+
+/// Answers a fixed list of pairs; refuses when there is no list.
+class ScriptedCorrector : public TagCorrector
+{
+public:
+    ScriptedCorrector(const QStringList &pairs, Script *script, QObject *parent = nullptr)
+        : TagCorrector(parent)
+        , m_pairs(pairs)
+        , m_script(script)
+    {
+    }
+
+    bool correct(const QString &artist, const QString &title) override
+    {
+        m_script->asked.append(QStringLiteral("correct:") + joined(artist, title));
+        QStringList artists;
+        QStringList titles;
+        for (const QString &pair : qAsConst(m_pairs)) {
+            artists.append(pair.section(QLatin1Char('/'), 0, 0));
+            titles.append(pair.section(QLatin1Char('/'), 1));
+        }
+        QMetaObject::invokeMethod(
+            this, [=] { emit finished(artists, titles); }, Qt::QueuedConnection);
+        return !m_pairs.contains(QStringLiteral("refuse"));
+    }
+    bool isBusy() const override { return false; }
+    bool abort() override { return false; }
+    TagCorrector *clone(QObject *parent) const override { return new ScriptedCorrector(m_pairs, m_script, parent); }
+    QString errorString() const override { return {}; }
+
+private:
+    QStringList m_pairs;
+    Script *m_script;
+};
+
+QStringList words(const QString &text, QChar separator = QLatin1Char(' '))
+{
+    return text.isEmpty() ? QStringList() : text.split(separator);
+}
+
+} // namespace
+
+class TestLyricsSearch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void appliesOrders_data();
+    void appliesOrders();
+    void triesSitesAndNamesInOrder_data();
+    void triesSitesAndNamesInOrder();
+    void acceptsEachIdOnce();
+    void refusesBlankNames();
+    void reportsFromTheEventLoopAndCounts();
+    void startsTheNextSearchFromASlot();
+    void ignoresLateAnswers();
+    void keepsConcurrentSearchesApart();
+    void endsQuietlyWhenDestroyed();
+
+private:
+    void makeSites(const QString &names);
+
+    Script m_script;
+    std::unique_ptr<LyricsSearch> m_search;
+};
+
+void TestLyricsSearch::init()
+{
+    m_script = Script();
+    m_search = std::make_unique<LyricsSearch>();
+}
+
+void TestLyricsSearch::makeSites(const QString &names)
+{
+    for (const QString &name : words(names))
+        m_search->addProvider(std::make_unique<ScriptedSite>(name, &m_script));
+}
+
+void TestLyricsSearch::appliesOrders_data()
+{
+    QTest::addColumn<QString>("order");
+    QTest::addColumn<QString>("applied");
+    QTest::newRow("nothing keeps the order") << ""
+                                             << "Freak;;Genius;;Mega";
+    QTest::newRow("the ones not named follow") << "Mega"
+                                               << "Mega;;Freak;;Genius";
+    QTest::newRow("disabled") << "Mega::0;;Genius"
+                              << "Mega::0;;Genius;;Freak";
+    QTest::newRow("duplicates, any case, unknown ones") << "genius;;GENIUS::0;;Foo"
+                                                        << "Genius;;Freak;;Mega";
+    QTest::newRow("a mark needs the exact name") << "genius::0"
+                                                 << "Genius;;Freak;;Mega";
+    QTest::newRow("blank ends") << " Mega ;;\tGenius"
+                                << "Mega;;Genius;;Freak";
+    QTest::newRow("a blank behind the mark") << "Mega::0 "
+                                             << "Mega;;Freak;;Genius";
+    QTest::newRow("another mark makes another name") << "Mega::1"
+                                                     << "Freak;;Genius;;Mega";
+    QTest::newRow("separators only") << ";;;;::0;;"
+                                     << "Freak;;Genius;;Mega";
+}
+
+void TestLyricsSearch::appliesOrders()
+{
+    QFETCH(QString, order);
+    m_search->addProvider(nullptr);
+    makeSites(QStringLiteral("Freak Genius Mega"));
+    m_search->setProvidersOrder(order);
+    QTEST(m_search->providersOrder(), "applied");
+}
+
+void TestLyricsSearch::triesSitesAndNamesInOrder_data()
+{
+    QTest::addColumn<QString>("sites"); // the order to apply
+    QTest::addColumn<QString>(
+        "corrections");                   // per corrector, separated by "|"; "none" is a corrector without an answer
+    QTest::addColumn<QString>("answers"); // "Site:Artist/Title=answer"
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("result"); // artist, title, lyrics, error
+
+    const QString none;
+    QTest::newRow("the first site has it") << "A;;B" << none << "A:a/t=la"
+                                           << "A:a/t"
+                                           << "a|t|la|";
+    QTest::newRow("the second site has it") << "B;;A" << none << "A:a/t=la"
+                                            << "B:a/t A:a/t"
+                                            << "a|t|la|";
+    QTest::newRow("a disabled site is not asked") << "A::0;;B" << none << "A:a/t=la"
+                                                  << "B:a/t"
+                                                  << "a|t||";
+    QTest::newRow("nobody has it") << "A;;B" << none << none << "A:a/t B:a/t"
+                                   << "a|t||";
+    QTest::newRow("the last failure is told") << "A;;B" << none << "A:a/t=!one B:a/t=!two"
+                                              << "A:a/t B:a/t"
+                                              << "a|t||two";
+    QTest::newRow("a failure before a plain miss is told") << "A;;B" << none << "A:a/t=!one"
+                                                           << "A:a/t B:a/t"
+                                                           << "a|t||one";
+    QTest::newRow("a failure before a hit is not") << "A;;B" << none << "A:a/t=!one B:a/t=la"
+                                                   << "A:a/t B:a/t"
+                                                   << "a|t|la|";
+    QTest::newRow("withdrawn lyrics are none") << "A;;B" << none << "A:a/t=x_gracenote_takedown_x B:a/t=la"
+                                               << "A:a/t B:a/t"
+                                               << "a|t|la|";
+    QTest::newRow("corrected names, every site") << "A;;B"
+                                                 << "c/u"
+                                                 << "B:c/u=la"
+                                                 << "A:a/t B:a/t correct:a/t A:c/u B:c/u"
+                                                 << "c|u|la|";
+    QTest::newRow("a second pair goes to the first site, then on")
+        << "A;;B"
+        << "c/u d/v" << none << "A:a/t B:a/t correct:a/t A:c/u B:c/u A:d/v B:d/v"
+        << "a|t||";
+    QTest::newRow("own names, blanks and doubles are left out")
+        << "A;;B"
+        << "a/t /u c/ c/u c/u C/u" << none << "A:a/t B:a/t correct:a/t A:c/u B:c/u A:C/u B:C/u"
+        << "a|t||";
+    QTest::newRow("a corrector without an answer") << "A;;B"
+                                                   << "none" << none << "A:a/t B:a/t correct:a/t"
+                                                   << "a|t||";
+    QTest::newRow("a corrector that refuses") << "A;;B"
+                                              << "refuse" << none << "A:a/t B:a/t correct:a/t"
+                                              << "a|t||";
+    QTest::newRow("two correctors before any of their names") << "A;;B"
+                                                              << "c/u|d/v"
+                                                              << "A:d/v=la"
+                                                              << "A:a/t B:a/t correct:a/t correct:a/t A:c/u B:c/u A:d/v"
+                                                              << "d|v|la|";
+    QTest::newRow("all disabled, one pair: used up untried") << "A::0;;B::0"
+                                                             << "c/u" << none << "correct:a/t"
+                                                             << "a|t||";
+    QTest::newRow("all disabled, the next pairs go to the first site") << "B::0;;A::0"
+                                                                       << "c/u d/v e/w"
+                                                                       << "B:e/w=la"
+                                                                       << "correct:a/t B:d/v B:e/w"
+                                                                       << "e|w|la|";
+    QTest::newRow("all disabled, no corrector") << "A::0;;B::0" << none << none << none << "a|t||";
+    QTest::newRow("the first site disabled, second pair starts with it")
+        << "A::0;;B"
+        << "c/u d/v" << none << "B:a/t correct:a/t B:c/u A:d/v B:d/v"
+        << "a|t||";
+}
+
+void TestLyricsSearch::triesSitesAndNamesInOrder()
+{
+    QFETCH(QString, sites);
+    QFETCH(QString, corrections);
+    QFETCH(QString, answers);
+    QFETCH(QString, asked);
+    makeSites(QStringLiteral("A B"));
+    m_search->setProvidersOrder(sites);
+    for (const QString &answer : words(answers))
+        m_script.answers.insert(answer.section(QLatin1Char('='), 0, 0), answer.section(QLatin1Char('='), 1));
+    for (const QString &pairs : words(corrections, QLatin1Char('|')))
+        m_search->addCorrector(std::make_unique<ScriptedCorrector>(
+            pairs == QLatin1String("none") ? QStringList() : words(pairs), &m_script));
+
+    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+    QVERIFY(m_search->search(7, QStringLiteral("a"), QStringLiteral("t")));
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(m_script.asked, words(asked));
+    QStringList result;
+    for (const QVariant &argument : finished.first().mid(1))
+        result.append(argument.toString());
+    QCOMPARE(finished.first().first().toInt(), 7);
+    QTEST(result.join(QLatin1Char('|')), "result");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY2(m_search->children().isEmpty(), "clones are released");
+}
+
+void TestLyricsSearch::acceptsEachIdOnce()
+{
+    makeSites(QStringLiteral("A"));
+    m_script.answers.insert(QStringLiteral("A:a/t"), QStringLiteral("la"));
+    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+    QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
+    QVERIFY(m_search->isSearching(1));
+    QVERIFY(!m_search->search(1, QStringLiteral("b"), QStringLiteral("t")));
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
+    QVERIFY(!m_search->isSearching(1));
+    QVERIFY(m_search->search(1, QStringLiteral("b"), QStringLiteral("t")));
+}
+
+void TestLyricsSearch::refusesBlankNames()
+{
+    QVERIFY2(m_search->canSearch({}, {}), "there is nobody to refuse");
+    makeSites(QStringLiteral("A"));
+    m_search->setProvidersOrder(QStringLiteral("A::0"));
+    QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
+    QVERIFY2(!m_search->search(1, QStringLiteral("a"), QStringLiteral(" \t")), "a disabled site refuses as well");
+    QCOMPARE(m_search->searchCount(), 0);
+    QVERIFY(counts.isEmpty());
+}
+
+void TestLyricsSearch::reportsFromTheEventLoopAndCounts()
+{
+    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+    QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
+    QVERIFY2(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")), "without any provider");
+    makeSites(QStringLiteral("A B"));
+    m_script.refusing = QStringList{QStringLiteral("A")};
+    m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
+    QVERIFY2(m_search->search(2, QStringLiteral("a"), QStringLiteral("t")), "the first clone refuses");
+    QVERIFY(finished.isEmpty());
+    QTRY_COMPARE(finished.size(), 2);
+    QTest::qWait(0);
+    QCOMPARE(finished.size(), 2);
+    QCOMPARE(finished.at(0).mid(0, 4), (QVariantList{quint16(1), QStringLiteral("a"), QStringLiteral("t"), QString()}));
+    QCOMPARE(finished.at(1).at(3).toString(), QStringLiteral("la"));
+    QCOMPARE(counts, (QList<QVariantList>{{1}, {2}, {1}, {0}}));
+}
+
+void TestLyricsSearch::startsTheNextSearchFromASlot()
+{
+    makeSites(QStringLiteral("A"));
+    QList<int> ids;
+    connect(m_search.get(), &LyricsSearch::searchFinished, this, [&](quint16 id) {
+        ids.append(id);
+        if (ids.size() < 3)
+            QVERIFY2(m_search->search(id, QStringLiteral("a"), QStringLiteral("t")), "the id is free at once");
+    });
+    QVERIFY(m_search->search(9, QStringLiteral("a"), QStringLiteral("t")));
+    QTRY_COMPARE(ids, (QList<int>{9, 9, 9}));
+    QCOMPARE(m_search->searchCount(), 0);
+}
+
+void TestLyricsSearch::ignoresLateAnswers()
+{
+    makeSites(QStringLiteral("A B"));
+    m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
+    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+    QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
+    LyricsProvider *first = m_script.clones.first();
+    emit first->finished(QString());
+    QVERIFY(finished.isEmpty());
+    emit first->finished(QStringLiteral("too late"));
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
+}
+
+void TestLyricsSearch::keepsConcurrentSearchesApart()
+{
+    makeSites(QStringLiteral("A B"));
+    QMap<int, QString> found;
+    connect(m_search.get(), &LyricsSearch::searchFinished, this,
+            [&](quint16 id, const QString &, const QString &, const QString &lyrics) { found.insert(id, lyrics); });
+    for (quint16 id = 0; id < 40; ++id) {
+        const QString title = QString::number(id);
+        m_script.answers.insert((id % 2 ? QStringLiteral("A:a/") : QStringLiteral("B:a/")) + title, title);
+        QVERIFY(m_search->search(id, QStringLiteral("a"), title));
+    }
+    QTRY_COMPARE(found.size(), 40);
+    for (auto result = found.cbegin(); result != found.cend(); ++result)
+        QCOMPARE(result.value(), QString::number(result.key()));
+}
+
+void TestLyricsSearch::endsQuietlyWhenDestroyed()
+{
+    makeSites(QStringLiteral("A"));
+    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+    QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
+    m_search.reset();
+    QCoreApplication::processEvents();
+    QVERIFY(finished.isEmpty());
+    QVERIFY(m_script.clones.first().isNull());
+}
+
+QTEST_GUILESS_MAIN(TestLyricsSearch)
+#include "tst_lyricssearch.moc"
