@@ -6,7 +6,7 @@
 
 namespace {
 
-/// One of the ways to a place of a piece: the best one, going by what it captured.
+// One of the ways to a place of a piece: the best one, going by what it captured.
 struct Route
 {
     int position;
@@ -32,7 +32,7 @@ bool isBetter(const Route &left, const Route &right)
     return false;
 }
 
-/// Leads routes over the gap behind one piece to the places of the next piece, which are asked for in rising order.
+// Leads routes over the gap behind one piece to the places of the next piece, which are asked for in rising order.
 class GapCrossing
 {
 public:
@@ -44,7 +44,7 @@ public:
     {
     }
 
-    /// The best route that reaches \a position; null when none does.
+    // The best route that reaches `position`; null when none does.
     const Route *to(int position)
     {
         while (m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) < position)
@@ -83,11 +83,11 @@ private:
     int m_matchEnd;
     std::size_t m_entered = 0;
     int m_gapEnd = -1;
-    /// The routes within whose gap the place may lie, the best and earliest first.
+    // The routes within whose gap the place may lie, the best and earliest first.
     std::deque<Entry> m_inGap;
 };
 
-/// The places behind \a position from which a match goes on to \a matchEnd.
+// The places behind `position` from which a match goes on to `matchEnd`.
 std::pair<ChainSpots::const_iterator, ChainSpots::const_iterator> placesBehind(const ChainSpots &spots, int position,
                                                                                int matchEnd)
 {

@@ -5,16 +5,16 @@
 
 #include <vector>
 
-/// A place where a piece of a pattern stands, and where the match that goes on from there ends.
+// A place where a piece of a pattern stands, and where the match that goes on from there ends.
 struct ChainSpot
 {
     int position;
     int end;
 };
-/// In the order of their positions, in which their ends rise as well.
+// In the order of their positions, in which their ends rise as well.
 using ChainSpots = std::vector<ChainSpot>;
 
-/// From \a begin up to \a end, which is not part of it.
+// From `begin` up to `end`, which is not part of it.
 struct ChainCapture
 {
     int begin;
@@ -22,8 +22,8 @@ struct ChainCapture
 };
 using ChainCaptures = std::vector<ChainCapture>;
 
-/// What the groups of \a pattern capture in the match that begins at \a start; \a spots holds the places of each piece.
-/// Where several ways through the pieces lead to the same end, the first capture decides, then the second: the one that
-/// begins early, then the one that ends late, and one that holds nothing last of all.
+// What the groups of `pattern` capture in the match that begins at `start`; `spots` holds the places of each piece.
+// Where several ways through the pieces lead to the same end, the first capture decides, then the second: the one that
+// begins early, then the one that ends late, and one that holds nothing last of all.
 [[nodiscard]] ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text,
                                          const std::vector<ChainSpots> &spots, const ChainSpot &start);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Reads the sets of characters that a pattern is made of, one after another.
+// Reads the sets of characters that a pattern is made of, one after another.
 class SetReader
 {
 public:

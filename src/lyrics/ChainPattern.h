@@ -5,26 +5,26 @@
 
 #include <vector>
 
-/// A regular expression of the simple kind that picks something out of a page: a chain of fixed pieces with gaps
-/// between them, such as `<div[^>]*id=["']content["'].*>(.*)</div>`. ChainScan runs it over a page in time that grows
-/// in step with the page, where QRegExp tries the rest of the page anew from every opening tag.
-///
-/// Understood are plain characters, `\` before a special one, `.`, `\s`, `\d`, `[...]` and `[^...]` with plain
-/// characters in them, `*` and `+` behind any of these, and groups that capture one gap. The first and the last
-/// piece are not gaps, and two gaps do not touch. Anything else is a mistake of the programmer and asserts. Meaning,
-/// matches and captures are those of a case-sensitive QRegExp.
+// A regular expression of the simple kind that picks something out of a page: a chain of fixed pieces with gaps
+// between them, such as `<div[^>]*id=["']content["'].*>(.*)</div>`. ChainScan runs it over a page in time that grows
+// in step with the page, where QRegExp tries the rest of the page anew from every opening tag.
+//
+// Understood are plain characters, `\` before a special one, `.`, `\s`, `\d`, `[...]` and `[^...]` with plain
+// characters in them, `*` and `+` behind any of these, and groups that capture one gap. The first and the last
+// piece are not gaps, and two gaps do not touch. Anything else is a mistake of the programmer and asserts. Meaning,
+// matches and captures are those of a case-sensitive QRegExp.
 class ChainPattern
 {
 public:
-    /// Which end is taken of the several that a match may have; where it begins is always the first place that can.
+    // Which end is taken of the several that a match may have; where it begins is always the first place that can.
     enum class Matching {
-        Shortest, ///< QRegExp set to minimal
-        Longest,  ///< QRegExp as it is
+        Shortest, // QRegExp set to minimal
+        Longest,  // QRegExp as it is
     };
 
     explicit ChainPattern(const QString &pattern, Matching matching = Matching::Shortest);
 
-    /// A set of characters, of which one matches.
+    // A set of characters, of which one matches.
     class CharacterSet
     {
     public:
@@ -34,7 +34,7 @@ public:
         static CharacterSet digits() { return CharacterSet(Kind::Digit); }
 
         [[nodiscard]] bool contains(QChar c) const;
-        /// Whether it is one plain character.
+        // Whether it is one plain character.
         [[nodiscard]] bool isSingle() const { return m_kind == Kind::Listed && m_characters.size() == 1; }
         [[nodiscard]] bool isAnyCharacter() const { return m_kind == Kind::Unlisted && m_characters.isEmpty(); }
         [[nodiscard]] const QString &characters() const { return m_characters; }
@@ -50,29 +50,29 @@ public:
         QString m_characters;
     };
 
-    /// A fixed piece and the gap behind it; the gap of the last link is not used.
+    // A fixed piece and the gap behind it; the gap of the last link is not used.
     struct Link
     {
-        /// The plain characters that the piece begins with, possibly none, for a quick search.
+        // The plain characters that the piece begins with, possibly none, for a quick search.
         QString prefix;
-        /// The whole piece, never empty.
+        // The whole piece, never empty.
         std::vector<CharacterSet> piece;
         CharacterSet gap = CharacterSet::anyCharacter();
 
         [[nodiscard]] int length() const { return static_cast<int>(piece.size()); }
-        /// Where the piece stands first from \a from on, -1 when nowhere.
+        // Where the piece stands first from `from` on, -1 when nowhere.
         [[nodiscard]] int indexIn(const QString &text, int from) const;
-        /// Where the gap that begins at \a from ends at the latest, looking no further than \a limit.
+        // Where the gap that begins at `from` ends at the latest, looking no further than `limit`.
         [[nodiscard]] int endOfGap(const QString &text, int from, int limit) const;
     };
 
-    /// One end of a capture: a place inside or at the edge of a piece, counted from where the piece begins.
+    // One end of a capture: a place inside or at the edge of a piece, counted from where the piece begins.
     struct Mark
     {
         std::size_t link = 0;
         int offset = 0;
     };
-    /// Begins in one piece and ends in the next.
+    // Begins in one piece and ends in the next.
     struct Group
     {
         Mark begin;

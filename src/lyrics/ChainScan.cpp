@@ -28,7 +28,7 @@ ChainSpots ChainScan::placesOf(std::size_t link) const
     return spots;
 }
 
-/// Drops the places from which no place of the next piece can be reached, and sets the end of the others.
+// Drops the places from which no place of the next piece can be reached, and sets the end of the others.
 void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
 {
     const ChainPattern::Link &piece = m_pattern.links()[link];

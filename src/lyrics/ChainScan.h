@@ -9,29 +9,29 @@
 #include <optional>
 #include <vector>
 
-/// One match of a ChainPattern: positions and lengths in UTF-16 units of the text.
+// One match of a ChainPattern: positions and lengths in UTF-16 units of the text.
 struct ChainMatch
 {
     int position = 0;
     int length = 0;
-    /// What the groups captured, in their order.
+    // What the groups captured, in their order.
     QStringList captures;
 
     [[nodiscard]] int end() const { return position + length; }
 };
 
-/// All matches of one pattern in one text. The work is done once, at construction, in time that grows in step with the
-/// text times the pieces of the pattern; asking for the next match is cheap.
-///
-/// It goes from the last piece back to the first and keeps, for each place where a piece stands, where a match that
-/// goes on from there ends, if it does. Since later places never end earlier, one look at the next piece's places
-/// suffices.
+// All matches of one pattern in one text. The work is done once, at construction, in time that grows in step with the
+// text times the pieces of the pattern; asking for the next match is cheap.
+//
+// It goes from the last piece back to the first and keeps, for each place where a piece stands, where a match that
+// goes on from there ends, if it does. Since later places never end earlier, one look at the next piece's places
+// suffices.
 class ChainScan
 {
 public:
     ChainScan(ChainPattern pattern, QString text);
 
-    /// The first match that begins at \a from or behind it.
+    // The first match that begins at `from` or behind it.
     [[nodiscard]] std::optional<ChainMatch> next(int from = 0) const;
 
 private:
@@ -40,9 +40,9 @@ private:
 
     ChainPattern m_pattern;
     QString m_text;
-    /// For each piece, where it stands and the rest of the pattern can be matched from there.
+    // For each piece, where it stands and the rest of the pattern can be matched from there.
     std::vector<ChainSpots> m_spots;
 };
 
-/// The first capture of the first match.
+// The first capture of the first match.
 [[nodiscard]] std::optional<QString> firstCapture(const ChainPattern &pattern, const QString &text);

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Only these two; 302 and 303 are read as pages, deliberately.
+// Only these two; 302 and 303 are read as pages, deliberately.
 bool isFollowedRedirect(const QNetworkReply &reply)
 {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -110,8 +110,10 @@ void LyricsProvider::follow(const QNetworkReply &reply)
 {
     const QUrl target = redirectTarget(reply.request().url(), reply.rawHeader("Location"));
     if (target.isEmpty())
+        //: %1 is the name of a lyrics site.
         finish(QString(), tr("%1 redirects to something that is not a web page.").arg(name()));
     else if (++m_redirects > maximumRedirects)
+        //: %1 is the name of a lyrics site.
         finish(QString(), tr("%1 redirects too often.").arg(name()));
     else
         send(redirectedRequest(target));
@@ -124,7 +126,7 @@ void LyricsProvider::readPage(QNetworkReply &reply)
     carryOut(read(page));
 }
 
-/// Every result leaves here, whichever site it comes from: this is the place to look at it as a whole.
+// Every result leaves here, whichever site it comes from: this is the place to look at it as a whole.
 void LyricsProvider::finish(const QString &lyrics, const QString &errorString)
 {
     m_readPage = {};

@@ -40,7 +40,7 @@ QStringList withoutDuplicates(const QStringList &items)
     return unique;
 }
 
-/// A site's placeholder for lyrics that were withdrawn counts as no lyrics.
+// A site's placeholder for lyrics that were withdrawn counts as no lyrics.
 bool isFound(const QString &lyrics)
 {
     return !lyrics.isEmpty() && !lyrics.contains(QLatin1String("gracenote_takedown"));
@@ -100,7 +100,7 @@ void LyricsSearch::setProvidersOrder(const QString &order)
     m_providers = std::move(ordered);
 }
 
-/// Leaves a gap in the list.
+// Leaves a gap in the list.
 std::unique_ptr<LyricsProvider> LyricsSearch::takeProvider(const QString &name)
 {
     const auto found = std::find_if(m_providers.begin(), m_providers.end(), [key = folded(name)](const auto &provider) {
@@ -136,7 +136,7 @@ int LyricsSearch::nextEnabledProvider(int index) const
     return index;
 }
 
-/// Goes on with the next provider, with corrected names, or to the end.
+// Goes on with the next provider, with corrected names, or to the end.
 void LyricsSearch::tryNext(quint16 id, Search &search)
 {
     const auto providerCount = static_cast<int>(m_providers.size());
@@ -231,7 +231,7 @@ void LyricsSearch::finishNotFound(quint16 id)
     finish(id, search.names, {}, search.lastError);
 }
 
-/// What it is given must not belong to the search, which ends here before anybody is told.
+// What it is given must not belong to the search, which ends here before anybody is told.
 void LyricsSearch::finish(quint16 id, const Names &names, const QString &lyrics, const QString &errorString)
 {
     m_searches.erase(id);

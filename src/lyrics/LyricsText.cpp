@@ -30,7 +30,7 @@ bool isDecimalDigit(QChar c)
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-/// The code point that "x41" or "65" stands for, -1 when it is none of the references we decode.
+// The code point that "x41" or "65" stands for, -1 when it is none of the references we decode.
 int codePointOf(QStringView digits)
 {
     const bool hex = digits.startsWith(QLatin1Char('x'));
@@ -52,7 +52,7 @@ void appendCodePoint(QString &text, int codePoint)
         text.append(QChar(static_cast<ushort>(ucs4)));
 }
 
-/// Replaces the reference that a ";" behind the text would complete, if there is one, and tells its code point.
+// Replaces the reference that a ";" behind the text would complete, if there is one, and tells its code point.
 int takeReferenceAtEnd(QString &text)
 {
     const QStringView tail = QStringView(text).right(std::min(text.size(), longestReference));
@@ -96,8 +96,8 @@ QString withoutComments(QString html)
     return html;
 }
 
-/// The position behind a break tag that starts at \a position and behind one newline after it; -1 when none starts
-/// there.
+// The position behind a break tag that starts at `position` and behind one newline after it; -1 when none starts
+// there.
 int endOfBreak(const QString &html, int position)
 {
     int i = position + 3;

@@ -4,24 +4,24 @@
 #include <QByteArray>
 #include <QString>
 
-/// What turns pages and fragments of HTML into lyrics. Pure functions, safe in every thread; their time grows in step
-/// with the length of the text, whatever it holds.
+// What turns pages and fragments of HTML into lyrics. Pure functions, safe in every thread; their time grows in step
+// with the length of the text, whatever it holds.
 
-/// Undoes percent-encoding where it is well formed: "%" and two hexadecimal digits. Any other "%" stays.
+// Undoes percent-encoding where it is well formed: "%" and two hexadecimal digits. Any other "%" stays.
 [[nodiscard]] QByteArray decodePercentEscapes(const QByteArray &bytes);
 
-/// Decodes numeric references of two to six decimal or two to five hexadecimal digits, then "&amp;", "&gt;", "&lt;",
-/// "&quot;", "&#39;" and "&#039;", in this order. A reference that comes into being through a decoded one is decoded as
-/// well, but after "&amp;" only the named ones: "&amp;lt;" gives "<" and "&amp;#8217;" gives "&#8217;".
-/// The result may hold what the text asked for: NUL, or half a surrogate pair; see withoutBrokenCharacters().
+// Decodes numeric references of two to six decimal or two to five hexadecimal digits, then "&amp;", "&gt;", "&lt;",
+// "&quot;", "&#39;" and "&#039;", in this order. A reference that comes into being through a decoded one is decoded as
+// well, but after "&amp;" only the named ones: "&amp;lt;" gives "<" and "&amp;#8217;" gives "&#8217;".
+// The result may hold what the text asked for: NUL, or half a surrogate pair; see withoutBrokenCharacters().
 [[nodiscard]] QString decodeHtmlEntities(const QString &text);
 
-/// Removes everything from a "<" that is not directly followed by ">" up to the next ">".
+// Removes everything from a "<" that is not directly followed by ">" up to the next ">".
 [[nodiscard]] QString stripTags(const QString &html);
 
-/// The plain text of a fragment of HTML: comments go (from the first opening to the last closing mark), lower-case
-/// break tags become newlines, tags go, blank space at both ends goes, entities are decoded.
+// The plain text of a fragment of HTML: comments go (from the first opening to the last closing mark), lower-case
+// break tags become newlines, tags go, blank space at both ends goes, entities are decoded.
 [[nodiscard]] QString cleanLyrics(const QString &html);
 
-/// The text without NUL, and with U+FFFD for each half of a surrogate pair that stands alone: what no tag can hold.
+// The text without NUL, and with U+FFFD for each half of a surrogate pair that stands alone: what no tag can hold.
 [[nodiscard]] QString withoutBrokenCharacters(const QString &text);

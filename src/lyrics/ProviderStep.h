@@ -7,29 +7,29 @@
 
 #include <functional>
 
-/// A page as a site client reads it: the decoded text, up to the first NUL, and the address it came from, behind all
-/// redirects and with the fragment that was asked for.
+// A page as a site client reads it: the decoded text, up to the first NUL, and the address it came from, behind all
+// redirects and with the fragment that was asked for.
 struct Page
 {
     QString text;
     QUrl url;
 };
 
-/// What a site client makes of a page: ask for another one, these are the lyrics, nothing here, or a failure.
-/// LyricsProvider carries it out.
+// What a site client makes of a page: ask for another one, these are the lyrics, nothing here, or a failure.
+// LyricsProvider carries it out.
 class ProviderStep
 {
 public:
     enum class Kind { Ask, Result };
     using PageFunction = std::function<ProviderStep(const Page &)>;
 
-    /// Get \a request, and let \a read say what comes after. The function must not outlive the client.
+    // Get `request`, and let `read` say what comes after. The function must not outlive the client.
     static ProviderStep ask(const QNetworkRequest &request, PageFunction read);
-    /// Ends the search; an empty text means that nothing was found.
+    // Ends the search; an empty text means that nothing was found.
     static ProviderStep lyrics(const QString &text);
-    /// Ends the search: the site does not have the song.
+    // Ends the search: the site does not have the song.
     static ProviderStep nothing() { return lyrics({}); }
-    /// Ends the search for a reason that people are told.
+    // Ends the search for a reason that people are told.
     static ProviderStep failure(const QString &reason);
 
     [[nodiscard]] Kind kind() const { return m_read ? Kind::Ask : Kind::Result; }

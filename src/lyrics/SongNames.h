@@ -3,18 +3,18 @@
 
 #include <QString>
 
-/// How the names of songs are put into queries and compared with what a site answers.
+// How the names of songs are put into queries and compared with what a site answers.
 
-/// The artist as sites list it: the first of several names joined by two backslashes, without a guest that is announced
-/// by " ft. ", " feat. " or " featuring ", trimmed.
+// The artist as sites list it: the first of several names joined by two backslashes, without a guest that is announced
+// by " ft. ", " feat. " or " featuring ", trimmed.
 [[nodiscard]] QString normalisedArtist(const QString &artist);
 
-/// The title without a guest (as above), then without " (official)" and " (Extended Video)" at its end, trimmed.
+// The title without a guest (as above), then without " (official)" and " (Extended Video)" at its end, trimmed.
 [[nodiscard]] QString normalisedTitle(const QString &title);
 
-/// Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
-/// spaces, commas and ampersands. A name of which nothing is left resembles every other.
+// Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
+// spaces, commas and ampersands. A name of which nothing is left resembles every other.
 [[nodiscard]] bool looselyAgree(const QString &left, const QString &right);
 
-/// A name, or names, as the value of a query: percent-encoded wholly, so that "+", "&", "#" and "%" arrive as they are.
+// A name, or names, as the value of a query: percent-encoded wholly, so that "+", "&", "#" and "%" arrive as they are.
 [[nodiscard]] QString queryValue(const QString &name);

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Small texts put together from the given pieces, the same in every run.
+// Small texts put together from the given pieces, the same in every run.
 class RandomText
 {
 public:

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Menus, tag clouds and adverts, as much as surrounds the rows of a real page.
+// Menus, tag clouds and adverts, as much as surrounds the rows of a real page.
 QString furniture()
 {
     QString html;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Gets one page and takes it whole.
+// Gets one page and takes it whole.
 class PageSite : public LyricsProvider
 {
 public:

@@ -10,12 +10,12 @@
 
 namespace {
 
-/// What the scripted sites and correctors answer, and what they were asked. Names are written "Artist/Title".
+// What the scripted sites and correctors answer, and what they were asked. Names are written "Artist/Title".
 struct Script
 {
-    /// By "Site:Artist/Title"; "!reason" is a failure. Anything else is not found.
+    // By "Site:Artist/Title"; "!reason" is a failure. Anything else is not found.
     QMap<QString, QString> answers;
-    /// Sites whose clones refuse every search.
+    // Sites whose clones refuse every search.
     QStringList refusing;
     QStringList asked;
     QList<QPointer<LyricsProvider>> clones;
@@ -65,7 +65,7 @@ private:
     Script *m_script;
 };
 
-/// Answers a fixed list of pairs; refuses when there is no list.
+// Answers a fixed list of pairs; refuses when there is no list.
 class ScriptedCorrector : public TagCorrector
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The same steps with the expressions that define them, however long they take.
+// The same steps with the expressions that define them, however long they take.
 namespace plain {
 
 QString decodeHtmlEntities(QString text)

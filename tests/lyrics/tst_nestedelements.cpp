@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Counts anew from the given place.
+// Counts anew from the given place.
 int countedClosingTag(const QString &html, int openingTag)
 {
     QRegExp tag(QStringLiteral("</?div"));
@@ -27,31 +27,8 @@ class TestNestedElements : public QObject
     Q_OBJECT
 
 private slots:
-    void findsTheEnd_data();
-    void findsTheEnd();
     void countsLikeThePlainExpression();
 };
-
-void TestNestedElements::findsTheEnd_data()
-{
-    QTest::addColumn<QString>("html");
-    QTest::addColumn<QString>("element"); // from its opening tag to its closing tag
-    QTest::newRow("nested") << "<div>a<div>b</div>c</div></div>"
-                            << "<div>a<div>b</div>c";
-    QTest::newRow("a longer name counts as well") << "<div><divider>a</div>b</div>"
-                                                  << "<div><divider>a</div>b";
-    QTest::newRow("other elements and other case do not") << "<div><span></DIV></span></div>"
-                                                          << "<div><span></DIV></span>";
-    QTest::newRow("never closed") << "<div><div></div>"
-                                  << "";
-}
-
-void TestNestedElements::findsTheEnd()
-{
-    QFETCH(QString, html);
-    const int end = NestedElements(html, QStringLiteral("div")).closingTag(0);
-    QTEST(html.left(qMax(0, end)), "element");
-}
 
 void TestNestedElements::countsLikeThePlainExpression()
 {

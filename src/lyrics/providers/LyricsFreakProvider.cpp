@@ -23,7 +23,7 @@ QString trimmedName(const QString &encoded)
     return decodeHtmlEntities(encoded).trimmed();
 }
 
-/// The song that the opening tag of a row names; empty when it names none.
+// The song that the opening tag of a row names; empty when it names none.
 QString songOfRow(const QString &openingTag)
 {
     static const ChainPattern song(QStringLiteral("data-sorting-song=\"([^\"]*)\""), Matching::Longest);

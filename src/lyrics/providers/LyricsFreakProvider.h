@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// LyricsFreak: its song search for the title, then the page of the first song in the answer whose artist and title
-/// both resemble the wanted ones.
+// LyricsFreak: its song search for the title, then the page of the first song in the answer whose artist and title
+// both resemble the wanted ones.
 class LyricsFreakProvider final : public LyricsProvider
 {
     Q_OBJECT
@@ -18,11 +18,11 @@ public:
     [[nodiscard]] QString siteUrl() const override;
     [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
 
-    /// The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
-    /// nothing when there is none.
+    // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
+    // nothing when there is none.
     [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist,
                                                          const QString &title);
-    /// The lyrics of a song's page; empty when there are none.
+    // The lyrics of a song's page; empty when there are none.
     [[nodiscard]] static QString lyricsOfPage(const QString &songPage);
 
 protected:

@@ -7,6 +7,6 @@
 class LyricsProvider;
 class QNetworkAccessManager;
 
-/// A client for each lyrics site, in the order in which the sites are tried unless the user wants another. The manager
-/// is not owned and must outlive the clients.
+// A client for each lyrics site, in the order in which the sites are tried unless the user wants another. The manager
+// is not owned and must outlive the clients.
 [[nodiscard]] std::vector<std::unique_ptr<LyricsProvider>> makeProviders(QNetworkAccessManager *networkManager);
