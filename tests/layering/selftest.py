@@ -1,0 +1,81 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Shows check-layering.py small trees that break one rule each, and some that break none."""
+import importlib.util
+import pathlib
+import tempfile
+import unittest
+
+HERE = pathlib.Path(__file__).resolve().parent
+SPEC = importlib.util.spec_from_file_location("check_layering", HERE / "check-layering.py")
+LAYERING = importlib.util.module_from_spec(SPEC)
+SPEC.loader.exec_module(LAYERING)
+
+QT_HEADERS = ["QtCore/QString", "QtNetwork/QNetworkReply", "QtGui/QImage", "QtWidgets/QWidget", "QtQml/QJSEngine",
+              "QtQuick/QQuickItem"]
+HEADERS = {f"src/{room}/X.h": "" for room in ("network", "tags", "lyrics", "lyrics/providers", "model", "ui", "app")}
+
+# Sentence, file, its text, what the report must hold ("" when the tree is in order).
+ROWS = [
+    ("a lower floor in quotes is fine", "src/model/A.cpp", '#include "lyrics/X.h"\n#include <QImage>\n#include <memory>', ""),
+    ("a Qt module of a room that may be included comes along", "src/model/A.cpp", "#include <QNetworkReply>", ""),
+    ("a nested room may include the room around it", "src/lyrics/providers/A.cpp", '#include "lyrics/X.h"', ""),
+    ("the generated moc file of the file itself is fine", "src/app/A.cpp", '#include "A.moc"', ""),
+    ("an include in a block comment counts for nothing", "src/tags/A.cpp", '/*\n#include "app/X.h"\n*/', ""),
+    ("a higher floor", "src/lyrics/A.cpp", '\n#include "model/X.h"', "src/lyrics/A.cpp:2: lyrics (floor 1) may not include model"),
+    ("the room inside one's own", "src/lyrics/A.cpp", '#include "lyrics/providers/X.h"', "it stands above"),
+    ("a neighbour that the row does not name", "src/tags/A.h", '#include "network/X.h"', "its row does not name it"),
+    ("two rooms that include each other", "src/network/X.h", '#include "lyrics/X.h"', "include each other"),
+    ("an include relative to the folder", "src/tags/A.cpp", '#include "X.h"', "not a path written from src/"),
+    ("a path that climbs", "src/tags/A.cpp", '#include "lyrics/../tags/X.h"', "not a path written from src/"),
+    ("a file of ours in angle brackets", "src/tags/A.cpp", "#include <tags/X.h>", "write it in quotes"),
+    ("TagLib in a header", "src/tags/A.h", "#include <taglib/tag.h>", "in .cpp files only"),
+    ("TagLib in a source of tags is fine", "src/tags/A.cpp", "#include <taglib/tag.h>", ""),
+    ("TagLib does not come along to other rooms", "src/model/A.cpp", "#include <taglib/tag.h>", "model may not use TagLib"),
+    ("OpenSSL where updates are not", "src/network/A.cpp", "#include <openssl/evp.h>", "network may not use OpenSSL"),
+    ("a Qt module that the row does not name", "src/lyrics/A.cpp", "#include <QWidget>", "lyrics may not use QtWidgets"),
+    ("a Qt header with its module", "src/tags/A.cpp", "#include <QtNetwork/QNetworkReply>", "tags may not use QtNetwork"),
+    ("a library that nobody named", "src/network/A.cpp", "#include <curl/curl.h>", "nothing that floors.toml names"),
+    ("a folder that is no room", "src/utils/A.h", "", "this folder is no room"),
+    ("a file beside the rooms", "src/A.cpp", "", "this folder is no room"),
+    ("a link to a higher floor", "src/lyrics/CMakeLists.txt", "versewell_add_library(lyrics\n    SOURCES A.cpp\n    LINK versewell_model)",
+     "src/lyrics/CMakeLists.txt:3: lyrics may not link model"),
+    ("a library linked privately", "src/lyrics/CMakeLists.txt", "versewell_add_library(lyrics PRIVATE_LINK PkgConfig::TAGLIB)",
+     "lyrics may not link TagLib"),
+    ("a link added behind the back of the list", "src/tags/CMakeLists.txt", "target_link_libraries(versewell_tags PUBLIC Qt5::Widgets)",
+     "tags may not link QtWidgets"),
+    ("a link list within its row is fine", "src/lyrics/providers/CMakeLists.txt",
+     "versewell_add_library(lyrics/providers SOURCES Qt5::Quick.cpp LINK Qt5::Network versewell_lyrics # versewell_app\n)", ""),
+    ("a library with another folder's name", "src/tags/CMakeLists.txt", "versewell_add_library(lyrics SOURCES A.cpp)", "is called tags"),
+    ("an unknown target", "src/tags/CMakeLists.txt", "versewell_add_library(tags LINK curl)", "curl is nothing"),
+    ("scene imports within the list are fine", "src/qml/A.qml", 'import QtQuick 2.15\nimport "img"\nimport com.quillmarsh 1.0', ""),
+    ("a scene import without a package", "src/qml/A.qml", "import QtQuick.Dialogs 1.3", "may not import QtQuick.Dialogs"),
+    ("a scene import out of the scene", "src/qml/A.qml", 'import "../model"', "leads out of the scene"),
+    ("a scene document in another room", "src/model/A.qml", "import QtQuick 2.15", "do not belong in model"),
+]
+
+
+def write(root, relative, text):
+    path = root / relative
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_text(text, encoding="utf-8")
+
+
+class LayeringTest(unittest.TestCase):
+    def test_rows(self):
+        for sentence, name, text, expected in ROWS:
+            with self.subTest(sentence), tempfile.TemporaryDirectory() as folder:
+                root = pathlib.Path(folder)
+                for header in QT_HEADERS:
+                    write(root / "qt", header, "")
+                for header, content in {**HEADERS, "src/lyrics/X.h": '#include "network/X.h"', name: text}.items():
+                    write(root, header, content)
+                report = "\n".join(LAYERING.offences(root, [root / "qt"]))
+                if expected:
+                    self.assertIn(expected, report)
+                else:
+                    self.assertEqual(report, "")
+
+
+if __name__ == "__main__":
+    unittest.main()
