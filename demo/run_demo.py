@@ -1,0 +1,119 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Runs the program on a dozen generated songs and lyrics sites of its own, and shows what it wrote into the tags.
+
+On a display the window stays until it is closed. Without one it runs on a virtual screen until every song is done,
+and a picture of that screen is saved. The user's own settings and songs are not touched.
+"""
+import argparse
+import contextlib
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+
+import songs
+import stage
+import tags
+from catalogue import LYRICS
+from sites import LyricsFreakSite, Sites
+
+TOP = pathlib.Path(__file__).resolve().parent.parent
+TIME_LIMIT_SECONDS = 90
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog="script/run --demo", description=__doc__)
+    parser.add_argument("--program", type=pathlib.Path, default=TOP / "build/release/bin/versewell")
+    parser.add_argument("--keep", metavar="DIR", type=pathlib.Path, help="make the songs in DIR and leave them there")
+    parser.add_argument("--screenshot", metavar="FILE", type=pathlib.Path, default=TOP / "build/demo.png")
+    return parser.parse_args()
+
+
+def same_words(found, expected):
+    return found is not None and found.replace("\r\n", "\n").strip() == expected
+
+
+def run_on_virtual_screen(program, screen, sites, paths, picture):
+    """Waits until every song is done, takes the picture and ends the program; True when all went well."""
+    expected = [(path, song.expected) for path, song in zip(paths, songs.SONGS) if song.expected]
+    asked = {song.title for song in songs.SONGS if song.is_audio and not song.own_lyrics}
+
+    def ended():
+        return program.poll() is not None
+
+    def done():
+        heard = {request.query.get("q") for request in sites.requests()}
+        return asked <= heard and not sites.open_requests() and all(
+            same_words(tags.lyrics_of(path), words) for path, words in expected)
+
+    finished = stage.wait_until(lambda: ended() or done(), TIME_LIMIT_SECONDS) and not ended()
+    if ended():
+        print(f"The program ended by itself with status {program.returncode}.")
+        return False
+    # The last row's state is painted a moment after its tag was written.
+    with contextlib.suppress(subprocess.TimeoutExpired):
+        program.wait(1)
+    picture.parent.mkdir(parents=True, exist_ok=True)
+    screen.photograph(picture)
+    print(f"Picture of the screen: {picture}")
+    if not finished:
+        print(f"Not every song was done within {TIME_LIMIT_SECONDS} seconds.")
+    status = stage.end(program)
+    if status != 0:
+        print(f"The program was asked to end and ended with status {status}.")
+    return finished and status == 0
+
+
+def verdict(song, found):
+    if not song.expected:
+        return "nothing to find" if found is None else "UNEXPECTED LYRICS"
+    if found is None:
+        return "NO LYRICS"
+    if not same_words(found, song.expected):
+        return "OTHER WORDS"
+    return "its own lyrics kept" if song.own_lyrics else "lyrics written"
+
+
+def report(paths):
+    print(f"\n{'file':36} {'another reader finds':21} first line")
+    for path, song in zip(paths, songs.SONGS):
+        found = tags.lyrics_of(path)
+        first = found.strip().splitlines()[0] if found else ""
+        print(f"{song.name:36} {verdict(song, found):21} {first}")
+
+
+def main():
+    options = arguments()
+    if not options.program.is_file():
+        sys.exit(f"{options.program} does not exist; build it first.")
+    # A request to end unwinds like any other way out, so that nothing is left behind.
+    for number in (signal.SIGTERM, signal.SIGHUP):
+        signal.signal(number, lambda *_: sys.exit(1))
+
+    with contextlib.ExitStack() as stack:
+        virtual = not (os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY"))
+        screen = stack.enter_context(stage.Screen()) if virtual else None
+        sites = stack.enter_context(Sites(LyricsFreakSite(LYRICS)))
+        place = stack.enter_context(stage.Stage(options.program, screen.display if screen else None))
+        print("Making the songs...", flush=True)
+        paths = songs.make_songs((options.keep or place.home / "Music").resolve())
+        place.write_settings(paths, sites.endpoints())
+        program = place.start()
+        if screen:
+            good = run_on_virtual_screen(program, screen, sites, paths, options.screenshot)
+        else:
+            print("Close the window to see what stands in the files.", flush=True)
+            good = program.wait() == 0
+        report(paths)
+        if options.keep:
+            print(f"\nThe songs stay in {options.keep.resolve()}")
+    return 0 if good else 1
+
+
+if __name__ == "__main__":
+    try:
+        sys.exit(main())
+    except KeyboardInterrupt:
+        sys.exit(130)

@@ -1,0 +1,119 @@
+# SPDX-License-Identifier: MIT
+"""A place to run the program in: folders and settings of its own, and a virtual screen when it needs one."""
+import contextlib
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+VARIABLES = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
+
+
+def wait_until(condition, seconds, step=0.1):
+    """Waits until the condition holds; tells whether it did within the time."""
+    end = time.monotonic() + seconds
+    while not condition():
+        if time.monotonic() > end:
+            return False
+        time.sleep(step)
+    return True
+
+
+class Screen:
+    """A virtual screen with a free number, for as long as the `with` block lasts; `display` is its name."""
+
+    def __init__(self, size="1280x800x24"):
+        self.size = size
+
+    def __enter__(self):
+        read_end, write_end = os.pipe()
+        self.process = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.size, "-nolisten", "tcp", "-noreset"],
+            pass_fds=[write_end], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            self.__exit__()
+            raise RuntimeError("Xvfb did not start")
+        self.display = f":{number}"
+        return self
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        try:
+            self.process.wait(10)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            self.process.wait()
+
+    def photograph(self, path):
+        """Saves what the screen shows as a picture."""
+        subprocess.run(["import", "-display", self.display, "-window", "root", str(path)], check=True)
+
+
+class Stage:
+    """A private home with the program's settings, removed in the end."""
+
+    def __init__(self, program, display=None):
+        self.program = pathlib.Path(program)
+        self.display = display
+        self.home = pathlib.Path(tempfile.mkdtemp(prefix="versewell-"))
+        self.running = []
+        for variable in VARIABLES:
+            (self.home / variable.lower()).mkdir(mode=0o700)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        for process in self.running:
+            if process.poll() is None:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.home, ignore_errors=True)
+
+    @property
+    def settings_path(self):
+        return self.home / "xdg_config_home" / "Quillmarsh" / "Versewell.conf"
+
+    def write_settings(self, files=(), endpoints=None, **general):
+        """Writes the settings file: `files` (paths, or urls as text) is the list that the program restores."""
+        urls = [path if isinstance(path, str) else path.as_uri() for path in files]
+        # The welcome page of a first start is none of the business here.
+        values = {"openQuillmarshSite": "false", **general}
+        if urls:
+            values.update(saveFilesList="true", filesList=", ".join(f'"{url}"' for url in urls))
+        lines = ["[General]", *(f"{name}={value}" for name, value in values.items())]
+        lines += ["", "[endpoints]", *(f"{name}={url}" for name, url in (endpoints or {}).items())]
+        self.settings_path.parent.mkdir(parents=True, exist_ok=True)
+        self.settings_path.write_text("\n".join(lines) + "\n", encoding="ascii")
+
+    def environment(self, **extra):
+        variables = {name: value for name, value in os.environ.items() if name != "QMLSCENE_DEVICE"}
+        variables.update({variable: str(self.home / variable.lower()) for variable in VARIABLES}, HOME=str(self.home))
+        if self.display:
+            for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XAUTHORITY"):
+                variables.pop(name, None)
+            variables["DISPLAY"] = self.display
+        return {**variables, **extra}
+
+    def start(self, *prefix, log=None, **extra):
+        """Starts the program, `prefix` in front of it; its messages go to the file `log`, or where ours go."""
+        with open(log, "ab") if log else contextlib.nullcontext() as sink:
+            process = subprocess.Popen([*prefix, str(self.program)], env=self.environment(**extra),
+                                       stdin=subprocess.DEVNULL, stdout=sink, stderr=sink)
+        self.running.append(process)
+        return process
+
+
+def end(process, seconds=60):
+    """Asks a program to end in order; its exit status, None when it did not within the time."""
+    process.send_signal(signal.SIGTERM)
+    try:
+        return process.wait(seconds)
+    except subprocess.TimeoutExpired:
+        return None
