@@ -1,0 +1,141 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""One program at a time, and every way to end it."""
+import pathlib
+import threading
+import time
+import unittest
+
+import rig
+
+STARTED_SECONDS = 30
+
+
+class PatientSite(rig.LyricsFreakSite):
+    """Holds every page with lyrics back until `released` is set."""
+
+    def __init__(self, lyrics):
+        super().__init__(lyrics)
+        self.released = threading.Event()
+        self.held = 0
+
+    def lyrics_page(self, names, words):
+        self.held += 1
+        self.released.wait(rig.TIME_LIMIT_SECONDS)
+        return super().lyrics_page(names, words)
+
+
+class InstanceTest(unittest.TestCase):
+    def session(self, titles, site=PatientSite):
+        return self.enterContext(rig.Session({title: rig.words_for(title) for title in titles}, site))
+
+    def songs_for(self, session, titles):
+        songs = rig.Songs(session.music)
+        return [songs.make(f"{title}.mp3", {"artist": rig.ARTIST, "title": title}) for title in titles]
+
+    def wait_until(self, condition, what, session):
+        self.assertTrue(rig.wait_until(condition, STARTED_SECONDS), what + session.messages())
+
+    def test_a_second_start_ends_with_1_and_the_first_goes_on(self):
+        session = self.session(["Amber Gate"])
+        paths = self.songs_for(session, ["Amber Gate"])
+        first = session.start(paths)
+        self.wait_until(lambda: session.site.held == 1, "the first program never asked for the song", session)
+        asked = len(session.sites.requests())
+        second = session.start()
+        self.assertEqual(second.wait(STARTED_SECONDS), 1, session.messages())
+        self.assertEqual(len(session.sites.requests()), asked, "the second program asked a site")
+        session.site.released.set()
+        self.assertEqual(session.wait_for_lyrics(first, paths), [], session.messages())
+        self.assertEqual(rig.end(first), 0, session.messages())
+
+    def test_a_lock_left_by_a_killed_program_does_not_block(self):
+        session = self.session(["Birch Road"])
+        paths = self.songs_for(session, ["Birch Road"])
+        first = session.start(paths)
+        self.wait_until(lambda: session.site.held == 1, "the first program never asked for the song", session)
+        left = {path.name for path in session.stage.settings_path.parent.iterdir()}
+        self.assertGreater(len(left - {session.stage.settings_path.name}), 0, "no lock file lies beside the settings")
+        first.kill()
+        first.wait()
+        session.site.released.set()
+        second = session.start()
+        self.assertEqual(session.wait_for_lyrics(second, paths), [], session.messages())
+        self.assertEqual(rig.end(second), 0, session.messages())
+
+    def test_writes_that_wait_are_done_before_it_ends(self):
+        # As many songs as one host gets connections, so that all answers arrive at once; large ones, so that the
+        # writes take a while.
+        titles = ["Copper Rain", "Drift Wood", "Ember Hill", "Fern Lane", "Granite Sky", "Hazel Moon"]
+        session = self.session(titles)
+        paths = self.songs_for(session, titles)
+        for path in paths:
+            enlarge(path, 40_000_000)
+        sizes = {path: path.stat().st_size for path in paths}
+        program = session.start(paths)
+        self.wait_until(lambda: session.site.held == len(titles), "not all songs were asked for", session)
+        session.site.released.set()
+        self.wait_until(lambda: any(path.stat().st_size != sizes[path] for path in paths) or has_part(session.music),
+                        "no song was written", session)
+        self.assertEqual(rig.end(program), 0, session.messages())
+        self.assertEqual({path.name: rig.has_lyrics(path) for path in paths}, {path.name: True for path in paths})
+        self.assertEqual({path.name for path in session.music.iterdir()}, {path.name for path in paths})
+
+    def test_it_ends_in_order_while_a_site_keeps_it_waiting(self):
+        session = self.session(["Iron Lake"])
+        paths = self.songs_for(session, ["Iron Lake"])
+        before = rig.digest(paths[0])
+        program = session.start(paths)
+        self.wait_until(lambda: session.site.held == 1, "the song was never asked for", session)
+        start = time.monotonic()
+        self.assertEqual(rig.end(program, 20), 0, "it did not end within 20 seconds" + session.messages())
+        self.assertLess(time.monotonic() - start, 20)
+        self.assertEqual(rig.digest(paths[0]), before)
+
+    def test_the_list_comes_back_at_the_next_start(self):
+        titles = ["Juniper Wall", "Kestrel Field"]
+        session = self.session(titles)
+        session.site.released.set()
+        paths = self.songs_for(session, titles)
+        first = session.start(paths)
+        self.assertEqual(session.wait_for_lyrics(first, paths), [], session.messages())
+        self.assertEqual(rig.end(first), 0, session.messages())
+        late = rig.Songs(session.music).make(paths[0].name, {"artist": rig.ARTIST, "title": titles[0]})
+        second = session.start()
+        self.assertEqual(session.wait_for_lyrics(second, [late]), [], "the list was not restored" + session.messages())
+        self.assertEqual(rig.end(second), 0, session.messages())
+
+    def test_a_blank_line_goes_in_front_where_the_settings_say_so(self):
+        session = self.session(["Linen Clouds"])
+        session.site.released.set()
+        path = rig.Songs(session.music).make("clouds.flac", {"artist": rig.ARTIST, "title": "Linen Clouds"})
+        program = session.start([path], settings={"prependNewLine": "true"})
+        self.assertEqual(session.wait_for_lyrics(program, [path]), [], session.messages())
+        self.assertEqual(rig.end(program), 0, session.messages())
+        self.assertEqual(rig.tags.lyrics_of(path), "\r\n" + rig.words_for("Linen Clouds"))
+
+    def test_the_scene_is_drawn_with_what_the_environment_says(self):
+        rows = [("a device of the user's is kept", {"QMLSCENE_DEVICE": "no-such-device"}, "no-such-device"),
+                ("without one it is drawn in software", {}, "software")]
+        for sentence, environment, expected in rows:
+            with self.subTest(sentence):
+                session = self.session([])
+                program = session.start([], QSG_INFO="1", QT_LOGGING_RULES="qt.scenegraph.*=true", **environment)
+                self.wait_until(lambda: expected in session.messages(200), f"Qt never spoke of {expected}", session)
+                if not environment:
+                    self.assertEqual(rig.end(program), 0, session.messages())
+
+
+def has_part(folder):
+    return any(path.suffix != ".mp3" for path in pathlib.Path(folder).iterdir())
+
+
+def enlarge(path, size):
+    """Repeats the sound of an MP3 behind itself until the file has about that many bytes."""
+    sound = rig.Songs(path.parent).sound(".mp3").read_bytes()
+    with path.open("ab") as file:
+        file.write(sound * (size // len(sound)))
+
+
+if __name__ == "__main__":
+    unittest.main()
