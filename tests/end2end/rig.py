@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What the end-to-end suites share: a session of the program, songs to give it, and what stands in their tags."""
+import contextlib
 import hashlib
 import json
 import os
@@ -39,18 +40,18 @@ class Session:
     def __enter__(self):
         if not PROGRAM.is_file():
             raise FileNotFoundError(f"{PROGRAM} is not built")
-        self.screen = Screen().__enter__()
-        self.sites = Sites(self.site).__enter__()
-        self.stage = Stage(PROGRAM, self.screen.display)
-        self.music = self.stage.home / "music"
-        self.music.mkdir()
-        self.log = self.stage.home / "program.log"
+        with contextlib.ExitStack() as stack:
+            self.screen = stack.enter_context(Screen())
+            self.sites = stack.enter_context(Sites(self.site))
+            self.stage = stack.enter_context(Stage(PROGRAM, self.screen.display))
+            self.music = self.stage.home / "music"
+            self.music.mkdir()
+            self.log = self.stage.home / "program.log"
+            self.leave = stack.pop_all()
         return self
 
     def __exit__(self, *_):
-        self.stage.__exit__()
-        self.sites.__exit__()
-        self.screen.__exit__()
+        self.leave.close()
 
     def start(self, files=None, *prefix, settings=None, **environment):
         """Starts the program with these files in its list; files None: with the settings that are there."""

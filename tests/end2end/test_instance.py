@@ -64,11 +64,12 @@ class InstanceTest(unittest.TestCase):
         self.assertEqual(rig.end(second), 0, session.messages())
 
     def test_writes_that_wait_are_done_before_it_ends(self):
-        # As many songs as one host gets connections, so that all answers arrive at once; large ones, so that the
-        # writes take a while.
+        # As many songs as one host gets connections, so that all answers arrive at once; large ones without a tag, so
+        # that each write has to move all of the sound.
         titles = ["Copper Rain", "Drift Wood", "Ember Hill", "Fern Lane", "Granite Sky", "Hazel Moon"]
         session = self.session(titles)
-        paths = self.songs_for(session, titles)
+        songs = rig.Songs(session.music)
+        paths = [songs.make(f"{rig.ARTIST} - {title}.mp3") for title in titles]
         for path in paths:
             enlarge(path, 40_000_000)
         sizes = {path: path.stat().st_size for path in paths}

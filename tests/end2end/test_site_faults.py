@@ -6,6 +6,7 @@ import socket
 import threading
 import time
 import unittest
+import urllib.parse
 import zlib
 
 import rig
@@ -35,7 +36,7 @@ def move_on(status):
 
 
 def loop(site, request):
-    return Answer(b"", 307, {"Location": request.path + "?again=1"})
+    return Answer(b"", 307, {"Location": request.path + "?" + urllib.parse.urlencode(request.query)})
 
 
 def status(number):
@@ -158,7 +159,7 @@ class FaultySite(rig.LyricsFreakSite):
     def __init__(self, lyrics):
         super().__init__(lyrics)
         self.over = threading.Event()
-        self.bomb = zeros(BOMB_BYTES)
+        self.bomb = bomb_of(BOMB_BYTES)
         self.faults = {title: (kind, fault) for title, (kind, _, fault, _) in zip(TITLES, ROWS)}
 
     def good_page(self, request):
@@ -179,11 +180,12 @@ class FaultySite(rig.LyricsFreakSite):
         return fault(self, request) if kind == faulty_kind else self.good_page(request)
 
 
-def zeros(size):
-    """That many zero bytes, compressed."""
+def bomb_of(size):
+    """A gzip stream that inflates to that many zero bytes: one packed block, again and again."""
     packer = zlib.compressobj(9, zlib.DEFLATED, 31)
-    block = bytes(MEBIBYTE)
-    return b"".join([packer.compress(block) for _ in range(size // MEBIBYTE)] + [packer.flush()])
+    header = packer.compress(b"") + packer.flush(zlib.Z_FULL_FLUSH)
+    block = packer.compress(bytes(MEBIBYTE)) + packer.flush(zlib.Z_FULL_FLUSH)
+    return header + block * (size // MEBIBYTE)
 
 
 def peak_memory_kb(process):
