@@ -86,8 +86,7 @@ def write_mp4(tags, fields, cover, lyrics):
 
 
 def write_asf(tags, fields, cover, lyrics):
-    for name, values in fields.items():
-        tags[ASF_NAMES[name]] = values
+    tags.update({ASF_NAMES[name]: values for name, values in fields.items()})
     if cover:
         header = struct.pack("<BI", FRONT_COVER, len(cover)) + "image/jpeg\0\0".encode("utf-16-le")
         tags["WM/Picture"] = [asf.ASFByteArrayAttribute(header + cover)]
@@ -96,8 +95,7 @@ def write_asf(tags, fields, cover, lyrics):
 
 
 def write_ape(tags, fields, cover, lyrics):
-    for name, values in fields.items():
-        tags[APE_NAMES[name]] = values
+    tags.update({APE_NAMES[name]: values for name, values in fields.items()})
     if cover:
         tags["Cover Art (Front)"] = apev2.APEValue(b"cover.jpg\0" + cover, apev2.BINARY)
     if lyrics:

@@ -1,19 +1,23 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """Shows check-layering.py small trees that break one rule each, and some that break none."""
-import importlib.util
 import pathlib
-import tempfile
+import sys
 import unittest
 
-HERE = pathlib.Path(__file__).resolve().parent
-SPEC = importlib.util.spec_from_file_location("check_layering", HERE / "check-layering.py")
-LAYERING = importlib.util.module_from_spec(SPEC)
-SPEC.loader.exec_module(LAYERING)
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "support"))
+from small_trees import check_rows, load  # noqa: E402
+
+LAYERING = load(pathlib.Path(__file__).with_name("check-layering.py"))
 
 QT_HEADERS = ["QtCore/QString", "QtNetwork/QNetworkReply", "QtGui/QImage", "QtWidgets/QWidget", "QtQml/QJSEngine",
               "QtQuick/QQuickItem"]
-HEADERS = {f"src/{room}/X.h": "" for room in ("network", "tags", "lyrics", "lyrics/providers", "model", "ui", "app")}
+ROOMS = ["network", "tags", "lyrics", "lyrics/providers", "model", "ui", "app"]
+SOUND = {
+    **{f"qt/{header}": "" for header in QT_HEADERS},
+    **{f"src/{room}/X.h": "" for room in ROOMS},
+    "src/lyrics/X.h": '#include "network/X.h"',
+}
 
 # Sentence, file, its text, what the report must hold ("" when the tree is in order).
 ROWS = [
@@ -55,26 +59,9 @@ ROWS = [
 ]
 
 
-def write(root, relative, text):
-    path = root / relative
-    path.parent.mkdir(parents=True, exist_ok=True)
-    path.write_text(text, encoding="utf-8")
-
-
 class LayeringTest(unittest.TestCase):
     def test_rows(self):
-        for sentence, name, text, expected in ROWS:
-            with self.subTest(sentence), tempfile.TemporaryDirectory() as folder:
-                root = pathlib.Path(folder)
-                for header in QT_HEADERS:
-                    write(root / "qt", header, "")
-                for header, content in {**HEADERS, "src/lyrics/X.h": '#include "network/X.h"', name: text}.items():
-                    write(root, header, content)
-                report = "\n".join(LAYERING.offences(root, [root / "qt"]))
-                if expected:
-                    self.assertIn(expected, report)
-                else:
-                    self.assertEqual(report, "")
+        check_rows(self, ROWS, SOUND, lambda root: LAYERING.offences(root, [root / "qt"]))
 
 
 if __name__ == "__main__":
