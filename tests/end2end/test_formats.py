@@ -73,12 +73,13 @@ def make_song(songs, row):
 
 
 def comparable(row, description):
-    """All but the lyrics of a tag. An ID3v1 tag has its texts under names that differ a little from ID3v2's."""
-    if not row.v1_only:
-        return {name: description[name] for name in ("title", "artists", "pictures", "others")}
-    texts = {re.sub(r"^(\w{4}).*?=", r"\1=", text) for values in description["others"].values() for text in values}
-    return {**{name: description[name] for name in ("title", "artists", "pictures")},
-            "others": {text for text in texts if not text.startswith("COMM")}}
+    """All but the lyrics of a tag. ASF has fixed places for some texts; an empty one there says nothing."""
+    others = {name: values for name, values in description["others"].items() if any(values)}
+    if row.v1_only:
+        # An ID3v1 tag has its texts under names that differ a little from ID3v2's.
+        texts = {re.sub(r"^(\w{4}).*?=", r"\1=", text) for values in others.values() for text in values}
+        others = {text for text in texts if not text.startswith("COMM")}
+    return {**{name: description[name] for name in ("title", "artists", "pictures")}, "others": others}
 
 
 class FormatsTest(unittest.TestCase):
