@@ -21,6 +21,8 @@ from sites import LyricsFreakSite, Sites
 
 TOP = pathlib.Path(__file__).resolve().parent.parent
 TIME_LIMIT_SECONDS = 90
+# The window's first size, so that the picture shows the window and nothing around it.
+SCREEN_SIZE = "1040x680x24"
 
 
 def arguments():
@@ -93,10 +95,8 @@ def main():
         signal.signal(number, lambda *_: sys.exit(1))
 
     with contextlib.ExitStack() as stack:
-        # The window's first size, so that the picture shows the window and nothing around it.
-        size = "1040x680x24"
         virtual = not (os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY"))
-        screen = stack.enter_context(stage.Screen(size)) if virtual else None
+        screen = stack.enter_context(stage.Screen(SCREEN_SIZE)) if virtual else None
         sites = stack.enter_context(Sites(LyricsFreakSite(LYRICS)))
         place = stack.enter_context(stage.Stage(options.program, screen.display if screen else None))
         print("Making the songs...", flush=True)
