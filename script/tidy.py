@@ -5,7 +5,7 @@
 usage: tidy.py BUILD_FOLDER [FILE...]
 
 A file counts as clean as long as nothing that it is made of has changed: itself, every header it includes, its
-compile command, .clang-tidy and clang-tidy itself. The marks stand under BUILD_FOLDER/tidy.
+compile command, the .clang-tidy files and clang-tidy itself. The marks stand under BUILD_FOLDER/tidy.
 """
 import concurrent.futures
 import functools
@@ -13,6 +13,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -62,7 +63,8 @@ def main():
     marks = build / "tidy"
     marks.mkdir(exist_ok=True)
     version = subprocess.run(["clang-tidy", "--version"], capture_output=True, text=True, check=True).stdout
-    common = version + (TOP / ".clang-tidy").read_text(encoding="utf-8")
+    settings = [TOP / ".clang-tidy", *sorted(TOP.glob("[a-z]*/.clang-tidy"))]
+    common = version + "".join(path.read_text(encoding="utf-8") for path in settings)
     made_of = dependencies(build)
 
     waiting = []
@@ -70,7 +72,7 @@ def main():
         source = pathlib.Path(entry["file"])
         if not any(source.is_relative_to(folder) for folder in FOLDERS) or (only and source not in only):
             continue
-        target = (pathlib.Path(entry["directory"]) / entry["output"]).resolve()
+        target = (pathlib.Path(entry["directory"]) / re.search(r" -o (\S+)", entry["command"]).group(1)).resolve()
         mark = marks / state_of(entry, made_of.get(target, []) + [source], common)
         if not mark.exists():
             waiting.append((source, mark))
