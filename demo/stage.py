@@ -9,7 +9,7 @@ import subprocess
 import tempfile
 import time
 
-VARIABLES = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
+FOLDERS = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
 
 
 def wait_until(condition, seconds, step=0.1):
@@ -63,7 +63,7 @@ class Stage:
         self.display = display
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="versewell-"))
         self.running = []
-        for variable in VARIABLES:
+        for variable in FOLDERS:
             (self.home / variable.lower()).mkdir(mode=0o700)
 
     def __enter__(self):
@@ -93,12 +93,22 @@ class Stage:
         self.settings_path.write_text("\n".join(lines) + "\n", encoding="ascii")
 
     def environment(self, **extra):
+        """The variables that the program gets: ours, with folders of its own; QMLSCENE_DEVICE only from `extra`."""
         variables = {name: value for name, value in os.environ.items() if name != "QMLSCENE_DEVICE"}
-        variables.update({variable: str(self.home / variable.lower()) for variable in VARIABLES}, HOME=str(self.home))
+        private = {variable: str(self.home / variable.lower()) for variable in FOLDERS}
         if self.display:
             for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XAUTHORITY"):
                 variables.pop(name, None)
             variables["DISPLAY"] = self.display
+        else:
+            # The way to the user's display leads through the user's own folders.
+            variables.setdefault("XAUTHORITY", str(pathlib.Path.home() / ".Xauthority"))
+            private["XDG_RUNTIME_DIR"] = variables.get("XDG_RUNTIME_DIR", private["XDG_RUNTIME_DIR"])
+        variables.update(private, HOME=str(self.home))
+        # The songs have names in several alphabets.
+        locale = variables.get("LC_ALL") or variables.get("LC_CTYPE") or variables.get("LANG") or ""
+        if not locale.lower().replace("-", "").endswith("utf8"):
+            variables["LC_ALL"] = "C.UTF-8"
         return {**variables, **extra}
 
     def start(self, *prefix, log=None, **extra):

@@ -66,20 +66,22 @@ class BadFilesTest(unittest.TestCase):
     @classmethod
     def run_as_ordinary_user(cls):
         """Nothing is unreadable for root: as root the program runs as nobody, from a place that nobody can reach."""
-        prefix = ()
+        prefix, environment = (), {}
         if os.getuid() == 0:
             if shutil.which("setpriv") is None:
                 raise RuntimeError("setpriv is needed to run the program as an ordinary user")
             program = shutil.copy(rig.PROGRAM, cls.session.stage.home / "versewell")
             cls.session.stage.program = pathlib.Path(program)
             prefix = ("setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups")
+            # The list of known leaks may lie where nobody can read it; the other suites look for leaks.
+            environment = {"ASAN_OPTIONS": "detect_leaks=0", "LSAN_OPTIONS": ""}
         odd_entries = ["not a url", "http://127.0.0.1/x.mp3", "file:///"]
         files = [*odd_entries, cls.unreadable, cls.vanished, cls.folder, cls.pipe, cls.odd, *cls.junk, *cls.good, cls.sentinel]
         cls.session.stage.write_settings(files, cls.session.sites.endpoints())
         cls.session.log.touch()
         if prefix:
             hand_over(cls.session.stage.home)
-        program = cls.session.start(None, *prefix)
+        program = cls.session.start(None, *prefix, **environment)
         cls.missing = cls.session.wait_for_lyrics(program, [*cls.good, cls.sentinel])
         cls.lived = program.poll() is None
         cls.status = rig.end(program) if cls.lived else program.returncode
