@@ -70,9 +70,12 @@ class Session:
         return missing()
 
     def messages(self, lines=25):
-        """The last messages of the program, for the report of a failure."""
+        """The last messages of the program, from a sanitizer's report on where there is one; for a failure's text."""
         text = self.log.read_text(errors="replace") if self.log.exists() else ""
-        return "\nthe program's last messages:\n" + "\n".join(text.splitlines()[-lines:])
+        shown = text.splitlines()
+        report = next((number for number, line in enumerate(shown) if "Sanitizer" in line or "runtime error" in line), None)
+        shown = shown[-lines:] if report is None else shown[report:report + lines]
+        return "\nthe program's messages:\n" + "\n".join(shown)
 
 
 def has_lyrics(path):

@@ -34,7 +34,11 @@ class InstanceTest(unittest.TestCase):
         return [songs.make(f"{title}.mp3", {"artist": rig.ARTIST, "title": title}) for title in titles]
 
     def wait_until(self, condition, what, session):
-        self.assertTrue(rig.wait_until(condition, STARTED_SECONDS), what + session.messages())
+        """Fails with that text when the condition does not hold in time, or the program is gone before it does."""
+        def gone():
+            return all(process.poll() is not None for process in session.stage.running)
+        rig.wait_until(lambda: condition() or gone(), STARTED_SECONDS)
+        self.assertTrue(condition(), what + session.messages())
 
     def test_a_second_start_ends_with_1_and_the_first_goes_on(self):
         session = self.session(["Amber Gate"])
