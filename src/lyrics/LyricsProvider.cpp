@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "lyrics/LyricsProvider.h"
 
+#include "lyrics/JunkCheck.h"
 #include "lyrics/LyricsText.h"
 #include "network/AccessManager.h"
 #include "network/Redirects.h"
@@ -132,7 +133,12 @@ void LyricsProvider::finish(const QString &lyrics, const QString &errorString)
     m_readPage = {};
     m_errorString = errorString;
     m_busy = false;
-    emit finished(withoutBrokenCharacters(lyrics));
+    QString text = withoutBrokenCharacters(lyrics);
+    if (isJunk(text)) {
+        m_errorString = tr("%1 gave a page that holds no lyrics.").arg(name());
+        text.clear();
+    }
+    emit finished(text);
 }
 
 QString LyricsProvider::decoded(QByteArray body) const
