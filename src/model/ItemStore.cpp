@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "model/ItemStore.h"
+
+#include <algorithm>
+
+ModelItem *ItemStore::find(quint16 id) const
+{
+    const auto entry = m_entries.find(id);
+    return entry == m_entries.end() ? nullptr : entry->second.item.get();
+}
+
+int ItemStore::rowOf(quint16 id) const
+{
+    const auto entry = m_entries.find(id);
+    if (entry == m_entries.end())
+        return -1;
+    const auto row = std::lower_bound(m_rows.begin(), m_rows.end(), entry->second.sequence,
+                                      [](const Row &r, quint64 sequence) { return r.sequence < sequence; });
+    return static_cast<int>(row - m_rows.begin());
+}
+
+QString ItemStore::pathOf(quint16 id) const
+{
+    const auto entry = m_entries.find(id);
+    return entry == m_entries.end() ? QString() : entry->second.path;
+}
+
+quint64 ItemStore::sequenceOf(quint16 id) const
+{
+    const auto entry = m_entries.find(id);
+    Q_ASSERT(entry != m_entries.end());
+    return entry->second.sequence;
+}
+
+void ItemStore::append(std::unique_ptr<ModelItem> item)
+{
+    const quint16 id = item->id();
+    const QUrl url = item->url();
+    Q_ASSERT(!find(id) && !contains(url));
+    m_rows.append({m_nextSequence, id});
+    m_urls.insert(url);
+    m_entries.emplace(id, Entry{std::move(item), m_nextSequence, url, url.toLocalFile()});
+    ++m_nextSequence;
+}
+
+ItemStore::Taken ItemStore::takeEntry(quint16 id)
+{
+    auto node = m_entries.extract(id);
+    m_urls.remove(node.mapped().url);
+    return {std::move(node.mapped().item), node.mapped().sequence};
+}
+
+std::vector<ItemStore::Taken> ItemStore::take(int first, int last)
+{
+    std::vector<ItemStore::Taken> taken;
+    taken.reserve(static_cast<std::size_t>(last - first + 1));
+    for (int row = first; row <= last; ++row)
+        taken.push_back(takeEntry(idAt(row)));
+    m_rows.remove(first, last - first + 1);
+    return taken;
+}
+
+std::vector<ItemStore::Taken> ItemStore::takeScattered(const QVector<int> &rows)
+{
+    std::vector<ItemStore::Taken> taken;
+    taken.reserve(static_cast<std::size_t>(rows.size()));
+    QVector<Row> kept;
+    kept.reserve(count() - rows.size());
+    auto next = rows.begin();
+    for (int row = 0; row < count(); ++row) {
+        if (next != rows.end() && *next == row) {
+            taken.push_back(takeEntry(idAt(row)));
+            ++next;
+        } else {
+            kept.append(m_rows.at(row));
+        }
+    }
+    m_rows = kept;
+    return taken;
+}

@@ -1,0 +1,529 @@
+// SPDX-License-Identifier: MIT
+#include "model/MainModel.h"
+
+#include "lyrics/LyricsSearch.h"
+#include "lyrics/LyricsText.h"
+#include "model/FileManager.h"
+#include "model/LyricsFile.h"
+#include "settings/Settings.h"
+#include "tags/TagWriter.h"
+
+#include <QFileInfo>
+#include <QQmlEngine>
+#include <QSet>
+
+#include <limits>
+
+namespace {
+
+// How many searches the coordinator may hold at once.
+constexpr int searchLimit = 10;
+// Compared with the number of reads in flight; see extractNextFileInfo().
+constexpr int tagReadLimit = 1;
+// Above this many ranges a removal is one reset: each range costs every view a pass of its own.
+constexpr int mostRangesRemoved = 64;
+// How many identifiers of 16 bits there are.
+constexpr int idCount = std::numeric_limits<quint16>::max() + 1;
+
+} // namespace
+
+MainModel::MainModel(QObject *parent)
+    : QAbstractListModel(parent)
+{
+    qRegisterMetaType<MediaFileTags>("MediaFileTags");
+    qmlRegisterUncreatableType<ModelItem>("com.quillmarsh", 1, 0, "ModelItem", QStringLiteral("nope"));
+    connect(&m_tagReader, &MediaInfoExtractor::infoExtracted, this, &MainModel::fileInfoExtracted);
+}
+
+MainModel::~MainModel() = default;
+
+void MainModel::setSearch(LyricsSearch *search)
+{
+    if (m_search)
+        disconnect(m_search, nullptr, this, nullptr);
+    m_search = search;
+    if (!m_search)
+        return;
+    connect(m_search, &LyricsSearch::searchFinished, this, &MainModel::lyricsSearchFinished);
+    connect(m_search, &LyricsSearch::searchCountChanged, this, &MainModel::searchCountChanged);
+}
+
+int MainModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_items.count();
+}
+
+QVariant MainModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    ModelItem *item = m_items.itemAt(index.row());
+    switch (role) {
+    case itemRole:
+        QQmlEngine::setObjectOwnership(item, QQmlEngine::CppOwnership);
+        return QVariant::fromValue(item);
+    case urlRole:
+        return item->url();
+    case filenameRole:
+        return item->filename();
+    case extRole:
+        return item->ext();
+    case pathRole:
+        return item->path();
+    case existsRole:
+        return item->fileExists();
+    case badFileRole:
+        return item->bad();
+    case tagsLoadedRole:
+        return item->tagsLoaded();
+    case titleTagRole:
+        return item->titleTag();
+    case artistTagRole:
+        return item->artistTag();
+    case lyricsTagRole:
+        return item->lyricsTag();
+    case durationRole:
+        return item->duration();
+    case fileThumbnailRole:
+        return item->tagsLoaded() ? QStringLiteral("image://file-cover/%1").arg(item->id()) : QString();
+    case processStateRole:
+        return item->processState();
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> MainModel::roleNames() const
+{
+    return {
+        {itemRole, "itemRole"},
+        {urlRole, "urlRole"},
+        {filenameRole, "filenameRole"},
+        {extRole, "extRole"},
+        {pathRole, "pathRole"},
+        {existsRole, "existsRole"},
+        {badFileRole, "badFileRole"},
+        {tagsLoadedRole, "tagsLoadedRole"},
+        {titleTagRole, "titleTagRole"},
+        {artistTagRole, "artistTagRole"},
+        {lyricsTagRole, "lyricsTagRole"},
+        {durationRole, "durationRole"},
+        {fileThumbnailRole, "fileThumbnailRole"},
+        {processStateRole, "processStateRole"},
+        {selectedRole, "selectedRole"},
+    };
+}
+
+int MainModel::searchCount() const
+{
+    return m_search ? m_search->searchCount() : 0;
+}
+
+QList<QUrl> MainModel::urls() const
+{
+    QList<QUrl> urls;
+    urls.reserve(m_items.count());
+    for (int row = 0; row < m_items.count(); ++row)
+        urls.append(m_items.itemAt(row)->url());
+    return urls;
+}
+
+// Adding
+
+QString MainModel::supportedTypesMask(const QString &separator) const
+{
+    QStringList masks;
+    for (const QString &extension : m_extensions)
+        masks.append(QLatin1String("*.") + extension);
+    return masks.join(separator);
+}
+
+bool MainModel::isSupported(const QUrl &url) const
+{
+    if (!url.isLocalFile())
+        return false;
+    const QString path = url.toLocalFile();
+    return std::any_of(m_extensions.begin(), m_extensions.end(), [&path](const QString &extension) {
+        return path.endsWith(QLatin1Char('.') + extension, Qt::CaseInsensitive);
+    });
+}
+
+void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
+{
+    QList<QUrl> folders;
+    QList<QUrl> files;
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir())
+            folders.append(url);
+        else if (isSupported(url))
+            files.append(url);
+    }
+    add(files);
+    if (!folders.isEmpty())
+        emit scanFolders(folders);
+}
+
+void MainModel::add(const QList<QUrl> &urls)
+{
+    const QList<QUrl> files = newFiles(urls);
+    std::vector<std::unique_ptr<ModelItem>> items = makeItems(files);
+    const int leftOut = files.size() - static_cast<int>(items.size());
+    if (!items.empty())
+        insertItems(std::move(items));
+    if (leftOut > 0)
+        emit filesLeftOut(leftOut);
+}
+
+// Those that name regular local files and are not in the list, each once.
+QList<QUrl> MainModel::newFiles(const QList<QUrl> &urls) const
+{
+    QList<QUrl> files;
+    QSet<QUrl> seen;
+    for (const QUrl &url : urls) {
+        if (!url.isLocalFile() || m_items.contains(url) || seen.contains(url))
+            continue;
+        if (!QFileInfo(url.toLocalFile()).isFile())
+            continue;
+        seen.insert(url);
+        files.append(url);
+    }
+    return files;
+}
+
+// One item a file, with ids that count up from the last one given and skip those in use; fewer items than files when
+// the ids run out.
+std::vector<std::unique_ptr<ModelItem>> MainModel::makeItems(const QList<QUrl> &files)
+{
+    std::vector<std::unique_ptr<ModelItem>> items;
+    items.reserve(static_cast<std::size_t>(files.size()));
+    quint16 id = m_lastId;
+    auto nextFile = files.begin();
+    for (int tried = 0; tried < idCount && nextFile != files.end(); ++tried) {
+        ++id; // wraps from 65535 to 0
+        if (isIdInUse(id))
+            continue;
+        auto item = std::make_unique<ModelItem>(*nextFile++);
+        item->setId(id);
+        items.push_back(std::move(item));
+        m_lastId = id;
+    }
+    return items;
+}
+
+bool MainModel::isIdInUse(quint16 id) const
+{
+    return m_items.find(id) || m_writes.contains(id) || m_readsInFlight.contains(id) ||
+           (m_search && m_search->isSearching(id));
+}
+
+void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
+{
+    const int first = m_items.count();
+    beginInsertRows({}, first, first + static_cast<int>(items.size()) - 1);
+    for (std::unique_ptr<ModelItem> &item : items) {
+        if (m_autoStart)
+            item->setProcessState(ModelItem::ProcessWaiting);
+        m_activeCount += item->active() ? 1 : 0;
+        connectItem(item.get());
+        const quint16 id = item->id();
+        m_items.append(std::move(item));
+        m_unread.emplace(m_items.sequenceOf(id), id);
+    }
+    endInsertRows();
+    if (m_autoStart)
+        emit activeCountChanged();
+    extractNextFileInfo();
+    if (m_autoStart)
+        feedSearches();
+}
+
+void MainModel::connectItem(ModelItem *item)
+{
+    connect(item, &ModelItem::changed, this, &MainModel::itemChanged);
+    connect(item, &ModelItem::activeChanged, this, [this, item] { countActive(item); });
+    connect(item, &ModelItem::processStateChanged, this, [this, item] { queueForSearch(item); });
+    connect(item, &ModelItem::tagsLoadedChanged, this, [this, item] { queueForSearch(item); });
+}
+
+void MainModel::countActive(const ModelItem *item)
+{
+    m_activeCount += item->active() ? 1 : -1;
+    emit activeCountChanged();
+}
+
+// Keeps the queue of searchable items in step with an item's state.
+void MainModel::queueForSearch(const ModelItem *item)
+{
+    const quint64 sequence = m_items.sequenceOf(item->id());
+    if (item->processState() == ModelItem::ProcessWaiting && item->tagsLoaded())
+        m_searchable.emplace(sequence, item->id());
+    else
+        m_searchable.erase(sequence);
+}
+
+void MainModel::itemChanged()
+{
+    const auto *item = qobject_cast<const ModelItem *>(sender());
+    const int row = item ? m_items.rowOf(item->id()) : -1;
+    if (row >= 0)
+        emit dataChanged(index(row), index(row));
+}
+
+void MainModel::setAutoStart(bool on)
+{
+    if (on == m_autoStart)
+        return;
+    m_autoStart = on;
+    emit autoStartChanged(on);
+}
+
+// Removing
+
+bool MainModel::removeRows(int row, int count, const QModelIndex &parent)
+{
+    if (parent.isValid() || row < 0 || count <= 0 || row + count > m_items.count())
+        return false;
+    beginRemoveRows({}, row, row + count - 1);
+    std::vector<ItemStore::Taken> removed = m_items.take(row, row + count - 1);
+    endRemoveRows();
+    forgetItems(std::move(removed));
+    return true;
+}
+
+void MainModel::removeScattered(const QVector<int> &rows)
+{
+    struct Range
+    {
+        int first;
+        int last;
+    };
+    std::vector<Range> ranges;
+    for (const int row : rows) {
+        if (!ranges.empty() && ranges.back().last == row - 1)
+            ranges.back().last = row;
+        else
+            ranges.push_back({row, row});
+    }
+    if (ranges.size() > mostRangesRemoved) {
+        beginResetModel();
+        std::vector<ItemStore::Taken> removed = m_items.takeScattered(rows);
+        endResetModel();
+        forgetItems(std::move(removed));
+        return;
+    }
+    // From the back, so that the rows still to go keep their numbers.
+    std::for_each(ranges.rbegin(), ranges.rend(),
+                  [this](const Range &range) { removeRows(range.first, range.last - range.first + 1); });
+}
+
+// Takes removed items out of every queue; they are deleted when control is back in the event loop, since the scene may
+// still hold them.
+void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
+{
+    const int activeBefore = m_activeCount;
+    bool readAbandoned = false;
+    for (ItemStore::Taken &taken : removed) {
+        ModelItem *item = taken.item.release();
+        disconnect(item, nullptr, this, nullptr);
+        m_activeCount -= item->active() ? 1 : 0;
+        m_unread.erase(taken.sequence);
+        m_searchable.erase(taken.sequence);
+        m_readsInFlight.removeOne(item->id());
+        if (m_currentRead == item->id()) {
+            m_currentRead = noRead;
+            readAbandoned = true;
+        }
+        item->deleteLater();
+    }
+    if (m_activeCount != activeBefore)
+        emit activeCountChanged();
+    if (readAbandoned)
+        extractNextFileInfo();
+}
+
+void MainModel::removeWithLyrics()
+{
+    QVector<int> rows;
+    for (int row = 0; row < m_items.count(); ++row) {
+        if (!m_items.itemAt(row)->lyricsTag().isEmpty())
+            rows.append(row);
+    }
+    removeScattered(rows);
+}
+
+void MainModel::removeAll()
+{
+    removeRows(0, m_items.count());
+}
+
+// Reading tags
+
+void MainModel::extractNextFileInfo()
+{
+    // "Greater than", not "at least", is meant: while one read is in flight a second one is still asked for. The tag
+    // reader then drops the read that was overtaken; its item keeps its place in flight and gets no tags until it is
+    // removed or a search of it is forced, and the one place left keeps all further reads strictly one after another.
+    if (m_readsInFlight.size() > tagReadLimit || m_unread.empty())
+        return;
+    const quint16 id = m_unread.begin()->second;
+    m_unread.erase(m_unread.begin());
+    m_readsInFlight.append(id);
+    m_currentRead = id;
+    m_tagReader.request(m_items.pathOf(id));
+}
+
+void MainModel::fileInfoExtracted(const QString &file, const MediaFileTags &tags)
+{
+    const auto found = std::find_if(m_readsInFlight.begin(), m_readsInFlight.end(),
+                                    [this, &file](quint16 id) { return m_items.pathOf(id) == file; });
+    if (found == m_readsInFlight.end())
+        return;
+    const quint16 id = *found;
+    ModelItem *item = m_items.find(id);
+    item->setTags(tags);
+    const SearchNames names = item->searchArtistTitle();
+    if (!item->lyricsTag().isEmpty()) {
+        item->setProcessState(ModelItem::ProcessComplete);
+    } else if (m_search && m_search->canSearch(names.artist, names.title)) {
+        if (item->processState() == ModelItem::ProcessWaiting)
+            feedSearches();
+    } else {
+        item->setProcessState(ModelItem::ProcessNotSuitable);
+    }
+    m_readsInFlight.removeOne(id);
+    if (m_currentRead == id)
+        m_currentRead = noRead;
+    extractNextFileInfo();
+}
+
+// In flight, but the tag reader has been given a newer request since.
+bool MainModel::isOvertaken(quint16 id) const
+{
+    return id != m_currentRead && m_readsInFlight.contains(id);
+}
+
+// Puts an overtaken item back among the unread ones. While a read is under way it waits for its turn, lest that read be
+// overtaken as well.
+void MainModel::readAgain(quint16 id)
+{
+    m_readsInFlight.removeOne(id);
+    m_unread.emplace(m_items.sequenceOf(id), id);
+    if (m_currentRead == noRead)
+        extractNextFileInfo();
+}
+
+// Searching
+
+bool MainModel::startSearch(quint16 id)
+{
+    ModelItem *item = m_items.find(id);
+    if (!item)
+        return false;
+    if (isOvertaken(id))
+        readAgain(id);
+    if (item->processState() == ModelItem::ProcessWaiting)
+        return true;
+    const SearchNames names = item->searchArtistTitle();
+    if (!m_search || !m_search->canSearch(names.artist, names.title)) {
+        item->setProcessState(ModelItem::ProcessNotSuitable);
+        return false;
+    }
+    item->setProcessState(ModelItem::ProcessWaiting);
+    feedSearches();
+    return true;
+}
+
+// Hands waiting items to the coordinator, in row order, until it holds its fill.
+void MainModel::feedSearches()
+{
+    while (m_search && m_search->searchCount() < searchLimit && !m_searchable.empty()) {
+        const quint16 id = m_searchable.begin()->second;
+        ModelItem *item = m_items.find(id);
+        const SearchNames names = item->searchArtistTitle();
+        if (m_search->search(id, names.artist, names.title)) {
+            emit searchStarted(names.artist, names.title);
+            item->setProcessState(ModelItem::ProcessWorking);
+        } else if (m_search->isSearching(id)) {
+            return; // an earlier search of it is still under way; its end feeds again
+        } else {
+            item->setProcessState(ModelItem::ProcessNotSuitable);
+        }
+    }
+}
+
+void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QString &title, const QString &lyrics,
+                                     const QString &errorString)
+{
+    ModelItem *item = m_items.find(id);
+    if (!item) {
+        feedSearches();
+        return;
+    }
+    const QString text = withoutBrokenCharacters(decodeHtmlEntities(lyrics));
+    if (!text.isEmpty()) {
+        const bool withLineBreak = m_settings && m_settings->prependNewLine();
+        item->setFoundLyricsTag(artist, title, withLineBreak ? QLatin1String("\r\n") + text : text);
+    }
+    if (errorString.isEmpty() && !item->lyricsTag().isEmpty()) {
+        startWriting(item);
+    } else {
+        item->setErrorString(errorString);
+        item->setProcessState(ModelItem::ProcessComplete);
+    }
+    feedSearches();
+}
+
+// Writing
+
+bool MainModel::writeTags(quint16 id)
+{
+    ModelItem *item = m_items.find(id);
+    if (!item)
+        return false;
+    startWriting(item);
+    return true;
+}
+
+void MainModel::startWriting(ModelItem *item)
+{
+    const quint16 id = item->id();
+    if (m_settings && m_settings->generateLyricsFileAuto())
+        generateLyricsFile(id);
+    item->setErrorString(QString());
+    item->setProcessState(ModelItem::ProcessWritingTags);
+    ++m_writes[id];
+    auto *writer = new TagWriter;
+    connect(writer, &TagWriter::failed, this, &MainModel::tagsNotWritten);
+    connect(writer, &TagWriter::written, this, &MainModel::tagsWritten);
+    writer->queueWrite(item->url(), id, item->artistTag(), item->titleTag(), item->lyricsTag());
+}
+
+void MainModel::tagsNotWritten(quint16 id, const QString &reason)
+{
+    if (ModelItem *item = m_items.find(id))
+        item->setErrorString(reason);
+}
+
+void MainModel::tagsWritten(quint16 id)
+{
+    if (auto *writer = qobject_cast<TagWriter *>(sender()))
+        writer->deleteLater();
+    const auto writes = m_writes.find(id);
+    if (writes != m_writes.end() && --*writes == 0)
+        m_writes.erase(writes);
+    ModelItem *item = m_items.find(id);
+    if (item && item->processState() == ModelItem::ProcessWritingTags)
+        item->setProcessState(ModelItem::ProcessComplete);
+}
+
+bool MainModel::generateLyricsFile(quint16 id)
+{
+    const ModelItem *item = m_items.find(id);
+    return item && item->url().isLocalFile() && writeLyricsFile(item->url().toLocalFile(), item->lyricsTag());
+}
+
+void MainModel::locate(int row) const
+{
+    if (row >= 0 && row < m_items.count())
+        showInFileManager(m_items.itemAt(row)->url().toLocalFile());
+}
