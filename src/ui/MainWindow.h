@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+
+class MainModel;
+class QLabel;
+class QQuickWidget;
+class Settings;
+
+// The program's one window: the scene with the list of songs, and a status line.
+//
+// The model and the settings are not owned and must outlive the window, which stores the settings and, when that is
+// wanted, the list of files as it goes.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow(MainModel *model, Settings *settings, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    // Why the scene could not be loaded, a line for each reason; empty when it could.
+    [[nodiscard]] QString sceneErrors() const;
+
+public slots:
+    // Keeps the number of songs that are still to be searched for in the status line.
+    void updateStatusLabel();
+
+private:
+    void createScene();
+    void showFilesLeftOut(int count);
+    void saveState() const;
+
+    MainModel *m_model;
+    Settings *m_settings;
+    QQuickWidget *m_scene;
+    QLabel *m_statusLabel;
+};
