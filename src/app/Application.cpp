@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: MIT
+#include "app/Application.h"
+
+#include "lyrics/LyricsProvider.h"
+#include "lyrics/providers/ProviderCatalogue.h"
+#include "network/Endpoints.h"
+#include "settings/SettingsKeys.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QSettings>
+
+namespace {
+
+const QString organisation = QStringLiteral("Quillmarsh");
+const QString program = QStringLiteral("Versewell");
+const QString english = QStringLiteral("en");
+
+// In the order of the file dialog's filter.
+QStringList supportedExtensions()
+{
+    return {QStringLiteral("aifc"), QStringLiteral("aiff"), QStringLiteral("aif"), QStringLiteral("opus"),
+            QStringLiteral("aac"),  QStringLiteral("ogg"),  QStringLiteral("wma"), QStringLiteral("alac"),
+            QStringLiteral("ape"),  QStringLiteral("flac"), QStringLiteral("m4p"), QStringLiteral("m4a"),
+            QStringLiteral("mp3")};
+}
+
+QString lockFile()
+{
+    return QFileInfo(Application::settingsFile()).absolutePath() + QLatin1String("/Versewell.lock");
+}
+
+// An entry of the saved list: a url, or an absolute path.
+QUrl savedFileUrl(const QVariant &entry)
+{
+    const QString text = entry.toString();
+    return text.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(text) : QUrl(text);
+}
+
+} // namespace
+
+Application::Application(int &argc, char **argv)
+    : QApplication(argc, argv)
+    , m_instance(lockFile())
+{
+    setAttribute(Qt::AA_UseHighDpiPixmaps);
+    m_mainModel.setSupportedExtensions(supportedExtensions());
+    setNames();
+    m_settings.load();
+    createSearch();
+    m_mainModel.setSettings(&m_settings);
+    m_mainModel.setSearch(&m_search);
+    connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
+    connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
+    connect(&m_settings, &Settings::providersOrderChanged, &m_search, &LyricsSearch::setProvidersOrder);
+    if (!isOtherInstanceRunning() && m_settings.saveFilesList())
+        restoreFilesList();
+}
+
+Application::~Application()
+{
+    m_mainModel.setSearch(nullptr);
+}
+
+void Application::setNames()
+{
+    setApplicationName(program);
+    setOrganizationName(organisation);
+    setApplicationVersion(QStringLiteral(VERSEWELL_VERSION));
+    setOrganizationDomain(endpointBase(Endpoint::Maker).host());
+}
+
+QString Application::settingsFile()
+{
+    return QSettings(organisation, program).fileName();
+}
+
+void Application::createSearch()
+{
+    for (std::unique_ptr<LyricsProvider> &provider : makeProviders(&m_networkManager))
+        m_search.addProvider(std::move(provider));
+    m_search.setProvidersOrder(m_settings.providersOrder());
+    // Stored back, so that the stored order always names every site.
+    m_settings.setProvidersOrder(m_search.providersOrder());
+}
+
+void Application::restoreFilesList()
+{
+    QList<QUrl> urls;
+    // A list of one comes back from the store as a plain string, which toList() would lose.
+    const QStringList entries = QSettings().value(SettingsKeys::filesList).toStringList();
+    for (const QString &entry : entries) {
+        const QUrl url = savedFileUrl(entry);
+        if (url.isValid())
+            urls.append(url);
+    }
+    if (!urls.isEmpty())
+        m_mainModel.add(urls);
+}
+
+Application::OSType Application::osType()
+{
+#if defined(Q_OS_MACOS)
+    return OS_Mac;
+#elif defined(Q_OS_WIN)
+    return OS_Windows;
+#elif defined(Q_OS_LINUX)
+    return OS_Linux;
+#else
+    return OS_Unknown;
+#endif
+}
+
+// Usage events
+
+void Application::trackUsage(const QString &first, const QString &second)
+{
+    QString label = first.trimmed();
+    if (label.isEmpty())
+        return;
+    const QString addition = second.trimmed();
+    if (!addition.isEmpty())
+        label += QLatin1String(" // ") + addition;
+    emit usageEvent(QStringLiteral("usage"), QStringLiteral("search"), label);
+}
+
+void Application::reportOpenGLError()
+{
+    emit usageEvent(QStringLiteral("error"), QStringLiteral("opengl"), QString());
+}
+
+// Start pages
+
+void Application::noteStart()
+{
+    QSettings store;
+    const QString lastVersion = store.value(SettingsKeys::firstStart).toString();
+    store.setValue(SettingsKeys::firstStart, applicationVersion());
+    if (!store.value(SettingsKeys::openQuillmarshSite, true).toBool() || lastVersion == applicationVersion())
+        return;
+    openMakerPage(lastVersion.isEmpty() ? QStringLiteral("/versewell/welcome.html")
+                                        : QStringLiteral("/versewell/update.html"));
+}
+
+void Application::openMakerPage(const QString &path) const
+{
+    if (endpointExists(Endpoint::Maker))
+        QDesktopServices::openUrl(endpointUrl(Endpoint::Maker, path));
+}
+
+// Languages
+
+QString Application::executableBaseName() const
+{
+    return QFileInfo(applicationFilePath()).baseName();
+}
+
+QString Application::translationsFolder() const
+{
+    const QDir buildTree(applicationDirPath() + QLatin1String("/locale"));
+    if (buildTree.exists())
+        return buildTree.path();
+    return QStringLiteral("/usr/share/versewell/locale").replace(QLatin1String("@APP_DIR_PATH@"), applicationDirPath());
+}
+
+QString Application::qtTranslationsFolder() const
+{
+    // "qt4" is meant: the folder has kept its name although the program runs on Qt 5.
+    return QStringLiteral("/usr/share/qt4/translations").replace(QLatin1String("@APP_DIR_PATH@"), applicationDirPath());
+}
+
+bool Application::hasTranslation(const QString &code) const
+{
+    return QFile::exists(translationsFolder() + QLatin1Char('/') + executableBaseName() + QLatin1Char('.') + code +
+                         QLatin1String(".qm"));
+}
+
+void Application::setUpLanguages()
+{
+    QStringList codes;
+    const QStringList files =
+        QDir(translationsFolder()).entryList({executableBaseName() + QLatin1String(".*.qm")}, QDir::Files);
+    for (QString name : files) {
+        name.chop(3); // ".qm"
+        codes.append(QFileInfo(name).suffix());
+    }
+    if (!codes.contains(english))
+        codes.prepend(english);
+    setProperty("languageList", codes);
+    changeLanguage();
+}
+
+QString Application::systemLanguage() const
+{
+    const QStringList names = QLocale::system().uiLanguages();
+    for (const QString &name : names) {
+        const QString localeName = QLocale(name).name();
+        QStringList candidates{localeName};
+        if (localeName.contains(QLatin1Char('_')))
+            candidates.append(localeName.section(QLatin1Char('_'), 0, 0));
+        for (const QString &code : qAsConst(candidates)) {
+            if (code == english || hasTranslation(code))
+                return code;
+        }
+    }
+    return english;
+}
+
+void Application::changeLanguage()
+{
+    QString code = m_settings.language();
+    if (code.isEmpty() || !property("languageList").toStringList().contains(code))
+        code = systemLanguage();
+    if (code == m_installedLanguage)
+        return;
+    m_translator.reset();
+    m_qtTranslator.reset();
+    QLocale::setDefault(QLocale(code));
+    if (code != english) {
+        m_translator = loadTranslator(executableBaseName() + QLatin1Char('.') + code, translationsFolder());
+        m_qtTranslator = loadTranslator(QLatin1String("qt_") + code, qtTranslationsFolder());
+    }
+    m_installedLanguage = code;
+}
+
+// Loads and installs; null when there is no such file, which is no error: the texts stay in English.
+std::unique_ptr<QTranslator> Application::loadTranslator(const QString &name, const QString &folder)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(name, folder))
+        return nullptr;
+    installTranslator(translator.get());
+    return translator;
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/SingleInstance.h"
+#include "lyrics/LyricsSearch.h"
+#include "model/MainModel.h"
+#include "network/AccessManager.h"
+#include "settings/Settings.h"
+
+#include <QApplication>
+#include <QStringList>
+#include <QTranslator>
+
+#include <memory>
+
+// The application object: owns every long-lived object and wires them.
+//
+// The members stand in the order in which they are made, and go in the reverse one. Nothing below this folder knows it.
+class Application : public QApplication
+{
+    Q_OBJECT
+    Q_PROPERTY(OSType osType READ osType CONSTANT)
+    Q_PROPERTY(bool isWindows READ isWindows CONSTANT)
+    Q_PROPERTY(bool isMacOS READ isMacOS CONSTANT)
+    Q_PROPERTY(bool isLinux READ isLinux CONSTANT)
+    Q_PROPERTY(Settings *settings READ settings CONSTANT)
+
+public:
+    enum OSType { OS_Mac, OS_Windows, OS_Linux, OS_Unknown };
+    Q_ENUM(OSType)
+
+    // The settings are loaded and, when no other instance runs, the saved list of files is restored.
+    Application(int &argc, char **argv);
+    ~Application() override;
+
+    // The settings file of this user; can be asked before there is an application object.
+    [[nodiscard]] static QString settingsFile();
+
+    [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
+    [[nodiscard]] static OSType osType();
+    [[nodiscard]] static bool isWindows() { return osType() == OS_Windows; }
+    [[nodiscard]] static bool isMacOS() { return osType() == OS_Mac; }
+    [[nodiscard]] static bool isLinux() { return osType() == OS_Linux; }
+
+    [[nodiscard]] MainModel *mainModel() { return &m_mainModel; }
+    [[nodiscard]] Settings *settings() { return &m_settings; }
+    [[nodiscard]] LyricsSearch *lyricsSearch() { return &m_search; }
+    [[nodiscard]] QNetworkAccessManager *networkManager() { return &m_networkManager; }
+
+    // File name of the executable without any suffix; the translation files begin with it.
+    [[nodiscard]] QString executableBaseName() const;
+    [[nodiscard]] QString translationsFolder() const;
+    [[nodiscard]] QString qtTranslationsFolder() const;
+
+    // Reports a search for a song to those who listen to `usageEvent`; nothing when the first text is blank.
+    void trackUsage(const QString &first, const QString &second);
+    // Reports that the scene could not be drawn with OpenGL.
+    void reportOpenGLError();
+
+    // Finds the installed languages, publishes their codes as the dynamic property "languageList" and installs the one
+    // to use.
+    void setUpLanguages();
+    // Notes that this version ran, and opens the welcome page at the first start or the what's-new page after an
+    // update.
+    void noteStart();
+
+signals:
+    void usageEvent(const QString &category, const QString &action, const QString &label);
+
+public slots:
+    // Installs the translators of the language that the settings name, or else of the system's.
+    void changeLanguage();
+
+private:
+    static void setNames();
+    void createSearch();
+    void restoreFilesList();
+    void openMakerPage(const QString &path) const;
+    [[nodiscard]] QString systemLanguage() const;
+    [[nodiscard]] bool hasTranslation(const QString &code) const;
+    [[nodiscard]] static std::unique_ptr<QTranslator> loadTranslator(const QString &name, const QString &folder);
+
+    SingleInstance m_instance;
+    MainModel m_mainModel;
+    AccessManager m_networkManager;
+    Settings m_settings;
+    LyricsSearch m_search;
+    std::unique_ptr<QTranslator> m_translator;
+    std::unique_ptr<QTranslator> m_qtTranslator;
+    QString m_installedLanguage;
+};

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "app/GraphicsBackend.h"
+
+#include "settings/SettingsKeys.h"
+
+#include <QSettings>
+#include <QSurfaceFormat>
+
+namespace {
+
+enum Method { Automatic = 0, OpenGlEs = 1, Software = 2, DesktopOpenGl = 3 };
+
+void requestRenderable(QSurfaceFormat::RenderableType type)
+{
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setRenderableType(type);
+    QSurfaceFormat::setDefaultFormat(format);
+}
+
+} // namespace
+
+void chooseGraphicsBackend()
+{
+    if (!qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE"))
+        return;
+    switch (QSettings().value(SettingsKeys::openGlMethod, Software).toInt()) {
+    case Automatic:
+        break;
+    case OpenGlEs:
+        requestRenderable(QSurfaceFormat::OpenGLES);
+        break;
+    case DesktopOpenGl:
+        requestRenderable(QSurfaceFormat::OpenGL);
+        break;
+    default:
+        qputenv("QMLSCENE_DEVICE", "softwarecontext");
+    }
+}

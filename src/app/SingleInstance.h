@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLockFile>
+
+// Sees to it that only one Versewell works on a set of settings: holds a lock file as long as it lives.
+//
+// A lock left behind by a process that is gone does not count, and a lock that cannot be made at all (no space, no
+// permission) keeps nobody from starting. No message is passed to the instance that holds the lock.
+class SingleInstance
+{
+public:
+    // Tries to take the lock; its folder is made when it is missing.
+    explicit SingleInstance(const QString &lockFile);
+
+    // Whether another process holds the lock.
+    [[nodiscard]] bool isOtherRunning() const { return m_otherRunning; }
+
+private:
+    QLockFile m_lock;
+    bool m_otherRunning = false;
+};

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "app/Application.h"
+
+#include "app/GraphicsBackend.h"
+#include "network/Endpoints.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// An application object on a settings file of its own; like the program, one at a time.
+class Stage
+{
+public:
+    explicit Stage(const QVariantMap &stored = {})
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_configuration.path());
+        QSettings store(Application::settingsFile(), QSettings::NativeFormat);
+        for (auto entry = stored.begin(); entry != stored.end(); ++entry)
+            store.setValue(entry.key(), entry.value());
+        store.sync();
+        reloadEndpoints();
+        m_app = std::make_unique<Application>(m_argc, m_argv);
+    }
+
+    Application *operator->() { return m_app.get(); }
+    Application &operator*() { return *m_app; }
+
+private:
+    QTemporaryDir m_configuration;
+    int m_argc = 1;
+    char m_name[16] = "tst_application";
+    char *m_argv[2] = {m_name, nullptr};
+    std::unique_ptr<Application> m_app;
+};
+
+QString sample(const char *name)
+{
+    return QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + QLatin1String(name);
+}
+
+} // namespace
+
+class tst_Application : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theSavedListIsRestored_data();
+    void theSavedListIsRestored();
+    void servicesAreWired();
+    void makerPagesAreOpenedOnce_data();
+    void makerPagesAreOpenedOnce();
+    void languagesAreFoundAndChosen_data();
+    void languagesAreFoundAndChosen();
+    void searchesAreReported_data();
+    void searchesAreReported();
+    void theGraphicsBackendIsChosen_data();
+    void theGraphicsBackendIsChosen();
+
+public slots:
+    void noteOpenedUrl(const QUrl &url) { m_opened.append(url); }
+
+private:
+    QList<QUrl> m_opened;
+};
+
+void tst_Application::theSavedListIsRestored_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<bool>("wanted");
+    QTest::addColumn<QStringList>("expected");
+    const QString flac = sample("plain.flac");
+    const QString mp3 = sample("plain-v23.mp3");
+    const QString flacUrl = QUrl::fromLocalFile(flac).toString(QUrl::FullyEncoded);
+    QTest::newRow("urls") << QVariant(QStringList{QUrl::fromLocalFile(mp3).toString(), flacUrl}) << true
+                          << QStringList{mp3, flac};
+    QTest::newRow("paths") << QVariant(QStringList{flac, mp3}) << true << QStringList{flac, mp3};
+    QTest::newRow("a list of one, which the store keeps as a text") << QVariant(flacUrl) << true << QStringList{flac};
+    QTest::newRow("nonsense among the files")
+        << QVariant(QStringList{QString(), QStringLiteral("http://[::bad"), flac, QStringLiteral("/gone.mp3")}) << true
+        << QStringList{flac};
+    QTest::newRow("a number") << QVariant(17) << true << QStringList{};
+    QTest::newRow("not wanted") << QVariant(QStringList{flac}) << false << QStringList{};
+}
+
+void tst_Application::theSavedListIsRestored()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(bool, wanted);
+    QFETCH(QStringList, expected);
+    Stage app({{QStringLiteral("filesList"), stored}, {QStringLiteral("saveFilesList"), wanted}});
+    QStringList paths;
+    for (const QUrl &url : app->mainModel()->urls())
+        paths.append(url.toLocalFile());
+    QCOMPARE(paths, expected);
+}
+
+void tst_Application::servicesAreWired()
+{
+    Stage app({{QStringLiteral("providersOrder"), QStringLiteral(" lyricsfreak ;;Nobody")}});
+    QVERIFY(!app->isOtherInstanceRunning());
+    QVERIFY(Application::isLinux() && !Application::isWindows() && !Application::isMacOS());
+    QCOMPARE(Application::applicationName(), QStringLiteral("Versewell"));
+    QCOMPARE(Application::organizationName(), QStringLiteral("Quillmarsh"));
+    QCOMPARE(Application::applicationVersion(), QStringLiteral("1.5.6"));
+    QCOMPARE(app->mainModel()->supportedTypesMask(QStringLiteral(" ")),
+             QStringLiteral("*.aifc *.aiff *.aif *.opus *.aac *.ogg *.wma *.alac *.ape *.flac *.m4p *.m4a *.mp3"));
+    QCOMPARE(app->settings()->providersOrder(), app->lyricsSearch()->providersOrder());
+    QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
+    app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));
+    QVERIFY(app->lyricsSearch()->providersOrder().contains(QLatin1String("LyricsFreak::0")));
+}
+
+void tst_Application::makerPagesAreOpenedOnce_data()
+{
+    QTest::addColumn<QVariantMap>("stored");
+    QTest::addColumn<QStringList>("pages");
+    const QString first = QStringLiteral("FirstStart");
+    const QVariantMap site{{QStringLiteral("endpoints/Maker"), QStringLiteral("http://127.0.0.1:9")}};
+    const auto with = [&site](const QString &key, const QVariant &value) {
+        QVariantMap map = site;
+        map.insert(key, value);
+        return map;
+    };
+    QTest::newRow("the first start") << site
+                                     << QStringList{QStringLiteral("http://127.0.0.1:9/versewell/welcome.html")};
+    QTest::newRow("a start after an update") << with(first, QStringLiteral("1.5.5"))
+                                             << QStringList{QStringLiteral("http://127.0.0.1:9/versewell/update.html")};
+    QTest::newRow("another start") << with(first, QStringLiteral("1.5.6")) << QStringList{};
+    QTest::newRow("no pages wanted") << with(QStringLiteral("openQuillmarshSite"), false) << QStringList{};
+    QTest::newRow("a build without a maker's site") << QVariantMap() << QStringList{};
+}
+
+void tst_Application::makerPagesAreOpenedOnce()
+{
+    QFETCH(QVariantMap, stored);
+    QFETCH(QStringList, pages);
+    Stage app(stored);
+    m_opened.clear();
+    QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "noteOpenedUrl");
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "noteOpenedUrl");
+    app->noteStart();
+    app->noteStart();
+    QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    QCOMPARE(QUrl::toStringList(m_opened), pages);
+    QCOMPARE(QSettings().value(QStringLiteral("FirstStart")).toString(), QStringLiteral("1.5.6"));
+}
+
+void tst_Application::languagesAreFoundAndChosen_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QStringList>("languages");
+    QTest::addColumn<QString>("locale");
+    const QString de = QStringLiteral("tst_application.de.qm");
+    const QString en = QStringLiteral("tst_application.en.qm");
+    const QString brazil = QStringLiteral("tst_application.pt_BR.qm");
+    QTest::newRow("no translations") << QStringList{} << "de" << QStringList{QStringLiteral("en")} << "en";
+    QTest::newRow("English comes first when it has no file")
+        << QStringList{brazil, de, QStringLiteral("other.fr.qm")} << "pt_BR"
+        << QStringList{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("pt_BR")} << "pt_BR";
+    QTest::newRow("English keeps its place when it has one")
+        << QStringList{de, en} << "" << QStringList{QStringLiteral("de"), QStringLiteral("en")} << "en";
+    QTest::newRow("a language that is not there")
+        << QStringList{de} << "xx" << QStringList{QStringLiteral("en"), QStringLiteral("de")} << "en";
+}
+
+void tst_Application::languagesAreFoundAndChosen()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QString, chosen);
+    QFETCH(QString, locale);
+    Stage app({{QStringLiteral("language"), chosen}});
+    QDir folder(Application::applicationDirPath() + QLatin1String("/locale"));
+    QVERIFY(folder.removeRecursively() && folder.mkpath(QStringLiteral(".")));
+    for (const QString &name : files) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    app->setUpLanguages();
+    QTEST(app->property("languageList").toStringList(), "languages");
+    QCOMPARE(QLocale(), QLocale(locale));
+    app->settings()->setLanguage(QStringLiteral("en"));
+    QCOMPARE(QLocale(), QLocale(QStringLiteral("en")));
+    QVERIFY(folder.removeRecursively());
+}
+
+void tst_Application::searchesAreReported_data()
+{
+    QTest::addColumn<QString>("artist");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("labels");
+    QTest::newRow("both") << " Nora Vale "
+                          << " Harbour " << QStringList{QStringLiteral("Nora Vale // Harbour")};
+    QTest::newRow("the first alone") << "Nora Vale"
+                                     << " " << QStringList{QStringLiteral("Nora Vale")};
+    QTest::newRow("without the first nothing is said") << "  "
+                                                       << "Harbour" << QStringList{};
+}
+
+void tst_Application::searchesAreReported()
+{
+    QFETCH(QString, artist);
+    QFETCH(QString, title);
+    Stage app;
+    QStringList labels;
+    connect(&*app, &Application::usageEvent, this,
+            [&labels](const QString &category, const QString &action, const QString &label) {
+                if (category == QLatin1String("usage") && action == QLatin1String("search"))
+                    labels.append(label);
+            });
+    app->trackUsage(artist, title);
+    QTEST(labels, "labels");
+}
+
+void tst_Application::theGraphicsBackendIsChosen_data()
+{
+    QTest::addColumn<QByteArray>("environment");
+    QTest::addColumn<QVariant>("method");
+    QTest::addColumn<QByteArray>("device");
+    QTest::newRow("nothing said") << QByteArray() << QVariant() << QByteArray("softwarecontext");
+    QTest::newRow("software") << QByteArray() << QVariant(2) << QByteArray("softwarecontext");
+    QTest::newRow("automatic") << QByteArray() << QVariant(0) << QByteArray();
+    QTest::newRow("OpenGL ES") << QByteArray() << QVariant(1) << QByteArray();
+    QTest::newRow("desktop OpenGL") << QByteArray() << QVariant(3) << QByteArray();
+    QTest::newRow("the environment wins") << QByteArray("mine") << QVariant(2) << QByteArray("mine");
+    QTest::newRow("out of range") << QByteArray() << QVariant(-7) << QByteArray("softwarecontext");
+}
+
+void tst_Application::theGraphicsBackendIsChosen()
+{
+    QFETCH(QByteArray, environment);
+    QFETCH(QVariant, method);
+    Stage app(method.isValid() ? QVariantMap{{QStringLiteral("openGlMethod"), method}} : QVariantMap());
+    qputenv("QMLSCENE_DEVICE", environment);
+    chooseGraphicsBackend();
+    QTEST(qgetenv("QMLSCENE_DEVICE"), "device");
+    qunsetenv("QMLSCENE_DEVICE");
+}
+
+QTEST_APPLESS_MAIN(tst_Application)
+#include "tst_application.moc"
