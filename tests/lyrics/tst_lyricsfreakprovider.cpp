@@ -284,7 +284,7 @@ void TestLyricsFreakProvider::asksForLinksAsTheyStand_data()
     QTest::newRow("a full address") << QByteArray("@BASE@/song") << "la" << false;
     QTest::newRow("a second slash leads to no other host") << QByteArray("//other.invalid/song") << "" << true;
     QTest::newRow("an address without a host") << QByteArray("song") << "" << true;
-    QTest::newRow("a file") << QByteArray("file://etc/passwd") << "" << true;
+    QTest::newRow("a file") << QByteArray("file:///etc/passwd") << "" << true;
     QTest::newRow("nothing") << QByteArray() << "" << true;
 }
 

@@ -97,7 +97,7 @@ void TestLyricsProvider::init()
     m_server->route(QStringLiteral("/303"), redirectPage(303, "/page"));
     m_server->route(QStringLiteral("/anchor"), redirectPage(301, "/page#other"));
     m_server->route(QStringLiteral("/loop"), redirectPage(301, "/loop"));
-    m_server->route(QStringLiteral("/file"), redirectPage(301, "file://etc/passwd"));
+    m_server->route(QStringLiteral("/file"), redirectPage(301, "file:///etc/passwd"));
     m_server->route(QStringLiteral("/data"), redirectPage(307, "data:text/html,la"));
     m_server->route(QStringLiteral("/nowhere"), redirectPage(301, ""));
     m_server->route(QStringLiteral("/500"), LoopbackResponse::error(500));

@@ -57,6 +57,8 @@ def mapping_entries(tag):
         values = values if isinstance(values, list) else list(values) if hasattr(values, "kind") else [values]
         if name.lower() in PICTURES:
             yield name, [picture_bytes(name, value) for value in values]
+        elif name.lower().startswith("cover art"):  # APE: a file name, NUL and the picture
+            yield name, [digest(value.value) for value in values]
         else:
             yield name, [str(value) for value in values]
 
