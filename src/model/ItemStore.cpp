@@ -53,7 +53,7 @@ ItemStore::Taken ItemStore::takeEntry(quint16 id)
 std::vector<ItemStore::Taken> ItemStore::take(int first, int last)
 {
     std::vector<ItemStore::Taken> taken;
-    taken.reserve(static_cast<std::size_t>(last - first + 1));
+    taken.reserve(static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1);
     for (int row = first; row <= last; ++row)
         taken.push_back(takeEntry(idAt(row)));
     m_rows.remove(first, last - first + 1);

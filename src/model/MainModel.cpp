@@ -12,6 +12,7 @@
 #include <QQmlEngine>
 #include <QSet>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -419,8 +420,12 @@ bool MainModel::startSearch(quint16 id)
     ModelItem *item = m_items.find(id);
     if (!item)
         return false;
-    if (isOvertaken(id))
+    if (isOvertaken(id)) {
+        // Its names are not known yet; whether they are suitable shows when the tags are there.
+        item->setProcessState(ModelItem::ProcessWaiting);
         readAgain(id);
+        return true;
+    }
     if (item->processState() == ModelItem::ProcessWaiting)
         return true;
     const SearchNames names = item->searchArtistTitle();
@@ -495,31 +500,38 @@ void MainModel::startWriting(ModelItem *item)
     auto *writer = new TagWriter;
     connect(writer, &TagWriter::failed, this, &MainModel::tagsNotWritten);
     connect(writer, &TagWriter::written, this, &MainModel::tagsWritten);
+    connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
     writer->queueWrite(item->url(), id, item->artistTag(), item->titleTag(), item->lyricsTag());
 }
 
 void MainModel::tagsNotWritten(quint16 id, const QString &reason)
 {
+    m_failedWrites.insert(id);
     if (ModelItem *item = m_items.find(id))
         item->setErrorString(reason);
 }
 
 void MainModel::tagsWritten(quint16 id)
 {
-    if (auto *writer = qobject_cast<TagWriter *>(sender()))
-        writer->deleteLater();
     const auto writes = m_writes.find(id);
     if (writes != m_writes.end() && --*writes == 0)
         m_writes.erase(writes);
+    const bool hasFailed = m_failedWrites.remove(id);
     ModelItem *item = m_items.find(id);
-    if (item && item->processState() == ModelItem::ProcessWritingTags)
+    if (!item || item->processState() != ModelItem::ProcessWritingTags)
+        return;
+    if (!hasFailed)
+        item->setErrorString(QString()); // of an earlier write of this song that failed
+    if (!m_writes.contains(id))
         item->setProcessState(ModelItem::ProcessComplete);
 }
 
 bool MainModel::generateLyricsFile(quint16 id)
 {
     const ModelItem *item = m_items.find(id);
-    return item && item->url().isLocalFile() && writeLyricsFile(item->url().toLocalFile(), item->lyricsTag());
+    // Without lyrics there is nothing to export, and a text file that is there stays as it is.
+    return item && item->url().isLocalFile() && !item->lyricsTag().isEmpty() &&
+           writeLyricsFile(item->url().toLocalFile(), item->lyricsTag());
 }
 
 void MainModel::locate(int row) const

@@ -97,7 +97,8 @@ public slots:
     // Appends the urls that name regular local files and are not listed yet, as one insertion.
     void add(const QList<QUrl> &urls);
     void setAutoStart(bool on);
-    // Exports the item's lyrics to the text file beside its audio file; whether that could be written.
+    // Exports the item's lyrics to the text file beside its audio file. False, with nothing touched, when there are
+    // none or the file cannot be written.
     bool generateLyricsFile(quint16 id);
     void itemChanged();
     void fileInfoExtracted(const QString &file, const MediaFileTags &tags);
@@ -148,4 +149,5 @@ private:
     WorkQueue m_unread;           // tags not loaded and no read in flight
     WorkQueue m_searchable;       // waiting, with tags loaded
     QHash<quint16, int> m_writes; // id to number of writes under way
+    QSet<quint16> m_failedWrites; // until their end is reported
 };

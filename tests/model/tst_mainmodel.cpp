@@ -100,6 +100,8 @@ private slots:
     void lyricsAreDecodedAndWritten_data();
     void lyricsAreDecodedAndWritten();
     void aFailedWriteKeepsTheLyricsAndSaysWhy();
+    void theLastOfTwoWritesCounts();
+    void songsWithoutLyricsAreNotExported();
     void anOvertakenReadComesBackWithAForcedSearch();
     void removingTheSongThatIsReadLetsTheOthersBeRead();
     void tenSearchesAtATime();
@@ -228,11 +230,54 @@ void tst_MainModel::aFailedWriteKeepsTheLyricsAndSaysWhy()
     QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
 }
 
+void tst_MainModel::theLastOfTwoWritesCounts()
+{
+    Stage stage;
+    stage.model.setAutoStart(false);
+    const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
+    stage.model.add({url});
+    QTRY_VERIFY(stage.isLoaded(0));
+    ModelItem *item = stage.model.itemAt(0);
+    QSignalSpy states(item, &ModelItem::processStateChanged);
+    const auto write = [&](const QString &lyrics) {
+        item->setEditedLyricsTag(lyrics);
+        QVERIFY(stage.model.writeTags(1));
+        QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(30)));
+    };
+    const QString elsewhere = stage.folder.filePath(QStringLiteral("elsewhere"));
+    QVERIFY(QFile::rename(url.toLocalFile(), elsewhere));
+    write(QStringLiteral("first"));
+    QVERIFY(QFile::rename(elsewhere, url.toLocalFile()));
+    write(QStringLiteral("second"));
+    QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete); // the model hears of both only now
+    QCOMPARE(states.count(), 2);
+    QCOMPARE(item->errorString(), QString());
+    MediaFileTags tags;
+    QVERIFY(tags.read(url.toLocalFile()));
+    QCOMPARE(tags.value(QStringLiteral("lyrics")), QStringLiteral("second"));
+}
+
+void tst_MainModel::songsWithoutLyricsAreNotExported()
+{
+    Stage stage;
+    stage.model.setAutoStart(false);
+    stage.model.add({stage.song(QStringLiteral("A - Song.mp3"), "lyrics.mp3")});
+    QFile notes(stage.folder.filePath(QStringLiteral("A - Song.txt")));
+    QVERIFY(notes.open(QIODevice::ReadWrite) && notes.write("my own notes") > 0 && notes.flush());
+    QVERIFY(!stage.model.generateLyricsFile(1)); // not read yet
+    QTRY_VERIFY(stage.isLoaded(0));
+    stage.model.itemAt(0)->setEditedLyricsTag(QString());
+    QVERIFY(!stage.model.generateLyricsFile(1));
+    QVERIFY(notes.seek(0));
+    QCOMPARE(notes.readAll(), QByteArray("my own notes"));
+}
+
 void tst_MainModel::anOvertakenReadComesBackWithAForcedSearch()
 {
     Stage stage;
-    stage.model.add(stage.songs(4));
-    stage.model.add({stage.song(QStringLiteral("A - late.mp3"))}); // overtakes the read of the first
+    stage.model.add({stage.song(QStringLiteral("named in its tags.mp3"), "plain-v23.mp3")});
+    stage.model.add(stage.songs(3)); // overtakes the read of the first
+    stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
     for (int row = 1; row < 5; ++row)
         QTRY_VERIFY(stage.isLoaded(row));
     QTRY_COMPARE(stage.model.activeCount(), 1);
@@ -241,6 +286,7 @@ void tst_MainModel::anOvertakenReadComesBackWithAForcedSearch()
     QVERIFY(stage.model.startSearch(1)); // while another read is under way
     QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(5));
     QTRY_COMPARE(stage.model.activeCount(), 0);
+    QCOMPARE(stage.state(0), ModelItem::ProcessComplete);
 }
 
 void tst_MainModel::removingTheSongThatIsReadLetsTheOthersBeRead()
