@@ -33,9 +33,8 @@ QString lockFile()
 }
 
 // An entry of the saved list: a url, or an absolute path.
-QUrl savedFileUrl(const QVariant &entry)
+QUrl savedFileUrl(const QString &text)
 {
-    const QString text = entry.toString();
     return text.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(text) : QUrl(text);
 }
 
@@ -162,6 +161,7 @@ QString Application::translationsFolder() const
     const QDir buildTree(applicationDirPath() + QLatin1String("/locale"));
     if (buildTree.exists())
         return buildTree.path();
+    // Packages may put a path here that is relative to the program.
     return QStringLiteral("/usr/share/versewell/locale").replace(QLatin1String("@APP_DIR_PATH@"), applicationDirPath());
 }
 

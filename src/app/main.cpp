@@ -6,8 +6,11 @@
 #include "ui/MainWindow.h"
 
 #include <QMessageBox>
+#include <QThreadPool>
 
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -15,13 +18,19 @@ enum ExitStatus { OtherInstanceRuns = 1, SceneNotLoaded = 3 };
 
 // A write that makes no progress for so long is given up at the end of the program.
 constexpr std::chrono::seconds writePatience(30);
+// A read that still runs after this is left behind: it changes nothing, and its disk may never answer.
+constexpr std::chrono::milliseconds readPatience(500);
 
-int showSceneErrors(const QString &errors)
+// Nothing may go on behind a box that says that the program does not work.
+int showSceneError(Application &app, const QString &reason)
 {
-    QMessageBox::critical(nullptr, QStringLiteral("Versewell"),
-                          QApplication::translate("main", "The window could not be built. Something that Versewell "
-                                                          "needs is missing:\n\n%1")
-                              .arg(errors));
+    app.mainModel()->setSearch(nullptr);
+    qCritical("The window could not be built. %s", qUtf8Printable(reason));
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Versewell"),
+                    QApplication::translate("main", "The window could not be built."), QMessageBox::Close);
+    box.setInformativeText(reason);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
     return SceneNotLoaded;
 }
 
@@ -29,10 +38,12 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
 {
     MainWindow window(app.mainModel(), app.settings());
     if (!window.sceneErrors().isEmpty())
-        return showSceneErrors(window.sceneErrors());
-    QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, [&window] {
+        return showSceneError(app, window.sceneErrors());
+    QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, &QWidget::hide);
+    QObject::connect(&window, &MainWindow::sceneFailed, &app, [&app, &window](const QString &reason) {
+        app.reportOpenGLError();
         window.hide();
-        QCoreApplication::quit();
+        QCoreApplication::exit(showSceneError(app, reason));
     });
     window.show();
     return Application::exec();
@@ -50,13 +61,19 @@ void finishWrites()
 int main(int argc, char **argv)
 {
     Application app(argc, argv);
-    if (app.isOtherInstanceRunning())
+    if (app.isOtherInstanceRunning()) {
+        std::fputs("Versewell is running already.\n", stderr);
         return OtherInstanceRuns;
+    }
     const TerminationSignals signalsToEnd; // from here on they end the program in order
+    QObject::connect(&signalsToEnd, &TerminationSignals::received, &app, &QCoreApplication::quit);
     chooseGraphicsBackend();
     app.setUpLanguages();
     app.noteStart();
     const int status = runWindow(app, signalsToEnd);
     finishWrites();
+    // The application object would wait for a read without end. All is saved, and the lock ends with the process.
+    if (!QThreadPool::globalInstance()->waitForDone(static_cast<int>(readPatience.count())))
+        std::_Exit(status);
     return status;
 }

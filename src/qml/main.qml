@@ -13,14 +13,16 @@ Rectangle {
     function stateText(song) {
         if (!song)
             return "";
+        if (song.processState !== ModelItem.ProcessComplete)
+            return song.processStateText;
         if (song.errorString !== "")
             return song.errorString;
-        if (song.processState === ModelItem.ProcessComplete)
-            return song.lyricsTag === "" ? qsTr("no lyrics found") : qsTr("has lyrics");
-        return song.processStateText;
+        return song.lyricsTag === "" ? qsTr("no lyrics found") : qsTr("has lyrics");
     }
 
     color: colors.window
+
+    onCurrentSongChanged: lyricsPane.contentY = 0
 
     SystemPalette {
         id: colors
@@ -34,8 +36,19 @@ Rectangle {
         width: Math.max(200, Math.round(parent.width * 0.4))
         clip: true
         focus: true
+        activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
+        KeyNavigation.tab: lyricsPane
+        Keys.onPressed: {
+            if (event.key === Qt.Key_Home)
+                currentIndex = Math.min(0, count - 1);
+            else if (event.key === Qt.Key_End)
+                currentIndex = count - 1;
+            else
+                return;
+            event.accepted = true;
+        }
         model: mainModel
 
         Accessible.role: Accessible.List
@@ -97,11 +110,30 @@ Rectangle {
     }
 
     Flickable {
+        id: lyricsPane
+
+        function scrollBy(distance) {
+            contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance));
+        }
+
         objectName: "lyricsPane"
         anchors { left: list.right; right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 * root.spacing }
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         contentHeight: lyrics.implicitHeight
+        activeFocusOnTab: true
+        KeyNavigation.tab: list
+        Keys.onUpPressed: scrollBy(-root.rowHeight)
+        Keys.onDownPressed: scrollBy(root.rowHeight)
+        Keys.onPressed: {
+            if (event.key === Qt.Key_PageUp)
+                scrollBy(-height);
+            else if (event.key === Qt.Key_PageDown)
+                scrollBy(height);
+            else
+                return;
+            event.accepted = true;
+        }
 
         Text {
             id: lyrics
@@ -118,6 +150,30 @@ Rectangle {
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
+    }
+
+    // What part of long lyrics is seen.
+    Rectangle {
+        anchors.right: parent.right
+        y: lyricsPane.y + lyricsPane.visibleArea.yPosition * lyricsPane.height
+        width: root.spacing / 2
+        height: lyricsPane.visibleArea.heightRatio * lyricsPane.height
+        radius: width / 2
+        visible: lyricsPane.visibleArea.heightRatio < 1
+        color: colors.mid
+    }
+
+    // The pane that has the keyboard.
+    Rectangle {
+        readonly property Item pane: lyricsPane.activeFocus ? lyricsPane : list
+
+        x: pane.x
+        y: pane.y
+        width: pane.width
+        height: pane.height
+        visible: list.activeFocus || lyricsPane.activeFocus
+        color: "transparent"
+        border { width: 1; color: colors.highlight }
     }
 
     DropArea {

@@ -5,12 +5,16 @@
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
 
+#include <QFileInfo>
 #include <QLabel>
 #include <QQmlContext>
+#include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickWidget>
 #include <QSettings>
 #include <QStatusBar>
+
+#include <algorithm>
 
 // The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
 // namespace.
@@ -19,19 +23,34 @@ static void initSceneResources()
     Q_INIT_RESOURCE(qml);
 }
 
+// A line for each module of the scene that is not installed, with the Debian package that holds it.
+static QStringList missingModules(const QStringList &importPaths)
+{
+    QStringList lines;
+    const auto check = [&lines, &importPaths](const QString &folder, const QString &package) {
+        const bool isInstalled = std::any_of(importPaths.begin(), importPaths.end(), [&folder](const QString &path) {
+            return QFileInfo::exists(path + QLatin1Char('/') + folder + QLatin1String("/qmldir"));
+        });
+        if (!isInstalled)
+            lines.append(MainWindow::tr("The Qt module %1 is missing (package %2).").arg(folder, package));
+    };
+    check(QStringLiteral("QtQuick.2"), QStringLiteral("qml-module-qtquick2"));
+    return lines;
+}
+
 MainWindow::MainWindow(MainModel *model, Settings *settings, QWidget *parent)
     : QMainWindow(parent)
     , m_model(model)
     , m_settings(settings)
     , m_scene(new QQuickWidget(this))
     , m_statusLabel(new QLabel(this))
+    , m_noticeLabel(new QLabel(this))
 {
     setWindowTitle(QStringLiteral("Versewell"));
+    setMinimumSize(480, 320);
     resize(1040, 680);
     createScene();
-    m_statusLabel->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(m_statusLabel);
-    statusBar()->setSizeGripEnabled(false);
+    createStatusBar();
     connect(m_model, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
     connect(m_model, &MainModel::filesLeftOut, this, &MainWindow::showFilesLeftOut);
     updateStatusLabel();
@@ -48,6 +67,8 @@ void MainWindow::createScene()
     m_scene->setResizeMode(QQuickWidget::SizeRootObjectToView);
     m_scene->setAcceptDrops(true);
     m_scene->setFocusPolicy(Qt::ClickFocus);
+    connect(m_scene, &QQuickWidget::sceneGraphError, this,
+            [this](QQuickWindow::SceneGraphError, const QString &message) { emit sceneFailed(message); });
     QQmlContext *context = m_scene->rootContext();
     context->setContextProperty(QStringLiteral("settings"), m_settings);
     context->setContextProperty(QStringLiteral("mainModel"), m_model);
@@ -56,9 +77,20 @@ void MainWindow::createScene()
     m_scene->setFocus();
 }
 
+void MainWindow::createStatusBar()
+{
+    m_statusLabel->setTextFormat(Qt::PlainText);
+    m_noticeLabel->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(m_statusLabel);
+    statusBar()->addPermanentWidget(m_noticeLabel);
+    statusBar()->setSizeGripEnabled(false);
+}
+
 QString MainWindow::sceneErrors() const
 {
-    QStringList lines;
+    if (m_scene->errors().isEmpty())
+        return {};
+    QStringList lines = missingModules(m_scene->engine()->importPathList());
     for (const QQmlError &error : m_scene->errors())
         lines.append(error.toString());
     return lines.join(QLatin1Char('\n'));
@@ -72,7 +104,8 @@ void MainWindow::updateStatusLabel()
 
 void MainWindow::showFilesLeftOut(int count)
 {
-    statusBar()->showMessage(tr("The list is full: %n file(s) left out", nullptr, count));
+    m_filesLeftOut += count;
+    m_noticeLabel->setText(tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
 }
 
 void MainWindow::saveState() const

@@ -20,15 +20,20 @@ public:
     MainWindow(MainModel *model, Settings *settings, QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    // Why the scene could not be loaded, a line for each reason; empty when it could.
+    // Why the scene could not be loaded, in words for the user; empty when it could.
     [[nodiscard]] QString sceneErrors() const;
 
 public slots:
     // Keeps the number of songs that are still to be searched for in the status line.
     void updateStatusLabel();
 
+signals:
+    // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.
+    void sceneFailed(const QString &reason);
+
 private:
     void createScene();
+    void createStatusBar();
     void showFilesLeftOut(int count);
     void saveState() const;
 
@@ -36,4 +41,6 @@ private:
     Settings *m_settings;
     QQuickWidget *m_scene;
     QLabel *m_statusLabel;
+    QLabel *m_noticeLabel;
+    int m_filesLeftOut = 0;
 };
