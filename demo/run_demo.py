@@ -22,7 +22,8 @@ from sites import LyricsFreakSite, Sites
 TOP = pathlib.Path(__file__).resolve().parent.parent
 TIME_LIMIT_SECONDS = 90
 # The window's first size, so that the picture shows the window and nothing around it.
-SCREEN_SIZE = "1040x680x24"
+SCALE = float(os.environ.get("QT_SCALE_FACTOR") or 1)
+SCREEN_SIZE = f"{round(1040 * SCALE)}x{round(680 * SCALE)}x24"
 
 
 def arguments():
@@ -90,6 +91,8 @@ def main():
     options = arguments()
     if not options.program.is_file():
         sys.exit(f"{options.program} does not exist; build it first.")
+    if options.keep and options.keep.exists() and (not options.keep.is_dir() or any(options.keep.iterdir())):
+        sys.exit(f"{options.keep} holds files already; name a folder that is empty or not there yet.")
     # A request to end unwinds like any other way out, so that nothing is left behind.
     for number in (signal.SIGTERM, signal.SIGHUP):
         signal.signal(number, lambda *_: sys.exit(1))
