@@ -19,7 +19,7 @@ QList<QUrl> copySamples(const QString &folder, int count)
                               QStringLiteral("plain.m4a"), QStringLiteral("plain.ogg")};
     QList<QUrl> urls;
     for (int i = 0; i < count; ++i) {
-        const QString sample = samples.at(i % samples.size());
+        const QString &sample = samples.at(i % samples.size());
         const QString copy = QStringLiteral("%1/%2-%3").arg(folder).arg(i).arg(sample);
         if (!QFile::copy(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + sample, copy))
             qFatal("cannot copy the sample %s", qPrintable(sample));

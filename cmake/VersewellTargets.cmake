@@ -16,7 +16,7 @@ if(VERSEWELL_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-# versewell_add_library(<folder> SOURCES ... LINK ...): the static library of one folder under src/,
+# versewell_add_library(<folder> SOURCES ... LINK ... [PRIVATE_LINK ...]): the static library of one folder under src/,
 # called versewell_<folder> ("lyrics/providers" gives versewell_lyrics_providers).
 function(versewell_add_library folder)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
@@ -28,7 +28,7 @@ function(versewell_add_library folder)
         PRIVATE versewell_flags ${ARG_PRIVATE_LINK})
 endfunction()
 
-# versewell_add_test(<name> LINK ... [SOURCES ...] [FIXTURES ...] [GUI]): a QtTest program tests/.../<name>.cpp and
+# versewell_add_test(<name> LINK ... [SOURCES ...] [FIXTURES ...] [TIMEOUT seconds]): a QtTest program tests/.../<name>.cpp and
 # its CTest entry. FIXTURES names CTest fixtures that must be set up first ("samples": the generated songs).
 function(versewell_add_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;FIXTURES" ${ARGN})

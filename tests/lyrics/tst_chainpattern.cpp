@@ -28,7 +28,7 @@ QStringList allMatches(QRegExp expression, const QString &text)
 
 } // namespace
 
-class TestChainPattern : public QObject
+class tst_ChainPattern : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private slots:
     void firstCaptureIsThatOfTheFirstMatch();
 };
 
-void TestChainPattern::matchesWhatQRegExpMatches_data()
+void tst_ChainPattern::matchesWhatQRegExpMatches_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<Matching>("matching");
@@ -78,7 +78,7 @@ void TestChainPattern::matchesWhatQRegExpMatches_data()
     QTest::newRow("two captures, longest") << R"re(a(.*)b([^x]*)c(b*)a)re" << Matching::Longest << "a b c x";
 }
 
-void TestChainPattern::matchesWhatQRegExpMatches()
+void tst_ChainPattern::matchesWhatQRegExpMatches()
 {
     QFETCH(QString, pattern);
     QFETCH(Matching, matching);
@@ -102,12 +102,12 @@ void TestChainPattern::matchesWhatQRegExpMatches()
     QVERIFY2(matched > 20, "the pages must match often enough to say something");
 }
 
-void TestChainPattern::firstCaptureIsThatOfTheFirstMatch()
+void tst_ChainPattern::firstCaptureIsThatOfTheFirstMatch()
 {
     const ChainPattern pattern(QStringLiteral("<b>(.*)</b>"));
     QCOMPARE(firstCapture(pattern, QStringLiteral("<b>one</b><b>two</b>")).value_or(QString()), QStringLiteral("one"));
     QVERIFY(!firstCapture(pattern, QStringLiteral("<b>one")));
 }
 
-QTEST_APPLESS_MAIN(TestChainPattern)
+QTEST_APPLESS_MAIN(tst_ChainPattern)
 #include "tst_chainpattern.moc"

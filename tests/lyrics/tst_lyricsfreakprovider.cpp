@@ -47,7 +47,7 @@ QString fixtureLyrics()
 
 } // namespace
 
-class TestLyricsFreakProvider : public QObject
+class tst_LyricsFreakProvider : public QObject
 {
     Q_OBJECT
 
@@ -76,21 +76,21 @@ private:
     AccessManager m_manager;
 };
 
-void TestLyricsFreakProvider::initTestCase()
+void tst_LyricsFreakProvider::initTestCase()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
     QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settingsFolder.path());
 }
 
-void TestLyricsFreakProvider::init()
+void tst_LyricsFreakProvider::init()
 {
     m_server = std::make_unique<LoopbackServer>();
     QSettings().setValue(QStringLiteral("endpoints/LyricsFreak"), m_server->base());
     reloadEndpoints();
 }
 
-QString TestLyricsFreakProvider::searchResult(const QString &artist, const QString &title, QString *error)
+QString tst_LyricsFreakProvider::searchResult(const QString &artist, const QString &title, QString *error)
 {
     LyricsFreakProvider site(&m_manager);
     QSignalSpy finished(&site, &LyricsProvider::finished);
@@ -101,7 +101,7 @@ QString TestLyricsFreakProvider::searchResult(const QString &artist, const QStri
     return finished.first().first().toString();
 }
 
-void TestLyricsFreakProvider::findsTheLink_data()
+void tst_LyricsFreakProvider::findsTheLink_data()
 {
     QTest::addColumn<QString>("artist");
     QTest::addColumn<QString>("title");
@@ -132,7 +132,7 @@ void TestLyricsFreakProvider::findsTheLink_data()
                                               << "";
 }
 
-void TestLyricsFreakProvider::findsTheLink()
+void tst_LyricsFreakProvider::findsTheLink()
 {
     QFETCH(QString, artist);
     QFETCH(QString, title);
@@ -142,7 +142,7 @@ void TestLyricsFreakProvider::findsTheLink()
 }
 
 // The wanted song is always "a" by "b"; the letters stand in no other name.
-void TestLyricsFreakProvider::findsTheLinkInRows_data()
+void tst_LyricsFreakProvider::findsTheLinkInRows_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("link");
@@ -175,7 +175,7 @@ void TestLyricsFreakProvider::findsTheLinkInRows_data()
                              << "";
 }
 
-void TestLyricsFreakProvider::findsTheLinkInRows()
+void tst_LyricsFreakProvider::findsTheLinkInRows()
 {
     QFETCH(QString, page);
     page.replace(QLatin1String("@ROW"), QLatin1String(R"(<div data-sorting-artist="b" data-sorting-song="a">)"));
@@ -184,7 +184,7 @@ void TestLyricsFreakProvider::findsTheLinkInRows()
     QTEST(link.value_or(QString()), "link");
 }
 
-void TestLyricsFreakProvider::findsTheLyrics_data()
+void tst_LyricsFreakProvider::findsTheLyrics_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("lyrics");
@@ -201,14 +201,14 @@ void TestLyricsFreakProvider::findsTheLyrics_data()
                              << "";
 }
 
-void TestLyricsFreakProvider::findsTheLyrics()
+void tst_LyricsFreakProvider::findsTheLyrics()
 {
     QFETCH(QString, page);
     QTEST(LyricsFreakProvider::lyricsOfPage(page), "lyrics");
 }
 
 // As large as pages may be. What tries the rest of the page anew from every tag takes minutes for these.
-void TestLyricsFreakProvider::answersHostilePages_data()
+void tst_LyricsFreakProvider::answersHostilePages_data()
 {
     QTest::addColumn<QString>("page");
     constexpr int size = 1024 * 1024;
@@ -228,7 +228,7 @@ void TestLyricsFreakProvider::answersHostilePages_data()
                repeated(QStringLiteral("</div>"), size / 10);
 }
 
-void TestLyricsFreakProvider::answersHostilePages()
+void tst_LyricsFreakProvider::answersHostilePages()
 {
     QFETCH(QString, page);
     QVERIFY(!LyricsFreakProvider::songLink(page, QStringLiteral("b"), QStringLiteral("a")));
@@ -236,7 +236,7 @@ void TestLyricsFreakProvider::answersHostilePages()
     QVERIFY(cleanLyrics(page).size() <= page.size());
 }
 
-void TestLyricsFreakProvider::asksForTheSearchAndThenForTheSong()
+void tst_LyricsFreakProvider::asksForTheSearchAndThenForTheSong()
 {
     m_server->route(QStringLiteral("/search.php"),
                     LoopbackResponse::page(fixture(QStringLiteral("search.html")).toUtf8()));
@@ -258,7 +258,7 @@ void TestLyricsFreakProvider::asksForTheSearchAndThenForTheSong()
              QByteArray("/search.php?a=search&type=song&q=50%25%20%2B%20C%26A%20%231%20%D0%B4%D0%B0"));
 }
 
-void TestLyricsFreakProvider::carriesBrowserHeadersOnRedirects()
+void tst_LyricsFreakProvider::carriesBrowserHeadersOnRedirects()
 {
     const QByteArray row =
         "<div data-sorting-artist=\"b\" data-sorting-song=\"a\"><a href=\"/1\" class=\"song\"></a></div>";
@@ -275,7 +275,7 @@ void TestLyricsFreakProvider::carriesBrowserHeadersOnRedirects()
     }
 }
 
-void TestLyricsFreakProvider::asksForLinksAsTheyStand_data()
+void tst_LyricsFreakProvider::asksForLinksAsTheyStand_data()
 {
     QTest::addColumn<QByteArray>("link");
     QTest::addColumn<QString>("lyrics");
@@ -288,7 +288,7 @@ void TestLyricsFreakProvider::asksForLinksAsTheyStand_data()
     QTest::newRow("nothing") << QByteArray() << "" << true;
 }
 
-void TestLyricsFreakProvider::asksForLinksAsTheyStand()
+void tst_LyricsFreakProvider::asksForLinksAsTheyStand()
 {
     QFETCH(QByteArray, link);
     QFETCH(bool, failed);
@@ -301,7 +301,7 @@ void TestLyricsFreakProvider::asksForLinksAsTheyStand()
     QCOMPARE(!error.isEmpty(), failed);
 }
 
-void TestLyricsFreakProvider::standsInTheCatalogue()
+void tst_LyricsFreakProvider::standsInTheCatalogue()
 {
     const auto providers = makeProviders(&m_manager);
     QCOMPARE(providers.size(), std::size_t(1));
@@ -313,5 +313,5 @@ void TestLyricsFreakProvider::standsInTheCatalogue()
     QCOMPARE(copy->metaObject(), providers.front()->metaObject());
 }
 
-QTEST_GUILESS_MAIN(TestLyricsFreakProvider)
+QTEST_GUILESS_MAIN(tst_LyricsFreakProvider)
 #include "tst_lyricsfreakprovider.moc"

@@ -59,7 +59,7 @@ LoopbackResponse redirectPage(int status, const QByteArray &location)
 
 } // namespace
 
-class TestLyricsProvider : public QObject
+class tst_LyricsProvider : public QObject
 {
     Q_OBJECT
 
@@ -86,7 +86,7 @@ private:
     AccessManager m_manager;
 };
 
-void TestLyricsProvider::init()
+void tst_LyricsProvider::init()
 {
     m_server = std::make_unique<LoopbackServer>();
     QVERIFY(m_server->isListening());
@@ -122,7 +122,7 @@ void TestLyricsProvider::init()
     });
 }
 
-void TestLyricsProvider::answersEveryKindOfReply_data()
+void tst_LyricsProvider::answersEveryKindOfReply_data()
 {
     QTest::addColumn<QByteArray>("target");
     QTest::addColumn<QString>("lyrics");
@@ -157,7 +157,7 @@ void TestLyricsProvider::answersEveryKindOfReply_data()
     found("invalid UTF-8", "/invalid", QStringLiteral("l\ufffda"));
 }
 
-void TestLyricsProvider::answersEveryKindOfReply()
+void tst_LyricsProvider::answersEveryKindOfReply()
 {
     QFETCH(QByteArray, target);
     QFETCH(QString, error);
@@ -174,7 +174,7 @@ void TestLyricsProvider::answersEveryKindOfReply()
         QCOMPARE(request.method, QByteArray("GET"));
 }
 
-void TestLyricsProvider::putsTheSitesHeadersOnRedirects()
+void tst_LyricsProvider::putsTheSitesHeadersOnRedirects()
 {
     PageSite site(&m_manager, m_server->url("/301"));
     QSignalSpy finished(&site, &LyricsProvider::finished);
@@ -187,7 +187,7 @@ void TestLyricsProvider::putsTheSitesHeadersOnRedirects()
             m_server->requests().at(1).header("X-Followed") == "yes");
 }
 
-void TestLyricsProvider::leavesPagesAloneThatAreNotPercentEncoded()
+void tst_LyricsProvider::leavesPagesAloneThatAreNotPercentEncoded()
 {
     PageSite site(&m_manager, m_server->url("/encoded"), false);
     QSignalSpy finished(&site, &LyricsProvider::finished);
@@ -196,7 +196,7 @@ void TestLyricsProvider::leavesPagesAloneThatAreNotPercentEncoded()
     QCOMPARE(finished.first().first().toString(), QStringLiteral("%D0%B4%d0%b0, 100% sure"));
 }
 
-void TestLyricsProvider::refusesWhatItCannotSearch()
+void tst_LyricsProvider::refusesWhatItCannotSearch()
 {
     PageSite site(&m_manager, m_server->url("/page"));
     QSignalSpy finished(&site, &LyricsProvider::finished);
@@ -210,7 +210,7 @@ void TestLyricsProvider::refusesWhatItCannotSearch()
     QCOMPARE(m_server->requests().size(), 1);
 }
 
-void TestLyricsProvider::answersFromTheEventLoop()
+void tst_LyricsProvider::answersFromTheEventLoop()
 {
     PageSite site(&m_manager, m_server->url("/page"));
     QSignalSpy finished(&site, &LyricsProvider::finished);
@@ -221,7 +221,7 @@ void TestLyricsProvider::answersFromTheEventLoop()
     QVERIFY(!site.isBusy());
 }
 
-void TestLyricsProvider::failsWhenNobodyListens()
+void tst_LyricsProvider::failsWhenNobodyListens()
 {
     PageSite site(&m_manager, m_server->url("/page"));
     m_server->stop();
@@ -231,7 +231,7 @@ void TestLyricsProvider::failsWhenNobodyListens()
     QVERIFY(finished.first().first().toString().isEmpty() && !site.errorString().isEmpty());
 }
 
-void TestLyricsProvider::isIdleWhenItReports()
+void tst_LyricsProvider::isIdleWhenItReports()
 {
     PageSite site(&m_manager, m_server->url("/500"));
     QStringList results;
@@ -246,7 +246,7 @@ void TestLyricsProvider::isIdleWhenItReports()
     QCOMPARE(results, (QStringList{QStringLiteral("failed"), QStringLiteral("la")}));
 }
 
-void TestLyricsProvider::worksWithoutASharedManager()
+void tst_LyricsProvider::worksWithoutASharedManager()
 {
     PageSite site(nullptr, m_server->url("/page"));
     QSignalSpy finished(&site, &LyricsProvider::finished);
@@ -258,7 +258,7 @@ void TestLyricsProvider::worksWithoutASharedManager()
     QCOMPARE(m_server->mostConnections(), 1);
 }
 
-void TestLyricsProvider::abortsTheRequestWhenDestroyed()
+void tst_LyricsProvider::abortsTheRequestWhenDestroyed()
 {
     auto site = std::make_unique<PageSite>(&m_manager, m_server->url("/hang"));
     QSignalSpy finished(site.get(), &LyricsProvider::finished);
@@ -270,5 +270,5 @@ void TestLyricsProvider::abortsTheRequestWhenDestroyed()
     QTRY_VERIFY(m_manager.findChildren<QNetworkReply *>().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestLyricsProvider)
+QTEST_GUILESS_MAIN(tst_LyricsProvider)
 #include "tst_lyricsprovider.moc"

@@ -106,7 +106,7 @@ QStringList words(const QString &text, QChar separator = QLatin1Char(' '))
 
 } // namespace
 
-class TestLyricsSearch : public QObject
+class tst_LyricsSearch : public QObject
 {
     Q_OBJECT
 
@@ -131,19 +131,19 @@ private:
     std::unique_ptr<LyricsSearch> m_search;
 };
 
-void TestLyricsSearch::init()
+void tst_LyricsSearch::init()
 {
     m_script = Script();
     m_search = std::make_unique<LyricsSearch>();
 }
 
-void TestLyricsSearch::makeSites(const QString &names)
+void tst_LyricsSearch::makeSites(const QString &names)
 {
     for (const QString &name : words(names))
         m_search->addProvider(std::make_unique<ScriptedSite>(name, &m_script));
 }
 
-void TestLyricsSearch::appliesOrders_data()
+void tst_LyricsSearch::appliesOrders_data()
 {
     QTest::addColumn<QString>("order");
     QTest::addColumn<QString>("applied");
@@ -167,7 +167,7 @@ void TestLyricsSearch::appliesOrders_data()
                                      << "Freak;;Genius;;Mega";
 }
 
-void TestLyricsSearch::appliesOrders()
+void tst_LyricsSearch::appliesOrders()
 {
     QFETCH(QString, order);
     m_search->addProvider(nullptr);
@@ -176,7 +176,7 @@ void TestLyricsSearch::appliesOrders()
     QTEST(m_search->providersOrder(), "applied");
 }
 
-void TestLyricsSearch::triesSitesAndNamesInOrder_data()
+void tst_LyricsSearch::triesSitesAndNamesInOrder_data()
 {
     QTest::addColumn<QString>("sites"); // the order to apply
     QTest::addColumn<QString>(
@@ -248,7 +248,7 @@ void TestLyricsSearch::triesSitesAndNamesInOrder_data()
         << "a|t||";
 }
 
-void TestLyricsSearch::triesSitesAndNamesInOrder()
+void tst_LyricsSearch::triesSitesAndNamesInOrder()
 {
     QFETCH(QString, sites);
     QFETCH(QString, corrections);
@@ -275,7 +275,7 @@ void TestLyricsSearch::triesSitesAndNamesInOrder()
     QVERIFY2(m_search->children().isEmpty(), "clones are released");
 }
 
-void TestLyricsSearch::acceptsEachIdOnce()
+void tst_LyricsSearch::acceptsEachIdOnce()
 {
     makeSites(QStringLiteral("A"));
     m_script.answers.insert(QStringLiteral("A:a/t"), QStringLiteral("la"));
@@ -289,7 +289,7 @@ void TestLyricsSearch::acceptsEachIdOnce()
     QVERIFY(m_search->search(1, QStringLiteral("b"), QStringLiteral("t")));
 }
 
-void TestLyricsSearch::refusesBlankNames()
+void tst_LyricsSearch::refusesBlankNames()
 {
     QVERIFY2(m_search->canSearch({}, {}), "there is nobody to refuse");
     makeSites(QStringLiteral("A"));
@@ -300,7 +300,7 @@ void TestLyricsSearch::refusesBlankNames()
     QVERIFY(counts.isEmpty());
 }
 
-void TestLyricsSearch::reportsFromTheEventLoopAndCounts()
+void tst_LyricsSearch::reportsFromTheEventLoopAndCounts()
 {
     QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
     QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
@@ -318,7 +318,7 @@ void TestLyricsSearch::reportsFromTheEventLoopAndCounts()
     QCOMPARE(counts, (QList<QVariantList>{{1}, {2}, {1}, {0}}));
 }
 
-void TestLyricsSearch::startsTheNextSearchFromASlot()
+void tst_LyricsSearch::startsTheNextSearchFromASlot()
 {
     makeSites(QStringLiteral("A"));
     QList<int> ids;
@@ -332,7 +332,7 @@ void TestLyricsSearch::startsTheNextSearchFromASlot()
     QCOMPARE(m_search->searchCount(), 0);
 }
 
-void TestLyricsSearch::ignoresLateAnswers()
+void tst_LyricsSearch::ignoresLateAnswers()
 {
     makeSites(QStringLiteral("A B"));
     m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
@@ -346,7 +346,7 @@ void TestLyricsSearch::ignoresLateAnswers()
     QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
 }
 
-void TestLyricsSearch::keepsConcurrentSearchesApart()
+void tst_LyricsSearch::keepsConcurrentSearchesApart()
 {
     makeSites(QStringLiteral("A B"));
     QMap<int, QString> found;
@@ -362,7 +362,7 @@ void TestLyricsSearch::keepsConcurrentSearchesApart()
         QCOMPARE(result.value(), QString::number(result.key()));
 }
 
-void TestLyricsSearch::endsQuietlyWhenDestroyed()
+void tst_LyricsSearch::endsQuietlyWhenDestroyed()
 {
     makeSites(QStringLiteral("A"));
     QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
@@ -373,5 +373,5 @@ void TestLyricsSearch::endsQuietlyWhenDestroyed()
     QVERIFY(m_script.clones.first().isNull());
 }
 
-QTEST_GUILESS_MAIN(TestLyricsSearch)
+QTEST_GUILESS_MAIN(tst_LyricsSearch)
 #include "tst_lyricssearch.moc"

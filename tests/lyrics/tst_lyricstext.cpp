@@ -65,7 +65,7 @@ void compareOnRandomTexts(const QString &pieces, TextFunction fast, Plain slow)
 
 } // namespace
 
-class TestLyricsText : public QObject
+class tst_LyricsText : public QObject
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ private slots:
     void removesBrokenCharacters();
 };
 
-void TestLyricsText::cleansFragments_data()
+void tst_LyricsText::cleansFragments_data()
 {
     QTest::addColumn<QString>("html");
     QTest::addColumn<QString>("lyrics");
@@ -112,13 +112,13 @@ void TestLyricsText::cleansFragments_data()
                                    << "Привет\nשלום 🎵";
 }
 
-void TestLyricsText::cleansFragments()
+void tst_LyricsText::cleansFragments()
 {
     QFETCH(QString, html);
     QTEST(cleanLyrics(html), "lyrics");
 }
 
-void TestLyricsText::cleansLikeThePlainExpressions()
+void tst_LyricsText::cleansLikeThePlainExpressions()
 {
     const QString pieces =
         QStringLiteral("<!-- --> -- <br br > /> </ < / \r\n \n \t \u00a0 \u0085 \u200b x &amp; &#60; b>");
@@ -126,7 +126,7 @@ void TestLyricsText::cleansLikeThePlainExpressions()
     compareOnRandomTexts(pieces, stripTags, plain::stripTags);
 }
 
-void TestLyricsText::decodesEntities_data()
+void tst_LyricsText::decodesEntities_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("decoded");
@@ -153,21 +153,21 @@ void TestLyricsText::decodesEntities_data()
                             << "&#65";
 }
 
-void TestLyricsText::decodesEntities()
+void tst_LyricsText::decodesEntities()
 {
     QFETCH(QString, text);
     QTEST(decodeHtmlEntities(text), "decoded");
 }
 
 // Halves of surrogate pairs are left out: a regular expression gives up on a text that holds one.
-void TestLyricsText::decodesLikeThePlainExpressions()
+void tst_LyricsText::decodesLikeThePlainExpressions()
 {
     compareOnRandomTexts(
         QStringLiteral("&#38; &#35; &#x3b; &#59; &#x78; &#48; & # x 1 0 ; amp; &amp; lt; &quot; &#039; 39; &#00; 🎵"),
         decodeHtmlEntities, plain::decodeHtmlEntities);
 }
 
-void TestLyricsText::decodesPercentEscapes_data()
+void tst_LyricsText::decodesPercentEscapes_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("decoded");
@@ -179,13 +179,13 @@ void TestLyricsText::decodesPercentEscapes_data()
     QTest::newRow("NUL") << QByteArray("a%00b") << QByteArray("a\0b", 3);
 }
 
-void TestLyricsText::decodesPercentEscapes()
+void tst_LyricsText::decodesPercentEscapes()
 {
     QFETCH(QByteArray, bytes);
     QTEST(decodePercentEscapes(bytes), "decoded");
 }
 
-void TestLyricsText::removesBrokenCharacters_data()
+void tst_LyricsText::removesBrokenCharacters_data()
 {
     const QChar high(0xD83C);
     const QChar low(0xDFB5);
@@ -199,11 +199,11 @@ void TestLyricsText::removesBrokenCharacters_data()
     QTest::newRow("a high half before a pair") << QString(high) + high + low << "\ufffd🎵";
 }
 
-void TestLyricsText::removesBrokenCharacters()
+void tst_LyricsText::removesBrokenCharacters()
 {
     QFETCH(QString, text);
     QTEST(withoutBrokenCharacters(text), "whole");
 }
 
-QTEST_APPLESS_MAIN(TestLyricsText)
+QTEST_APPLESS_MAIN(tst_LyricsText)
 #include "tst_lyricstext.moc"

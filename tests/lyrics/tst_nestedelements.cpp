@@ -22,7 +22,7 @@ int countedClosingTag(const QString &html, int openingTag)
 
 } // namespace
 
-class TestNestedElements : public QObject
+class tst_NestedElements : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private slots:
     void countsLikeThePlainExpression();
 };
 
-void TestNestedElements::countsLikeThePlainExpression()
+void tst_NestedElements::countsLikeThePlainExpression()
 {
     RandomText pages(QStringLiteral("<div </div < > </ <DIV </span> x").split(QLatin1Char(' ')));
     for (int i = 0; i < 3000; ++i) {
@@ -41,5 +41,5 @@ void TestNestedElements::countsLikeThePlainExpression()
     }
 }
 
-QTEST_APPLESS_MAIN(TestNestedElements)
+QTEST_APPLESS_MAIN(tst_NestedElements)
 #include "tst_nestedelements.moc"

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-class TestSongNames : public QObject
+class tst_SongNames : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private slots:
     void comparesLoosely();
 };
 
-void TestSongNames::normalisesArtists_data()
+void tst_SongNames::normalisesArtists_data()
 {
     QTest::addColumn<QString>("artist");
     QTest::addColumn<QString>("normalised");
@@ -40,13 +40,13 @@ void TestSongNames::normalisesArtists_data()
                              << "";
 }
 
-void TestSongNames::normalisesArtists()
+void tst_SongNames::normalisesArtists()
 {
     QFETCH(QString, artist);
     QTEST(normalisedArtist(artist), "normalised");
 }
 
-void TestSongNames::normalisesTitles_data()
+void tst_SongNames::normalisesTitles_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("normalised");
@@ -64,13 +64,13 @@ void TestSongNames::normalisesTitles_data()
                                       << R"(Up\\Down)";
 }
 
-void TestSongNames::normalisesTitles()
+void tst_SongNames::normalisesTitles()
 {
     QFETCH(QString, title);
     QTEST(normalisedTitle(title), "normalised");
 }
 
-void TestSongNames::comparesLoosely_data()
+void tst_SongNames::comparesLoosely_data()
 {
     QTest::addColumn<QString>("left");
     QTest::addColumn<QString>("right");
@@ -95,12 +95,12 @@ void TestSongNames::comparesLoosely_data()
                                    << "Beyoncé" << false;
 }
 
-void TestSongNames::comparesLoosely()
+void tst_SongNames::comparesLoosely()
 {
     QFETCH(QString, left);
     QFETCH(QString, right);
     QTEST(looselyAgree(left, right), "agree");
 }
 
-QTEST_APPLESS_MAIN(TestSongNames)
+QTEST_APPLESS_MAIN(tst_SongNames)
 #include "tst_songnames.moc"

@@ -43,7 +43,7 @@ Values with(Values values, const Values &more)
 
 } // namespace
 
-class TestMediaFileTags : public QObject
+class tst_MediaFileTags : public QObject
 {
     Q_OBJECT
 
@@ -60,7 +60,7 @@ private slots:
     void plainFieldsServeWithoutTag();
 };
 
-void TestMediaFileTags::songsAreRead_data()
+void tst_MediaFileTags::songsAreRead_data()
 {
     QTest::addColumn<Values>("expected");
     const Values track{{QStringLiteral("track"), QStringLiteral("3/9")}};
@@ -106,7 +106,7 @@ void TestMediaFileTags::songsAreRead_data()
     QTest::newRow("plain.wv") << basics;
 }
 
-void TestMediaFileTags::songsAreRead()
+void tst_MediaFileTags::songsAreRead()
 {
     QFETCH(Values, expected);
     const SongFiles files;
@@ -122,7 +122,7 @@ void TestMediaFileTags::songsAreRead()
     QCOMPARE(SongFiles::bytes(path), before);
 }
 
-void TestMediaFileTags::copiesAreIndependent()
+void tst_MediaFileTags::copiesAreIndependent()
 {
     const SongFiles files;
     MediaFileTags tags;
@@ -136,7 +136,7 @@ void TestMediaFileTags::copiesAreIndependent()
     QCOMPARE(copy.value(QStringLiteral("lyrics")), QString());
 }
 
-void TestMediaFileTags::picturesAreFound_data()
+void tst_MediaFileTags::picturesAreFound_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<QSize>("size");
@@ -153,7 +153,7 @@ void TestMediaFileTags::picturesAreFound_data()
     QTest::newRow("plain.mp3 without any") << 0 << QSize() << QSize();
 }
 
-void TestMediaFileTags::picturesAreFound()
+void tst_MediaFileTags::picturesAreFound()
 {
     QFETCH(int, count);
     const SongFiles files;
@@ -171,7 +171,7 @@ void TestMediaFileTags::picturesAreFound()
     }
 }
 
-void TestMediaFileTags::otherFilesGiveEmptyRecords_data()
+void tst_MediaFileTags::otherFilesGiveEmptyRecords_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("opens");
@@ -184,7 +184,7 @@ void TestMediaFileTags::otherFilesGiveEmptyRecords_data()
     QTest::newRow("empty .mp3") << QStringLiteral("empty.mp3") << true;
 }
 
-void TestMediaFileTags::otherFilesGiveEmptyRecords()
+void tst_MediaFileTags::otherFilesGiveEmptyRecords()
 {
     QFETCH(QString, name);
     QFETCH(bool, opens);
@@ -207,7 +207,7 @@ void TestMediaFileTags::otherFilesGiveEmptyRecords()
     QCOMPARE(tags.pictureCount(), 0);
 }
 
-void TestMediaFileTags::recordsAreSaved_data()
+void tst_MediaFileTags::recordsAreSaved_data()
 {
     QTest::addColumn<QStringList>("lost");
     const QStringList basicOnly = allKeys.mid(6);
@@ -221,7 +221,7 @@ void TestMediaFileTags::recordsAreSaved_data()
     QTest::newRow("plain.ape") << basicOnly;
 }
 
-void TestMediaFileTags::recordsAreSaved()
+void tst_MediaFileTags::recordsAreSaved()
 {
     QFETCH(QStringList, lost);
     const SongFiles files;
@@ -259,7 +259,7 @@ void TestMediaFileTags::recordsAreSaved()
     QCOMPARE(SongFiles::audioDigest(path), audio);
 }
 
-void TestMediaFileTags::plainFieldsServeWithoutTag()
+void tst_MediaFileTags::plainFieldsServeWithoutTag()
 {
     MediaFileTags tags;
     tags.setValue(QStringLiteral("artist"), QStringLiteral("A"));
@@ -276,5 +276,5 @@ void TestMediaFileTags::plainFieldsServeWithoutTag()
     QCOMPARE(SongFiles::tagsOf(path).value(QStringLiteral("title")).toString(), QStringLiteral("The Song"));
 }
 
-QTEST_GUILESS_MAIN(TestMediaFileTags)
+QTEST_GUILESS_MAIN(tst_MediaFileTags)
 #include "tst_mediafiletags.moc"

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-class TestMediaInfoExtractor : public QObject
+class tst_MediaInfoExtractor : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ QString title(const QList<QVariant> &arguments)
 
 } // namespace
 
-void TestMediaInfoExtractor::resultsAreAnnounced_data()
+void tst_MediaInfoExtractor::resultsAreAnnounced_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("decodeCover");
@@ -44,7 +44,7 @@ void TestMediaInfoExtractor::resultsAreAnnounced_data()
     QTest::newRow("vanished") << QStringLiteral("vanished.mp3") << true << QString() << QSize();
 }
 
-void TestMediaInfoExtractor::resultsAreAnnounced()
+void tst_MediaInfoExtractor::resultsAreAnnounced()
 {
     QFETCH(QString, name);
     QFETCH(bool, decodeCover);
@@ -67,7 +67,7 @@ void TestMediaInfoExtractor::resultsAreAnnounced()
              thumbnail.isValid() ? thumbnail : QSize(0, 0));
 }
 
-void TestMediaInfoExtractor::overtakenResultsAreDropped()
+void tst_MediaInfoExtractor::overtakenResultsAreDropped()
 {
     const SongFiles files;
     MediaInfoExtractor extractor;
@@ -87,7 +87,7 @@ void TestMediaInfoExtractor::overtakenResultsAreDropped()
     }
 }
 
-void TestMediaInfoExtractor::aRequestFromTheAnswerIsServed()
+void tst_MediaInfoExtractor::aRequestFromTheAnswerIsServed()
 {
     const SongFiles files;
     const QString first = files.copy(QStringLiteral("plain.ogg"));
@@ -103,7 +103,7 @@ void TestMediaInfoExtractor::aRequestFromTheAnswerIsServed()
     QTRY_COMPARE(answers, (QStringList{first, second}));
 }
 
-void TestMediaInfoExtractor::extractorMayDieDuringARead()
+void tst_MediaInfoExtractor::extractorMayDieDuringARead()
 {
     const SongFiles files;
     const QString path = files.copy(QStringLiteral("rich.mp3"));
@@ -119,5 +119,5 @@ void TestMediaInfoExtractor::extractorMayDieDuringARead()
     QCoreApplication::processEvents();
 }
 
-QTEST_GUILESS_MAIN(TestMediaInfoExtractor)
+QTEST_GUILESS_MAIN(tst_MediaInfoExtractor)
 #include "tst_mediainfoextractor.moc"

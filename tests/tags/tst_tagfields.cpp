@@ -72,7 +72,7 @@ QByteArray png(int width, int height)
 
 } // namespace
 
-class TestTagFields : public QObject
+class tst_TagFields : public QObject
 {
     Q_OBJECT
 
@@ -92,7 +92,7 @@ private slots:
     void coversAreRefused();
 };
 
-void TestTagFields::valuesAreConverted_data()
+void tst_TagFields::valuesAreConverted_data()
 {
     using MpItem = TagLib::MP4::Item;
     using AsfItem = TagLib::ASF::Attribute;
@@ -147,14 +147,14 @@ void TestTagFields::valuesAreConverted_data()
     row("id3v1: no place for lyrics", std::make_shared<TagLib::ID3v1::Tag>(), "lyrics", "");
 }
 
-void TestTagFields::valuesAreConverted()
+void tst_TagFields::valuesAreConverted()
 {
     QFETCH(TagPointer, tag);
     QFETCH(QString, key);
     QTEST(tags::value(*tag, key), "expected");
 }
 
-void TestTagFields::valuesComeBack_data()
+void tst_TagFields::valuesComeBack_data()
 {
     QTest::addColumn<TagPointer>("tag");
     QTest::newRow("id3v2") << TagPointer(new TagLib::ID3v2::Tag);
@@ -163,7 +163,7 @@ void TestTagFields::valuesComeBack_data()
     QTest::newRow("xiph") << TagPointer(new TagLib::Ogg::XiphComment);
 }
 
-void TestTagFields::valuesComeBack()
+void tst_TagFields::valuesComeBack()
 {
     QFETCH(TagPointer, tag);
     const bool isAsf = qstrcmp(QTest::currentDataTag(), "asf") == 0;
@@ -184,7 +184,7 @@ void TestTagFields::valuesComeBack()
     QCOMPARE(tags::value(*tag, QStringLiteral("composer")), QString());
 }
 
-void TestTagFields::everyValueIsDumped()
+void tst_TagFields::everyValueIsDumped()
 {
     const QString rule = QStringLiteral("----------------");
     QCOMPARE(tags::dumpOf(*xiph({{"B", "2"}, {"A", "1"}, {"A", "3"}})).split(QLatin1Char('\n')),
@@ -194,7 +194,7 @@ void TestTagFields::everyValueIsDumped()
     QVERIFY(tags::dumpOf(*asf("Mood", TagLib::String("calm"))).contains(QLatin1String("asf_debugTags\nMood = calm")));
 }
 
-void TestTagFields::starsOfBytes_data()
+void tst_TagFields::starsOfBytes_data()
 {
     QTest::addColumn<int>("byte");
     QTest::addColumn<int>("stars");
@@ -213,13 +213,13 @@ void TestTagFields::starsOfBytes_data()
         QTest::addRow("%d", byte) << byte << stars;
 }
 
-void TestTagFields::starsOfBytes()
+void tst_TagFields::starsOfBytes()
 {
     QFETCH(int, byte);
     QTEST(tags::starsFromByte(byte), "stars");
 }
 
-void TestTagFields::textsAreCleaned_data()
+void tst_TagFields::textsAreCleaned_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
@@ -231,13 +231,13 @@ void TestTagFields::textsAreCleaned_data()
     QTest::newRow("never half a pair") << QStringLiteral("123456789𝄞") << QStringLiteral("123456789");
 }
 
-void TestTagFields::textsAreCleaned()
+void tst_TagFields::textsAreCleaned()
 {
     QFETCH(QString, text);
     QTEST(tags::cleanedText(text, 10), "expected");
 }
 
-void TestTagFields::thumbnailSizes_data()
+void tst_TagFields::thumbnailSizes_data()
 {
     QTest::addColumn<QSize>("original");
     QTest::addColumn<QSize>("expected");
@@ -249,7 +249,7 @@ void TestTagFields::thumbnailSizes_data()
     QTest::newRow("a line") << QSize(8000, 1) << QSize(50, 1);
 }
 
-void TestTagFields::thumbnailSizes()
+void tst_TagFields::thumbnailSizes()
 {
     QFETCH(QSize, original);
     QFETCH(QSize, expected);
@@ -258,7 +258,7 @@ void TestTagFields::thumbnailSizes()
         QCOMPARE(decodeThumbnail(png(original.width(), original.height())).size(), expected);
 }
 
-void TestTagFields::coversAreRefused_data()
+void tst_TagFields::coversAreRefused_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::newRow("nothing") << QByteArray();
@@ -271,7 +271,7 @@ void TestTagFields::coversAreRefused_data()
         "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/></svg>");
 }
 
-void TestTagFields::coversAreRefused()
+void tst_TagFields::coversAreRefused()
 {
     QFETCH(QByteArray, data);
     QVERIFY(decodeThumbnail(data).isNull());
@@ -279,5 +279,5 @@ void TestTagFields::coversAreRefused()
     QVERIFY(!decodeCover(png(8192, 10)).isNull());
 }
 
-QTEST_GUILESS_MAIN(TestTagFields)
+QTEST_GUILESS_MAIN(tst_TagFields)
 #include "tst_tagfields.moc"

@@ -17,7 +17,7 @@
 
 using namespace std::chrono_literals;
 
-class TestTagWriter : public QObject
+class tst_TagWriter : public QObject
 {
     Q_OBJECT
 
@@ -89,7 +89,7 @@ private:
 
 } // namespace
 
-TestTagWriter::Answer TestTagWriter::write(const QString &path, const QString &artistName, const QString &title,
+tst_TagWriter::Answer tst_TagWriter::write(const QString &path, const QString &artistName, const QString &title,
                                            const QString &lyrics)
 {
     constexpr quint16 id = 65535;
@@ -111,14 +111,14 @@ TestTagWriter::Answer TestTagWriter::write(const QString &path, const QString &a
     return answer;
 }
 
-QJsonObject TestTagWriter::without(QJsonObject tags, std::initializer_list<const char *> keys)
+QJsonObject tst_TagWriter::without(QJsonObject tags, std::initializer_list<const char *> keys)
 {
     for (const char *key : keys)
         tags.remove(QString::fromLatin1(key));
     return tags;
 }
 
-void TestTagWriter::lyricsAreStored_data()
+void tst_TagWriter::lyricsAreStored_data()
 {
     QTest::addColumn<QString>("id3");
     QTest::addColumn<bool>("readBack");
@@ -143,7 +143,7 @@ void TestTagWriter::lyricsAreStored_data()
     QTest::newRow("plain.wv") << QString() << false;
 }
 
-void TestTagWriter::lyricsAreStored()
+void tst_TagWriter::lyricsAreStored()
 {
     QFETCH(QString, id3);
     QFETCH(bool, readBack);
@@ -182,7 +182,7 @@ void TestTagWriter::lyricsAreStored()
     QCOMPARE(reread.value(QStringLiteral("lyrics")), readBack ? lyricsSeen(after) : QString());
 }
 
-void TestTagWriter::usltFramesAreEncoded_data()
+void tst_TagWriter::usltFramesAreEncoded_data()
 {
     QTest::addColumn<QString>("sample");
     QTest::addColumn<QString>("lyrics");
@@ -199,7 +199,7 @@ void TestTagWriter::usltFramesAreEncoded_data()
     QTest::newRow("beyond the basic plane in 2.3") << v3 << QStringLiteral("𝄞 歌") << 1;
 }
 
-void TestTagWriter::usltFramesAreEncoded()
+void tst_TagWriter::usltFramesAreEncoded()
 {
     QFETCH(QString, sample);
     QFETCH(int, encoding);
@@ -212,7 +212,7 @@ void TestTagWriter::usltFramesAreEncoded()
     QCOMPARE(lyricsSeen(tags), lyrics);
 }
 
-void TestTagWriter::namesAreStored_data()
+void tst_TagWriter::namesAreStored_data()
 {
     QTest::addColumn<QString>("sample");
     QTest::addColumn<QString>("newArtist");
@@ -239,7 +239,7 @@ void TestTagWriter::namesAreStored_data()
     QTest::newRow("names that only RIFF INFO held") << "info.wav" << artist << song << QStringList{artist} << song;
 }
 
-void TestTagWriter::namesAreStored()
+void tst_TagWriter::namesAreStored()
 {
     QFETCH(QString, sample);
     QFETCH(QString, newArtist);
@@ -259,7 +259,7 @@ void TestTagWriter::namesAreStored()
     }
 }
 
-void TestTagWriter::nothingNewLeavesTheFileAlone_data()
+void tst_TagWriter::nothingNewLeavesTheFileAlone_data()
 {
     QTest::addColumn<QString>("lyrics");
     QTest::newRow("lyrics.ogg") << "Old words\nof café";
@@ -273,7 +273,7 @@ void TestTagWriter::nothingNewLeavesTheFileAlone_data()
     QTest::newRow("plain.ape") << QString();
 }
 
-void TestTagWriter::nothingNewLeavesTheFileAlone()
+void tst_TagWriter::nothingNewLeavesTheFileAlone()
 {
     QFETCH(QString, lyrics);
     const SongFiles files;
@@ -296,14 +296,14 @@ void TestTagWriter::nothingNewLeavesTheFileAlone()
     QCOMPARE(QFileInfo(path).lastModified(), longAgo);
 }
 
-void TestTagWriter::emptyLyricsRemoveTheStored_data()
+void tst_TagWriter::emptyLyricsRemoveTheStored_data()
 {
     QTest::addColumn<QString>("sample");
     for (const char *sample : {"lyrics.mp3", "lyrics.ogg", "rich.m4a", "lyrics.wma", "plain.ape", "plain.flac"})
         QTest::newRow(sample) << sample;
 }
 
-void TestTagWriter::emptyLyricsRemoveTheStored()
+void tst_TagWriter::emptyLyricsRemoveTheStored()
 {
     QFETCH(QString, sample);
     const SongFiles files;
@@ -317,7 +317,7 @@ void TestTagWriter::emptyLyricsRemoveTheStored()
     QCOMPARE(without(after, {"lyrics", "usltEncodings"}), without(before, {"lyrics", "usltEncodings"}));
 }
 
-void TestTagWriter::refusalsHaveAReason_data()
+void tst_TagWriter::refusalsHaveAReason_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("reason");
@@ -341,7 +341,7 @@ void TestTagWriter::refusalsHaveAReason_data()
                                        << "the file cannot be opened";
 }
 
-void TestTagWriter::refusalsHaveAReason()
+void tst_TagWriter::refusalsHaveAReason()
 {
     QFETCH(QString, name);
     QFETCH(QString, reason);
@@ -373,7 +373,7 @@ void TestTagWriter::refusalsHaveAReason()
     QCOMPARE(write(path, {}, {}, {}).reasons, QStringList());
 }
 
-void TestTagWriter::oddNamesAreWritten_data()
+void tst_TagWriter::oddNamesAreWritten_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("hash") << "a#b.mp3";
@@ -385,7 +385,7 @@ void TestTagWriter::oddNamesAreWritten_data()
     QTest::newRow("capital extension") << "a.MP3";
 }
 
-void TestTagWriter::oddNamesAreWritten()
+void tst_TagWriter::oddNamesAreWritten()
 {
     QFETCH(QString, name);
     const SongFiles files;
@@ -396,7 +396,7 @@ void TestTagWriter::oddNamesAreWritten()
     QCOMPARE(tags.value(QStringLiteral("lyrics")), QString(words).replace(QLatin1String("\n"), QLatin1String("\r\n")));
 }
 
-void TestTagWriter::writesAreCountedAndOrdered()
+void tst_TagWriter::writesAreCountedAndOrdered()
 {
     const SongFiles files;
     const QUrl url = QUrl::fromLocalFile(files.copy(QStringLiteral("plain.ogg")));
@@ -419,7 +419,7 @@ void TestTagWriter::writesAreCountedAndOrdered()
     QTRY_COMPARE(order, (QVector<int>{1, 2, 3, 4, 5}));
 }
 
-void TestTagWriter::aWriterThatDiesIsNotWaitedFor()
+void tst_TagWriter::aWriterThatDiesIsNotWaitedFor()
 {
     const SongFiles files;
     const QString path = files.copy(QStringLiteral("plain.ogg"));
@@ -434,7 +434,7 @@ void TestTagWriter::aWriterThatDiesIsNotWaitedFor()
     QCOMPARE(SongFiles::bytes(path), before);
 }
 
-void TestTagWriter::waitingGivesUpWithoutProgress()
+void tst_TagWriter::waitingGivesUpWithoutProgress()
 {
     BusyWriter busy;
     QPointer<TagWriter> writer = new TagWriter;
@@ -447,5 +447,5 @@ void TestTagWriter::waitingGivesUpWithoutProgress()
     QTRY_VERIFY(writer.isNull());
 }
 
-QTEST_GUILESS_MAIN(TestTagWriter)
+QTEST_GUILESS_MAIN(tst_TagWriter)
 #include "tst_tagwriter.moc"
