@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsCipher.h"
 
-#include <QCryptographicHash>
-#include <QLoggingCategory>
-#include <QtEndian>
+#include "network/Inflater.h"
+#include "settings/SettingsLog.h"
 
-Q_LOGGING_CATEGORY(settingsLog, "versewell.settings")
+#include <QCryptographicHash>
+#include <QtEndian>
 
 namespace {
 
@@ -14,10 +14,10 @@ constexpr int headerSize = 2;
 constexpr int keySize = 8;
 constexpr int checksumSize = 2;
 constexpr int hashSize = 20;
-/// zlib cannot make more of a byte than this; a length that claims more is a lie, and is not to be allocated.
-constexpr quint64 largestInflation = 1032;
-/// qCompress puts the length of the plain data in front.
+// qCompress puts the length of the plain data in front, as a big-endian number.
 constexpr int lengthSize = 4;
+// Far beyond any secret; what claims or becomes more is damage, or was made to exhaust the memory.
+constexpr quint32 largestPlainBytes = 16 * 1024 * 1024;
 
 enum Flag : quint8 { FlagCompressed = 0x01, FlagChecksum = 0x02, FlagHash = 0x04 };
 
@@ -31,12 +31,24 @@ QByteArray hashOf(const QByteArray &data)
     return QCryptographicHash::hash(data, QCryptographicHash::Sha1);
 }
 
-bool hasPlausibleLength(const QByteArray &compressed)
+// The two bytes that begin a zlib stream (RFC 1950): the method is deflate, and the two have a checksum in them.
+bool beginsLikeZlib(const QByteArray &data)
 {
-    if (compressed.size() <= lengthSize)
-        return true; // qUncompress says what to make of it without allocating
-    const quint64 claimed = qFromBigEndian<quint32>(compressed.constData());
-    return claimed <= static_cast<quint64>(compressed.size() - lengthSize) * largestInflation;
+    return data.size() >= 2 && (data.at(0) & 0x0f) == 8 && qFromBigEndian<quint16>(data.constData()) % 31 == 0;
+}
+
+// What qUncompress gives, empty for anything that is not qCompress's form, but without its dangers: it allocates
+// whatever the length in front claims, and goes on without bounds when more than that comes out.
+QByteArray uncompressed(const QByteArray &compressed)
+{
+    if (compressed.size() <= lengthSize || qFromBigEndian<quint32>(compressed.constData()) > largestPlainBytes)
+        return {};
+    const QByteArray stream = compressed.mid(lengthSize);
+    Inflater inflater(Inflater::Format::Deflate, largestPlainBytes);
+    QByteArray plain;
+    if (!beginsLikeZlib(stream) || inflater.add(stream, &plain) != Inflater::Result::Good || !inflater.isComplete())
+        return {};
+    return plain;
 }
 
 } // namespace
@@ -84,7 +96,7 @@ QByteArray SettingsCipher::encryptToByteArray(const QByteArray &plain)
     return QByteArray(1, version) + static_cast<char>(flags) + body;
 }
 
-/// The plain bytes, compressed as the mode has it.
+// The plain bytes, compressed as the mode has it.
 QByteArray SettingsCipher::pack(const QByteArray &plain, quint8 *flags) const
 {
     if (m_compressionMode == CompressionNever)
@@ -150,26 +162,26 @@ QByteArray SettingsCipher::decryptToByteArray(const QByteArray &cipher)
     body.remove(0, 1); // the random byte
     if (!takeIntegrityField(&body, flags))
         return failed(ErrorIntegrityFailed);
-    if (flags & FlagCompressed) {
-        if (!hasPlausibleLength(body))
-            return failed(ErrorIntegrityFailed);
-        body = qUncompress(body);
-    }
+    // A body that cannot be inflated counts as an empty text, and deliberately not as an error.
+    if (flags & FlagCompressed)
+        body = uncompressed(body);
     m_lastError = ErrorNoError;
     return body;
 }
 
-/// Cuts the checksum or the hash off the body; whether it fits the rest. The checksum alone counts when both are flagged.
+// Cuts the checksum or the hash off the body; whether it fits the rest. When both are flagged the checksum alone is
+// looked at, and the hash counts as part of the rest; that is meant.
 bool SettingsCipher::takeIntegrityField(QByteArray *body, quint8 flags) const
 {
-    const int size = flags & FlagChecksum ? checksumSize : flags & FlagHash ? hashSize : 0;
-    if (size == 0)
+    const bool hasChecksum = flags & FlagChecksum;
+    if (!hasChecksum && !(flags & FlagHash))
         return true;
+    const int size = hasChecksum ? checksumSize : hashSize;
     if (body->size() < size)
         return false;
     const QByteArray field = body->left(size);
     body->remove(0, size);
-    if (flags & FlagChecksum)
+    if (hasChecksum)
         return qFromBigEndian<quint16>(field.constData()) == checksumOf(*body);
     return field == hashOf(*body);
 }
@@ -181,10 +193,11 @@ QByteArray SettingsCipher::decryptToByteArray(const QString &cipher)
 
 QString SettingsCipher::decryptToString(const QByteArray &cipher)
 {
-    return QString::fromUtf8(decryptToByteArray(cipher));
+    const QByteArray plain = decryptToByteArray(cipher);
+    return QString::fromUtf8(plain.constData(), plain.size()); // with its size, else it would end at a NUL
 }
 
 QString SettingsCipher::decryptToString(const QString &cipher)
 {
-    return QString::fromUtf8(decryptToByteArray(cipher));
+    return decryptToString(QByteArray::fromBase64(cipher.toLatin1()));
 }

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "settings/SettingsLog.h"
+
+Q_LOGGING_CATEGORY(settingsLog, "versewell.settings")
