@@ -44,6 +44,8 @@ Application::Application(int &argc, char **argv)
     : QApplication(argc, argv)
     , m_instance(lockFile())
 {
+    if (m_instance.isHolder())
+        m_settingsMending = mendSettingsFile(settingsFile());
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     m_mainModel.setSupportedExtensions(supportedExtensions());
     setNames();
@@ -52,7 +54,9 @@ Application::Application(int &argc, char **argv)
     m_mainModel.setSettings(&m_settings);
     m_mainModel.setSearch(&m_search);
     connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
+    proxyChanged();
     connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
+    connect(&m_settings, &Settings::proxyChanged, this, &Application::proxyChanged);
     connect(&m_settings, &Settings::providersOrderChanged, &m_search, &LyricsSearch::setProvidersOrder);
     if (!isOtherInstanceRunning() && m_settings.saveFilesList())
         restoreFilesList();
@@ -89,7 +93,7 @@ void Application::restoreFilesList()
 {
     QList<QUrl> urls;
     // A list of one comes back from the store as a plain string, which toList() would lose.
-    const QStringList entries = QSettings().value(SettingsKeys::filesList).toStringList();
+    const QStringList entries = storedValue(QSettings(), SettingsKey::FilesList).toStringList();
     for (const QString &entry : entries) {
         const QUrl url = savedFileUrl(entry);
         if (url.isValid())
@@ -110,6 +114,13 @@ Application::OSType Application::osType()
 #else
     return OS_Unknown;
 #endif
+}
+
+// The network
+
+void Application::proxyChanged()
+{
+    m_networkManager.setProxy(m_settings.proxy());
 }
 
 // Usage events
@@ -135,9 +146,9 @@ void Application::reportOpenGLError()
 void Application::noteStart()
 {
     QSettings store;
-    const QString lastVersion = store.value(SettingsKeys::firstStart).toString();
-    store.setValue(SettingsKeys::firstStart, applicationVersion());
-    if (!store.value(SettingsKeys::openQuillmarshSite, true).toBool() || lastVersion == applicationVersion())
+    const QString lastVersion = storedValue(store, SettingsKey::FirstStart).toString();
+    storeValue(store, SettingsKey::FirstStart, applicationVersion());
+    if (!storedValue(store, SettingsKey::OpenQuillmarshSite).toBool() || lastVersion == applicationVersion())
         return;
     openMakerPage(lastVersion.isEmpty() ? QStringLiteral("/versewell/welcome.html")
                                         : QStringLiteral("/versewell/update.html"));

@@ -6,6 +6,7 @@
 #include "model/MainModel.h"
 #include "network/AccessManager.h"
 #include "settings/Settings.h"
+#include "settings/SettingsFile.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -29,12 +30,16 @@ public:
     enum OSType { OS_Mac, OS_Windows, OS_Linux, OS_Unknown };
     Q_ENUM(OSType)
 
-    // The settings are loaded and, when no other instance runs, the saved list of files is restored.
+    // A damaged settings file is kept aside and mended, the settings are loaded and, when no other instance runs, the
+    // saved list of files is restored.
     Application(int &argc, char **argv);
     ~Application() override;
 
     // The settings file of this user; can be asked before there is an application object.
     [[nodiscard]] static QString settingsFile();
+
+    // What was found of damage in the settings file at the start; to be told to the user.
+    [[nodiscard]] SettingsMending settingsMending() const { return m_settingsMending; }
 
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
     [[nodiscard]] static OSType osType();
@@ -70,6 +75,8 @@ signals:
 public slots:
     // Installs the translators of the language that the settings name, or else of the system's.
     void changeLanguage();
+    // Hands the proxy that the settings describe to the access manager.
+    void proxyChanged();
 
 private:
     static void setNames();
@@ -81,6 +88,7 @@ private:
     [[nodiscard]] static std::unique_ptr<QTranslator> loadTranslator(const QString &name, const QString &folder);
 
     SingleInstance m_instance;
+    SettingsMending m_settingsMending;
     MainModel m_mainModel;
     AccessManager m_networkManager;
     Settings m_settings;

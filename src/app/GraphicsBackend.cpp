@@ -23,7 +23,7 @@ void chooseGraphicsBackend()
 {
     if (!qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE"))
         return;
-    switch (QSettings().value(SettingsKeys::openGlMethod, Software).toInt()) {
+    switch (storedValue(QSettings(), SettingsKey::OpenGlMethod).toInt()) {
     case Automatic:
         break;
     case OpenGlEs:

@@ -16,6 +16,9 @@ public:
     // Whether another process holds the lock.
     [[nodiscard]] bool isOtherRunning() const { return m_otherRunning; }
 
+    // Whether this process holds it. Neither is true where the lock could not be made.
+    [[nodiscard]] bool isHolder() const { return m_lock.isLocked(); }
+
 private:
     QLockFile m_lock;
     bool m_otherRunning = false;

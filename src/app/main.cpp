@@ -46,6 +46,8 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
         QCoreApplication::exit(showSceneError(app, reason));
     });
     window.show();
+    if (const SettingsMending mending = app.settingsMending(); mending.damaged)
+        window.showSettingsDamaged(mending.copy);
     return Application::exec();
 }
 

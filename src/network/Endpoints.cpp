@@ -74,13 +74,13 @@ QUrl readBase(const QSettings &settings, const EndpointRow &row)
             return override;
         qCWarning(networkLog, "The setting endpoints/%s is not an http or https address; it is ignored.", row.key);
     }
-    return withoutTrailingSlash(QString::fromUtf8(row.defaultBase));
+    return endpointDefault(row.endpoint);
 }
 
 Bases readBases()
 {
     QSettings settings;
-    settings.beginGroup(QStringLiteral("endpoints"));
+    settings.beginGroup(endpointGroup());
     Bases bases;
     for (const EndpointRow &row : endpointTable)
         bases[rowOf(row.endpoint)] = readBase(settings, row);
@@ -95,9 +95,27 @@ std::optional<Bases> &knownBases()
 
 } // namespace
 
+QVector<Endpoint> allEndpoints()
+{
+    QVector<Endpoint> endpoints;
+    for (const EndpointRow &row : endpointTable)
+        endpoints.append(row.endpoint);
+    return endpoints;
+}
+
+QString endpointGroup()
+{
+    return QStringLiteral("endpoints");
+}
+
 QString endpointKey(Endpoint endpoint)
 {
     return QString::fromLatin1(endpointTable[rowOf(endpoint)].key);
+}
+
+QUrl endpointDefault(Endpoint endpoint)
+{
+    return withoutTrailingSlash(QString::fromUtf8(endpointTable[rowOf(endpoint)].defaultBase));
 }
 
 QUrl endpointBase(Endpoint endpoint)

@@ -3,12 +3,13 @@
 
 #include <QString>
 #include <QUrl>
+#include <QVector>
 
 // The one table of addresses that the program talks to. Each has a default and can be overridden in the settings group
 // "endpoints" under its key; an override is a plain http or https address, anything else is ignored with a warning.
 //
-// The overrides are read from QSettings in its default scope on the first use of any function here but endpointKey(),
-// so the application's and the organisation's name must be set before. Main thread only.
+// The overrides are read from QSettings in its default scope on the first use of endpointBase(), endpointUrl() or
+// endpointExists(), so the application's and the organisation's name must be set before. Main thread only.
 enum class Endpoint {
     LyricsFreak,
     Megalyrics,
@@ -27,8 +28,17 @@ enum class Endpoint {
     Yandex,
 };
 
+// All of them, in their order.
+[[nodiscard]] QVector<Endpoint> allEndpoints();
+
+// The settings group of the overrides: "endpoints".
+[[nodiscard]] QString endpointGroup();
+
 // The key of the override, without its group: "LyricsFreak".
 [[nodiscard]] QString endpointKey(Endpoint endpoint);
+
+// The base address without an override.
+[[nodiscard]] QUrl endpointDefault(Endpoint endpoint);
 
 // The base address, without a trailing slash. An override may have a path of its own.
 [[nodiscard]] QUrl endpointBase(Endpoint endpoint);

@@ -1,14 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include "settings/SettingsCipher.h"
+#include "settings/SettingsFile.h"
 #include "settings/SettingsKeys.h"
 
 #include <QSettings>
+
+#include <limits>
 
 namespace {
 
 constexpr int smallestFontSize = 6;
 constexpr int largestFontSize = 40;
+constexpr int largestPort = std::numeric_limits<quint16>::max();
+
+// Part of the file format: with another one, no stored secret can be read any more.
+constexpr quint64 cipherKey = 0x3d81c5a27e90b46f;
 
 // Stores the value and tells whether it was a new one.
 template<typename T>
@@ -20,36 +28,104 @@ bool assign(T &field, const T &value)
     return true;
 }
 
+// The stored values, each with a fallback for an absent key.
+class Reader
+{
+public:
+    [[nodiscard]] QString text(SettingsKey key, const QString &current) const { return value(key, current).toString(); }
+    [[nodiscard]] bool flag(SettingsKey key, bool current) const { return value(key, current).toBool(); }
+    [[nodiscard]] int number(SettingsKey key, int current) const { return value(key, current).toInt(); }
+
+    // `current` also stands when what is stored is out of range.
+    [[nodiscard]] int number(SettingsKey key, int current, int smallest, int largest) const
+    {
+        const int stored = number(key, current);
+        return stored >= smallest && stored <= largest ? stored : current;
+    }
+
+    [[nodiscard]] QString secret(SettingsKey key, const QString &current) const
+    {
+        return SettingsCipher(cipherKey).decryptToString(text(key, SettingsCipher(cipherKey).encryptToString(current)));
+    }
+
+private:
+    [[nodiscard]] QVariant value(SettingsKey key, const QVariant &current) const
+    {
+        return m_store.value(keyName(key), current);
+    }
+
+    QSettings m_store;
+};
+
+void storeSecret(QSettings &store, SettingsKey key, const QString &secret)
+{
+    storeValue(store, key, SettingsCipher(cipherKey).encryptToString(secret));
+}
+
+ProxyConfiguration defaultProxy()
+{
+    ProxyConfiguration proxy;
+    proxy.type = keyDefault(SettingsKey::ProxyType).toInt();
+    proxy.address = keyDefault(SettingsKey::ProxyAddress).toString();
+    proxy.port = static_cast<quint16>(keyDefault(SettingsKey::ProxyPort).toUInt());
+    proxy.authentication = keyDefault(SettingsKey::ProxyAuthentication).toBool();
+    proxy.username = keyDefault(SettingsKey::ProxyUsername).toString();
+    proxy.password = keyDefault(SettingsKey::ProxyPassword).toString();
+    return proxy;
+}
+
 } // namespace
 
 Settings::Settings(QObject *parent)
     : QObject(parent)
+    , m_lyricsFontSize(keyDefault(SettingsKey::LyricsFontSize).toInt())
+    , m_language(keyDefault(SettingsKey::Language).toString())
+    , m_proxy(defaultProxy())
+    , m_saveFilesList(keyDefault(SettingsKey::SaveFilesList).toBool())
+    , m_searchProvider(keyDefault(SettingsKey::SearchProvider).toString())
+    , m_generateLyricsFileAuto(keyDefault(SettingsKey::GenerateLyricsFileAuto).toBool())
+    , m_prependNewLine(keyDefault(SettingsKey::PrependNewLine).toBool())
+    , m_providersOrder(keyDefault(SettingsKey::ProvidersOrder).toString())
 {
     connect(this, &Settings::languageChanged, this, &Settings::changed);
+    connect(this, &Settings::proxyChanged, this, &Settings::changed);
 }
 
 void Settings::load()
 {
-    const QSettings store;
-    m_lyricsFontSize = store.value(SettingsKeys::lyricsFontSize, m_lyricsFontSize).toInt();
-    m_language = store.value(SettingsKeys::language, m_language).toString();
-    m_saveFilesList = store.value(SettingsKeys::saveFilesList, m_saveFilesList).toBool();
-    m_searchProvider = store.value(SettingsKeys::searchProvider, m_searchProvider).toString();
-    m_generateLyricsFileAuto = store.value(SettingsKeys::generateLyricsFileAuto, m_generateLyricsFileAuto).toBool();
-    m_prependNewLine = store.value(SettingsKeys::prependNewLine, m_prependNewLine).toBool();
-    m_providersOrder = store.value(SettingsKeys::providersOrder, m_providersOrder).toString();
+    const Reader stored;
+    m_lyricsFontSize = stored.number(SettingsKey::LyricsFontSize, m_lyricsFontSize, smallestFontSize, largestFontSize);
+    m_language = stored.text(SettingsKey::Language, m_language);
+    m_proxy.type = stored.number(SettingsKey::ProxyType, m_proxy.type);
+    m_proxy.address = stored.text(SettingsKey::ProxyAddress, m_proxy.address);
+    m_proxy.port = static_cast<quint16>(stored.number(SettingsKey::ProxyPort, m_proxy.port, 0, largestPort));
+    m_proxy.authentication = stored.flag(SettingsKey::ProxyAuthentication, m_proxy.authentication);
+    m_proxy.username = stored.secret(SettingsKey::ProxyUsername, m_proxy.username);
+    m_proxy.password = stored.secret(SettingsKey::ProxyPassword, m_proxy.password);
+    m_saveFilesList = stored.flag(SettingsKey::SaveFilesList, m_saveFilesList);
+    m_searchProvider = stored.text(SettingsKey::SearchProvider, m_searchProvider);
+    m_generateLyricsFileAuto = stored.flag(SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);
+    m_prependNewLine = stored.flag(SettingsKey::PrependNewLine, m_prependNewLine);
+    m_providersOrder = stored.text(SettingsKey::ProvidersOrder, m_providersOrder);
 }
 
-void Settings::save() const
+bool Settings::save() const
 {
     QSettings store;
-    store.setValue(SettingsKeys::lyricsFontSize, m_lyricsFontSize);
-    store.setValue(SettingsKeys::language, m_language);
-    store.setValue(SettingsKeys::saveFilesList, m_saveFilesList);
-    store.setValue(SettingsKeys::searchProvider, m_searchProvider);
-    store.setValue(SettingsKeys::generateLyricsFileAuto, m_generateLyricsFileAuto);
-    store.setValue(SettingsKeys::prependNewLine, m_prependNewLine);
-    store.setValue(SettingsKeys::providersOrder, m_providersOrder);
+    storeValue(store, SettingsKey::LyricsFontSize, m_lyricsFontSize);
+    storeValue(store, SettingsKey::Language, m_language);
+    storeValue(store, SettingsKey::ProxyType, m_proxy.type);
+    storeValue(store, SettingsKey::ProxyAddress, m_proxy.address);
+    storeValue(store, SettingsKey::ProxyPort, static_cast<int>(m_proxy.port));
+    storeValue(store, SettingsKey::ProxyAuthentication, m_proxy.authentication);
+    storeSecret(store, SettingsKey::ProxyUsername, m_proxy.username);
+    storeSecret(store, SettingsKey::ProxyPassword, m_proxy.password);
+    storeValue(store, SettingsKey::SaveFilesList, m_saveFilesList);
+    storeValue(store, SettingsKey::SearchProvider, m_searchProvider);
+    storeValue(store, SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);
+    storeValue(store, SettingsKey::PrependNewLine, m_prependNewLine);
+    storeValue(store, SettingsKey::ProvidersOrder, m_providersOrder);
+    return writeSettingsFile(store);
 }
 
 void Settings::setLyricsFontSize(int pointSize)
@@ -64,6 +140,42 @@ void Settings::setLanguage(const QString &language)
 {
     if (assign(m_language, language))
         emit languageChanged(language);
+}
+
+void Settings::setProxyType(int type)
+{
+    if (assign(m_proxy.type, type))
+        emit proxyChanged();
+}
+
+void Settings::setProxyAddress(const QString &address)
+{
+    if (assign(m_proxy.address, address))
+        emit proxyChanged();
+}
+
+void Settings::setProxyAuthentication(bool on)
+{
+    if (assign(m_proxy.authentication, on))
+        emit proxyChanged();
+}
+
+void Settings::setProxyUsername(const QString &name)
+{
+    if (assign(m_proxy.username, name))
+        emit proxyChanged();
+}
+
+void Settings::setProxyPassword(const QString &password)
+{
+    if (assign(m_proxy.password, password))
+        emit proxyChanged();
+}
+
+void Settings::setProxyPort(quint16 port)
+{
+    if (assign(m_proxy.port, port))
+        emit proxyChanged();
 }
 
 void Settings::setSaveFilesList(bool on)

@@ -1,28 +1,62 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLatin1String>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+#include <QVector>
 
-// The names of the persistent keys, as they stand in the settings file.
-namespace SettingsKeys {
+class QSettings;
 
-// Held by Settings; its class comment gives types and defaults.
-inline constexpr QLatin1String lyricsFontSize("lyricsFontSize");
-inline constexpr QLatin1String language("language");
-inline constexpr QLatin1String saveFilesList("saveFilesList");
-inline constexpr QLatin1String searchProvider("searchProvider");
-inline constexpr QLatin1String generateLyricsFileAuto("generateLyricsFileAuto");
-inline constexpr QLatin1String prependNewLine("prependNewLine");
-inline constexpr QLatin1String providersOrder("providersOrder");
+// The one table of what the program keeps in its settings file: name, type, default and meaning of every key. Whoever
+// reads or writes a key takes them from here.
+enum class SettingsKey {
+    // Held by Settings, in the order of its properties.
+    LyricsFontSize,
+    Language,
+    ProxyType,
+    ProxyAddress,
+    ProxyPort,
+    ProxyAuthentication,
+    ProxyUsername,
+    ProxyPassword,
+    SaveFilesList,
+    SearchProvider,
+    GenerateLyricsFileAuto,
+    PrependNewLine,
+    ProvidersOrder,
+    // Read and written where they are used.
+    Geometry,
+    ListWidth,
+    FilesList,
+    LastFileDir,
+    LastFolderDir,
+    OpenGlMethod,
+    FirstStart,
+    OpenQuillmarshSite,
+    UsageStatistics,
+    TrackerClientId,
+    UpdaterPeriod,
+    UpdaterSkippedVersion,
+};
 
-// List of strings: the urls of the listed files in row order; written when `saveFilesList` is on. Absolute paths are
-// read too.
-inline constexpr QLatin1String filesList("filesList");
-// int: how the scene is drawn. 0 automatic, 1 OpenGL ES, 2 software (also when absent), 3 desktop OpenGL.
-inline constexpr QLatin1String openGlMethod("openGlMethod");
-// String: the version that ran last; empty before the first run.
-inline constexpr QLatin1String firstStart("FirstStart");
-// bool, default true: whether the maker's welcome and what's-new pages may be opened.
-inline constexpr QLatin1String openQuillmarshSite("openQuillmarshSite");
+// The name as it stands in the settings file, with its group: "proxy/type".
+[[nodiscard]] QString keyName(SettingsKey key);
 
-} // namespace SettingsKeys
+// What counts when the key is absent. Invalid where absence means something of its own.
+[[nodiscard]] QVariant keyDefault(SettingsKey key);
+
+// What is stored, or the default. A stored value comes as the store has it, often as a text: convert it.
+[[nodiscard]] QVariant storedValue(const QSettings &store, SettingsKey key);
+void storeValue(QSettings &store, SettingsKey key, const QVariant &value);
+
+struct SettingsKeyRow
+{
+    QString name;
+    QMetaType::Type type;
+    QVariant defaultValue;
+    QString meaning; // in English, for documents
+};
+
+// The whole table, with the base addresses of the group "endpoints" at the end.
+[[nodiscard]] QVector<SettingsKeyRow> settingsKeyTable();

@@ -3,9 +3,11 @@
 
 #include "model/MainModel.h"
 #include "settings/Settings.h"
+#include "settings/SettingsFile.h"
 #include "settings/SettingsKeys.h"
 
 #include <QFileInfo>
+#include <QDir>
 #include <QLabel>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -15,6 +17,16 @@
 #include <QStatusBar>
 
 #include <algorithm>
+#include <chrono>
+
+using std::chrono::milliseconds;
+
+namespace {
+
+// Long enough to be read and noted down; the status line is needed for the work on the songs as well.
+constexpr std::chrono::minutes settingsMessageTime(1);
+
+} // namespace
 
 // The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
 // namespace.
@@ -108,14 +120,25 @@ void MainWindow::showFilesLeftOut(int count)
     m_noticeLabel->setText(tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
 }
 
+void MainWindow::showSettingsDamaged(const QString &copy)
+{
+    const QString text =
+        copy.isEmpty() ? tr("The settings file is damaged. What could be read is used, but no copy could be made.")
+                       : tr("The settings file was damaged. What could be read is kept; the damaged file is now %1",
+                            "%1 is the path of a file")
+                             .arg(QDir::toNativeSeparators(copy));
+    statusBar()->showMessage(text, static_cast<int>(milliseconds(settingsMessageTime).count()));
+}
+
 void MainWindow::saveState() const
 {
     m_settings->save();
-    QSettings store;
     if (!m_settings->saveFilesList())
         return;
+    QSettings store;
     QStringList files;
     for (const QUrl &url : m_model->urls())
         files.append(url.toString(QUrl::FullyEncoded));
-    store.setValue(SettingsKeys::filesList, files);
+    storeValue(store, SettingsKey::FilesList, files);
+    writeSettingsFile(store);
 }

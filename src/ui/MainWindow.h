@@ -26,6 +26,9 @@ public:
 public slots:
     // Keeps the number of songs that are still to be searched for in the status line.
     void updateStatusLabel();
+    // Says in the status line that the settings file was damaged. `copy` is the path of the damaged file as it was;
+    // empty when no copy could be made.
+    void showSettingsDamaged(const QString &copy);
 
 signals:
     // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.

@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include "settings/SettingsKeys.h"
+
+#include <QFile>
+#include <QMetaProperty>
+#include <QSet>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
 
 class tst_Settings : public QObject
 {
@@ -19,6 +27,13 @@ private slots:
     void settersEmitOnceAndOnlyOnChange();
     void fontSizeKeepsToItsRange_data();
     void fontSizeKeepsToItsRange();
+    void propertiesStandInTheirOrder();
+    void oddValuesAreHarmless_data();
+    void oddValuesAreHarmless();
+    void secretsAreNotReadableInTheFile();
+    void aSecretOfAnotherRunIsRead();
+    void theTableHasDefaultsOfItsTypes();
+    void aFailedSaveLosesNothing();
 
 private:
     QTemporaryDir m_folder;
@@ -39,21 +54,36 @@ void tst_Settings::init()
 
 void tst_Settings::anEmptyStoreGivesTheDefaults()
 {
+    const QVariantMap expected{{QStringLiteral("lyricsFontSize"), 12},
+                               {QStringLiteral("language"), QString()},
+                               {QStringLiteral("proxyType"), 0},
+                               {QStringLiteral("proxyAddress"), QString()},
+                               {QStringLiteral("proxyPort"), 0},
+                               {QStringLiteral("proxyAuthentication"), false},
+                               {QStringLiteral("proxyUsername"), QString()},
+                               {QStringLiteral("proxyPassword"), QString()},
+                               {QStringLiteral("saveFilesList"), false},
+                               {QStringLiteral("searchProvider"), QString()},
+                               {QStringLiteral("generateLyricsFileAuto"), false},
+                               {QStringLiteral("prependNewLine"), false},
+                               {QStringLiteral("providersOrder"), QString()}};
     Settings settings;
     settings.load();
-    QCOMPARE(settings.lyricsFontSize(), 12);
-    QCOMPARE(settings.language(), QString());
-    QCOMPARE(settings.saveFilesList(), false);
-    QCOMPARE(settings.searchProvider(), QString());
-    QCOMPARE(settings.generateLyricsFileAuto(), false);
-    QCOMPARE(settings.prependNewLine(), false);
-    QCOMPARE(settings.providersOrder(), QString());
+    for (auto value = expected.begin(); value != expected.end(); ++value)
+        QCOMPARE(settings.property(value.key().toLatin1().constData()), value.value());
+    QCOMPARE(settings.proxy().type(), QNetworkProxy::NoProxy);
 }
 
 void tst_Settings::whatIsSavedIsLoadedWithoutASignal()
 {
     const QVariantMap values{{QStringLiteral("lyricsFontSize"), 31},
                              {QStringLiteral("language"), QStringLiteral("pt_BR")},
+                             {QStringLiteral("proxyType"), 2},
+                             {QStringLiteral("proxyAddress"), QStringLiteral("proxy.example")},
+                             {QStringLiteral("proxyPort"), 65535},
+                             {QStringLiteral("proxyAuthentication"), true},
+                             {QStringLiteral("proxyUsername"), QStringLiteral("nora.vale")},
+                             {QStringLiteral("proxyPassword"), QStringLiteral("swördfish, \"=;")},
                              {QStringLiteral("saveFilesList"), true},
                              {QStringLiteral("searchProvider"), QStringLiteral("Яндекс, \"=;")},
                              {QStringLiteral("generateLyricsFileAuto"), true},
@@ -63,7 +93,7 @@ void tst_Settings::whatIsSavedIsLoadedWithoutASignal()
     for (auto value = values.begin(); value != values.end(); ++value)
         QVERIFY(written.setProperty(value.key().toLatin1().constData(), value.value()));
     QVERIFY2(QSettings().allKeys().isEmpty(), "a setter wrote to the store");
-    written.save();
+    QVERIFY(written.save());
 
     Settings loaded;
     QSignalSpy changes(&loaded, &Settings::changed);
@@ -72,8 +102,15 @@ void tst_Settings::whatIsSavedIsLoadedWithoutASignal()
     QCOMPARE(changes.count() + orders.count(), 0);
     for (auto value = values.begin(); value != values.end(); ++value) {
         QCOMPARE(loaded.property(value.key().toLatin1().constData()), value.value());
-        QVERIFY2(QSettings().contains(value.key()), qPrintable(value.key()));
     }
+    QCOMPARE(loaded.proxy().password(), loaded.proxyPassword());
+    QStringList known;
+    for (const SettingsKeyRow &row : settingsKeyTable())
+        known.append(row.name);
+    QCOMPARE(QSet<QString>(known.begin(), known.end()).size(), known.size());
+    QCOMPARE(QSettings().allKeys().size(), values.size());
+    for (const QString &key : QSettings().allKeys())
+        QVERIFY2(known.contains(key), qPrintable(key));
 }
 
 void tst_Settings::settersEmitOnceAndOnlyOnChange_data()
@@ -83,8 +120,15 @@ void tst_Settings::settersEmitOnceAndOnlyOnChange_data()
     QTest::addColumn<QByteArray>("signal");
     QTest::addColumn<int>("changedCount");
     const QVariant text = QStringLiteral("fr");
+    const QByteArray proxy(SIGNAL(proxyChanged()));
     QTest::newRow("font size") << QByteArray("lyricsFontSize") << QVariant(20) << QByteArray(SIGNAL(changed())) << 1;
     QTest::newRow("language") << QByteArray("language") << text << QByteArray(SIGNAL(languageChanged(QString))) << 1;
+    QTest::newRow("proxy type") << QByteArray("proxyType") << QVariant(7) << proxy << 1;
+    QTest::newRow("proxy address") << QByteArray("proxyAddress") << text << proxy << 1;
+    QTest::newRow("proxy port") << QByteArray("proxyPort") << QVariant(1080) << proxy << 1;
+    QTest::newRow("proxy log-in") << QByteArray("proxyAuthentication") << QVariant(true) << proxy << 1;
+    QTest::newRow("proxy user") << QByteArray("proxyUsername") << text << proxy << 1;
+    QTest::newRow("proxy password") << QByteArray("proxyPassword") << text << proxy << 1;
     QTest::newRow("keep the list") << QByteArray("saveFilesList") << QVariant(true)
                                    << QByteArray(SIGNAL(saveFilesListChanged(bool))) << 0;
     QTest::newRow("browser engine") << QByteArray("searchProvider") << text
@@ -131,6 +175,140 @@ void tst_Settings::fontSizeKeepsToItsRange()
     Settings settings;
     settings.setLyricsFontSize(asked);
     QCOMPARE(settings.lyricsFontSize(), expected);
+}
+
+// Scenes and dialogs show them in this order.
+void tst_Settings::propertiesStandInTheirOrder()
+{
+    const QMetaObject &meta = Settings::staticMetaObject;
+    QStringList names;
+    QStringList signalNames;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
+        names.append(QString::fromLatin1(meta.property(i).name()));
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == QMetaMethod::Signal)
+            signalNames.append(QString::fromLatin1(meta.method(i).name()));
+    }
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("lyricsFontSize language proxyType proxyAddress proxyPort proxyAuthentication "
+                            "proxyUsername proxyPassword saveFilesList searchProvider generateLyricsFileAuto "
+                            "prependNewLine providersOrder"));
+    QCOMPARE(signalNames.join(QLatin1Char(' ')),
+             QStringLiteral("changed languageChanged proxyChanged saveFilesListChanged searchProviderChanged "
+                            "generateLyricsFileAutoChanged prependNewLineChanged providersOrderChanged"));
+}
+
+void tst_Settings::oddValuesAreHarmless_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("expected");
+    const QString size = QStringLiteral("lyricsFontSize");
+    const QString port = QStringLiteral("proxy/port");
+    const QString user = QStringLiteral("proxy/username");
+    const QString huge = QString(1000000, QLatin1Char('9'));
+    const QVariant list = QStringList{QStringLiteral("a"), QStringLiteral("b")};
+    QTest::newRow("font size: a word") << size << QVariant(QStringLiteral("big")) << QByteArray("lyricsFontSize")
+                                       << QVariant(12);
+    QTest::newRow("font size: too large") << size << QVariant(41) << QByteArray("lyricsFontSize") << QVariant(12);
+    QTest::newRow("font size: smallest") << size << QVariant(QStringLiteral("6")) << QByteArray("lyricsFontSize")
+                                         << QVariant(6);
+    QTest::newRow("font size: endless") << size << QVariant(huge) << QByteArray("lyricsFontSize") << QVariant(12);
+    QTest::newRow("port: past the last") << port << QVariant(65536 + 80) << QByteArray("proxyPort") << QVariant(0);
+    QTest::newRow("port: negative") << port << QVariant(-1) << QByteArray("proxyPort") << QVariant(0);
+    QTest::newRow("port: a list") << port << list << QByteArray("proxyPort") << QVariant(0);
+    QTest::newRow("proxy type: endless") << QStringLiteral("proxy/type") << QVariant(huge) << QByteArray("proxyType")
+                                         << QVariant(0);
+    QTest::newRow("flag: a list") << QStringLiteral("saveFilesList") << list << QByteArray("saveFilesList")
+                                  << QVariant(false);
+    QTest::newRow("flag: bytes") << QStringLiteral("prependNewLine") << QVariant(QByteArray("\0\xff", 2))
+                                 << QByteArray("prependNewLine") << QVariant(true);
+    QTest::newRow("text: a list") << QStringLiteral("language") << list << QByteArray("language")
+                                  << QVariant(QString());
+    QTest::newRow("secret: readable") << user << QVariant(QStringLiteral("nora")) << QByteArray("proxyUsername")
+                                      << QVariant(QString());
+    QTest::newRow("secret: endless") << user << QVariant(huge) << QByteArray("proxyUsername") << QVariant(QString());
+}
+
+void tst_Settings::oddValuesAreHarmless()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, stored);
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, expected);
+    QSettings().setValue(key, stored);
+    Settings settings;
+    settings.load();
+    QCOMPARE(settings.property(property.constData()).toString(), expected.toString());
+    QVERIFY(settings.save());
+}
+
+void tst_Settings::secretsAreNotReadableInTheFile()
+{
+    Settings settings;
+    settings.setProxyUsername(QStringLiteral("noravale"));
+    settings.setProxyPassword(QStringLiteral("swordfish"));
+    QVERIFY(settings.save());
+    QFile file(QSettings().fileName());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    QVERIFY(content.contains("\n[proxy]\n") && content.contains("password=") && content.contains("username="));
+    for (const char *secret : {"noravale", "swordfish"}) {
+        QVERIFY(!content.contains(secret));
+        QVERIFY(!content.contains(QByteArray(secret).toBase64().left(8)));
+    }
+}
+
+// Nothing but the fixed key is needed; the figures are from outside.
+void tst_Settings::aSecretOfAnotherRunIsRead()
+{
+    QSettings().setValue(QStringLiteral("proxy/password"), QStringLiteral("AwJvxEdKnzXGn5ZLqL4="));
+    Settings settings;
+    settings.setProxyUsername(QStringLiteral("kept, as its key is absent"));
+    settings.load();
+    QCOMPARE(settings.proxyPassword(), QStringLiteral("swordfish"));
+    QCOMPARE(settings.proxyUsername(), QStringLiteral("kept, as its key is absent"));
+}
+
+void tst_Settings::theTableHasDefaultsOfItsTypes()
+{
+    const QVector<SettingsKeyRow> table = settingsKeyTable();
+    for (const SettingsKeyRow &row : table) {
+        QVERIFY2(!row.defaultValue.isValid() || row.defaultValue.userType() == row.type, qPrintable(row.name));
+        QVERIFY2(!row.meaning.isEmpty(), qPrintable(row.name));
+    }
+    QCOMPARE(table.last().name, QStringLiteral("endpoints/Yandex"));
+    QCOMPARE(storedValue(QSettings(), SettingsKey::OpenGlMethod), QVariant(2));
+    QCOMPARE(storedValue(QSettings(), SettingsKey::UpdaterPeriod), QVariant(1440));
+    QVERIFY(!storedValue(QSettings(), SettingsKey::UsageStatistics).isValid());
+    QSettings store;
+    storeValue(store, SettingsKey::LastFileDir, QStringLiteral("/music"));
+    QCOMPARE(store.value(QStringLiteral("lastFileDir")), QVariant(QStringLiteral("/music")));
+}
+
+// A file size limit of the process stands in for a full disk.
+void tst_Settings::aFailedSaveLosesNothing()
+{
+    Settings settings;
+    settings.setLanguage(QStringLiteral("de"));
+    QVERIFY(settings.save());
+    settings.setLanguage(QStringLiteral("fr"));
+    settings.setProxyPassword(QStringLiteral("swordfish"));
+    rlimit before = {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit full{16, before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+    QTest::ignoreMessage(QtWarningMsg, "The settings cannot be stored: their file cannot be written.");
+    const bool saved = settings.save();
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+    QVERIFY(!saved);
+    QFile file(QSettings().fileName());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("language=de\n"));
+    QVERIFY(settings.save());
+    QCOMPARE(QSettings().value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
 }
 
 QTEST_GUILESS_MAIN(tst_Settings)

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "settings/SettingsFile.h"
+
+#include "settings/SettingsLog.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSettings>
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace {
+
+// A list of all 65,535 songs with long paths takes a quarter of that.
+constexpr qint64 largestFileBytes = 64 * 1024 * 1024;
+constexpr int mostCopies = 99;
+
+enum class LineKind { Skipped, Group, Entry, Damaged };
+
+bool isKeyCharacter(char c)
+{
+    static const QByteArray others("_-.%\\/ ");
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || others.contains(c);
+}
+
+// Of a group or an entry, as QSettings escapes them.
+bool isKey(const QByteArray &name)
+{
+    return !name.isEmpty() && std::all_of(name.begin(), name.end(), isKeyCharacter);
+}
+
+bool hasControlCharacter(const QByteArray &line)
+{
+    return std::any_of(line.begin(), line.end(), [](char c) { return (c >= 0 && c < ' ' && c != '\t') || c == 0x7f; });
+}
+
+bool isGroup(const QByteArray &line)
+{
+    const int end = line.indexOf(']');
+    const QByteArray rest = line.mid(end + 1).trimmed();
+    return end > 0 && isKey(line.mid(1, end - 1)) && (rest.isEmpty() || rest.startsWith(';'));
+}
+
+bool isForeignType(const QByteArray &value, int position)
+{
+    const auto has = [&value, position](const char *type) {
+        return qstrncmp(value.constData() + position, type, qstrlen(type)) == 0;
+    };
+    return has("@Variant(") || has("@DateTime(");
+}
+
+// Whether quotes and escapes end, and no item of the list that a value may be has a foreign type.
+bool isValue(const QByteArray &value)
+{
+    bool inQuotes = false;
+    bool atItemStart = true;
+    for (int i = 0; i < value.size(); ++i) {
+        const char c = value.at(i);
+        if (c == '@' && atItemStart && isForeignType(value, i))
+            return false;
+        if (c == ';' && !inQuotes)
+            return true; // a comment
+        if (c == '\\' && ++i == value.size())
+            return false;
+        if (c == '"')
+            inQuotes = !inQuotes;
+        atItemStart = (c == ',' && !inQuotes) || (atItemStart && (c == ' ' || c == '\t' || c == '"'));
+    }
+    return !inQuotes;
+}
+
+bool isEntry(const QByteArray &line)
+{
+    const int equals = line.indexOf('=');
+    return equals > 0 && isKey(line.left(equals).trimmed()) && isValue(line.mid(equals + 1));
+}
+
+LineKind kindOf(const QByteArray &rawLine)
+{
+    const QByteArray line = rawLine.trimmed();
+    if (hasControlCharacter(line))
+        return LineKind::Damaged;
+    if (line.isEmpty() || line.startsWith(';'))
+        return LineKind::Skipped;
+    if (line.startsWith('['))
+        return isGroup(line) ? LineKind::Group : LineKind::Damaged;
+    return isEntry(line) ? LineKind::Entry : LineKind::Damaged;
+}
+
+// Writes the whole content into a file that did not exist, readable for the same people as the other one.
+bool writeNewFile(const QString &path, const QByteArray &content, QFile::Permissions permissions)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    const bool written = file.setPermissions(permissions) && file.write(content) == content.size() && file.flush() &&
+                         fsync(file.handle()) == 0;
+    if (!written)
+        file.remove();
+    return written;
+}
+
+bool holds(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.size() == content.size() && file.open(QIODevice::ReadOnly) && file.readAll() == content;
+}
+
+QString copyName(const QString &path, int number)
+{
+    const QString name = path + QLatin1String(".bad");
+    return number == 1 ? name : name + QLatin1Char('.') + QString::number(number);
+}
+
+// Path of the copy, an earlier one of the same content included; empty when there can be none.
+QString keepCopy(const QString &path, const QByteArray &content)
+{
+    for (int number = 1; number <= mostCopies; ++number) {
+        const QString copy = copyName(path, number);
+        if (writeNewFile(copy, content, QFile::permissions(path)) || holds(copy, content))
+            return copy;
+    }
+    return {};
+}
+
+QString moveAside(const QString &path)
+{
+    for (int number = 1; number <= mostCopies; ++number) {
+        const QString name = copyName(path, number);
+        if (QFile::rename(path, name)) // never over another file
+            return name;
+    }
+    return {};
+}
+
+bool replaceContent(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+}
+
+} // namespace
+
+SettingsFileCheck checkSettingsFile(const QByteArray &content)
+{
+    static const QByteArray byteOrderMark("\xef\xbb\xbf");
+    SettingsFileCheck check;
+    check.damaged = content.startsWith(byteOrderMark) || (!content.isEmpty() && !content.endsWith('\n'));
+    bool isGroupReadable = true;
+    int start = content.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
+    while (start < content.size()) {
+        const int lineFeed = content.indexOf('\n', start);
+        const int end = lineFeed < 0 ? content.size() : lineFeed;
+        const QByteArray line = content.mid(start, end - start);
+        start = end + 1;
+        const LineKind kind = kindOf(line);
+        if (kind == LineKind::Group)
+            isGroupReadable = true;
+        else if (kind == LineKind::Damaged && line.trimmed().startsWith('['))
+            isGroupReadable = false;
+        if (kind == LineKind::Damaged || (kind == LineKind::Entry && !isGroupReadable))
+            check.damaged = true;
+        else
+            check.readable += line + '\n';
+    }
+    return check;
+}
+
+SettingsMending mendSettingsFile(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile())
+        return {};
+    if (file.size() > largestFileBytes) {
+        qCWarning(settingsLog, "The settings file is too large to be one; it is moved aside.");
+        return {true, moveAside(path)};
+    }
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray content = file.readAll();
+    const SettingsFileCheck check = checkSettingsFile(content);
+    if (!check.damaged)
+        return {};
+    const SettingsMending mending{true, keepCopy(path, content)};
+    if (mending.copy.isEmpty())
+        qCWarning(settingsLog, "The settings file is damaged, and no copy of it can be made.");
+    else if (!replaceContent(path, check.readable))
+        qCWarning(settingsLog, "The settings file is damaged and cannot be mended; a copy of it is kept.");
+    return mending;
+}
+
+bool writeSettingsFile(QSettings &store)
+{
+    store.sync();
+    if (store.status() == QSettings::NoError)
+        return true;
+    qCWarning(settingsLog, "The settings cannot be stored: %s.",
+              store.status() == QSettings::AccessError ? "their file cannot be written" : "their file is damaged");
+    return false;
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QSettings;
+
+// Keeps the settings file from doing harm: what is damaged in it is found, kept aside and taken out before anything is
+// read, and a file that cannot be written is noticed.
+//
+// The format is the one in which QSettings writes on this platform: "[group]" and "key=value" lines, one entry a line.
+// QSettings reads damaged files as well, but often silently and wrongly: an open quote swallows the rest of the file, a
+// NUL passes as text, a broken group line gives its entries to another group.
+
+struct SettingsFileCheck
+{
+    bool damaged = false;
+    QByteArray readable; // the lines that are whole; all of them when nothing is damaged
+};
+
+// Damage is: a line that is neither a group, an entry, a blank nor a comment after ";"; control characters; a quote or
+// an escape that does not end; entries under a broken group line; a last line without its end, which is kept when it is
+// whole; a byte order mark; and values of types that the program never stores and Qt would build without bounds
+// ("@Variant", "@DateTime"). No content at all is not damage.
+[[nodiscard]] SettingsFileCheck checkSettingsFile(const QByteArray &content);
+
+struct SettingsMending
+{
+    bool damaged = false;
+    QString copy; // path of the damaged file as it was; empty when no copy could be made
+};
+
+// Copies a damaged file to "<path>.bad", or to "<path>.bad.2" and so on when that is taken by another content, and then
+// leaves only what can be read in the file. Without a copy the file stays as it is. A file that is larger than any
+// settings can be is moved aside unread. For the only instance of the program, before anything is read or written.
+SettingsMending mendSettingsFile(const QString &path);
+
+// Writes what is pending. False, after a warning in the log, when that fails; the file is then as it was.
+bool writeSettingsFile(QSettings &store);
