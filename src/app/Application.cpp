@@ -4,6 +4,7 @@
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/providers/ProviderCatalogue.h"
 #include "network/Endpoints.h"
+#include "settings/SettingsChange.h"
 #include "settings/SettingsKeys.h"
 
 #include <QDesktopServices>
@@ -145,10 +146,11 @@ void Application::reportOpenGLError()
 
 void Application::noteStart()
 {
-    QSettings store;
-    const QString lastVersion = storedValue(store, SettingsKey::FirstStart).toString();
-    storeValue(store, SettingsKey::FirstStart, applicationVersion());
-    if (!storedValue(store, SettingsKey::OpenQuillmarshSite).toBool() || lastVersion == applicationVersion())
+    const QString lastVersion = storedValue(QSettings(), SettingsKey::FirstStart).toString();
+    SettingsChange change;
+    change.set(SettingsKey::FirstStart, applicationVersion());
+    change.commit();
+    if (!storedValue(QSettings(), SettingsKey::OpenQuillmarshSite).toBool() || lastVersion == applicationVersion())
         return;
     openMakerPage(lastVersion.isEmpty() ? QStringLiteral("/versewell/welcome.html")
                                         : QStringLiteral("/versewell/update.html"));

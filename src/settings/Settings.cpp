@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include "settings/SettingsChange.h"
 #include "settings/SettingsCipher.h"
-#include "settings/SettingsFile.h"
 #include "settings/SettingsKeys.h"
 
 #include <QSettings>
@@ -28,6 +28,11 @@ bool assign(T &field, const T &value)
     return true;
 }
 
+QString enciphered(const QString &secret)
+{
+    return SettingsCipher(cipherKey).encryptToString(secret);
+}
+
 // The stored values, each with a fallback for an absent key.
 class Reader
 {
@@ -45,7 +50,7 @@ public:
 
     [[nodiscard]] QString secret(SettingsKey key, const QString &current) const
     {
-        return SettingsCipher(cipherKey).decryptToString(text(key, SettingsCipher(cipherKey).encryptToString(current)));
+        return SettingsCipher(cipherKey).decryptToString(text(key, enciphered(current)));
     }
 
 private:
@@ -56,11 +61,6 @@ private:
 
     QSettings m_store;
 };
-
-void storeSecret(QSettings &store, SettingsKey key, const QString &secret)
-{
-    storeValue(store, key, SettingsCipher(cipherKey).encryptToString(secret));
-}
 
 ProxyConfiguration defaultProxy()
 {
@@ -111,21 +111,21 @@ void Settings::load()
 
 bool Settings::save() const
 {
-    QSettings store;
-    storeValue(store, SettingsKey::LyricsFontSize, m_lyricsFontSize);
-    storeValue(store, SettingsKey::Language, m_language);
-    storeValue(store, SettingsKey::ProxyType, m_proxy.type);
-    storeValue(store, SettingsKey::ProxyAddress, m_proxy.address);
-    storeValue(store, SettingsKey::ProxyPort, static_cast<int>(m_proxy.port));
-    storeValue(store, SettingsKey::ProxyAuthentication, m_proxy.authentication);
-    storeSecret(store, SettingsKey::ProxyUsername, m_proxy.username);
-    storeSecret(store, SettingsKey::ProxyPassword, m_proxy.password);
-    storeValue(store, SettingsKey::SaveFilesList, m_saveFilesList);
-    storeValue(store, SettingsKey::SearchProvider, m_searchProvider);
-    storeValue(store, SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);
-    storeValue(store, SettingsKey::PrependNewLine, m_prependNewLine);
-    storeValue(store, SettingsKey::ProvidersOrder, m_providersOrder);
-    return writeSettingsFile(store);
+    SettingsChange change;
+    change.set(SettingsKey::LyricsFontSize, m_lyricsFontSize);
+    change.set(SettingsKey::Language, m_language);
+    change.set(SettingsKey::ProxyType, m_proxy.type);
+    change.set(SettingsKey::ProxyAddress, m_proxy.address);
+    change.set(SettingsKey::ProxyPort, static_cast<int>(m_proxy.port));
+    change.set(SettingsKey::ProxyAuthentication, m_proxy.authentication);
+    change.set(SettingsKey::ProxyUsername, enciphered(m_proxy.username));
+    change.set(SettingsKey::ProxyPassword, enciphered(m_proxy.password));
+    change.set(SettingsKey::SaveFilesList, m_saveFilesList);
+    change.set(SettingsKey::SearchProvider, m_searchProvider);
+    change.set(SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);
+    change.set(SettingsKey::PrependNewLine, m_prependNewLine);
+    change.set(SettingsKey::ProvidersOrder, m_providersOrder);
+    return change.commit();
 }
 
 void Settings::setLyricsFontSize(int pointSize)

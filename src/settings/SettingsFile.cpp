@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QSettings>
 
 #include <algorithm>
 
@@ -139,7 +138,8 @@ QString moveAside(const QString &path)
 bool replaceContent(const QString &path, const QByteArray &content)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    // commit() alone overlooks that the end could not be written any more.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
 }
 
 } // namespace
@@ -165,6 +165,8 @@ SettingsFileCheck checkSettingsFile(const QByteArray &content)
             check.damaged = true;
         else
             check.readable += line + '\n';
+        if (kind == LineKind::Entry && isGroupReadable)
+            ++check.entries;
     }
     return check;
 }
@@ -190,14 +192,4 @@ SettingsMending mendSettingsFile(const QString &path)
     else if (!replaceContent(path, check.readable))
         qCWarning(settingsLog, "The settings file is damaged and cannot be mended; a copy of it is kept.");
     return mending;
-}
-
-bool writeSettingsFile(QSettings &store)
-{
-    store.sync();
-    if (store.status() == QSettings::NoError)
-        return true;
-    qCWarning(settingsLog, "The settings cannot be stored: %s.",
-              store.status() == QSettings::AccessError ? "their file cannot be written" : "their file is damaged");
-    return false;
 }

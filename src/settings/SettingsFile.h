@@ -4,10 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
-class QSettings;
-
-// Keeps the settings file from doing harm: what is damaged in it is found, kept aside and taken out before anything is
-// read, and a file that cannot be written is noticed.
+// Keeps a damaged settings file from doing harm: the damage is found, kept aside and taken out before anything is read.
 //
 // The format is the one in which QSettings writes on this platform: "[group]" and "key=value" lines, one entry a line.
 // QSettings reads damaged files as well, but often silently and wrongly: an open quote swallows the rest of the file, a
@@ -17,6 +14,7 @@ struct SettingsFileCheck
 {
     bool damaged = false;
     QByteArray readable; // the lines that are whole; all of them when nothing is damaged
+    int entries = 0;     // how many "key=value" lines are in that
 };
 
 // Damage is: a line that is neither a group, an entry, a blank nor a comment after ";"; control characters; a quote or
@@ -35,6 +33,3 @@ struct SettingsMending
 // leaves only what can be read in the file. Without a copy the file stays as it is. A file that is larger than any
 // settings can be is moved aside unread. For the only instance of the program, before anything is read or written.
 SettingsMending mendSettingsFile(const QString &path);
-
-// Writes what is pending. False, after a warning in the log, when that fails; the file is then as it was.
-bool writeSettingsFile(QSettings &store);

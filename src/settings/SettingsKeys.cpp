@@ -103,11 +103,6 @@ QVariant storedValue(const QSettings &store, SettingsKey key)
     return store.value(keyName(key), keyDefault(key));
 }
 
-void storeValue(QSettings &store, SettingsKey key, const QVariant &value)
-{
-    store.setValue(keyName(key), value);
-}
-
 QVector<SettingsKeyRow> settingsKeyTable()
 {
     QVector<SettingsKeyRow> rows;

@@ -9,7 +9,7 @@
 class QSettings;
 
 // The one table of what the program keeps in its settings file: name, type, default and meaning of every key. Whoever
-// reads or writes a key takes them from here.
+// reads a key takes them from here; SettingsChange writes.
 enum class SettingsKey {
     // Held by Settings, in the order of its properties.
     LyricsFontSize,
@@ -48,7 +48,6 @@ enum class SettingsKey {
 
 // What is stored, or the default. A stored value comes as the store has it, often as a text: convert it.
 [[nodiscard]] QVariant storedValue(const QSettings &store, SettingsKey key);
-void storeValue(QSettings &store, SettingsKey key, const QVariant &value);
 
 struct SettingsKeyRow
 {

@@ -3,8 +3,7 @@
 
 #include "model/MainModel.h"
 #include "settings/Settings.h"
-#include "settings/SettingsFile.h"
-#include "settings/SettingsKeys.h"
+#include "settings/SettingsChange.h"
 
 #include <QFileInfo>
 #include <QDir>
@@ -13,7 +12,6 @@
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickWidget>
-#include <QSettings>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -135,10 +133,10 @@ void MainWindow::saveState() const
     m_settings->save();
     if (!m_settings->saveFilesList())
         return;
-    QSettings store;
     QStringList files;
     for (const QUrl &url : m_model->urls())
         files.append(url.toString(QUrl::FullyEncoded));
-    storeValue(store, SettingsKey::FilesList, files);
-    writeSettingsFile(store);
+    SettingsChange change;
+    change.set(SettingsKey::FilesList, files);
+    change.commit();
 }

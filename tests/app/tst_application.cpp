@@ -4,9 +4,12 @@
 #include "app/GraphicsBackend.h"
 #include "network/Endpoints.h"
 
+#include <QCryptographicHash>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QNetworkAccessManager>
+#include <QNetworkProxy>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -25,14 +28,31 @@ public:
         for (auto entry = stored.begin(); entry != stored.end(); ++entry)
             store.setValue(entry.key(), entry.value());
         store.sync();
-        reloadEndpoints();
-        m_app = std::make_unique<Application>(m_argc, m_argv);
+        start();
+    }
+
+    // With a settings file of this content.
+    explicit Stage(const QByteArray &content)
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_configuration.path());
+        QDir(m_configuration.path()).mkdir(QStringLiteral("Quillmarsh"));
+        QFile file(Application::settingsFile());
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        file.close();
+        start();
     }
 
     Application *operator->() { return m_app.get(); }
     Application &operator*() { return *m_app; }
 
 private:
+    void start()
+    {
+        reloadEndpoints();
+        m_app = std::make_unique<Application>(m_argc, m_argv);
+    }
+
     QTemporaryDir m_configuration;
     int m_argc = 1;
     char m_name[16] = "tst_application";
@@ -55,6 +75,10 @@ private slots:
     void theSavedListIsRestored_data();
     void theSavedListIsRestored();
     void servicesAreWired();
+    void theProxyFollowsTheSettings();
+    void aDamagedSettingsFileStopsNothing_data();
+    void aDamagedSettingsFileStopsNothing();
+    void theLockHasOneHolder();
     void makerPagesAreOpenedOnce_data();
     void makerPagesAreOpenedOnce();
     void languagesAreFoundAndChosen_data();
@@ -116,6 +140,70 @@ void tst_Application::servicesAreWired()
     QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
     app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));
     QVERIFY(app->lyricsSearch()->providersOrder().contains(QLatin1String("LyricsFreak::0")));
+}
+
+void tst_Application::theProxyFollowsTheSettings()
+{
+    Stage app({{QStringLiteral("proxy/type"), 1},
+               {QStringLiteral("proxy/address"), QStringLiteral("127.0.0.1")},
+               {QStringLiteral("proxy/port"), 9}});
+    const auto proxy = [&app] {
+        return app->networkManager()->proxy();
+    };
+    QCOMPARE(proxy().type(), QNetworkProxy::Socks5Proxy);
+    QCOMPARE(proxy().hostName(), QStringLiteral("127.0.0.1"));
+    QCOMPARE(proxy().port(), quint16(9));
+    app->settings()->setProxyType(2);
+    QCOMPARE(proxy().type(), QNetworkProxy::HttpProxy);
+    app->settings()->setProxyAddress(QString());
+    QCOMPARE(proxy().type(), QNetworkProxy::DefaultProxy);
+}
+
+void tst_Application::aDamagedSettingsFileStopsNothing_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("damaged");
+    QTest::addColumn<int>("fontSize");
+    QTest::newRow("whole") << QByteArray("[General]\nlyricsFontSize=20\n") << false << 20;
+    QTest::newRow("half") << QByteArray("[General]\nlyricsFontSize=20\nlanguage=\"d") << true << 20;
+    QTest::newRow("an open quote before the rest") << QByteArray("language=\"d\nlyricsFontSize=20\n") << true << 20;
+    QTest::newRow("NULs") << QByteArray(4096, '\0') << true << 12;
+    QTest::newRow("random bytes") << QCryptographicHash::hash("seed", QCryptographicHash::Sha3_512) << true << 12;
+    // Each list holds the next one; read as a value, they would use up the stack.
+    QByteArray lists("[General]\nlyricsFontSize=20\nlanguage=@Variant(");
+    for (int depth = 0; depth < 400000; ++depth)
+        lists += "\\0\\0\\0\\t\\0\\0\\0\\0\\x1";
+    QTest::newRow("lists in lists without end") << lists + ")\n" << true << 20;
+}
+
+void tst_Application::aDamagedSettingsFileStopsNothing()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, damaged);
+    Stage app(content);
+    QTEST(app->settings()->lyricsFontSize(), "fontSize");
+    QCOMPARE(app->settingsMending().damaged, damaged);
+    QFile copy(Application::settingsFile() + QLatin1String(".bad"));
+    QCOMPARE(copy.exists(), damaged);
+    QCOMPARE(app->settingsMending().copy, damaged ? copy.fileName() : QString());
+    if (damaged) {
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        QCOMPARE(copy.readAll(), content);
+    }
+    QVERIFY(app->settings()->save());
+    QVERIFY(!mendSettingsFile(Application::settingsFile()).damaged);
+}
+
+void tst_Application::theLockHasOneHolder()
+{
+    const QTemporaryDir folder;
+    const QString lock = folder.filePath(QStringLiteral("a.lock"));
+    const SingleInstance first(lock);
+    QVERIFY(first.isHolder() && !first.isOtherRunning());
+    const SingleInstance second(lock);
+    QVERIFY(!second.isHolder() && second.isOtherRunning());
+    const SingleInstance unlockable(QStringLiteral("/proc/there is no such folder/a.lock"));
+    QVERIFY(!unlockable.isHolder() && !unlockable.isOtherRunning());
 }
 
 void tst_Application::makerPagesAreOpenedOnce_data()

@@ -3,7 +3,9 @@
 
 #include "settings/SettingsKeys.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMetaProperty>
 #include <QSet>
 #include <QSettings>
@@ -34,6 +36,7 @@ private slots:
     void aSecretOfAnotherRunIsRead();
     void theTableHasDefaultsOfItsTypes();
     void aFailedSaveLosesNothing();
+    void aLinkedFileStaysLinked();
 
 private:
     QTemporaryDir m_folder;
@@ -282,33 +285,53 @@ void tst_Settings::theTableHasDefaultsOfItsTypes()
     QCOMPARE(storedValue(QSettings(), SettingsKey::OpenGlMethod), QVariant(2));
     QCOMPARE(storedValue(QSettings(), SettingsKey::UpdaterPeriod), QVariant(1440));
     QVERIFY(!storedValue(QSettings(), SettingsKey::UsageStatistics).isValid());
-    QSettings store;
-    storeValue(store, SettingsKey::LastFileDir, QStringLiteral("/music"));
-    QCOMPARE(store.value(QStringLiteral("lastFileDir")), QVariant(QStringLiteral("/music")));
 }
 
-// A file size limit of the process stands in for a full disk.
+// A limit of the process stands in for a disk that becomes full after so many bytes.
 void tst_Settings::aFailedSaveLosesNothing()
 {
+    QSettings().setValue(QStringLiteral("filesList"), QString(500, QLatin1Char('a')));
     Settings settings;
     settings.setLanguage(QStringLiteral("de"));
     QVERIFY(settings.save());
-    settings.setLanguage(QStringLiteral("fr"));
-    settings.setProxyPassword(QStringLiteral("swordfish"));
-    rlimit before = {};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-    signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{16, before.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
-    QTest::ignoreMessage(QtWarningMsg, "The settings cannot be stored: their file cannot be written.");
-    const bool saved = settings.save();
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-    QVERIFY(!saved);
     QFile file(QSettings().fileName());
     QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.readAll().contains("language=de\n"));
+    const QByteArray before = file.readAll();
+    settings.setLanguage(QStringLiteral("fr"));
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit usual = {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    for (int room = 0; room < before.size(); room += 3) {
+        const rlimit full{static_cast<rlim_t>(room), usual.rlim_max};
+        QTest::ignoreMessage(QtWarningMsg, "The settings cannot be stored: their file cannot be written.");
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+        const bool saved = settings.save();
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+        QVERIFY2(!saved, qPrintable(QString::number(room)));
+        QFile kept(file.fileName());
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), before);
+    }
+    QCOMPARE(QDir(QFileInfo(file).path()).entryList(QDir::Files), QStringList{QFileInfo(file).fileName()});
     QVERIFY(settings.save());
     QCOMPARE(QSettings().value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
+    QCOMPARE(QSettings().value(QStringLiteral("filesList")).toString().size(), 500);
+}
+
+// Settings of people who keep them elsewhere stay there, with their permissions.
+void tst_Settings::aLinkedFileStaysLinked()
+{
+    const QString path = QSettings().fileName();
+    const QString elsewhere = m_folder.filePath(QStringLiteral("elsewhere.conf"));
+    QVERIFY(QFile::remove(path) || !QFile::exists(path));
+    QFile file(elsewhere);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(file.link(path));
+    QVERIFY(Settings().save());
+    QVERIFY(QFileInfo(path).isSymLink());
+    QVERIFY(QFileInfo(elsewhere).size() > 0);
+    QCOMPARE(QFile::permissions(elsewhere) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    QVERIFY(QFile::remove(path));
 }
 
 QTEST_GUILESS_MAIN(tst_Settings)

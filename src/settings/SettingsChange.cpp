@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "settings/SettingsChange.h"
+
+#include "settings/SettingsFile.h"
+#include "settings/SettingsLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryFile>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+// The file itself where the settings lie behind a symbolic link.
+QString storePath()
+{
+    const QString path = QSettings().fileName();
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? path : target;
+}
+
+bool isWritable(const QFileInfo &file)
+{
+    return !file.exists() || (file.isFile() && file.isWritable());
+}
+
+// Makes a copy of the old file, for its entries that do not change; nothing when there is none.
+bool copyInto(QTemporaryFile *copy, const QString &path)
+{
+    QFile old(path);
+    if (!old.exists())
+        return copy->open();
+    if (!old.open(QIODevice::ReadOnly) || !copy->open())
+        return false;
+    const QByteArray content = old.readAll();
+    return copy->setPermissions(old.permissions()) && copy->write(content) == content.size() && copy->flush();
+}
+
+// Whether everything arrived: what is missing on a full disk is missing at the end.
+bool isWhole(const QByteArray &content, int entries)
+{
+    const SettingsFileCheck check = checkSettingsFile(content);
+    return !check.damaged && check.entries == entries;
+}
+
+bool syncAndRename(QFile *file, const QString &path)
+{
+    return fsync(file->handle()) == 0 &&
+           std::rename(QFile::encodeName(file->fileName()).constData(), QFile::encodeName(path).constData()) == 0;
+}
+
+} // namespace
+
+bool SettingsChange::commit() const
+{
+    const QString path = storePath();
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (isWritable(QFileInfo(path)) && writeNewFile(path))
+        return true;
+    qCWarning(settingsLog, "The settings cannot be stored: their file cannot be written.");
+    return false;
+}
+
+bool SettingsChange::writeNewFile(const QString &path) const
+{
+    // A name that was never used: the store remembers what it could not write under a name, and would add it later.
+    QTemporaryFile copy(path + QLatin1String(".XXXXXX"));
+    if (!copyInto(&copy, path))
+        return false;
+    copy.close();
+    int entries = 0;
+    {
+        QSettings store(copy.fileName(), QSettings::NativeFormat);
+        for (const auto &[key, value] : m_values)
+            store.setValue(keyName(key), value);
+        store.sync();
+        entries = store.allKeys().size();
+        if (store.status() != QSettings::NoError)
+            return false;
+    }
+    QFile written(copy.fileName());
+    if (!written.open(QIODevice::ReadOnly) || !isWhole(written.readAll(), entries) || !syncAndRename(&written, path))
+        return false;
+    copy.setAutoRemove(false);
+    return true;
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/SettingsKeys.h"
+
+#include <QPair>
+#include <QVector>
+
+// Some values that go into the settings file together: all of them or none.
+//
+// Everything that the program stores goes this way. QSettings alone is not enough on a full disk: what it could not
+// write is cut off, the cut file replaces the good one, and its status says that all is well (Qt 5.15). Here the new
+// file is made beside the old one, checked to be whole, synced and renamed over it.
+class SettingsChange
+{
+public:
+    void set(SettingsKey key, const QVariant &value) { m_values.append({key, value}); }
+
+    // Writes to the default store. False, after a warning in the log, when that fails; the file is then as it was. A
+    // file that is read-only stays as it is.
+    bool commit() const;
+
+private:
+    [[nodiscard]] bool writeNewFile(const QString &path) const;
+
+    QVector<QPair<SettingsKey, QVariant>> m_values;
+};
