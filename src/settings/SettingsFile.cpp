@@ -8,6 +8,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cctype>
 
 #include <unistd.h>
 
@@ -43,26 +44,55 @@ bool isGroup(const QByteArray &line)
     return end > 0 && isKey(line.mid(1, end - 1)) && (rest.isEmpty() || rest.startsWith(';'));
 }
 
-bool isForeignType(const QByteArray &value, int position)
+// The digits from `position` on, as the number that QSettings takes for a character: without an end, in 16 bits.
+quint16 escapedNumber(const QByteArray &value, int position, int base)
+{
+    uint number = 0;
+    for (; position < value.size(); ++position) {
+        bool isDigit = false;
+        const uint digit = value.mid(position, 1).toUInt(&isDigit, base);
+        if (!isDigit)
+            break;
+        number = number * static_cast<uint>(base) + digit;
+    }
+    return static_cast<quint16>(number);
+}
+
+// Whether an item that begins with this escape is a plain text. One that means "@", or that means nothing and is left
+// out, could hide a type.
+bool isPlainEscape(const QByteArray &value, int position)
+{
+    static const QByteArray letters("\\\"nrtabfv");
+    const char c = value.at(position);
+    if (c == 'x')
+        return escapedNumber(value, position + 1, 16) != '@' && position + 1 < value.size() &&
+               std::isxdigit(static_cast<uchar>(value.at(position + 1)));
+    if (c >= '0' && c <= '7')
+        return escapedNumber(value, position, 8) != '@';
+    return letters.contains(c);
+}
+
+// An item that begins with "@" has a type, or is a text with another "@" in front.
+bool isStoredType(const QByteArray &value, int position)
 {
     const auto has = [&value, position](const char *type) {
         return qstrncmp(value.constData() + position, type, qstrlen(type)) == 0;
     };
-    return has("@Variant(") || has("@DateTime(");
+    return has("@@") || has("@ByteArray(") || has("@String(") || has("@Invalid()");
 }
 
-// Whether quotes and escapes end, and no item of the list that a value may be has a foreign type.
+// Whether quotes and escapes end, and each item of the list that a value may be is of a type that is stored.
 bool isValue(const QByteArray &value)
 {
     bool inQuotes = false;
     bool atItemStart = true;
     for (int i = 0; i < value.size(); ++i) {
         const char c = value.at(i);
-        if (c == '@' && atItemStart && isForeignType(value, i))
-            return false;
         if (c == ';' && !inQuotes)
             return true; // a comment
-        if (c == '\\' && ++i == value.size())
+        if (c == '@' && atItemStart && !isStoredType(value, i))
+            return false;
+        if (c == '\\' && (++i == value.size() || (atItemStart && !isPlainEscape(value, i))))
             return false;
         if (c == '"')
             inQuotes = !inQuotes;

@@ -19,8 +19,8 @@ struct SettingsFileCheck
 
 // Damage is: a line that is neither a group, an entry, a blank nor a comment after ";"; control characters; a quote or
 // an escape that does not end; entries under a broken group line; a last line without its end, which is kept when it is
-// whole; a byte order mark; and values of types that the program never stores and Qt would build without bounds
-// ("@Variant", "@DateTime"). No content at all is not damage.
+// whole; a byte order mark; and values of types that the program never stores, as Qt builds some of
+// them ("@Variant") without bounds: a few bytes are enough to end the program. No content at all is not damage.
 [[nodiscard]] SettingsFileCheck checkSettingsFile(const QByteArray &content);
 
 struct SettingsMending

@@ -172,7 +172,7 @@ void tst_Application::aDamagedSettingsFileStopsNothing_data()
     // Each list holds the next one; read as a value, they would use up the stack.
     QByteArray lists("[General]\nlyricsFontSize=20\nlanguage=@Variant(");
     for (int depth = 0; depth < 400000; ++depth)
-        lists += "\\0\\0\\0\\t\\0\\0\\0\\0\\x1";
+        lists += "\\0\\0\\0\\t\\0\\0\\0\\x1";
     QTest::newRow("lists in lists without end") << lists + ")\n" << true << 20;
 }
 
