@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "model/FolderScanner.h"
+
+#include "model/DelayedFolderScanner.h"
+
+#include <QThreadPool>
+
+FolderScanner::FolderScanner(QObject *parent)
+    : QObject(parent)
+{
+}
+
+FolderScanner::~FolderScanner()
+{
+    if (m_current)
+        m_current->cancel();
+}
+
+QString FolderScanner::lastFile() const
+{
+    return m_current ? m_current->lastFile() : QString();
+}
+
+int FolderScanner::lastCount() const
+{
+    return m_current ? m_current->count() : 0;
+}
+
+void FolderScanner::addFolder(const QUrl &folder)
+{
+    addFolders({folder});
+}
+
+void FolderScanner::addFolders(const QList<QUrl> &folders)
+{
+    for (const QUrl &folder : folders) {
+        const QString path = folder.toLocalFile();
+        if (!m_folders.contains(path))
+            m_folders.append(path);
+    }
+    emit foldersChanged();
+    scanNext();
+}
+
+void FolderScanner::scanNext()
+{
+    if (m_current || m_folders.isEmpty())
+        return;
+    auto *walk = new DelayedFolderScanner(m_folders.first());
+    walk->setNameFilters(nameFilters());
+    m_current = walk->progress();
+    connect(walk, &DelayedFolderScanner::scanned, this, &FolderScanner::scanned, Qt::QueuedConnection);
+    QThreadPool::globalInstance()->start(walk);
+    emit processingChanged(true);
+}
+
+QString FolderScanner::nameFilters() const
+{
+    return QLatin1String("*.") + m_types.join(QLatin1String(",*."));
+}
+
+void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
+{
+    if (!files.isEmpty())
+        emit found(files);
+    // Cancelling has emptied the queue: what stands there now was added later and is still to be walked.
+    if (!m_current->isCancelled() && m_folders.removeOne(folder))
+        emit foldersChanged();
+    m_current.reset();
+    if (m_folders.isEmpty())
+        emit processingChanged(false);
+    else
+        scanNext();
+}
+
+void FolderScanner::cancel()
+{
+    if (!m_current)
+        return;
+    m_current->cancel();
+    m_folders.clear();
+    emit foldersChanged();
+}
