@@ -18,7 +18,7 @@ struct CloseDirectory
     void operator()(DIR *directory) const { closedir(directory); }
 };
 
-/// The order in which Qt lists a directory: by name, without regard to case.
+// The order in which Qt lists a directory: by name, without regard to case.
 void sortByName(QVector<QByteArray> *names)
 {
     QVector<std::pair<QString, QByteArray>> keyed;
@@ -34,7 +34,7 @@ QByteArray joined(const QByteArray &folder, const QByteArray &name)
     return folder.endsWith('/') ? folder + name : folder + '/' + name;
 }
 
-/// The type that the directory entry tells, looked up on the disk only when it tells none or names a link.
+// The type that the directory entry tells, looked up on the disk only when it tells none or names a link.
 mode_t typeOf(int directory, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
@@ -90,7 +90,7 @@ QRegularExpression DelayedFolderScanner::namePattern() const
     return pattern;
 }
 
-/// The files of a folder come before those of its subfolders.
+// The files of a folder come before those of its subfolders.
 void DelayedFolderScanner::scan(const QByteArray &folder)
 {
     const Listing listing = list(folder);
@@ -106,14 +106,14 @@ void DelayedFolderScanner::scan(const QByteArray &folder)
     }
 }
 
-/// Whether this directory was not walked before.
+// Whether this directory was not walked before.
 bool DelayedFolderScanner::enter(int directory)
 {
     struct stat status = {};
     return fstat(directory, &status) == 0 && m_walked.insert({status.st_dev, status.st_ino}).second;
 }
 
-/// Readable files that match the filters, and readable folders, each sorted; nothing when the folder cannot be read.
+// Readable files that match the filters, and readable folders, each sorted; nothing when the folder cannot be read.
 DelayedFolderScanner::Listing DelayedFolderScanner::list(const QByteArray &folder)
 {
     Listing listing;

@@ -10,9 +10,9 @@
 
 class FolderScanProgress;
 
-/// Turns folders into the audio files in them: keeps a queue of folders and walks one tree at a time on the thread pool.
-///
-/// Main thread only; a walk that is still under way when the scanner goes is cancelled.
+// Turns folders into the audio files in them: keeps a queue of folders and walks one tree at a time on the thread pool.
+//
+// Main thread only; a walk that is still under way when the scanner goes is cancelled.
 class FolderScanner : public QObject
 {
     Q_OBJECT
@@ -23,14 +23,14 @@ public:
     explicit FolderScanner(QObject *parent = nullptr);
     ~FolderScanner() override;
 
-    /// Extensions of the wanted files, without dots.
+    // Extensions of the wanted files, without dots.
     void setTypes(const QStringList &types) { m_types = types; }
 
     [[nodiscard]] bool processing() const { return m_current != nullptr; }
-    /// Paths of the folders still to be done; the one being walked is the first.
+    // Paths of the folders still to be done; the one being walked is the first.
     [[nodiscard]] QStringList folders() const { return m_folders; }
 
-    /// For a progress text while a walk is under way: the name of its newest file, and how many it has found.
+    // For a progress text while a walk is under way: the name of its newest file, and how many it has found.
     Q_INVOKABLE QString lastFile() const;
     Q_INVOKABLE int lastCount() const;
 
@@ -44,7 +44,7 @@ public slots:
     void scanned(const QString &folder, const QList<QUrl> &files);
     void scanNext();
     void addFolder(const QUrl &folder);
-    /// Ends the walk under way, which then reports no files, and empties the queue.
+    // Ends the walk under way, which then reports no files, and empties the queue.
     void cancel();
 
 private:
@@ -52,5 +52,5 @@ private:
 
     QStringList m_types;
     QStringList m_folders;
-    std::shared_ptr<FolderScanProgress> m_current; ///< of the walk under way
+    std::shared_ptr<FolderScanProgress> m_current; // of the walk under way
 };

@@ -72,6 +72,8 @@ public:
     // Null when no item has this id.
     [[nodiscard]] ModelItem *item(quint16 id) const { return m_items.find(id); }
     [[nodiscard]] ModelItem *itemAt(int row) const { return m_items.itemAt(row); }
+    // -1 when no item has this id.
+    [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // The urls of all rows, in row order.
     [[nodiscard]] QList<QUrl> urls() const;
 
