@@ -49,18 +49,19 @@ Application::Application(int &argc, char **argv)
         m_settingsMending = mendSettingsFile(settingsFile());
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     m_mainModel.setSupportedExtensions(supportedExtensions());
+    m_folderScanner.setTypes(supportedExtensions());
     setNames();
     m_settings.load();
     createSearch();
-    m_mainModel.setSettings(&m_settings);
-    m_mainModel.setSearch(&m_search);
-    connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
+    connectModels();
     proxyChanged();
     connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
     connect(&m_settings, &Settings::proxyChanged, this, &Application::proxyChanged);
     connect(&m_settings, &Settings::providersOrderChanged, &m_search, &LyricsSearch::setProvidersOrder);
     if (!isOtherInstanceRunning() && m_settings.saveFilesList())
         restoreFilesList();
+    onPaletteChanged(palette());
+    connect(this, &QGuiApplication::paletteChanged, this, &Application::onPaletteChanged);
 }
 
 Application::~Application()
@@ -88,6 +89,21 @@ void Application::createSearch()
     m_search.setProvidersOrder(m_settings.providersOrder());
     // Stored back, so that the stored order always names every site.
     m_settings.setProvidersOrder(m_search.providersOrder());
+}
+
+void Application::onPaletteChanged(const QPalette &palette)
+{
+    m_palette.setPalette(palette);
+}
+
+void Application::connectModels()
+{
+    m_mainModel.setSettings(&m_settings);
+    m_mainModel.setSearch(&m_search);
+    m_proxyModel.setSourceModel(&m_mainModel);
+    connect(&m_folderScanner, &FolderScanner::found, &m_mainModel, &MainModel::add);
+    connect(&m_mainModel, &MainModel::scanFolders, &m_folderScanner, &FolderScanner::addFolders);
+    connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
 }
 
 void Application::restoreFilesList()

@@ -3,10 +3,13 @@
 
 #include "app/SingleInstance.h"
 #include "lyrics/LyricsSearch.h"
+#include "model/FolderScanner.h"
 #include "model/MainModel.h"
+#include "model/ProxyModel.h"
 #include "network/AccessManager.h"
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
+#include "ui/AppPalette.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -20,6 +23,7 @@
 class Application : public QApplication
 {
     Q_OBJECT
+    Q_PROPERTY(AppPalette *palette READ appPalette CONSTANT)
     Q_PROPERTY(OSType osType READ osType CONSTANT)
     Q_PROPERTY(bool isWindows READ isWindows CONSTANT)
     Q_PROPERTY(bool isMacOS READ isMacOS CONSTANT)
@@ -48,7 +52,10 @@ public:
     [[nodiscard]] static bool isLinux() { return osType() == OS_Linux; }
 
     [[nodiscard]] MainModel *mainModel() { return &m_mainModel; }
+    [[nodiscard]] ProxyModel *proxyModel() { return &m_proxyModel; }
+    [[nodiscard]] FolderScanner *folderScanner() { return &m_folderScanner; }
     [[nodiscard]] Settings *settings() { return &m_settings; }
+    [[nodiscard]] AppPalette *appPalette() { return &m_palette; }
     [[nodiscard]] LyricsSearch *lyricsSearch() { return &m_search; }
     [[nodiscard]] QNetworkAccessManager *networkManager() { return &m_networkManager; }
 
@@ -77,10 +84,12 @@ public slots:
     void changeLanguage();
     // Hands the proxy that the settings describe to the access manager.
     void proxyChanged();
+    void onPaletteChanged(const QPalette &palette);
 
 private:
     static void setNames();
     void createSearch();
+    void connectModels();
     void restoreFilesList();
     void openMakerPage(const QString &path) const;
     [[nodiscard]] QString systemLanguage() const;
@@ -90,8 +99,11 @@ private:
     SingleInstance m_instance;
     SettingsMending m_settingsMending;
     MainModel m_mainModel;
+    ProxyModel m_proxyModel;
+    FolderScanner m_folderScanner;
     AccessManager m_networkManager;
     Settings m_settings;
+    AppPalette m_palette;
     LyricsSearch m_search;
     std::unique_ptr<QTranslator> m_translator;
     std::unique_ptr<QTranslator> m_qtTranslator;

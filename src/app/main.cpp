@@ -36,7 +36,7 @@ int showSceneError(Application &app, const QString &reason)
 
 int runWindow(Application &app, const TerminationSignals &signalsToEnd)
 {
-    MainWindow window(app.mainModel(), app.settings());
+    MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app});
     if (!window.sceneErrors().isEmpty())
         return showSceneError(app, window.sceneErrors());
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, &QWidget::hide);

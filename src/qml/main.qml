@@ -5,9 +5,12 @@ import com.quillmarsh 1.0
 Rectangle {
     id: root
 
+    // Width of the list in pixels; stored by the window when it goes.
+    property int listWidth: 400
     readonly property int spacing: 8
     readonly property int rowHeight: 44
-    readonly property var currentSong: list.currentItem ? list.currentItem.song : null
+    readonly property int smallestPane: 200
+    property var currentSong: proxyModel.currentItem()
 
     // Words for how a song stands; a search that ended without lyrics and without an error found nothing.
     function stateText(song) {
@@ -20,28 +23,39 @@ Rectangle {
         return song.lyricsTag === "" ? qsTr("no lyrics found") : qsTr("has lyrics");
     }
 
-    color: colors.window
+    color: appPalette.window
 
     onCurrentSongChanged: lyricsPane.contentY = 0
 
-    SystemPalette {
-        id: colors
+    Connections {
+        target: proxyModel
+
+        function onCurrentIndexChanged(index) {
+            list.currentIndex = index;
+            root.currentSong = proxyModel.currentItem();
+        }
     }
 
     ListView {
         id: list
 
         objectName: "songList"
-        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
-        width: Math.max(200, Math.round(parent.width * 0.4))
+        anchors { left: parent.left; top: parent.top; bottom: info.top }
+        width: Math.max(root.smallestPane, Math.min(root.listWidth, root.width - root.smallestPane))
         clip: true
         focus: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        KeyNavigation.tab: lyricsPane
+        KeyNavigation.tab: info.visible ? action : lyricsPane
         Keys.onPressed: {
-            if (event.key === Qt.Key_Home)
+            if (event.key === Qt.Key_Delete || event.key === Qt.Key_Backspace)
+                proxyModel.removeSelected();
+            else if (event.key === Qt.Key_A && event.modifiers === Qt.ControlModifier)
+                proxyModel.selectAll();
+            else if (event.key === Qt.Key_L && event.modifiers === Qt.ControlModifier)
+                proxyModel.showFound = !proxyModel.showFound;
+            else if (event.key === Qt.Key_Home)
                 currentIndex = Math.min(0, count - 1);
             else if (event.key === Qt.Key_End)
                 currentIndex = count - 1;
@@ -49,7 +63,8 @@ Rectangle {
                 return;
             event.accepted = true;
         }
-        model: mainModel
+        model: proxyModel
+        onCurrentIndexChanged: proxyModel.currentIndex = currentIndex
 
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Songs")
@@ -61,7 +76,8 @@ Rectangle {
 
             width: list.width
             height: root.rowHeight
-            color: ListView.isCurrentItem ? colors.highlight : colors.base
+            color: selectedRole ? appPalette.listItemSelected : appPalette.listItemBackground
+            border { width: ListView.isCurrentItem ? 1 : 0; color: appPalette.listItemCurrentBorder }
 
             Accessible.role: Accessible.ListItem
             Accessible.name: fileName.text + ", " + state.text
@@ -74,7 +90,7 @@ Rectangle {
                 textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 maximumLineCount: 1
-                color: row.ListView.isCurrentItem ? colors.highlightedText : colors.text
+                color: selectedRole ? appPalette.listItemSelectedText : appPalette.listItemText
             }
 
             Text {
@@ -92,7 +108,10 @@ Rectangle {
 
             MouseArea {
                 anchors.fill: parent
-                onClicked: list.currentIndex = index
+                onClicked: {
+                    list.forceActiveFocus();
+                    proxyModel.itemClicked(index);
+                }
             }
         }
     }
@@ -106,7 +125,75 @@ Rectangle {
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
         opacity: 0.75
-        color: colors.windowText
+        color: appPalette.windowText
+    }
+
+    // A scan under way, or how many songs are hidden.
+    Rectangle {
+        id: info
+
+        readonly property bool scanning: folderScanner.processing
+        property int found: 0
+
+        anchors { left: list.left; right: list.right; bottom: parent.bottom }
+        height: scanning || proxyModel.hiddenCount > 0 ? 34 : 0
+        visible: height > 0
+        color: appPalette.hiddenInfoBackground
+
+        Timer {
+            interval: 100
+            repeat: true
+            running: info.scanning
+            onTriggered: info.found = folderScanner.lastCount()
+        }
+
+        Text {
+            anchors { left: parent.left; right: action.left; verticalCenter: parent.verticalCenter; margins: root.spacing }
+            text: info.scanning ? qsTr("Scanning folder(s) for music files (found %n)", "", info.found)
+                                : qsTr("Hidden %n file(s) with lyrics", "", proxyModel.hiddenCount)
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: appPalette.hiddenInfoText
+        }
+
+        Text {
+            id: action
+
+            function trigger() {
+                if (info.scanning)
+                    folderScanner.cancel();
+                else
+                    proxyModel.showFound = true;
+            }
+
+            objectName: "infoAction"
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter; margins: root.spacing }
+            activeFocusOnTab: info.visible
+            text: info.scanning ? qsTr("Cancel") : qsTr("Show")
+            textFormat: Text.PlainText
+            font.underline: true
+            font.bold: activeFocus
+            color: appPalette.link
+            KeyNavigation.tab: lyricsPane
+            Keys.onReturnPressed: trigger()
+            Keys.onSpacePressed: trigger()
+
+            Accessible.role: Accessible.Button
+            Accessible.name: text
+            Accessible.onPressAction: trigger()
+
+            MouseArea {
+                anchors.fill: parent
+                onClicked: action.trigger()
+            }
+        }
+    }
+
+    MouseArea {
+        anchors { left: list.right; top: parent.top; bottom: parent.bottom }
+        width: root.spacing
+        cursorShape: Qt.SplitHCursor
+        onPositionChanged: root.listWidth = mapToItem(root, mouse.x, 0).x
     }
 
     Flickable {
@@ -145,7 +232,7 @@ Rectangle {
             wrapMode: Text.Wrap
             lineHeight: 1.35
             font.pointSize: settings.lyricsFontSize
-            color: colors.windowText
+            color: appPalette.windowText
 
             Accessible.role: Accessible.StaticText
             Accessible.name: text
@@ -160,7 +247,7 @@ Rectangle {
         height: lyricsPane.visibleArea.heightRatio * lyricsPane.height
         radius: width / 2
         visible: lyricsPane.visibleArea.heightRatio < 1
-        color: colors.mid
+        color: appPalette.mid
     }
 
     // The pane that has the keyboard.
@@ -173,7 +260,7 @@ Rectangle {
         height: pane.height
         visible: list.activeFocus || lyricsPane.activeFocus
         color: "transparent"
-        border { width: 1; color: colors.highlight }
+        border { width: 1; color: appPalette.highlight }
     }
 
     DropArea {

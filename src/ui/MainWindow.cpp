@@ -1,30 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "ui/MainWindow.h"
 
+#include "model/FolderScanner.h"
 #include "model/MainModel.h"
+#include "model/ProxyModel.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
+#include "settings/SettingsKeys.h"
+#include "ui/AppPalette.h"
+#include "ui/ButtonImageProvider.h"
 
-#include <QFileInfo>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlError>
+#include <QQuickItem>
 #include <QQuickWidget>
+#include <QSettings>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <algorithm>
-#include <chrono>
-
-using std::chrono::milliseconds;
-
-namespace {
-
-// Long enough to be read and noted down; the status line is needed for the work on the songs as well.
-constexpr std::chrono::minutes settingsMessageTime(1);
-
-} // namespace
 
 // The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
 // namespace.
@@ -48,10 +46,9 @@ static QStringList missingModules(const QStringList &importPaths)
     return lines;
 }
 
-MainWindow::MainWindow(MainModel *model, Settings *settings, QWidget *parent)
+MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     : QMainWindow(parent)
-    , m_model(model)
-    , m_settings(settings)
+    , m_parts(parts)
     , m_scene(new QQuickWidget(this))
     , m_statusLabel(new QLabel(this))
     , m_noticeLabel(new QLabel(this))
@@ -61,9 +58,10 @@ MainWindow::MainWindow(MainModel *model, Settings *settings, QWidget *parent)
     resize(1040, 680);
     createScene();
     createStatusBar();
-    connect(m_model, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
-    connect(m_model, &MainModel::filesLeftOut, this, &MainWindow::showFilesLeftOut);
+    connect(m_parts.mainModel, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
+    connect(m_parts.mainModel, &MainModel::filesLeftOut, this, &MainWindow::showFilesLeftOut);
     updateStatusLabel();
+    QTimer::singleShot(0, this, &MainWindow::onRestoreGeometry);
 }
 
 MainWindow::~MainWindow()
@@ -79,12 +77,23 @@ void MainWindow::createScene()
     m_scene->setFocusPolicy(Qt::ClickFocus);
     connect(m_scene, &QQuickWidget::sceneGraphError, this,
             [this](QQuickWindow::SceneGraphError, const QString &message) { emit sceneFailed(message); });
-    QQmlContext *context = m_scene->rootContext();
-    context->setContextProperty(QStringLiteral("settings"), m_settings);
-    context->setContextProperty(QStringLiteral("mainModel"), m_model);
+    publishToScene();
     m_scene->setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     setCentralWidget(m_scene);
     m_scene->setFocus();
+}
+
+void MainWindow::publishToScene()
+{
+    QQmlContext *context = m_scene->rootContext();
+    context->setContextProperty(QStringLiteral("app"), m_parts.app);
+    context->setContextProperty(QStringLiteral("settings"), m_parts.settings);
+    context->setContextProperty(QStringLiteral("mainWindow"), this);
+    context->setContextProperty(QStringLiteral("mainModel"), m_parts.mainModel);
+    context->setContextProperty(QStringLiteral("proxyModel"), m_parts.proxyModel);
+    context->setContextProperty(QStringLiteral("folderScanner"), m_parts.folderScanner);
+    context->setContextProperty(QStringLiteral("appPalette"), m_parts.palette);
+    m_scene->engine()->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider); // owned by the engine
 }
 
 void MainWindow::createStatusBar()
@@ -108,7 +117,7 @@ QString MainWindow::sceneErrors() const
 
 void MainWindow::updateStatusLabel()
 {
-    const int count = m_model->activeCount();
+    const int count = m_parts.mainModel->activeCount();
     m_statusLabel->setText(count > 0 ? tr("Searching... %n left...", nullptr, count) : QString());
 }
 
@@ -125,18 +134,34 @@ void MainWindow::showSettingsDamaged(const QString &copy)
                        : tr("The settings file was damaged. What could be read is kept; the damaged file is now %1",
                             "%1 is the path of a file")
                              .arg(QDir::toNativeSeparators(copy));
-    statusBar()->showMessage(text, static_cast<int>(milliseconds(settingsMessageTime).count()));
+    m_noticeLabel->setText(text);
+}
+
+void MainWindow::onRestoreGeometry()
+{
+    const QSettings store;
+    restoreGeometry(storedValue(store, SettingsKey::Geometry).toByteArray());
+    const int listWidth = storedValue(store, SettingsKey::ListWidth).toInt();
+    if (QQuickItem *root = m_scene->rootObject(); root && listWidth > 0)
+        root->setProperty("listWidth", listWidth);
+}
+
+QStringList MainWindow::fileUrls() const
+{
+    QStringList files;
+    for (const QUrl &url : m_parts.mainModel->urls())
+        files.append(url.toString(QUrl::FullyEncoded));
+    return files;
 }
 
 void MainWindow::saveState() const
 {
-    m_settings->save();
-    if (!m_settings->saveFilesList())
-        return;
-    QStringList files;
-    for (const QUrl &url : m_model->urls())
-        files.append(url.toString(QUrl::FullyEncoded));
+    m_parts.settings->save();
     SettingsChange change;
-    change.set(SettingsKey::FilesList, files);
+    change.set(SettingsKey::Geometry, saveGeometry());
+    if (const QQuickItem *root = m_scene->rootObject())
+        change.set(SettingsKey::ListWidth, root->property("listWidth").toInt());
+    if (m_parts.settings->saveFilesList())
+        change.set(SettingsKey::FilesList, fileUrls());
     change.commit();
 }

@@ -3,21 +3,34 @@
 
 #include <QMainWindow>
 
+class AppPalette;
+class FolderScanner;
 class MainModel;
+class ProxyModel;
 class QLabel;
 class QQuickWidget;
 class Settings;
 
 // The program's one window: the scene with the list of songs, and a status line.
 //
-// The model and the settings are not owned and must outlive the window, which stores the settings and, when that is
-// wanted, the list of files as it goes.
+// As it goes it stores its geometry, the settings and, when that is wanted, the list of files.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    MainWindow(MainModel *model, Settings *settings, QWidget *parent = nullptr);
+    // What the window shows and works on. Nothing is owned, and all must outlive the window.
+    struct Parts
+    {
+        MainModel *mainModel;
+        ProxyModel *proxyModel;
+        FolderScanner *folderScanner;
+        Settings *settings;
+        AppPalette *palette;
+        QObject *app; // for the scene
+    };
+
+    explicit MainWindow(const Parts &parts, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     // Why the scene could not be loaded, in words for the user; empty when it could.
@@ -26,6 +39,8 @@ public:
 public slots:
     // Keeps the number of songs that are still to be searched for in the status line.
     void updateStatusLabel();
+    // Brings back the window's geometry and the width of the list.
+    void onRestoreGeometry();
     // Says in the status line that the settings file was damaged. `copy` is the path of the damaged file as it was;
     // empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
@@ -36,12 +51,13 @@ signals:
 
 private:
     void createScene();
+    void publishToScene();
     void createStatusBar();
     void showFilesLeftOut(int count);
+    [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;
 
-    MainModel *m_model;
-    Settings *m_settings;
+    const Parts m_parts;
     QQuickWidget *m_scene;
     QLabel *m_statusLabel;
     QLabel *m_noticeLabel;

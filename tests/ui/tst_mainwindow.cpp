@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/MainWindow.h"
 
+#include "model/FolderScanner.h"
 #include "model/MainModel.h"
+#include "model/ProxyModel.h"
 #include "settings/Settings.h"
+#include "ui/AppPalette.h"
 
 #include <QFile>
 #include <QLabel>
@@ -59,6 +62,9 @@ private:
     QTemporaryDir m_folder;
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<MainModel> m_model;
+    std::unique_ptr<ProxyModel> m_proxy;
+    std::unique_ptr<FolderScanner> m_scanner;
+    AppPalette m_palette;
     std::unique_ptr<MainWindow> m_window;
     QtMessageHandler m_handler = nullptr;
 };
@@ -78,7 +84,11 @@ void tst_MainWindow::init()
     m_handler = qInstallMessageHandler(noteWarnings);
     m_settings = std::make_unique<Settings>();
     m_model = std::make_unique<MainModel>();
-    m_window = std::make_unique<MainWindow>(m_model.get(), m_settings.get());
+    m_proxy = std::make_unique<ProxyModel>();
+    m_proxy->setSourceModel(m_model.get());
+    m_scanner = std::make_unique<FolderScanner>();
+    m_window = std::make_unique<MainWindow>(
+        MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
@@ -86,6 +96,7 @@ void tst_MainWindow::init()
 void tst_MainWindow::cleanup()
 {
     m_window.reset();
+    m_proxy.reset();
     m_model.reset();
     qInstallMessageHandler(m_handler);
     QCOMPARE(warnings.filter(QStringLiteral("qml")), QStringList());

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QQuickImageProvider>
+
+// Serves the pictures of buttons to the scene, as "image://btnimage/<name>/<device pixel ratio>/<colour>": the picture
+// ":/img/<name>.png", or ":/img/<name>@2x.png" on dense screens. The colour is part of the address, so that a change of
+// the palette asks anew, but the picture is not tinted. A malformed address or a missing picture is an empty pixmap.
+class ButtonImageProvider : public QQuickImageProvider
+{
+public:
+    ButtonImageProvider();
+
+    QPixmap requestPixmap(const QString &id, QSize *size, const QSize &requestedSize) override;
+};
