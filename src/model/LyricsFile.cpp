@@ -25,5 +25,6 @@ bool writeLyricsFile(const QString &audioFile, const QString &lyrics)
         stream.setCodec("UTF-8");
     stream << lyrics;
     stream.flush();
-    return stream.status() == QTextStream::Ok && file.commit();
+    // commit() alone would take a file that a full disk has cut for a good one (Qt 5.15).
+    return stream.status() == QTextStream::Ok && file.flush() && file.commit();
 }
