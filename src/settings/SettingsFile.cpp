@@ -15,7 +15,7 @@
 namespace {
 
 // A list of all 65,535 songs with long paths takes a quarter of that.
-constexpr qint64 largestFileBytes = 64 * 1024 * 1024;
+constexpr qint64 largestFileBytes = 64LL * 1024 * 1024;
 constexpr int mostCopies = 99;
 
 enum class LineKind { Skipped, Group, Entry, Damaged };
