@@ -2,19 +2,27 @@
 #pragma once
 
 #include "network/RequestLimits.h"
+#include "network/RequestQueue.h"
 #include "network/RestingHosts.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
+
+class LimitedReply;
 
 // The access manager of every connection that the program opens. It keeps hostile and broken servers from doing harm:
 //
 // - Each request has limits of time and size (RequestLimits). Bodies are inflated here, never beyond the limit.
 // - Only http and https addresses are asked; anything else is an error reply.
 // - Redirects are not followed: whoever sent the request does that by hand (Redirects.h).
-// - A server that answers 429 or 503 with "Retry-After" gets no request for that time; they fail at once instead.
+// - A server that answers 429 or 503 with "Retry-After" gets no request for that time; they fail instead, at once or,
+//   when they wait already, as soon as it would be their turn.
+// - A server gets a few requests at a time; the others wait here and cost no time of their limits (RequestQueue).
 //
 // Replies, cookies and proxies are used as with any QNetworkAccessManager; see LimitedReply for what a reply promises.
+// A request that waited goes out with the cookies and the proxy of the moment in which it is sent. Data that is
+// uploaded must stay alive until finished(), as always.
+//
 // A reply given by authenticationRequired() or proxyAuthenticationRequired() is not the one that was handed out but the
 // one behind it.
 class AccessManager : public QNetworkAccessManager
@@ -35,10 +43,16 @@ protected:
     QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request, QIODevice *outgoingData) override;
 
 private:
-    // An error reply when this request must not be sent, else null.
+    // An error reply when this request must not even wait, else null.
     QNetworkReply *refusal(Operation operation, const QNetworkRequest &request);
+    // Why the server of this address must be left alone; empty when it may be asked.
+    [[nodiscard]] QString pauseText(const QUrl &url) const;
+    void enqueue(LimitedReply *reply, QIODevice *outgoingData);
+    // Sends what the reply stands for, or ends it. Null when there was nothing to send.
+    QNetworkReply *send(LimitedReply *reply, QIODevice *outgoingData);
     void noteWish(const QNetworkReply &reply);
 
     RequestLimits m_limits;
     RestingHosts m_restingHosts;
+    RequestQueue m_queue;
 };

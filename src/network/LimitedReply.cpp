@@ -41,39 +41,50 @@ QString statusText(int status)
 
 } // namespace
 
-LimitedReply::LimitedReply(QNetworkReply *source, const QNetworkRequest &request, Kind kind,
+LimitedReply::LimitedReply(QNetworkAccessManager::Operation operation, const QNetworkRequest &request, RequestKind kind,
                            const RequestLimits &limits, QNetworkAccessManager *manager)
     : QNetworkReply(manager)
-    , m_source(source)
     , m_kind(kind)
     , m_limits(limits)
 {
-    setOperation(source->operation());
+    setOperation(operation);
     setRequest(request);
-    setUrl(source->url());
+    setUrl(request.url());
     connect(manager, &QObject::destroyed, this, &LimitedReply::endWithManager);
-    forwardSignals();
-    startTimers();
+    prepareTimers();
     open(ReadOnly);
 }
 
 LimitedReply::~LimitedReply()
 {
+    if (!m_source)
+        return;
     // Not deleted at once: this may be a slot of one of its signals.
-    if (m_source) {
-        m_source->disconnect(this);
-        m_source->deleteLater();
-    }
+    m_source->disconnect(this);
+    m_source->deleteLater();
 }
 
 qint64 LimitedReply::bytesAvailable() const
 {
     qint64 waiting = 0;
-    if (m_kind == Kind::Page)
+    if (m_kind == RequestKind::Page)
         waiting = isFinished() ? m_body.size() - m_readBytes : 0;
     else if (m_source && m_source->isReadable())
         waiting = m_source->bytesAvailable();
     return QNetworkReply::bytesAvailable() + waiting;
+}
+
+void LimitedReply::start(QNetworkReply *source)
+{
+    m_source = source;
+    setUrl(source->url());
+    if (m_kind == RequestKind::Download)
+        source->setReadBufferSize(readBufferSize());
+    if (m_ignoresSslErrors)
+        source->ignoreSslErrors();
+    source->ignoreSslErrors(m_ignoredSslErrors);
+    forwardSignals();
+    startTimers();
 }
 
 void LimitedReply::abort()
@@ -84,19 +95,20 @@ void LimitedReply::abort()
 void LimitedReply::setReadBufferSize(qint64 bytes)
 {
     QNetworkReply::setReadBufferSize(bytes);
-    if (m_source && m_kind == Kind::Download)
+    if (m_source && m_kind == RequestKind::Download)
         m_source->setReadBufferSize(bytes);
 }
 
 void LimitedReply::ignoreSslErrors()
 {
+    m_ignoresSslErrors = true;
     if (m_source)
         m_source->ignoreSslErrors();
 }
 
 qint64 LimitedReply::readData(char *data, qint64 maximumBytes)
 {
-    if (m_kind == Kind::Download)
+    if (m_kind == RequestKind::Download)
         return m_source && m_source->isReadable() ? m_source->read(data, maximumBytes) : -1;
     if (!isFinished())
         return 0;
@@ -110,18 +122,23 @@ qint64 LimitedReply::readData(char *data, qint64 maximumBytes)
 
 void LimitedReply::sslConfigurationImplementation(QSslConfiguration &configuration) const
 {
-    if (m_source)
-        configuration = m_source->sslConfiguration();
+    configuration = m_source ? m_source->sslConfiguration() : request().sslConfiguration();
 }
 
 void LimitedReply::setSslConfigurationImplementation(const QSslConfiguration &configuration)
 {
-    if (m_source)
+    if (m_source) {
         m_source->setSslConfiguration(configuration);
+        return;
+    }
+    QNetworkRequest changed = request();
+    changed.setSslConfiguration(configuration);
+    setRequest(changed);
 }
 
 void LimitedReply::ignoreSslErrorsImplementation(const QList<QSslError> &errors)
 {
+    m_ignoredSslErrors = errors;
     if (m_source)
         m_source->ignoreSslErrors(errors);
 }
@@ -141,7 +158,7 @@ void LimitedReply::forwardSignals()
     connect(source, &QNetworkReply::sslErrors, this, &QNetworkReply::sslErrors);
 }
 
-void LimitedReply::startTimers()
+void LimitedReply::prepareTimers()
 {
     m_idleTimer.setSingleShot(true);
     m_totalTimer.setSingleShot(true);
@@ -151,8 +168,12 @@ void LimitedReply::startTimers()
     connect(&m_totalTimer, &QTimer::timeout, this, [this] {
         fail(TimeoutError, tr("The server took longer than %1 seconds.").arg(wholeSeconds(m_limits.total)));
     });
+}
+
+void LimitedReply::startTimers()
+{
     m_idleTimer.start(m_limits.idle);
-    if (m_kind == Kind::Page)
+    if (m_kind == RequestKind::Page)
         m_totalTimer.start(m_limits.total);
 }
 
@@ -168,12 +189,12 @@ void LimitedReply::takeHead()
     setUrl(m_source->url());
     for (const QNetworkRequest::Attribute attribute : copiedAttributes)
         setAttribute(attribute, m_source->attribute(attribute));
-    const bool known = m_kind == Kind::Download || chooseDecoder();
+    const bool known = m_kind == RequestKind::Download || chooseDecoder();
     copyHeaders(m_inflater.has_value());
     emit metaDataChanged();
     if (!known)
         fail(UnknownContentError, tr("The answer is packed in a way that is not known here."));
-    else if (m_kind == Kind::Page && isBodyExpected() &&
+    else if (m_kind == RequestKind::Page && isBodyExpected() &&
              m_source->header(QNetworkRequest::ContentLengthHeader).toLongLong() >
                  m_limits.bodyBytes + compressionOverheadBytes)
         failAsTooLarge();
@@ -204,7 +225,7 @@ bool LimitedReply::chooseDecoder()
 void LimitedReply::takeBody()
 {
     noteProgress();
-    if (m_kind == Kind::Download) {
+    if (m_kind == RequestKind::Download) {
         emit readyRead();
         return;
     }
@@ -234,7 +255,7 @@ void LimitedReply::addToBody(const QByteArray &chunk)
 
 void LimitedReply::sourceFinished()
 {
-    if (m_kind == Kind::Page)
+    if (m_kind == RequestKind::Page)
         takeBody();
     if (m_settled)
         return;
@@ -312,7 +333,7 @@ void LimitedReply::conclude()
     if (m_failure != NoError) {
         setError(m_failure, m_failureText);
         emit errorOccurred(m_failure);
-    } else if (m_kind == Kind::Page && !m_body.isEmpty()) {
+    } else if (m_kind == RequestKind::Page && !m_body.isEmpty()) {
         emit readyRead();
     }
     emit finished();

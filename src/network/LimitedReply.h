@@ -27,21 +27,29 @@ class LimitedReply final : public QNetworkReply
     Q_OBJECT
 
 public:
-    enum class Kind { Page, Download };
-
-    // `source` stays with its owner, the manager, until this reply is deleted, which then releases it. `request` is
-    // what the caller asked for. The manager becomes the parent; a reply that outlives it all the same fails as
-    // cancelled.
-    LimitedReply(QNetworkReply *source, const QNetworkRequest &request, Kind kind, const RequestLimits &limits,
-                 QNetworkAccessManager *manager);
+    // `request` is what the caller asked for. The manager becomes the parent; a reply that outlives it all the same
+    // fails as cancelled.
+    LimitedReply(QNetworkAccessManager::Operation operation, const QNetworkRequest &request, RequestKind kind,
+                 const RequestLimits &limits, QNetworkAccessManager *manager);
     ~LimitedReply() override;
 
+    [[nodiscard]] RequestKind kind() const { return m_kind; }
+    // Whether the outcome is known, though finished() may be still to come.
+    [[nodiscard]] bool isSettled() const { return m_settled; }
     [[nodiscard]] bool isSequential() const override { return true; }
     [[nodiscard]] qint64 bytesAvailable() const override;
+
+    // The request was sent: `source` is Qt's reply to it, and the limits of time count from now. Once only, and not
+    // after the outcome is known. The source stays with its owner, the manager, until this reply is deleted, which then
+    // releases it.
+    void start(QNetworkReply *source);
+    // Ends the request, sent or not, with this error. Does nothing once it has finished.
+    void fail(NetworkError error, const QString &text);
 
     void abort() override;
     // Holds back a download that is not read; a page is limited anyway.
     void setReadBufferSize(qint64 bytes) override;
+    // This and all that concerns SSL holds for a request that is sent later as well.
     void ignoreSslErrors() override;
 
 protected:
@@ -51,6 +59,7 @@ protected:
     void ignoreSslErrorsImplementation(const QList<QSslError> &errors) override;
 
 private:
+    void prepareTimers();
     void forwardSignals();
     void startTimers();
     void noteProgress();
@@ -68,14 +77,13 @@ private:
     [[nodiscard]] QString sourceErrorText() const;
 
     void failAsTooLarge();
-    void fail(NetworkError error, const QString &text);
     // Nothing of the source counts any more; conclude() follows from the event loop.
     void settle();
     void conclude();
     void endWithManager();
 
-    QPointer<QNetworkReply> m_source;
-    Kind m_kind;
+    QPointer<QNetworkReply> m_source; // null until the request is sent
+    RequestKind m_kind;
     RequestLimits m_limits;
     QTimer m_idleTimer;
     QTimer m_totalTimer;
@@ -83,6 +91,8 @@ private:
     QByteArray m_body;
     qint64 m_readBytes = 0;     // of m_body
     qint64 m_receivedBytes = 0; // as transferred, before inflation
+    bool m_ignoresSslErrors = false;
+    QList<QSslError> m_ignoredSslErrors;
     NetworkError m_failure = NoError;
     QString m_failureText;
     bool m_settled = false;

@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "network/RestingHosts.h"
 
+#include "network/Server.h"
+
 #include <algorithm>
 #include <utility>
-
-namespace {
-
-QString serverOf(const QUrl &url)
-{
-    const int defaultPort = url.scheme() == QLatin1String("https") ? 443 : 80;
-    return QStringLiteral("%1:%2").arg(url.host()).arg(url.port(defaultPort));
-}
-
-} // namespace
 
 RestingHosts::RestingHosts(Clock clock)
     : m_clock(std::move(clock))

@@ -8,7 +8,7 @@
 #include <chrono>
 #include <functional>
 
-// Remembers which servers asked to be left alone, and until when. A server is a host with a port, whatever the path.
+// Remembers which servers asked to be left alone, and until when (Server.h).
 class RestingHosts
 {
 public:

@@ -2,6 +2,7 @@
 #include "network/AccessManager.h"
 #include "support/LoopbackServer.h"
 
+#include <QBuffer>
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QPointer>
@@ -10,6 +11,7 @@
 
 #include <memory>
 #include <sys/resource.h>
+#include <vector>
 #include <zlib.h>
 
 using namespace std::chrono_literals;
@@ -123,6 +125,10 @@ private slots:
     void pauses_data();
     void pauses();
     void aPauseIsForOneServer();
+    void waitingCostsNoTime();
+    void aPauseHoldsForWhatWaits();
+    void waitingRequestsGoOutInOrder();
+    void downloadsLeavePlacesForPages();
     void abortMidway();
     void replyDeletedMidway();
     void managerDeletedWithRequestsInFlight();
@@ -133,6 +139,10 @@ private:
     void waitFor(QNetworkReply *reply);
     std::unique_ptr<QNetworkReply> get(const QNetworkRequest &request);
     std::unique_ptr<QNetworkReply> get(const QByteArray &target);
+    // Sent at once, one behind the other; the manager owns them.
+    std::vector<QNetworkReply *> getMany(std::size_t count, const QByteArray &target);
+    [[nodiscard]] QNetworkRequest download(const QByteArray &target) const;
+    [[nodiscard]] QNetworkRequest form(const QByteArray &target) const;
 
     std::unique_ptr<LoopbackServer> m_server;
     std::unique_ptr<AccessManager> m_manager;
@@ -183,6 +193,28 @@ std::unique_ptr<QNetworkReply> tst_AccessManager::get(const QNetworkRequest &req
 std::unique_ptr<QNetworkReply> tst_AccessManager::get(const QByteArray &target)
 {
     return get(QNetworkRequest(m_server->url(target)));
+}
+
+std::vector<QNetworkReply *> tst_AccessManager::getMany(std::size_t count, const QByteArray &target)
+{
+    std::vector<QNetworkReply *> replies(count);
+    for (QNetworkReply *&reply : replies)
+        reply = m_manager->get(QNetworkRequest(m_server->url(target)));
+    return replies;
+}
+
+QNetworkRequest tst_AccessManager::download(const QByteArray &target) const
+{
+    QNetworkRequest request(m_server->url(target));
+    request.setAttribute(AccessManager::DownloadAttribute, true);
+    return request;
+}
+
+QNetworkRequest tst_AccessManager::form(const QByteArray &target) const
+{
+    QNetworkRequest request(m_server->url(target));
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("text/plain"));
+    return request;
 }
 
 void tst_AccessManager::answers_data()
@@ -314,9 +346,8 @@ void tst_AccessManager::headKeepsTheLength()
 
 void tst_AccessManager::sendsWhatWasAsked()
 {
-    QNetworkRequest request(m_server->url("/collect?v=1"));
+    QNetworkRequest request = form("/collect?v=1");
     request.setRawHeader("User-Agent", "Versewell");
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("text/plain"));
     const std::unique_ptr<QNetworkReply> reply(m_manager->post(request, "body"));
     waitFor(reply.get());
 
@@ -382,10 +413,8 @@ void tst_AccessManager::downloadIsStreamedWhole()
     m_manager->setLimits({500ms, 1ms, 10});
     m_server->route(QStringLiteral("/setup"),
                     dripped(coded("gzip", packed), std::chrono::milliseconds(800 / packed.size())));
-    QNetworkRequest request(m_server->url("/setup"));
-    request.setAttribute(AccessManager::DownloadAttribute, true);
 
-    const std::unique_ptr<QNetworkReply> reply(m_manager->get(request));
+    const std::unique_ptr<QNetworkReply> reply(m_manager->get(download("/setup")));
     QByteArray early;
     connect(reply.get(), &QNetworkReply::readyRead, this, [&] { early += reply->read(3); });
     waitFor(reply.get());
@@ -399,9 +428,7 @@ void tst_AccessManager::downloadStillEndsWhenSilent()
 {
     m_manager->setLimits({300ms, 1ms, 10});
     m_server->route(QStringLiteral("/setup"), hanging());
-    QNetworkRequest request(m_server->url("/setup"));
-    request.setAttribute(AccessManager::DownloadAttribute, true);
-    QCOMPARE(get(request)->error(), QNetworkReply::TimeoutError);
+    QCOMPARE(get(download("/setup"))->error(), QNetworkReply::TimeoutError);
 }
 
 void tst_AccessManager::pauses_data()
@@ -445,6 +472,73 @@ void tst_AccessManager::aPauseIsForOneServer()
     QCOMPARE(other.requests().size(), 1);
 }
 
+void tst_AccessManager::waitingCostsNoTime()
+{
+    // The seventh is answered after 1.2 s.
+    m_manager->setLimits({1s, 1s, limitBytes});
+    LoopbackResponse slow = LoopbackResponse::page("song");
+    slow.delay = 600ms;
+    m_server->route(QStringLiteral("/page"), slow);
+
+    const std::vector<QNetworkReply *> replies = getMany(7, "/page");
+    QTRY_VERIFY(replies.back()->isFinished());
+    for (const QNetworkReply *reply : replies)
+        QVERIFY2(reply->error() == QNetworkReply::NoError, qPrintable(reply->errorString()));
+    QCOMPARE(m_server->mostConnections(), 6);
+}
+
+void tst_AccessManager::aPauseHoldsForWhatWaits()
+{
+    m_server->route(QStringLiteral("/page"), withRetryAfter(429, "30"));
+    const std::vector<QNetworkReply *> replies = getMany(20, "/page");
+    for (QNetworkReply *reply : replies)
+        QTRY_VERIFY(reply->isFinished());
+    QCOMPARE(m_server->requests().size(), 6);
+    QCOMPARE(replies[6]->error(), QNetworkReply::ServiceUnavailableError);
+    QVERIFY2(replies[6]->errorString().contains(QLatin1String("again in 30 s")), qPrintable(replies[6]->errorString()));
+}
+
+void tst_AccessManager::waitingRequestsGoOutInOrder()
+{
+    m_server->route(QStringLiteral("/hang"), hanging());
+    const std::vector<QNetworkReply *> hanging = getMany(6, "/hang");
+    m_manager->post(form("/first"), "body");
+    const std::vector<QNetworkReply *> given = getMany(2, "/never");
+    auto data = std::make_unique<QBuffer>();
+    QVERIFY(data->open(QIODevice::ReadOnly));
+    const QNetworkReply *withoutData = m_manager->post(form("/never"), data.get());
+    data.reset();
+    const QNetworkReply *last = m_manager->get(QNetworkRequest(m_server->url("/last")));
+
+    delete given[0];
+    given[1]->abort();
+    waitFor(given[1]);
+    QCOMPARE(given[1]->error(), QNetworkReply::OperationCanceledError);
+    LoopbackServer other; // it has a line of its own
+    get(QNetworkRequest(other.url("/page")));
+    QCOMPARE(m_server->requests().size(), 6);
+
+    delete hanging[0];
+    QTRY_VERIFY(last->isFinished());
+    QTRY_VERIFY(withoutData->isFinished());
+    QCOMPARE(withoutData->error(), QNetworkReply::OperationCanceledError);
+    QCOMPARE(m_server->requests().size(), 8);
+    QCOMPARE(m_server->requests().at(6).body, QByteArray("body"));
+    QCOMPARE(m_server->requests().at(7).path, QStringLiteral("/last"));
+}
+
+void tst_AccessManager::downloadsLeavePlacesForPages()
+{
+    m_server->route(QStringLiteral("/setup"), hanging());
+    QNetworkReply *first = m_manager->get(download("/setup"));
+    for (int i = 0; i < 7; ++i)
+        m_manager->get(download("/setup"));
+    QCOMPARE(get("/page")->error(), QNetworkReply::ContentNotFoundError);
+    QCOMPARE(m_server->requestCount(QStringLiteral("/setup")), 3);
+    first->abort();
+    QTRY_COMPARE(m_server->requestCount(QStringLiteral("/setup")), 4);
+}
+
 void tst_AccessManager::abortMidway()
 {
     m_server->route(QStringLiteral("/page"), dripped(LoopbackResponse::page(QByteArray(100000, 'x')), 1ms));
@@ -480,10 +574,12 @@ void tst_AccessManager::managerDeletedWithRequestsInFlight()
                                                m_manager->get(QNetworkRequest(QUrl(QStringLiteral("file:///x")))),
                                                m_manager->get(QNetworkRequest(m_server->url("/drip")))};
     QTRY_COMPARE(m_server->requests().size(), 3);
+    const QPointer<QNetworkReply> waiting = getMany(5, "/hang").back();
     replies[3]->abort();
     m_manager.reset();
     for (const auto &reply : replies)
         QVERIFY(!reply);
+    QVERIFY(!waiting);
     QTRY_COMPARE(m_server->openConnections(), 0);
 }
 
@@ -493,15 +589,18 @@ void tst_AccessManager::managerDeletedBeforeAReplyOfSomebodyElse()
     const std::unique_ptr<QNetworkReply> reply(m_manager->get(QNetworkRequest(m_server->url("/hang"))));
     const std::unique_ptr<QNetworkReply> aborted(m_manager->get(QNetworkRequest(m_server->url("/hang"))));
     QTRY_COMPARE(m_server->requests().size(), 2);
+    getMany(4, "/hang");
+    const std::unique_ptr<QNetworkReply> waiting(m_manager->get(QNetworkRequest(m_server->url("/hang"))));
     QSignalSpy finished(reply.get(), &QNetworkReply::finished);
     aborted->abort();
     const std::unique_ptr<QNetworkReply> refused(m_manager->get(QNetworkRequest(QUrl(QStringLiteral("file:///x")))));
-    for (const auto &survivor : {reply.get(), aborted.get(), refused.get()})
+    for (const auto &survivor : {reply.get(), aborted.get(), waiting.get(), refused.get()})
         survivor->setParent(nullptr);
     m_manager.reset();
     QVERIFY(finished.wait());
-    QTRY_VERIFY(refused->isFinished() && aborted->isFinished());
+    QTRY_VERIFY(refused->isFinished() && aborted->isFinished() && waiting->isFinished());
     QCOMPARE(reply->error(), QNetworkReply::OperationCanceledError);
+    QCOMPARE(waiting->error(), QNetworkReply::OperationCanceledError);
 }
 
 QTEST_GUILESS_MAIN(tst_AccessManager)
