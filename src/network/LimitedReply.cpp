@@ -59,7 +59,11 @@ LimitedReply::~LimitedReply()
 {
     if (!m_source)
         return;
-    // Not deleted at once: this may be a slot of one of its signals.
+    // Not deleted at once: this may be a slot of one of its signals. Until then it reads the data that is uploaded,
+    // which QNetworkAccessManager::post() has made a child of this reply.
+    const QObjectList guests = children();
+    for (QObject *guest : guests)
+        guest->setParent(m_source);
     m_source->disconnect(this);
     m_source->deleteLater();
 }

@@ -41,7 +41,7 @@ public:
 
     // The request was sent: `source` is Qt's reply to it, and the limits of time count from now. Once only, and not
     // after the outcome is known. The source stays with its owner, the manager, until this reply is deleted, which then
-    // releases it.
+    // releases it; the children of this reply go with it, as they may hold the data that is uploaded.
     void start(QNetworkReply *source);
     // Ends the request, sent or not, with this error. Does nothing once it has finished.
     void fail(NetworkError error, const QString &text);

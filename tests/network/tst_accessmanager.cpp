@@ -131,6 +131,7 @@ private slots:
     void downloadsLeavePlacesForPages();
     void abortMidway();
     void replyDeletedMidway();
+    void uploadDeletedMidway();
     void managerDeletedWithRequestsInFlight();
     void managerDeletedBeforeAReplyOfSomebodyElse();
 
@@ -563,6 +564,15 @@ void tst_AccessManager::replyDeletedMidway()
     QTRY_VERIFY(!guard);
     QTRY_COMPARE(m_server->openConnections(), 0);
     QCOMPARE(get("/other")->error(), QNetworkReply::ContentNotFoundError);
+}
+
+void tst_AccessManager::uploadDeletedMidway()
+{
+    QNetworkReply *reply = m_manager->post(form("/page"), QByteArray(32 * limitBytes, 'x'));
+    connect(reply, &QNetworkReply::uploadProgress, this, [reply] { delete reply; });
+    QPointer<QNetworkReply> guard(reply);
+    QTRY_VERIFY(!guard);
+    QTRY_COMPARE(m_server->openConnections(), 0);
 }
 
 void tst_AccessManager::managerDeletedWithRequestsInFlight()
