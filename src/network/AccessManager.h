@@ -21,7 +21,8 @@ class LimitedReply;
 //
 // Replies, cookies and proxies are used as with any QNetworkAccessManager; see LimitedReply for what a reply promises.
 // A request that waited goes out with the cookies and the proxy of the moment in which it is sent. Data that is
-// uploaded must stay alive until finished(), as always.
+// uploaded must stay alive until finished(), as always; when the reply is deleted before that, until the event loop has
+// run once more.
 //
 // A reply given by authenticationRequired() or proxyAuthenticationRequired() is not the one that was handed out but the
 // one behind it.
