@@ -21,8 +21,9 @@ public:
     void run() override;
 
 signals:
-    // Emitted exactly once, on the thread of the pool; the record is empty when the file could not be read.
-    void extracted(QString strFile, MediaFileTags tags);
+    // Emitted exactly once, on the thread of the pool; the record is empty when the file could not be read. A queued
+    // connection makes its copy there.
+    void extracted(const QString &strFile, const MediaFileTags &tags);
 
 private:
     const QString m_fileName;

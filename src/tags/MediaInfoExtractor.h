@@ -24,8 +24,9 @@ public slots:
     void request(const QString &fileName);
 
 signals:
-    // With the path as requested. The record is empty when the file could not be read.
-    void infoExtracted(QString strFile, MediaFileTags tags);
+    // With the path as requested. The record is empty when the file could not be read. It goes to slots in this thread
+    // without a copy, which would copy every frame of a tag.
+    void infoExtracted(const QString &strFile, const MediaFileTags &tags);
 
 private slots:
     void extracted(const QString &strFile, const MediaFileTags &tags);

@@ -8,6 +8,11 @@
 #include <QThreadPool>
 
 #include <memory>
+#include <type_traits>
+
+// A signal that took the record by value would copy a whole tag in the thread of the window.
+static_assert(std::is_same_v<decltype(&MediaInfoExtractor::infoExtracted),
+                             void (MediaInfoExtractor::*)(const QString &, const MediaFileTags &)>);
 
 class tst_MediaInfoExtractor : public QObject
 {
