@@ -32,8 +32,9 @@ public:
                     const QString &lyrics);
 
     static int pendingWrites();
-    // Blocks until no write is queued; false, giving up, when no write ended for that long. The answers of the writes
-    // are signals to the calling thread, so they arrive after this returns.
+    // Blocks until no write is queued; false, giving up, when for that long no write ended and not a byte was read or
+    // written: a slow write that moves is waited for. The answers of the writes are signals to the calling thread, so
+    // they arrive after this returns.
     static bool waitForQueued(std::chrono::milliseconds withoutProgress);
 
 public slots:

@@ -3,8 +3,13 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QLoggingCategory>
 #include <QThread>
+
+#include <algorithm>
+
+#include <unistd.h>
 
 Q_DECLARE_LOGGING_CATEGORY(lcTags)
 
@@ -14,6 +19,24 @@ namespace {
 
 // For a program that ends without having waited itself. Long enough for a network share that has gone to sleep.
 constexpr std::chrono::seconds patienceAtEnd{30};
+
+// Often enough to see what moves, seldom enough to cost nothing.
+constexpr std::chrono::milliseconds lookInterval{200};
+
+// What the thread of this process has read and written so far ("rchar" and "wchar", see proc(5)); empty where the
+// system does not count.
+QByteArray bytesMoved(int systemId)
+{
+    QFile counters(QStringLiteral("/proc/self/task/%1/io").arg(systemId));
+    if (!counters.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray moved;
+    for (const QByteArray &line : counters.readAll().split('\n')) {
+        if (line.startsWith("rchar:") || line.startsWith("wchar:"))
+            moved += line;
+    }
+    return moved;
+}
 
 } // namespace
 
@@ -33,6 +56,11 @@ QThread *WriterThread::thread()
     if (!m_thread) {
         m_thread = std::make_unique<QThread>();
         m_thread->setObjectName(QStringLiteral("tag writer"));
+        const auto noteSystemId = [this] {
+            const QMutexLocker locker(&m_mutex);
+            m_systemId = ::gettid();
+        };
+        QObject::connect(m_thread.get(), &QThread::started, noteSystemId); // called in the thread that starts
         qAddPostRoutine(stopAtEnd);
     }
     if (!m_thread->isRunning())
@@ -67,16 +95,20 @@ int WriterThread::pendingWrites() const
 bool WriterThread::waitForQueued(std::chrono::milliseconds withoutProgress)
 {
     const QMutexLocker locker(&m_mutex);
-    quint64 seen = m_ended;
+    quint64 endedBefore = m_ended;
+    QByteArray movedBefore = bytesMoved(m_systemId);
     QDeadlineTimer deadline(withoutProgress);
     while (m_pending > 0) {
-        if (!m_writeEnded.wait(&m_mutex, deadline)) {
+        const auto left = std::chrono::milliseconds(deadline.remainingTime());
+        m_writeEnded.wait(&m_mutex, QDeadlineTimer(std::min(lookInterval, left)));
+        const QByteArray moved = bytesMoved(m_systemId);
+        if (m_ended != endedBefore || moved != movedBefore || moved.isEmpty()) {
+            endedBefore = m_ended;
+            movedBefore = moved;
+            deadline = QDeadlineTimer(withoutProgress);
+        } else if (deadline.hasExpired()) {
             m_stalled = true;
             return false;
-        }
-        if (m_ended != seen) {
-            seen = m_ended;
-            deadline = QDeadlineTimer(withoutProgress);
         }
     }
     return true;

@@ -28,7 +28,9 @@ public:
 
     [[nodiscard]] int pendingWrites() const;
 
-    // Blocks until no write is queued. False when no write ended for that long.
+    // Blocks until no write is queued. False when for that long no write ended and the thread neither read nor wrote
+    // anything: a large file on a slow stick is waited for as long as bytes move. Where the system does not count a
+    // thread's bytes nobody can tell a slow write from a dead one, and none is given up.
     bool waitForQueued(std::chrono::milliseconds withoutProgress);
 
 private:
@@ -41,6 +43,7 @@ private:
     std::unique_ptr<QThread> m_thread;
     mutable QMutex m_mutex;
     QWaitCondition m_writeEnded;
+    int m_systemId = 0; // of the thread, as the system numbers threads; 0 until it runs
     int m_pending = 0;
     quint64 m_ended = 0;
     bool m_stalled = false;

@@ -2,8 +2,10 @@
 #include "tags/MediaFileTags.h"
 #include "tags/SongFiles.h"
 #include "tags/TagWriter.h"
+#include "tags/WriterThread.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -39,6 +41,7 @@ private slots:
     void writesAreCountedAndOrdered();
     void aWriterThatDiesIsNotWaitedFor();
     void waitingGivesUpWithoutProgress();
+    void slowWritesAreWaitedFor();
 
 private:
     struct Answer
@@ -445,6 +448,27 @@ void tst_TagWriter::waitingGivesUpWithoutProgress()
     QVERIFY(TagWriter::waitForQueued(20s));
     writer->deleteLater();
     QTRY_VERIFY(writer.isNull());
+}
+
+void tst_TagWriter::slowWritesAreWaitedFor()
+{
+    constexpr std::chrono::milliseconds patience = 500ms;
+    const SongFiles files;
+    const QString path = files.path(QStringLiteral("slow"));
+    auto *writer = new TagWriter;
+    // In the place of a file on a slow disk: a little is written again and again, for longer than the patience.
+    auto writeSlowly = [writer, path, patience, ticket = tags::WriterThread::instance().takeTicket()] {
+        QFile file(path);
+        const bool open = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        for (QDeadlineTimer end(patience * 3); open && !end.hasExpired(); QThread::msleep(10)) {
+            file.seek(0);
+            file.write("slow");
+        }
+        writer->deleteLater();
+    };
+    QMetaObject::invokeMethod(writer, std::move(writeSlowly), Qt::QueuedConnection);
+    QVERIFY(TagWriter::waitForQueued(patience));
+    QCOMPARE(QFileInfo(path).size(), 4);
 }
 
 QTEST_GUILESS_MAIN(tst_TagWriter)
