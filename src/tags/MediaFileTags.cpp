@@ -6,6 +6,7 @@
 #include "tags/NumberPair.h"
 #include "tags/TagKeys.h"
 #include "tags/TagSaving.h"
+#include "tags/TagText.h"
 
 #include <taglib/audioproperties.h>
 #include <taglib/fileref.h>
@@ -38,6 +39,7 @@ bool MediaFileTags::readFrom(const QString &fileName)
     TagLib::FileStream stream(path.constData(), true);
     if (!stream.isOpen())
         return false;
+    tags::acceptLatin1InRiffInfo();
     const TagLib::FileRef reference(&stream, true, TagLib::AudioProperties::Average);
     if (reference.isNull())
         return false;

@@ -67,6 +67,7 @@ bool saveTags(const QString &fileName, const FileTags &tags, const KeyedValues &
 {
     if (fileAccess(fileName) != FileAccess::Writable)
         return false;
+    acceptLatin1InRiffInfo();
     const TagLib::FileRef reference(nativePath(fileName).constData());
     if (reference.isNull())
         return false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tags/TagText.h"
 
+#include <taglib/infotag.h>
 #include <taglib/tstring.h>
 
 #include <algorithm>
@@ -15,7 +16,32 @@ bool isUnwanted(QChar character)
            character != QLatin1Char('\r') && character != QLatin1Char('\n');
 }
 
+// TagLib's class has no virtual destructor; this one is never destroyed.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+class InfoTextReader final : public TagLib::RIFF::Info::StringHandler
+{
+public:
+    TagLib::String parse(const TagLib::ByteVector &data) const override
+    {
+        const TagLib::String text(data, TagLib::String::UTF8); // empty when it is not
+        return text.isEmpty() ? TagLib::String(data, TagLib::String::Latin1) : text;
+    }
+};
+#pragma GCC diagnostic pop
+
 } // namespace
+
+void acceptLatin1InRiffInfo()
+{
+    // A thread may still be reading when the process ends.
+    static const auto *const reader = [] {
+        const auto *made = new InfoTextReader;
+        TagLib::RIFF::Info::Tag::setStringHandler(made);
+        return made;
+    }();
+    Q_UNUSED(reader)
+}
 
 QString fromTagText(const TagLib::String &text)
 {
