@@ -90,6 +90,30 @@ void setExtendedValue(TagLib::Tag &tag, const QString &key, const QString &value
     }
 }
 
+// ID3v1 is Latin-1, and TagLib stores a text of other characters as nothing at all: the name that is there is better.
+bool setId3v1Name(TagLib::Tag &tag, const QString &key, const QString &name)
+{
+    constexpr int fieldLength = 30; // bytes; https://id3.org/ID3v1
+    const QString single = key == keys::artist ? name.section(artistSeparator, 0, 0) : name;
+    if (single.isEmpty() || !toTagText(single).isLatin1() || value(tag, key) == single.left(fieldLength).trimmed())
+        return false;
+    setBasicValue(tag, key, single);
+    return true;
+}
+
+// A name is told from the stored one by the text as it is read, so that two artists whose names are read as one text
+// stay two.
+bool setId3v2Name(TagLib::ID3v2::Tag &tag, const QString &key, const QString &name)
+{
+    if (key != keys::artist)
+        setBasicValue(tag, key, name);
+    else if (name != id3v2::value(tag, key))
+        id3v2::setValue(tag, key, name);
+    else
+        return false;
+    return true;
+}
+
 } // namespace
 
 QString value(const TagLib::Tag &tag, const QString &key)
@@ -104,6 +128,19 @@ void setValue(TagLib::Tag &tag, const QString &key, const QString &value)
         setBasicValue(tag, key, value);
     else
         setExtendedValue(tag, key, value);
+}
+
+bool setName(TagLib::Tag &tag, const QString &key, const QString &name)
+{
+    const TagKind kind = kindOf(&tag);
+    if (kind == TagKind::Id3v1)
+        return setId3v1Name(tag, key, name);
+    if (value(tag, key) == name)
+        return false;
+    if (kind == TagKind::Id3v2)
+        return setId3v2Name(static_cast<TagLib::ID3v2::Tag &>(tag), key, name);
+    setBasicValue(tag, key, name);
+    return true;
 }
 
 bool setLyrics(TagLib::Tag &tag, const QString &lyrics)

@@ -6,7 +6,7 @@
 namespace tags {
 
 // What a file's tags are to say. An empty artist or title leaves the file's own alone; empty lyrics remove those that
-// are stored.
+// are stored, except in APE tags and WAV files, whose lyrics MediaFileTags never reads.
 struct SongTexts
 {
     QString artist;
@@ -26,9 +26,10 @@ enum class UpdateResult {
     SaveFailed,
 };
 
-// Changes what differs in the tags of a file, and saves the file when something did. A name counts as different when
-// it is not the text that MediaFileTags reads there, so names that nobody edited stay as they are stored. Opens
-// nothing but regular files that may be written. Blocks; never throws.
+// Changes what differs in the tags of a file, and saves the file when something did. Names and lyrics count as
+// different when they are not the text that MediaFileTags reads there (line breaks of any kind are alike), so what
+// nobody edited stays as it is stored. A name that was edited goes into each tag that does not read as that name
+// already. Opens nothing but regular files that may be written. Blocks; never throws.
 UpdateResult updateTags(const QString &path, const SongTexts &texts);
 
 } // namespace tags

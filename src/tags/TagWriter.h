@@ -39,7 +39,7 @@ public:
 
 public slots:
     // Blocks. Three empty texts do nothing at all; an empty artist or title leaves the file's own; empty lyrics remove
-    // those that are stored.
+    // those that are stored where the lyrics of the format are read.
     void write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
                const QString &lyrics);
 

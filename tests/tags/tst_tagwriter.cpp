@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
+#include <QtEndian>
 
 #include <sys/stat.h>
 
@@ -34,6 +35,17 @@ private slots:
     void nothingNewLeavesTheFileAlone();
     void emptyLyricsRemoveTheStored_data();
     void emptyLyricsRemoveTheStored();
+    void lyricsNobodyEditedStay_data();
+    void lyricsNobodyEditedStay();
+    void editsReachEachTag_data();
+    void editsReachEachTag();
+    void otherTagsKeepTheirBytes_data();
+    void otherTagsKeepTheirBytes();
+    void formatsBesideId3v1TakeLyrics_data();
+    void formatsBesideId3v1TakeLyrics();
+    void chunksKeepTheirVersion_data();
+    void chunksKeepTheirVersion();
+    void riffInfoIsLeftAlone();
     void refusalsHaveAReason_data();
     void refusalsHaveAReason();
     void oddNamesAreWritten_data();
@@ -63,6 +75,45 @@ QString lyricsSeen(const QJsonObject &tags)
 {
     const QJsonArray lyrics = tags.value(QStringLiteral("lyrics")).toArray();
     return lyrics.size() == 1 ? lyrics.first().toString() : QStringLiteral("%1 lyrics").arg(lyrics.size());
+}
+
+constexpr int id3v1Size = 128;
+
+QByteArray id3v1Tag(const QString &title, const QString &artistName)
+{
+    const auto field = [](const QString &text) {
+        return text.toLatin1().leftJustified(30, '\0', true);
+    };
+    return "TAG" + field(title) + field(artistName) + field(QStringLiteral("The Album")) + "2001" + field({}) + '\x11';
+}
+
+QString id3v1Artist(const QString &path)
+{
+    const QByteArray tag = SongFiles::bytes(path).right(id3v1Size);
+    return tag.startsWith("TAG") ? QString::fromLatin1(tag.mid(33, 30).constData()) : QString();
+}
+
+QByteArray littleEndian(int number)
+{
+    QByteArray bytes(4, '\0');
+    qToLittleEndian(number, bytes.data());
+    return bytes;
+}
+
+// Version 2, with a footer alone.
+QByteArray apeTag(const QVector<QPair<QByteArray, QByteArray>> &items)
+{
+    QByteArray content;
+    for (const auto &[name, text] : items)
+        content += littleEndian(text.size()) + littleEndian(0) + name + '\0' + text;
+    return content + "APETAGEX" + littleEndian(2000) + littleEndian(content.size() + 32) + littleEndian(items.size()) +
+           littleEndian(0) + QByteArray(8, '\0');
+}
+
+QByteArray withFormSize(QByteArray aiff)
+{
+    qToBigEndian(aiff.size() - 8, aiff.data() + 4);
+    return aiff;
 }
 
 // Keeps the writer thread busy until it is released.
@@ -138,7 +189,7 @@ void tst_TagWriter::lyricsAreStored_data()
     QTest::newRow("rich.mp3") << "2.4.0" << true;
     QTest::newRow("plain.aiff") << "2.4.0" << true;
     QTest::newRow("id3.wav") << "2.4.0" << false;
-    QTest::newRow("info.wav") << "2.4.0" << false;
+    QTest::newRow("info.wav") << "2.3.0" << false;
     for (const char *name : {"block-cover.flac", "comment-cover.flac", "plain.flac", "id3.flac", "cover.ogg",
                              "lyrics.ogg", "plain.opus", "plain.m4a", "rich.m4a", "plain.wma", "lyrics.wma"})
         QTest::newRow(name) << QString() << true;
@@ -302,7 +353,7 @@ void tst_TagWriter::nothingNewLeavesTheFileAlone()
 void tst_TagWriter::emptyLyricsRemoveTheStored_data()
 {
     QTest::addColumn<QString>("sample");
-    for (const char *sample : {"lyrics.mp3", "lyrics.ogg", "rich.m4a", "lyrics.wma", "plain.ape", "plain.flac"})
+    for (const char *sample : {"lyrics.mp3", "lyrics.ogg", "rich.m4a", "lyrics.wma", "plain.flac"})
         QTest::newRow(sample) << sample;
 }
 
@@ -318,6 +369,187 @@ void tst_TagWriter::emptyLyricsRemoveTheStored()
     const QJsonObject after = SongFiles::tagsOf(path);
     QVERIFY(after.value(QStringLiteral("lyrics")).isNull());
     QCOMPARE(without(after, {"lyrics", "usltEncodings"}), without(before, {"lyrics", "usltEncodings"}));
+}
+
+void tst_TagWriter::lyricsNobodyEditedStay_data()
+{
+    QTest::addColumn<QString>("lyrics");
+    // Two USLT frames with descriptions and languages of their own; the first that TagLib names is read.
+    QTest::newRow("lyrics.mp3") << "Alte Worte";
+    QTest::newRow("lyrics.ogg") << "Old words\r\nof café";
+    QTest::newRow("lyrics.wma") << "Old words\rof café";
+    // Never read, so nobody can have meant to remove them.
+    QTest::newRow("id3.wav") << QString();
+    QTest::newRow("plain.ape") << QString();
+    QTest::newRow("plain.wv") << QString();
+}
+
+void tst_TagWriter::lyricsNobodyEditedStay()
+{
+    QFETCH(QString, lyrics);
+    const SongFiles files;
+    const QString path = files.copy(QString::fromLatin1(QTest::currentDataTag()));
+    if (SongFiles::tagsOf(path).value(QStringLiteral("lyrics")).isNull())
+        QCOMPARE(write(path, {}, {}, words).reasons, QStringList());
+    QJsonObject expected = SongFiles::tagsOf(path);
+    QCOMPARE(write(path, artist, QStringLiteral("New"), lyrics).reasons, QStringList());
+    expected[QStringLiteral("title")] = QStringLiteral("New");
+    QCOMPARE(SongFiles::tagsOf(path), expected);
+}
+
+void tst_TagWriter::editsReachEachTag_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("newArtist");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("id3v1");
+    const QString v1AndV2 = QStringLiteral("v1-and-v2.mp3");
+    const QString latin = QStringLiteral("Café");
+    const QString longName = QString(35, QLatin1Char('x'));
+    QTest::newRow("both take a name of Latin-1") << v1AndV2 << latin << latin << latin;
+    QTest::newRow("ID3v1 cannot hold it") << v1AndV2 << QStringLiteral("Ёлка") << QStringLiteral("Ёлка") << artist;
+    QTest::newRow("ID3v1 cuts it") << v1AndV2 << longName << longName << longName.left(30);
+    QTest::newRow("ID3v1 takes one artist") << v1AndV2 << R"(A\\B)" << QStringLiteral("A") << QStringLiteral("A");
+    QTest::newRow("a later tag holds it already") << QStringLiteral("id3.flac") << artist << artist << QString();
+}
+
+void tst_TagWriter::editsReachEachTag()
+{
+    QFETCH(QString, sample);
+    QFETCH(QString, newArtist);
+    const SongFiles files;
+    QByteArray content = SongFiles::bytes(files.copy(sample));
+    content.replace("artist=The Artist", "artist=Old Artist"); // in a Vorbis comment alone
+    const QString path = files.write(sample, content);
+    MediaFileTags tags;
+    QVERIFY(tags.read(path));
+    QCOMPARE(write(path, newArtist, tags.value(QStringLiteral("title")), words).reasons, QStringList());
+    const QJsonObject after = SongFiles::tagsOf(path);
+    QTEST(after.value(QStringLiteral("artists")).toArray().first().toString(), "first");
+    QTEST(id3v1Artist(path), "id3v1");
+}
+
+void tst_TagWriter::otherTagsKeepTheirBytes_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("artistSeen");
+    QTest::newRow("lyrics beside both") << "plain-v24.mp3" << QString() << artist;
+    QTest::newRow("a title that both hold already") << "plain-v24.mp3"
+                                                    << "Of The Others" << artist;
+    // The new tag takes over APE's artist, since ID3v1's may be cut.
+    QTest::newRow("a new tag beside both") << "untagged.mp3" << QString() << QStringLiteral("Artist Of APE");
+}
+
+void tst_TagWriter::otherTagsKeepTheirBytes()
+{
+    QFETCH(QString, sample);
+    QFETCH(QString, title);
+    const SongFiles files;
+    // What a library would write differently: bytes after the end of a text, items in an order of their own.
+    QByteArray tail = apeTag({{"Year", "1999"}, {"Title", "Of The Others"}, {"ARTIST", "Artist Of APE"}}) +
+                      id3v1Tag(QStringLiteral("Of The Others"), QStringLiteral("Artist Of One"));
+    tail[tail.size() - id3v1Size + 3 + 29] = '!';
+    const QString path = files.write(QStringLiteral("song.mp3"), SongFiles::bytes(files.copy(sample)) + tail);
+    QCOMPARE(write(path, {}, title, words).reasons, QStringList());
+    QVERIFY(SongFiles::bytes(path).endsWith(tail));
+    const QJsonObject tags = SongFiles::tagsOf(path);
+    QTEST(tags.value(QStringLiteral("artists")).toArray().first().toString(), "artistSeen");
+    QCOMPARE(lyricsSeen(tags), QString(words).replace(QLatin1String("\n"), QLatin1String("\r\n")));
+    if (sample == QLatin1String("untagged.mp3")) // ID3v1 gives what APE has not
+        QCOMPARE(
+            tags.value(QStringLiteral("others")).toObject().value(QStringLiteral("TALB")).toArray().first().toString(),
+            QStringLiteral("TALB=The Album"));
+}
+
+void tst_TagWriter::formatsBesideId3v1TakeLyrics_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::newRow("song.ape") << QByteArray();
+    QTest::newRow("song.wv") << QByteArray();
+    // Stream version 7, 100 frames, 44100 Hz.
+    QTest::newRow("song.mpc") << QByteArray::fromHex("4d502b07"
+                                                     "64000000") +
+                                     QByteArray(512, '\0');
+    // Integer samples, stereo, 16 bits, 44100 Hz, 88200 samples.
+    QTest::newRow("song.tta") << QByteArray::fromHex("54544131"
+                                                     "0100"
+                                                     "0200"
+                                                     "1000"
+                                                     "44ac0000"
+                                                     "88580100") +
+                                     QByteArray(512, '\0');
+}
+
+void tst_TagWriter::formatsBesideId3v1TakeLyrics()
+{
+    QFETCH(QByteArray, header);
+    const SongFiles files;
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    if (header.isEmpty()) {
+        const QByteArray tagged = SongFiles::bytes(files.copy(QString(name).replace(0, 4, QStringLiteral("plain"))));
+        header = tagged.left(tagged.lastIndexOf("APETAGEX", tagged.size() - 40)); // before the header of the tag
+    }
+    const QString path = files.write(name, header + id3v1Tag(song, artist));
+    QCOMPARE(write(path, artist, song, QStringLiteral("words")).reasons, QStringList());
+    const QJsonObject tags = SongFiles::tagsOf(path);
+    QCOMPARE(lyricsSeen(tags), QStringLiteral("words"));
+    QCOMPARE(tags.value(QStringLiteral("title")).toString(), song);
+    QCOMPARE(tags.value(QStringLiteral("artists")).toArray(), QJsonArray{artist});
+    QVERIFY(SongFiles::bytes(path).contains(header));
+    QCOMPARE(id3v1Artist(path), artist);
+}
+
+void tst_TagWriter::chunksKeepTheirVersion_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("version");
+    QTest::newRow("WAV without a chunk takes 2.3") << "info.wav"
+                                                   << "2.3.0";
+    QTest::newRow("WAV with 2.4") << "id3.wav"
+                                  << "2.4.0";
+    QTest::newRow("AIFF without a chunk takes 2.3") << "untagged.aiff"
+                                                    << "2.3.0";
+    QTest::newRow("AIFF with 2.4") << "plain.aiff"
+                                   << "2.4.0";
+}
+
+void tst_TagWriter::chunksKeepTheirVersion()
+{
+    QFETCH(QString, sample);
+    QFETCH(QString, version);
+    const SongFiles files;
+    QString path = files.path(sample);
+    if (sample == QLatin1String("untagged.aiff")) {
+        const QByteArray tagged = SongFiles::bytes(files.copy(QStringLiteral("plain.aiff")));
+        (void)files.write(sample, withFormSize(tagged.left(tagged.lastIndexOf("ID3 "))));
+    } else {
+        path = files.copy(sample);
+    }
+    for (const char *lyrics : {"first", "second"}) {
+        QCOMPARE(write(path, artist, song, QString::fromLatin1(lyrics)).reasons, QStringList());
+        const QJsonObject tags = SongFiles::tagsOf(path);
+        QCOMPARE(lyricsSeen(tags), QString::fromLatin1(lyrics));
+        QCOMPARE(tags.value(QStringLiteral("id3")).toString(), version);
+    }
+}
+
+void tst_TagWriter::riffInfoIsLeftAlone()
+{
+    const SongFiles files;
+    const QByteArray before = SongFiles::bytes(files.copy(QStringLiteral("info.wav")));
+    QByteArray wav = before;
+    wav.replace("The Artist", "Beyonc\xe9 XY"); // not UTF-8
+    const QString path = files.write(QStringLiteral("latin1.wav"), wav);
+    const QString name = QStringLiteral("Beyoncé XY");
+    MediaFileTags tags;
+    QVERIFY(tags.read(path));
+    QCOMPARE(tags.value(QStringLiteral("artist")), name);
+    QCOMPARE(write(path, name, QStringLiteral("New"), words).reasons, QStringList());
+    const QJsonObject after = SongFiles::tagsOf(path);
+    QCOMPARE(after.value(QStringLiteral("artists")).toArray(), QJsonArray{name});
+    QCOMPARE(after.value(QStringLiteral("title")).toString(), QStringLiteral("New"));
+    QVERIFY(SongFiles::bytes(path).mid(8).startsWith(wav.mid(8))); // all but the size of the file
 }
 
 void tst_TagWriter::refusalsHaveAReason_data()
