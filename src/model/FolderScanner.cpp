@@ -61,7 +61,8 @@ QString FolderScanner::nameFilters() const
 
 void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
 {
-    if (!files.isEmpty())
+    // A walk may have ended just before it was cancelled.
+    if (!files.isEmpty() && !m_current->isCancelled())
         emit found(files);
     // Cancelling has emptied the queue: what stands there now was added later and is still to be walked.
     if (!m_current->isCancelled() && m_folders.removeOne(folder))

@@ -19,8 +19,8 @@ QString fromTagText(const TagLib::String &text);
 // NUL characters are left out: several formats take them for a separator of values.
 TagLib::String toTagText(const QString &text);
 
-// RIFF INFO names no encoding. Once this was called, in any thread, TagLib takes a text of it for Latin-1 where it is not
-// UTF-8; by itself it drops such a text. For the whole process; to be called before a file is opened.
+// RIFF INFO names no encoding. Once this was called, in any thread, TagLib takes a text of it for Latin-1 where it is
+// not UTF-8; by itself it drops such a text. For the whole process; to be called before a file is opened.
 void acceptLatin1InRiffInfo();
 
 // Without control characters other than tab, carriage return and line feed, and cut to maximumLength, never within

@@ -56,16 +56,19 @@ QThread *WriterThread::thread()
     if (!m_thread) {
         m_thread = std::make_unique<QThread>();
         m_thread->setObjectName(QStringLiteral("tag writer"));
-        const auto noteSystemId = [this] {
-            const QMutexLocker locker(&m_mutex);
-            m_systemId = ::gettid();
-        };
         QObject::connect(m_thread.get(), &QThread::started, noteSystemId); // called in the thread that starts
         qAddPostRoutine(stopAtEnd);
     }
     if (!m_thread->isRunning())
         m_thread->start(QThread::InheritPriority);
     return m_thread.get();
+}
+
+void WriterThread::noteSystemId()
+{
+    WriterThread &self = instance();
+    const QMutexLocker locker(&self.m_mutex);
+    self.m_systemId = ::gettid();
 }
 
 WriterThread::Ticket WriterThread::takeTicket()

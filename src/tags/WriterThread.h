@@ -37,6 +37,7 @@ private:
     WriterThread();
     ~WriterThread();
 
+    static void noteSystemId();
     static void stopAtEnd();
     void endWrite();
 
