@@ -62,10 +62,11 @@ QString FolderScanner::nameFilters() const
 void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
 {
     // A walk may have ended just before it was cancelled.
-    if (!files.isEmpty() && !m_current->isCancelled())
+    const bool wasCancelled = m_current && m_current->isCancelled();
+    if (!files.isEmpty() && !wasCancelled)
         emit found(files);
     // Cancelling has emptied the queue: what stands there now was added later and is still to be walked.
-    if (!m_current->isCancelled() && m_folders.removeOne(folder))
+    if (!wasCancelled && m_folders.removeOne(folder))
         emit foldersChanged();
     m_current.reset();
     if (m_folders.isEmpty())
