@@ -16,6 +16,8 @@ int main(int argc, char **argv)
     BenchTable::printHead();
     benchReading();
     benchAdding();
+    benchSelecting();
+    benchScanning();
     benchSearching();
     return 0;
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """One program at a time, and every way to end it."""
+import configparser
 import pathlib
 import shutil
 import threading
@@ -114,13 +115,19 @@ class InstanceTest(unittest.TestCase):
         session = self.session(titles)
         session.site.released.set()
         paths = self.songs_for(session, titles)
-        first = session.start(paths)
+        first = session.start(paths, settings={"listWidth": "333", "lyricsFontSize": "17"})
         self.assertEqual(session.wait_for_lyrics(first, paths), [], session.messages())
         self.assertEqual(rig.end(first), 0, session.messages())
+        kept = stored(session)
+        self.assertEqual((kept["listWidth"], kept["lyricsFontSize"]), ("333", "17"))
         late = rig.Songs(session.music).make(paths[0].name, {"artist": rig.ARTIST, "title": titles[0]})
         second = session.start()
         self.assertEqual(session.wait_for_lyrics(second, [late]), [], "the list was not restored" + session.messages())
         self.assertEqual(rig.end(second), 0, session.messages())
+        # Without a window manager the place on the screen is not kept to the pixel.
+        again = stored(session)
+        self.assertTrue(kept.pop("geometry") and again.pop("geometry"))
+        self.assertEqual(again, kept)
 
     def test_a_blank_line_goes_in_front_where_the_settings_say_so(self):
         session = self.session(["Linen Clouds"])
@@ -141,6 +148,14 @@ class InstanceTest(unittest.TestCase):
                 self.wait_until(lambda: expected in session.messages(200), f"Qt never spoke of {expected}", session)
                 if not environment:
                     self.assertEqual(rig.end(program), 0, session.messages())
+
+
+def stored(session):
+    """What the program has stored, but for the groups."""
+    settings = configparser.ConfigParser(interpolation=None, delimiters="=")
+    settings.optionxform = str
+    settings.read(session.stage.settings_path, encoding="ascii")
+    return dict(settings["General"])
 
 
 def has_part(folder):

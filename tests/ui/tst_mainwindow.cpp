@@ -43,6 +43,8 @@ private slots:
     void theSceneShowsTheSongs();
     void theKeyboardReachesListAndLyrics();
     void theStatusBarSaysWhatIsGoingOn();
+    void geometryAndPaneComeBack();
+    void rowsAreSelectedHiddenAndRemovedByKey();
     void theListIsSavedWhenThatIsWanted_data();
     void theListIsSavedWhenThatIsWanted();
 
@@ -60,6 +62,8 @@ private:
     }
 
     QTemporaryDir m_folder;
+    void openWindow();
+
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<MainModel> m_model;
     std::unique_ptr<ProxyModel> m_proxy;
@@ -87,6 +91,11 @@ void tst_MainWindow::init()
     m_proxy = std::make_unique<ProxyModel>();
     m_proxy->setSourceModel(m_model.get());
     m_scanner = std::make_unique<FolderScanner>();
+    openWindow();
+}
+
+void tst_MainWindow::openWindow()
+{
     m_window = std::make_unique<MainWindow>(
         MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
     m_window->show();
@@ -158,6 +167,33 @@ void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
     QVERIFY(labels().contains(QStringLiteral("Searching... 2 left...")));
     QTRY_COMPARE(m_model->activeCount(), 0);
     QVERIFY(labels().contains(QString()));
+}
+
+void tst_MainWindow::geometryAndPaneComeBack()
+{
+    m_window->resize(700, 500);
+    QQuickItem *root = m_window->findChild<QQuickWidget *>()->rootObject();
+    root->setProperty("listWidth", 321);
+    m_window.reset();
+    openWindow();
+    QTRY_COMPARE(m_window->size(), QSize(700, 500));
+    QCOMPARE(m_window->findChild<QQuickWidget *>()->rootObject()->property("listWidth").toInt(), 321);
+    QCOMPARE(sceneItem(QStringLiteral("songList"))->width(), 321.0);
+}
+
+void tst_MainWindow::rowsAreSelectedHiddenAndRemovedByKey()
+{
+    m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
+    QTRY_VERIFY(m_model->itemAt(2)->tagsLoaded());
+    QWidget *scene = m_window->findChild<QQuickWidget *>();
+    QTest::keyClick(scene, Qt::Key_L, Qt::ControlModifier);
+    QCOMPARE(m_proxy->rowCount(), 2);
+    QTest::keyClick(scene, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(m_proxy->selectedCount(), 2);
+    QTest::keyClick(scene, Qt::Key_Delete);
+    QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
+    QTest::keyClick(scene, Qt::Key_L, Qt::ControlModifier);
+    QCOMPARE(m_proxy->rowCount(), 1);
 }
 
 void tst_MainWindow::theListIsSavedWhenThatIsWanted_data()

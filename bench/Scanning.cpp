@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "Benches.h"
+#include "Table.h"
+
+#include "model/FolderScanner.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int filesPerFolder = 100;
+
+void makeTree(const QString &root, int files)
+{
+    for (int i = 0; i < files; ++i) {
+        const QString folder =
+            QStringLiteral("%1/%2/%3").arg(root).arg(i / filesPerFolder % 10).arg(i / filesPerFolder);
+        if (i % filesPerFolder == 0 && !QDir().mkpath(folder))
+            qFatal("cannot make a folder");
+        QFile file(QStringLiteral("%1/Song %2.%3").arg(folder).arg(i).arg(QLatin1String(i % 5 ? "mp3" : "jpg")));
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot make a file");
+    }
+}
+
+double scan(const QString &root, int expected)
+{
+    FolderScanner scanner;
+    scanner.setTypes({QStringLiteral("ogg"), QStringLiteral("flac"), QStringLiteral("mp3")});
+    int found = 0;
+    QObject::connect(&scanner, &FolderScanner::found, [&found](const QList<QUrl> &files) { found += files.size(); });
+    const double seconds = secondsOf([&] {
+        scanner.addFolder(QUrl::fromLocalFile(root));
+        while (scanner.processing())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    });
+    if (found != expected)
+        qFatal("%d files were found instead of %d", found, expected);
+    return seconds;
+}
+
+double findFiles(const QString &root)
+{
+    return secondsOf([&root] {
+        QProcess find;
+        find.setStandardOutputFile(QProcess::nullDevice());
+        find.start(QStringLiteral("find"),
+                   {root, QStringLiteral("-type"), QStringLiteral("f"), QStringLiteral("-readable"),
+                    QStringLiteral("("), QStringLiteral("-iname"), QStringLiteral("*.ogg"), QStringLiteral("-o"),
+                    QStringLiteral("-iname"), QStringLiteral("*.flac"), QStringLiteral("-o"), QStringLiteral("-iname"),
+                    QStringLiteral("*.mp3"), QStringLiteral(")")});
+        if (!find.waitForFinished(-1) || find.exitCode() != 0)
+            qFatal("find failed");
+    });
+}
+
+} // namespace
+
+void benchScanning()
+{
+    const QString name = QStringLiteral("scan a tree / find with the same patterns");
+    double fewTime = 0;
+    for (const int files : {12500, 50000}) {
+        const QTemporaryDir root;
+        makeTree(root.path(), files);
+        findFiles(root.path()); // both then find the folders in the cache
+        const double time = scan(root.path(), files / 5 * 4);
+        BenchTable::printRow(name, files, time, findFiles(root.path()), fewTime, 4);
+        fewTime = time;
+    }
+}
