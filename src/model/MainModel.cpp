@@ -240,7 +240,8 @@ void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
 
 void MainModel::connectItem(ModelItem *item)
 {
-    connect(item, &ModelItem::changed, this, &MainModel::itemChanged);
+    // The item comes along with each connection: sender() would walk the connections of all items at every change.
+    connect(item, &ModelItem::changed, this, [this, item] { itemChanged(item); });
     connect(item, &ModelItem::activeChanged, this, [this, item] { countActive(item); });
     connect(item, &ModelItem::processStateChanged, this, [this, item] { queueForSearch(item); });
     connect(item, &ModelItem::tagsLoadedChanged, this, [this, item] { queueForSearch(item); });
@@ -262,10 +263,9 @@ void MainModel::queueForSearch(const ModelItem *item)
         m_searchable.erase(sequence);
 }
 
-void MainModel::itemChanged()
+void MainModel::itemChanged(const ModelItem *item)
 {
-    const auto *item = qobject_cast<const ModelItem *>(sender());
-    const int row = item ? m_items.rowOf(item->id()) : -1;
+    const int row = m_items.rowOf(item->id());
     if (row >= 0)
         emit dataChanged(index(row), index(row));
 }

@@ -102,7 +102,8 @@ public slots:
     // Exports the item's lyrics to the text file beside its audio file. False, with nothing touched, when there are
     // none or the file cannot be written.
     bool generateLyricsFile(quint16 id);
-    void itemChanged();
+    // Announces new data in the item's row.
+    void itemChanged(const ModelItem *item);
     void fileInfoExtracted(const QString &file, const MediaFileTags &tags);
     void extractNextFileInfo();
     void lyricsSearchFinished(quint16 id, const QString &artist, const QString &title, const QString &lyrics,
