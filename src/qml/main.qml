@@ -26,6 +26,8 @@ Rectangle {
     color: appPalette.window
 
     onCurrentSongChanged: lyricsPane.contentY = 0
+    // Songs may be there before the scene is; its list then makes the first one current.
+    Component.onCompleted: currentSong = proxyModel.currentItem()
 
     Connections {
         target: proxyModel

@@ -175,8 +175,10 @@ void tst_MainWindow::geometryAndPaneComeBack()
     QQuickItem *root = m_window->findChild<QQuickWidget *>()->rootObject();
     root->setProperty("listWidth", 321);
     m_window.reset();
+    m_model->add({sample("lyrics.mp3")});
     openWindow();
     QTRY_COMPARE(m_window->size(), QSize(700, 500));
+    QTRY_COMPARE(sceneItem(QStringLiteral("lyricsText"))->property("text").toString(), m_model->itemAt(0)->lyricsTag());
     QCOMPARE(m_window->findChild<QQuickWidget *>()->rootObject()->property("listWidth").toInt(), 321);
     QCOMPARE(sceneItem(QStringLiteral("songList"))->width(), 321.0);
 }
