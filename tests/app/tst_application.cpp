@@ -136,6 +136,10 @@ void tst_Application::servicesAreWired()
     QCOMPARE(Application::applicationVersion(), QStringLiteral("1.5.6"));
     QCOMPARE(app->mainModel()->supportedTypesMask(QStringLiteral(" ")),
              QStringLiteral("*.aifc *.aiff *.aif *.opus *.aac *.ogg *.wma *.alac *.ape *.flac *.m4p *.m4a *.mp3"));
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Base, QColor(1, 2, 3));
+    QApplication::setPalette(palette); // as the desktop does when its theme changes
+    QCOMPARE(app->appPalette()->value(QStringLiteral("listBackground")).value<QColor>(), QColor(1, 2, 3));
     QCOMPARE(app->settings()->providersOrder(), app->lyricsSearch()->providersOrder());
     QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
     app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));

@@ -129,14 +129,17 @@ class InstanceTest(unittest.TestCase):
         self.assertTrue(kept.pop("geometry") and again.pop("geometry"))
         self.assertEqual(again, kept)
 
-    def test_a_blank_line_goes_in_front_where_the_settings_say_so(self):
+    def test_the_settings_of_writing_and_of_the_sites_take_effect(self):
         session = self.session(["Linen Clouds"])
         session.site.released.set()
         path = rig.Songs(session.music).make("clouds.flac", {"artist": rig.ARTIST, "title": "Linen Clouds"})
-        program = session.start([path], settings={"prependNewLine": "true"})
+        program = session.start([path], settings={
+            "prependNewLine": "true", "generateLyricsFileAuto": "true", "providersOrder": '" lyricsfreak ;;Nobody::0"'})
         self.assertEqual(session.wait_for_lyrics(program, [path]), [], session.messages())
         self.assertEqual(rig.end(program), 0, session.messages())
         self.assertEqual(rig.tags.lyrics_of(path), "\r\n" + rig.words_for("Linen Clouds"))
+        self.assertEqual(path.with_suffix(".txt").read_bytes().decode(), "\r\n" + rig.words_for("Linen Clouds"))
+        self.assertEqual(stored(session)["providersOrder"], "LyricsFreak")
 
     def test_the_scene_is_drawn_with_what_the_environment_says(self):
         rows = [("a device of the user's is kept", {"QMLSCENE_DEVICE": "no-such-device"}, "no-such-device"),
