@@ -7,7 +7,8 @@
 void benchReading();
 // Urls added to the list, beside a QUrl, a QFileInfo look-up and a hash insert for each.
 void benchAdding();
-// Rows hidden, shown, selected and removed in the list, scattered and all at once, beside a pass over a vector of flags.
+// Rows hidden, shown, selected and removed in the list, scattered and all at once, beside a pass over a vector of
+// flags.
 void benchSelecting();
 // A tree of folders scanned, beside `find` on the same tree.
 void benchScanning();
