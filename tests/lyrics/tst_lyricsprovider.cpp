@@ -149,8 +149,8 @@ void tst_LyricsProvider::answersEveryKindOfReply_data()
     failed("a redirect to nowhere", "/nowhere", "not a web page");
     failed("404", "/404", "404");
     failed("500", "/500", "500");
-    failed("a page that is cut off", "/cut", " ");
-    failed("a page over the limit", "/large", " ");
+    failed("a page that is cut off", "/cut", "onnection");
+    failed("a page over the limit", "/large", "larger than 1 MiB");
     found("text ends at NUL", "/nul", QStringLiteral("la"));
     found("text ends at an encoded NUL", "/encoded-nul", QStringLiteral("la"));
     found("percent-decoded where well formed", "/encoded", QStringLiteral("да, 100% sure"));
