@@ -24,11 +24,12 @@
 
 #include <algorithm>
 
-// The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
-// namespace.
+// The scene and its pictures lie in static libraries, so their resources have to be asked for; the macro must stand
+// outside any namespace.
 static void initSceneResources()
 {
     Q_INIT_RESOURCE(qml);
+    Q_INIT_RESOURCE(pictures);
 }
 
 // A line for each module of the scene that is not installed, with the Debian package that holds it.
