@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 
 namespace {
 
@@ -90,6 +89,12 @@ int ProxyModel::lowerBound(int sourceRow) const
     return static_cast<int>(std::lower_bound(m_rows.begin(), m_rows.end(), sourceRow) - m_rows.begin());
 }
 
+int ProxyModel::rowOf(quint16 id) const
+{
+    const int sourceRow = m_model->rowOf(id);
+    return sourceRow < 0 ? -1 : mapFromSource(m_model->index(sourceRow)).row();
+}
+
 QModelIndex ProxyModel::mapToSource(const QModelIndex &proxyIndex) const
 {
     return m_model && proxyIndex.isValid() && isRow(proxyIndex.row()) ? m_model->index(m_rows.at(proxyIndex.row()))
@@ -150,8 +155,18 @@ ProxyModel::Before ProxyModel::before() const
 
 void ProxyModel::announce(const Before &before)
 {
+    announceCurrent(before);
+    announceCounts(before);
+}
+
+void ProxyModel::announceCurrent(const Before &before)
+{
     if (m_currentIndex != before.currentIndex || currentItem() != before.currentItem)
         emit currentIndexChanged(m_currentIndex);
+}
+
+void ProxyModel::announceCounts(const Before &before)
+{
     if (m_selectedCount != before.selectedCount)
         emit selectedCountChanged(m_selectedCount);
     if (hiddenCount() != before.hiddenCount)
@@ -245,16 +260,22 @@ void ProxyModel::sourceDataChanged(int first, int last, const QVector<int> &role
 void ProxyModel::rememberCurrent()
 {
     m_beforeChange = before();
-    m_currentIdToKeep = isRow(m_currentIndex) ? idAt(m_currentIndex) : -1;
+    m_currentIds.clear();
+    for (int row = m_currentIndex; isRow(row); ++row)
+        m_currentIds.append(idAt(row));
 }
 
 // Within a reset: makes the map anew and brings the current row and the selection in line with it.
 void ProxyModel::refilter()
 {
     m_rows = acceptedRows(0, m_model->rowCount() - 1);
-    const int sourceRow = m_currentIdToKeep < 0 ? -1 : m_model->rowOf(static_cast<quint16>(m_currentIdToKeep));
-    const QModelIndex kept = sourceRow < 0 ? QModelIndex() : mapFromSource(m_model->index(sourceRow));
-    m_currentIndex = kept.isValid() ? kept.row() : std::min(m_currentIndex, m_rows.size() - 1);
+    m_currentIndex = std::min(m_currentIndex, m_rows.size() - 1);
+    for (const quint16 id : qAsConst(m_currentIds)) {
+        if (const int row = rowOf(id); row >= 0) {
+            m_currentIndex = row;
+            break;
+        }
+    }
     dropHiddenMarks();
 }
 
@@ -271,17 +292,24 @@ void ProxyModel::setShowFound(bool on)
     if (m_model) {
         refilter();
         endResetModel();
+        announceCounts(m_beforeChange);
     }
     emit showFoundChanged(on);
-    if (hadCurrent && isRow(m_currentIndex) && idAt(m_currentIndex) == m_currentIdToKeep) {
-        // The focus stays on the same song.
-        if (mark(m_currentIndex, true))
-            emit dataChanged(index(m_currentIndex, 0), index(m_currentIndex, 0), {MainModel::selectedRole});
-        m_beforeChange.currentIndex = m_currentIndex;
-        emit currentIndexChanged(m_currentIndex);
-    }
-    if (m_model)
-        announce(m_beforeChange);
+    if (hadCurrent && currentItem() == m_beforeChange.currentItem)
+        keepCurrentSelected();
+    else if (m_model)
+        announceCurrent(m_beforeChange);
+}
+
+// The focus stays on the same song, which is announced even when its row has kept its number.
+void ProxyModel::keepCurrentSelected()
+{
+    const bool marked = mark(m_currentIndex, true);
+    if (marked)
+        emit dataChanged(index(m_currentIndex, 0), index(m_currentIndex, 0), {MainModel::selectedRole});
+    emit currentIndexChanged(m_currentIndex);
+    if (marked)
+        emit selectedCountChanged(m_selectedCount);
 }
 
 // The current row and the selection

@@ -88,6 +88,8 @@ private:
     [[nodiscard]] quint16 idAt(int row) const;
     // The first row whose source row is not below this one; the row count when there is none.
     [[nodiscard]] int lowerBound(int sourceRow) const;
+    // -1 when the song is not shown.
+    [[nodiscard]] int rowOf(quint16 id) const;
     [[nodiscard]] bool isRow(int row) const { return row >= 0 && row < m_rows.size(); }
 
     void connectSource();
@@ -95,14 +97,16 @@ private:
     void sourceRowsAboutToBeRemoved(int first, int last);
     void sourceRowsRemoved(int first, int last);
     void sourceDataChanged(int first, int last, const QVector<int> &roles);
-    void sourceReset();
     void insertBlock(int position, const QVector<int> &sourceRows);
     void hideRow(int row);
     void forgetRows(int first, int last);
     void announce(const Before &before);
+    void announceCurrent(const Before &before);
+    void announceCounts(const Before &before);
 
     void rememberCurrent();
     void refilter();
+    void keepCurrentSelected();
 
     bool mark(int row, bool on);
     void selectRows(int first, int last, bool on);
@@ -119,5 +123,6 @@ private:
     bool m_showFound = true;
     bool m_removing = false;    // rows of ours are among those that the source is removing
     Before m_beforeChange = {}; // of the removal or reset that the source has announced
-    int m_currentIdToKeep = -1; // of the current song while the source is reset
+    // Of the current song and those below it, while the source is reset: the first that is left becomes current.
+    QVector<quint16> m_currentIds;
 };

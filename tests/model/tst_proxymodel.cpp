@@ -105,6 +105,8 @@ private slots:
     void clicksSelect();
     void theCurrentRowKeepsToTheRows();
     void theFocusStaysOnTheSong();
+    void hidingAnnouncesTheCountsFirst();
+    void theNextSongBecomesCurrent();
     void rowsAreRemoved_data();
     void rowsAreRemoved();
     void sixtyThousandRowsOfEverything();
@@ -228,6 +230,35 @@ void tst_ProxyModel::theFocusStaysOnTheSong()
     QCOMPARE(stage.current(), 4);
     QCOMPARE(stage.selected(), Songs{4});
     QCOMPARE(stage.currents.last(), QVariantList{2});
+}
+
+void tst_ProxyModel::hidingAnnouncesTheCountsFirst()
+{
+    Stage stage(4, {0});
+    stage.proxy.setCurrentIndex(2);
+    stage.proxy.selectAll();
+    QStringList order;
+    connect(&stage.proxy, &ProxyModel::hiddenCountChanged, this, [&order] { order.append(QStringLiteral("hidden")); });
+    connect(&stage.proxy, &ProxyModel::selectedCountChanged, this, [&order] { order.append(QStringLiteral("count")); });
+    connect(&stage.proxy, &ProxyModel::showFoundChanged, this, [&order] { order.append(QStringLiteral("flag")); });
+    connect(&stage.proxy, &ProxyModel::currentIndexChanged, this, [&order] { order.append(QStringLiteral("row")); });
+    stage.proxy.setShowFound(false);
+    QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("count hidden flag row"));
+}
+
+// In ranges and, when there are too many of them, in one reset: both end on the same song.
+void tst_ProxyModel::theNextSongBecomesCurrent()
+{
+    for (const int lastRemoved : {19, 199}) {
+        Stage stage(220);
+        stage.proxy.setCurrentIndex(11);
+        QVector<int> odd;
+        for (int row = 1; row <= lastRemoved; row += 2)
+            odd.append(row);
+        stage.model.removeScattered(odd);
+        QCOMPARE(stage.current(), 12);
+        QCOMPARE(stage.proxy.currentIndex(), 6);
+    }
 }
 
 void tst_ProxyModel::rowsAreRemoved_data()
