@@ -1,59 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "SitePages.h"
+#include "SiteRig.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/providers/LyricsFreakProvider.h"
-#include "lyrics/providers/ProviderCatalogue.h"
-#include "network/AccessManager.h"
-#include "network/Endpoints.h"
-#include "support/LoopbackServer.h"
 
-#include <QFile>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-// Menus, tag clouds and adverts, as much as surrounds the rows of a real page.
-QString furniture()
-{
-    QString html;
-    for (int i = 0; i < 120; ++i)
-        html += QStringLiteral("<div class=\"menu\"><a href=\"/top/%1/\" class=\"menu__link\">Top %1</a><!-- %1 -->"
-                               "<script>q(%1 < 3 ? '<b>' : \"\");</script></div>\n")
-                    .arg(i);
-    return html;
-}
-
-QString fixture(const QString &name)
-{
-    QFile file(QStringLiteral(VERSEWELL_TEST_DATA_DIR "/lyricsfreak/") + name);
-    return file.open(QIODevice::ReadOnly)
-               ? QString::fromUtf8(file.readAll()).replace(QStringLiteral("@FURNITURE@"), furniture())
-               : QString();
-}
-
-QString repeated(const QString &piece, int size)
-{
-    return piece.repeated(size / piece.size());
-}
-
-QString fixtureLyrics()
-{
-    return QStringLiteral("Harbour lights are counting slow,\none for every boat below & above,\n"
-                          "I've a lantern made of tin,\nhalf a match to let light in.\n\n"
-                          "Огни горят, и гавань спит,\nהים שקט והרוח באה,\n🎵 la la, 100% sure 🎵");
-}
-
-} // namespace
 
 class tst_LyricsFreakProvider : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void init() { m_rig = std::make_unique<SiteRig>(std::initializer_list<Endpoint>{Endpoint::LyricsFreak}); }
     void findsTheLink_data();
     void findsTheLink();
     void findsTheLinkInRows_data();
@@ -66,40 +24,16 @@ private slots:
     void carriesBrowserHeadersOnRedirects();
     void asksForLinksAsTheyStand_data();
     void asksForLinksAsTheyStand();
-    void standsInTheCatalogue();
 
 private:
-    QString searchResult(const QString &artist, const QString &title, QString *error = nullptr);
+    SiteAnswer search(const QString &artist, const QString &title)
+    {
+        return m_rig->search<LyricsFreakProvider>(artist, title);
+    }
+    LoopbackServer &server() { return m_rig->server(); }
 
-    QTemporaryDir m_settingsFolder;
-    std::unique_ptr<LoopbackServer> m_server;
-    AccessManager m_manager;
+    std::unique_ptr<SiteRig> m_rig;
 };
-
-void tst_LyricsFreakProvider::initTestCase()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settingsFolder.path());
-}
-
-void tst_LyricsFreakProvider::init()
-{
-    m_server = std::make_unique<LoopbackServer>();
-    QSettings().setValue(QStringLiteral("endpoints/LyricsFreak"), m_server->base());
-    reloadEndpoints();
-}
-
-QString tst_LyricsFreakProvider::searchResult(const QString &artist, const QString &title, QString *error)
-{
-    LyricsFreakProvider site(&m_manager);
-    QSignalSpy finished(&site, &LyricsProvider::finished);
-    if (!site.search(artist, title) || !(finished.size() == 1 || finished.wait()))
-        return QStringLiteral("no answer");
-    if (error)
-        *error = site.errorString();
-    return finished.first().first().toString();
-}
 
 void tst_LyricsFreakProvider::findsTheLink_data()
 {
@@ -136,7 +70,7 @@ void tst_LyricsFreakProvider::findsTheLink()
 {
     QFETCH(QString, artist);
     QFETCH(QString, title);
-    const QString page = fixture(QStringLiteral("search.html"));
+    const QString page = sitePage(QStringLiteral("lyricsfreak"), QStringLiteral("search.html"));
     QVERIFY(page.size() > 20000 && page.size() < 60000);
     QTEST(LyricsFreakProvider::songLink(page, artist, title).value_or(QString()), "link");
 }
@@ -188,7 +122,8 @@ void tst_LyricsFreakProvider::findsTheLyrics_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("lyrics");
-    QTest::newRow("a whole page") << fixture(QStringLiteral("song.html")) << fixtureLyrics();
+    QTest::newRow("a whole page") << sitePage(QStringLiteral("lyricsfreak"), QStringLiteral("song.html"))
+                                  << harbourLights();
     QTest::newRow("up to the first closing tag") << "<div id=\"content\">la<div>li</div>lu</div>"
                                                  << "lali";
     QTest::newRow("the quotation marks need not agree") << "<div id=\"content'>la</div>"
@@ -211,21 +146,22 @@ void tst_LyricsFreakProvider::findsTheLyrics()
 void tst_LyricsFreakProvider::answersHostilePages_data()
 {
     QTest::addColumn<QString>("page");
-    constexpr int size = 1024 * 1024;
     const QString row = QStringLiteral("<div data-sorting-artist=\"\" data-sorting-song=\"\">");
-    QTest::newRow("brackets") << repeated(QStringLiteral("<"), size);
-    QTest::newRow("openings") << repeated(QStringLiteral("<div "), size);
+    QTest::newRow("brackets") << repeated(QStringLiteral("<"), hostileSize);
+    QTest::newRow("openings") << repeated(QStringLiteral("<div "), hostileSize);
     QTest::newRow("openings, then nearly a content block")
-        << repeated(QStringLiteral("<div "), size) + QStringLiteral("id=\"content\"> x</div");
-    QTest::newRow("content blocks that are not closed") << repeated(QStringLiteral("<div id=\"content\">"), size);
-    QTest::newRow("content blocks without an end of the tag") << repeated(QStringLiteral("<div id=\"content\" "), size);
-    QTest::newRow("names that do not end") << repeated(QStringLiteral("<div data-sorting-artist=\""), size);
-    QTest::newRow("matching rows that are not closed") << repeated(row, size);
+        << repeated(QStringLiteral("<div "), hostileSize) + QStringLiteral("id=\"content\"> x</div");
+    QTest::newRow("content blocks that are not closed")
+        << repeated(QStringLiteral("<div id=\"content\">"), hostileSize);
+    QTest::newRow("content blocks without an end of the tag")
+        << repeated(QStringLiteral("<div id=\"content\" "), hostileSize);
+    QTest::newRow("names that do not end") << repeated(QStringLiteral("<div data-sorting-artist=\""), hostileSize);
+    QTest::newRow("matching rows that are not closed") << repeated(row, hostileSize);
     QTest::newRow("matching rows one inside the other")
-        << repeated(row, size * 9 / 10) + repeated(QStringLiteral("</div>"), size / 10);
+        << repeated(row, hostileSize * 9 / 10) + repeated(QStringLiteral("</div>"), hostileSize / 10);
     QTest::newRow("matching rows with half a link")
-        << repeated(row + QStringLiteral("<a href=\"<a href=\""), size * 9 / 10) +
-               repeated(QStringLiteral("</div>"), size / 10);
+        << repeated(row + QStringLiteral("<a href=\"<a href=\""), hostileSize * 9 / 10) +
+               repeated(QStringLiteral("</div>"), hostileSize / 10);
 }
 
 void tst_LyricsFreakProvider::answersHostilePages()
@@ -238,23 +174,22 @@ void tst_LyricsFreakProvider::answersHostilePages()
 
 void tst_LyricsFreakProvider::asksForTheSearchAndThenForTheSong()
 {
-    m_server->route(QStringLiteral("/search.php"),
-                    LoopbackResponse::page(fixture(QStringLiteral("search.html")).toUtf8()));
-    m_server->route(QStringLiteral("/t/tin+lanterns/harbour+lights_20443.html"),
-                    LoopbackResponse::page(fixture(QStringLiteral("song.html")).toUtf8()));
-    QCOMPARE(searchResult(QStringLiteral("Tin Lanterns feat. Moth"), QStringLiteral("Harbour Lights (Official)")),
-             fixtureLyrics());
-    QCOMPARE(m_server->requests().size(), 2);
-    const LoopbackRequest search = m_server->requests().at(0);
-    QCOMPARE(search.target, QByteArray("/search.php?a=search&type=song&q=Harbour%20Lights"));
-    QCOMPARE(search.header("Referer"), m_server->url("/search.php").toEncoded());
-    const LoopbackRequest song = m_server->requests().at(1);
+    m_rig->page(QStringLiteral("/search.php"), sitePage(QStringLiteral("lyricsfreak"), QStringLiteral("search.html")));
+    m_rig->page(QStringLiteral("/t/tin+lanterns/harbour+lights_20443.html"),
+                sitePage(QStringLiteral("lyricsfreak"), QStringLiteral("song.html")));
+    QCOMPARE(search(QStringLiteral("Tin Lanterns feat. Moth"), QStringLiteral("Harbour Lights (Official)")).lyrics,
+             harbourLights());
+    QCOMPARE(server().requests().size(), 2);
+    const LoopbackRequest query = server().requests().at(0);
+    QCOMPARE(query.target, QByteArray("/search.php?a=search&type=song&q=Harbour%20Lights"));
+    QCOMPARE(query.header("Referer"), server().url("/search.php").toEncoded());
+    const LoopbackRequest song = server().requests().at(1);
     QVERIFY(song.header("Referer").isNull());
-    for (const LoopbackRequest &request : m_server->requests())
+    for (const LoopbackRequest &request : server().requests())
         QVERIFY2(!request.header("User-Agent").contains("Chrome"), "only redirects show a browser");
 
-    QVERIFY(searchResult(QStringLiteral("Nobody"), QStringLiteral("50% + C&A #1 да")).isEmpty());
-    QCOMPARE(m_server->requests().at(2).target,
+    QVERIFY(search(QStringLiteral("Nobody"), QStringLiteral("50% + C&A #1 да")).lyrics.isEmpty());
+    QCOMPARE(server().requests().at(2).target,
              QByteArray("/search.php?a=search&type=song&q=50%25%20%2B%20C%26A%20%231%20%D0%B4%D0%B0"));
 }
 
@@ -262,15 +197,15 @@ void tst_LyricsFreakProvider::carriesBrowserHeadersOnRedirects()
 {
     const QByteArray row =
         "<div data-sorting-artist=\"b\" data-sorting-song=\"a\"><a href=\"/1\" class=\"song\"></a></div>";
-    m_server->route(QStringLiteral("/search.php"), LoopbackResponse::redirect(301, "/found"));
-    m_server->route(QStringLiteral("/found"), LoopbackResponse::page(row));
-    m_server->route(QStringLiteral("/1"), LoopbackResponse::redirect(307, "/2"));
-    m_server->route(QStringLiteral("/2"), LoopbackResponse::page("<div id=\"content\">la</div>"));
-    QCOMPARE(searchResult(QStringLiteral("b"), QStringLiteral("a")), QStringLiteral("la"));
-    QCOMPARE(m_server->requests().size(), 4);
+    server().route(QStringLiteral("/search.php"), LoopbackResponse::redirect(301, "/found"));
+    server().route(QStringLiteral("/found"), LoopbackResponse::page(row));
+    server().route(QStringLiteral("/1"), LoopbackResponse::redirect(307, "/2"));
+    server().route(QStringLiteral("/2"), LoopbackResponse::page("<div id=\"content\">la</div>"));
+    QCOMPARE(search(QStringLiteral("b"), QStringLiteral("a")).lyrics, QStringLiteral("la"));
+    QCOMPARE(server().requests().size(), 4);
     for (const int followed : {1, 3}) {
-        const LoopbackRequest request = m_server->requests().at(followed);
-        QCOMPARE(request.header("Referer"), m_server->url("/search.php").toEncoded());
+        const LoopbackRequest request = server().requests().at(followed);
+        QCOMPARE(request.header("Referer"), server().url("/search.php").toEncoded());
         QVERIFY(request.header("User-Agent").contains("Chrome/46.0.2490.86"));
     }
 }
@@ -292,25 +227,13 @@ void tst_LyricsFreakProvider::asksForLinksAsTheyStand()
 {
     QFETCH(QByteArray, link);
     QFETCH(bool, failed);
-    link.replace("@BASE@", m_server->base().toUtf8());
-    m_server->route(QStringLiteral("/song"), LoopbackResponse::page("<div id=\"content\">la</div>"));
-    m_server->route(QStringLiteral("/search.php"), LoopbackResponse::page("<div data-sorting-artist=\"\"><a href=\"" +
-                                                                          link + "\" class=\"song\"></a></div>"));
-    QString error;
-    QTEST(searchResult(QStringLiteral("b"), QStringLiteral("a"), &error), "lyrics");
-    QCOMPARE(!error.isEmpty(), failed);
-}
-
-void tst_LyricsFreakProvider::standsInTheCatalogue()
-{
-    const auto providers = makeProviders(&m_manager);
-    QCOMPARE(providers.size(), std::size_t(1));
-    QCOMPARE(providers.front()->name(), QStringLiteral("LyricsFreak"));
-    QCOMPARE(providers.front()->siteUrl(), m_server->base());
-    QObject owner;
-    const LyricsProvider *copy = providers.front()->clone(&owner);
-    QCOMPARE(copy->parent(), &owner);
-    QCOMPARE(copy->metaObject(), providers.front()->metaObject());
+    link.replace("@BASE@", server().base().toUtf8());
+    server().route(QStringLiteral("/song"), LoopbackResponse::page("<div id=\"content\">la</div>"));
+    server().route(QStringLiteral("/search.php"), LoopbackResponse::page("<div data-sorting-artist=\"\"><a href=\"" +
+                                                                         link + "\" class=\"song\"></a></div>"));
+    const SiteAnswer answer = search(QStringLiteral("b"), QStringLiteral("a"));
+    QTEST(answer.lyrics, "lyrics");
+    QCOMPARE(!answer.errorString.isEmpty(), failed);
 }
 
 QTEST_GUILESS_MAIN(tst_LyricsFreakProvider)
