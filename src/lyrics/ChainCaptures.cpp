@@ -104,6 +104,23 @@ std::pair<ChainSpots::const_iterator, ChainSpots::const_iterator> placesBehind(c
 
 } // namespace
 
+ChainCaptures stepwiseCaptures(const ChainPattern &pattern, const std::vector<ChainSpots> &spots,
+                               const ChainSpot &start)
+{
+    ChainCaptures captures;
+    const ChainSpot *spot = &start;
+    auto group = pattern.groups().begin();
+    for (std::size_t link = 1; link < spots.size() && group != pattern.groups().end(); ++link) {
+        const ChainSpot *next = &spots[link][spot->next];
+        if (group->end.link == link) {
+            captures.push_back({spot->position + group->begin.offset, next->position + group->end.offset});
+            ++group;
+        }
+        spot = next;
+    }
+    return captures;
+}
+
 ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, const std::vector<ChainSpots> &spots,
                            const ChainSpot &start)
 {

@@ -10,6 +10,8 @@ struct ChainSpot
 {
     int position;
     int end;
+    // The index of the place of the next piece that Matching::Stepwise goes on to.
+    std::size_t next = 0;
 };
 // In the order of their positions, in which their ends rise as well.
 using ChainSpots = std::vector<ChainSpot>;
@@ -21,6 +23,10 @@ struct ChainCapture
     int end;
 };
 using ChainCaptures = std::vector<ChainCapture>;
+
+// What the groups of `pattern` capture in the match that begins at `start` and goes from place to place as they say.
+[[nodiscard]] ChainCaptures stepwiseCaptures(const ChainPattern &pattern, const std::vector<ChainSpots> &spots,
+                                             const ChainSpot &start);
 
 // What the groups of `pattern` capture in the match that begins at `start`; `spots` holds the places of each piece.
 // Where several ways through the pieces lead to the same end, the first capture decides, then the second: the one that

@@ -11,8 +11,9 @@ class SetReader
 public:
     using CharacterSet = ChainPattern::CharacterSet;
 
-    explicit SetReader(const QString &pattern)
+    SetReader(const QString &pattern, bool perlStyle)
         : m_pattern(pattern)
+        , m_perlStyle(perlStyle)
     {
     }
 
@@ -29,7 +30,7 @@ public:
     CharacterSet takeSet()
     {
         if (take('.'))
-            return CharacterSet::anyCharacter();
+            return m_perlStyle ? CharacterSet::anyButNewline() : CharacterSet::anyCharacter();
         if (take('['))
             return takeBracketed();
         if (take('\\'))
@@ -41,9 +42,9 @@ private:
     CharacterSet takeEscaped()
     {
         if (take('s'))
-            return CharacterSet::spaces();
+            return m_perlStyle ? CharacterSet::asciiSpaces() : CharacterSet::spaces();
         if (take('d'))
-            return CharacterSet::digits();
+            return m_perlStyle ? CharacterSet::asciiDigits() : CharacterSet::digits();
         return CharacterSet::of(m_pattern.mid(m_at++, 1));
     }
 
@@ -58,6 +59,7 @@ private:
     }
 
     QString m_pattern;
+    bool m_perlStyle;
     int m_at = 0;
 };
 
@@ -115,7 +117,7 @@ ChainPattern::ChainPattern(const QString &pattern, Matching matching)
     : m_matching(matching)
     , m_links(1)
 {
-    SetReader reader(pattern);
+    SetReader reader(pattern, matching == Matching::Stepwise);
     while (!reader.atEnd()) {
         if (reader.take('(')) {
             m_groups.push_back({here(), {}});
@@ -134,6 +136,8 @@ ChainPattern::ChainPattern(const QString &pattern, Matching matching)
             closeLink(set);
         else
             addPiece(set);
+        if (m_afterGap && matching == Matching::Stepwise && reader.take('?'))
+            m_links.back().isLazy = true;
     }
     Q_ASSERT(!m_afterGap);
 }

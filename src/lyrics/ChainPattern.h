@@ -12,7 +12,8 @@
 // Understood are plain characters, `\` before a special one, `.`, `\s`, `\d`, `[...]` and `[^...]` with plain
 // characters in them, `*` and `+` behind any of these, and groups that capture one gap. The first and the last
 // piece are not gaps, and two gaps do not touch. Anything else is a mistake of the programmer and asserts. Meaning,
-// matches and captures are those of a case-sensitive QRegExp.
+// matches and captures are those of a case-sensitive QRegExp, or of a QRegularExpression without options, which knows
+// `*?` and `+?` as well, and whose `.` stops at the end of a line.
 class ChainPattern
 {
 public:
@@ -20,6 +21,7 @@ public:
     enum class Matching {
         Shortest, // QRegExp set to minimal
         Longest,  // QRegExp as it is
+        Stepwise, // each gap decides for itself, from left to right, as in QRegularExpression
     };
 
     explicit ChainPattern(const QString &pattern, Matching matching = Matching::Shortest);
@@ -30,8 +32,11 @@ public:
     public:
         static CharacterSet of(const QString &characters, bool negated = false);
         static CharacterSet anyCharacter() { return of(QString(), true); }
+        static CharacterSet anyButNewline() { return of(QStringLiteral("\n"), true); }
         static CharacterSet spaces() { return CharacterSet(Kind::Space); }
+        static CharacterSet asciiSpaces() { return of(QStringLiteral(" \t\n\v\f\r")); }
         static CharacterSet digits() { return CharacterSet(Kind::Digit); }
+        static CharacterSet asciiDigits() { return of(QStringLiteral("0123456789")); }
 
         [[nodiscard]] bool contains(QChar c) const;
         // Whether it is one plain character.
@@ -58,6 +63,8 @@ public:
         // The whole piece, never empty.
         std::vector<CharacterSet> piece;
         CharacterSet gap = CharacterSet::anyCharacter();
+        // Whether the gap ends at the first place that will do instead of the last one; for Matching::Stepwise only.
+        bool isLazy = false;
 
         [[nodiscard]] int length() const { return static_cast<int>(piece.size()); }
         // Where the piece stands first from `from` on, -1 when nowhere.

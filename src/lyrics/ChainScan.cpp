@@ -24,7 +24,7 @@ ChainSpots ChainScan::placesOf(std::size_t link) const
     const ChainPattern::Link &piece = m_pattern.links()[link];
     ChainSpots spots;
     for (int at = piece.indexIn(m_text, 0); at >= 0; at = piece.indexIn(m_text, at + 1))
-        spots.push_back({at, at + piece.length()});
+        spots.push_back({at, at + piece.length(), 0});
     return spots;
 }
 
@@ -33,7 +33,8 @@ void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
 {
     const ChainPattern::Link &piece = m_pattern.links()[link];
     const ChainSpots &next = m_spots[link + 1];
-    const bool shortest = m_pattern.matching() == ChainPattern::Matching::Shortest;
+    const bool takesFirst = m_pattern.matching() == ChainPattern::Matching::Shortest ||
+                            (m_pattern.matching() == ChainPattern::Matching::Stepwise && piece.isLazy);
     int gapEnd = m_text.size();
     int known = m_text.size();
     // Places [first, last) of the next piece lie within the gap; both bounds only ever fall.
@@ -48,7 +49,8 @@ void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
             --first;
         while (last > 0 && next[last - 1].position > gapEnd)
             --last;
-        spot->end = first < last ? next[shortest ? first : last - 1].end : -1;
+        spot->next = takesFirst ? first : last - 1;
+        spot->end = first < last ? next[spot->next].end : -1;
     }
     spots.erase(std::remove_if(spots.begin(), spots.end(), [](const ChainSpot &spot) { return spot.end < 0; }),
                 spots.end());
@@ -62,7 +64,10 @@ std::optional<ChainMatch> ChainScan::next(int from) const
     if (start == starts.end())
         return std::nullopt;
     ChainMatch match{start->position, start->end - start->position, {}};
-    for (const ChainCapture &capture : bestCaptures(m_pattern, m_text, m_spots, *start))
+    const bool stepwise = m_pattern.matching() == ChainPattern::Matching::Stepwise;
+    const ChainCaptures captures =
+        stepwise ? stepwiseCaptures(m_pattern, m_spots, *start) : bestCaptures(m_pattern, m_text, m_spots, *start);
+    for (const ChainCapture &capture : captures)
         match.captures.append(m_text.mid(capture.begin, capture.end - capture.begin));
     return match;
 }
