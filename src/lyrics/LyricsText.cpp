@@ -65,17 +65,32 @@ int takeReferenceAtEnd(QString &text)
     return codePoint;
 }
 
+// The same for a reference of any number of decimal digits.
+int takeDecimalReferenceAtEnd(QString &text)
+{
+    int start = text.size();
+    while (start > 0 && isDecimalDigit(text.at(start - 1)))
+        --start;
+    if (start == text.size() || !QStringView(text).left(start).endsWith(QLatin1String("&#")))
+        return -1;
+    bool fits = false;
+    const uint codePoint = QStringView(text).mid(start).toString().toUInt(&fits);
+    text.truncate(start - 2);
+    return fits && codePoint <= QChar::LastValidCodePoint ? static_cast<int>(codePoint) : QChar::ReplacementCharacter;
+}
+
 // A decoded character may complete another reference ("&#3&#56;;" is "&#38;" is "&"). References cannot overlap, so
 // the order of decoding does not matter, and going once over the text while looking back from each ";" decodes them
 // all.
-QString decodeNumericReferences(const QString &text)
+template<typename TakeReference>
+QString decodeReferences(const QString &text, TakeReference takeReference)
 {
     QString decoded;
     decoded.reserve(text.size());
     for (const QChar c : text) {
         int next = c.unicode();
         while (next == ';') {
-            const int codePoint = takeReferenceAtEnd(decoded);
+            const int codePoint = takeReference(decoded);
             if (codePoint < 0)
                 break;
             next = codePoint;
@@ -83,17 +98,6 @@ QString decodeNumericReferences(const QString &text)
         appendCodePoint(decoded, next);
     }
     return decoded;
-}
-
-QString withoutComments(QString html)
-{
-    const QLatin1String opening("<!--");
-    const int first = html.indexOf(opening);
-    const int last = html.lastIndexOf(QLatin1String("-->"));
-    // Several comments count as one: the text between them goes as well. This is deliberate.
-    if (first >= 0 && last >= first + opening.size())
-        html.remove(first, last + 3 - first);
-    return html;
 }
 
 // The position behind a break tag that starts at `position` and behind one newline after it; -1 when none starts
@@ -149,9 +153,14 @@ QByteArray decodePercentEscapes(const QByteArray &bytes)
     return decoded;
 }
 
+QString decodeDecimalReferences(const QString &text)
+{
+    return decodeReferences(text, takeDecimalReferenceAtEnd);
+}
+
 QString decodeHtmlEntities(const QString &text)
 {
-    QString decoded = decodeNumericReferences(text);
+    QString decoded = decodeReferences(text, takeReferenceAtEnd);
     // The order is part of the meaning: what "&amp;" uncovers is decoded by the lines below it.
     decoded.replace(QLatin1String("&amp;"), QLatin1String("&"));
     decoded.replace(QLatin1String("&gt;"), QLatin1String(">"));
@@ -160,6 +169,17 @@ QString decodeHtmlEntities(const QString &text)
     decoded.replace(QLatin1String("&#39;"), QLatin1String("'"));
     decoded.replace(QLatin1String("&#039;"), QLatin1String("'"));
     return decoded;
+}
+
+QString withoutComments(const QString &html)
+{
+    const QLatin1String opening("<!--");
+    const int first = html.indexOf(opening);
+    const int last = html.lastIndexOf(QLatin1String("-->"));
+    // Several comments count as one: the text between them goes as well. This is deliberate.
+    if (first >= 0 && last >= first + opening.size())
+        return QString(html).remove(first, last + 3 - first);
+    return html;
 }
 
 // One pass is enough: a "<" that stays is followed by a ">" that stays too, or by no ">" at all, so no removal can make

@@ -16,10 +16,17 @@
 // The result may hold what the text asked for: NUL, or half a surrogate pair; see withoutBrokenCharacters().
 [[nodiscard]] QString decodeHtmlEntities(const QString &text);
 
+// Decodes "&#", decimal digits in any number, ";", and nothing else; also what comes into being through a decoded one.
+// Numbers beyond Unicode give U+FFFD.
+[[nodiscard]] QString decodeDecimalReferences(const QString &text);
+
+// Removes everything from the first "<!--" to the last "-->", also what stands between several comments.
+[[nodiscard]] QString withoutComments(const QString &html);
+
 // Removes everything from a "<" that is not directly followed by ">" up to the next ">".
 [[nodiscard]] QString stripTags(const QString &html);
 
-// The plain text of a fragment of HTML: comments go (from the first opening to the last closing mark), lower-case
+// The plain text of a fragment of HTML: comments go (withoutComments), lower-case
 // break tags become newlines, tags go, blank space at both ends goes, entities are decoded.
 [[nodiscard]] QString cleanLyrics(const QString &html);
 

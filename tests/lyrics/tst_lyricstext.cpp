@@ -26,6 +26,17 @@ QString decodeHtmlEntities(QString text)
     return text;
 }
 
+QString decodeDecimalReferences(QString text)
+{
+    QRegExp reference(QStringLiteral("&#(\\d+);"));
+    reference.setMinimal(true);
+    while (reference.indexIn(text) >= 0) {
+        const uint code = reference.cap(1).toUInt();
+        text.replace(reference.cap(0), QString::fromUcs4(&code, 1));
+    }
+    return text;
+}
+
 QString stripTags(QString text)
 {
     QRegExp tag(QStringLiteral("</?[^>]+/?>"));
@@ -76,6 +87,8 @@ private slots:
     void decodesEntities_data();
     void decodesEntities();
     void decodesLikeThePlainExpressions();
+    void decodesDecimalReferences_data();
+    void decodesDecimalReferences();
     void decodesPercentEscapes_data();
     void decodesPercentEscapes();
     void removesBrokenCharacters_data();
@@ -165,6 +178,26 @@ void tst_LyricsText::decodesLikeThePlainExpressions()
     compareOnRandomTexts(
         QStringLiteral("&#38; &#35; &#x3b; &#59; &#x78; &#48; & # x 1 0 ; amp; &amp; lt; &quot; &#039; 39; &#00; 🎵"),
         decodeHtmlEntities, plain::decodeHtmlEntities);
+    compareOnRandomTexts(QStringLiteral("&#38; &#35; &#59; &#0049; &#48; & # 1 0 5 ; x &#0; 🎵"),
+                         decodeDecimalReferences, plain::decodeDecimalReferences);
+}
+
+void tst_LyricsText::decodesDecimalReferences_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("decoded");
+    QTest::newRow("any number of digits") << "&#9;&#1040;&#127925;&#0000000065;"
+                                          << "\tА🎵A";
+    QTest::newRow("nothing else") << "&amp;&#x41;&#;&#6 5;#65;"
+                                  << "&amp;&#x41;&#;&#6 5;#65;";
+    QTest::newRow("beyond Unicode") << "&#1114112;&#99999999999999999999;"
+                                    << "\ufffd\ufffd";
+}
+
+void tst_LyricsText::decodesDecimalReferences()
+{
+    QFETCH(QString, text);
+    QTEST(decodeDecimalReferences(text), "decoded");
 }
 
 void tst_LyricsText::decodesPercentEscapes_data()
