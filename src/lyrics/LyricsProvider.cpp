@@ -77,7 +77,7 @@ QNetworkAccessManager *LyricsProvider::accessManager()
 void LyricsProvider::carryOut(const ProviderStep &step)
 {
     if (step.kind() == ProviderStep::Kind::Result) {
-        finish(step.lyrics(), step.errorString());
+        finish(step);
         return;
     }
     m_readPage = step.pageFunction();
@@ -102,7 +102,7 @@ void LyricsProvider::replyFinished(QNetworkReply *reply)
     if (isFollowedRedirect(*reply))
         follow(*reply);
     else if (reply->error() != QNetworkReply::NoError)
-        finish(QString(), reply->errorString());
+        finish(ProviderStep::failure(reply->errorString()));
     else
         readPage(*reply);
 }
@@ -112,10 +112,10 @@ void LyricsProvider::follow(const QNetworkReply &reply)
     const QUrl target = redirectTarget(reply.request().url(), reply.rawHeader("Location"));
     if (target.isEmpty())
         //: %1 is the name of a lyrics site.
-        finish(QString(), tr("%1 redirects to something that is not a web page.").arg(name()));
+        finish(ProviderStep::failure(tr("%1 redirects to something that is not a web page.").arg(name())));
     else if (++m_redirects > maximumRedirects)
         //: %1 is the name of a lyrics site.
-        finish(QString(), tr("%1 redirects too often.").arg(name()));
+        finish(ProviderStep::failure(tr("%1 redirects too often.").arg(name())));
     else
         send(redirectedRequest(target));
 }
@@ -128,13 +128,13 @@ void LyricsProvider::readPage(QNetworkReply &reply)
 }
 
 // Every result leaves here, whichever site it comes from: this is the place to look at it as a whole.
-void LyricsProvider::finish(const QString &lyrics, const QString &errorString)
+void LyricsProvider::finish(const ProviderStep &result)
 {
     m_readPage = {};
-    m_errorString = errorString;
+    m_errorString = result.errorString();
     m_busy = false;
-    QString text = withoutBrokenCharacters(lyrics);
-    if (isJunk(text)) {
+    QString text = withoutBrokenCharacters(result.lyrics());
+    if (isJunk(text, result.markup())) {
         m_errorString = tr("%1 gave a page that holds no lyrics.").arg(name());
         text.clear();
     }

@@ -67,7 +67,7 @@ private:
     void replyFinished(QNetworkReply *reply);
     void follow(const QNetworkReply &reply);
     void readPage(QNetworkReply &reply);
-    void finish(const QString &lyrics, const QString &errorString);
+    void finish(const ProviderStep &result);
     [[nodiscard]] QString decoded(QByteArray body) const;
 
     QPointer<QNetworkAccessManager> m_networkManager;

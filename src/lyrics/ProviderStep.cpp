@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "lyrics/ProviderStep.h"
 
+#include "lyrics/LyricsText.h"
+
 #include <utility>
 
 ProviderStep ProviderStep::ask(const QNetworkRequest &request, PageFunction read)
@@ -12,11 +14,17 @@ ProviderStep ProviderStep::ask(const QNetworkRequest &request, PageFunction read
     return step;
 }
 
-ProviderStep ProviderStep::lyrics(const QString &text)
+ProviderStep ProviderStep::lyrics(const QString &text, const QString &markup)
 {
     ProviderStep step;
     step.m_lyrics = text;
+    step.m_markup = markup;
     return step;
+}
+
+ProviderStep ProviderStep::cleanedLyrics(const QString &markup)
+{
+    return lyrics(cleanLyrics(markup), markup);
 }
 
 ProviderStep ProviderStep::failure(const QString &reason)

@@ -25,8 +25,11 @@ public:
 
     // Get `request`, and let `read` say what comes after. The function must not outlive the client.
     static ProviderStep ask(const QNetworkRequest &request, PageFunction read);
-    // Ends the search; an empty text means that nothing was found.
-    static ProviderStep lyrics(const QString &text);
+    // Ends the search; an empty text means that nothing was found. `markup` is what a clean-up that strips tags made
+    // the text of; it tells a script in the middle of the lyrics from words.
+    static ProviderStep lyrics(const QString &text, const QString &markup = {});
+    // Ends the search with what cleanLyrics() makes of a fragment of HTML.
+    static ProviderStep cleanedLyrics(const QString &markup);
     // Ends the search: the site does not have the song.
     static ProviderStep nothing() { return lyrics({}); }
     // Ends the search for a reason that people are told.
@@ -36,6 +39,7 @@ public:
     [[nodiscard]] const QNetworkRequest &request() const { return m_request; }
     [[nodiscard]] const PageFunction &pageFunction() const { return m_read; }
     [[nodiscard]] const QString &lyrics() const { return m_lyrics; }
+    [[nodiscard]] const QString &markup() const { return m_markup; }
     [[nodiscard]] const QString &errorString() const { return m_errorString; }
 
 private:
@@ -44,5 +48,6 @@ private:
     QNetworkRequest m_request;
     PageFunction m_read;
     QString m_lyrics;
+    QString m_markup;
     QString m_errorString;
 };

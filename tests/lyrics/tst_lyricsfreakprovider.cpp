@@ -139,7 +139,7 @@ void tst_LyricsFreakProvider::findsTheLyrics_data()
 void tst_LyricsFreakProvider::findsTheLyrics()
 {
     QFETCH(QString, page);
-    QTEST(LyricsFreakProvider::lyricsOfPage(page), "lyrics");
+    QTEST(LyricsFreakProvider::lyricsRequestFinished({page, {}}).lyrics(), "lyrics");
 }
 
 // As large as pages may be. What tries the rest of the page anew from every tag takes minutes for these.
@@ -168,7 +168,7 @@ void tst_LyricsFreakProvider::answersHostilePages()
 {
     QFETCH(QString, page);
     QVERIFY(!LyricsFreakProvider::songLink(page, QStringLiteral("b"), QStringLiteral("a")));
-    QVERIFY(LyricsFreakProvider::lyricsOfPage(page).isEmpty());
+    QVERIFY(LyricsFreakProvider::lyricsRequestFinished({page, {}}).lyrics().isEmpty());
     QVERIFY(cleanLyrics(page).size() <= page.size());
 }
 

@@ -91,11 +91,6 @@ ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const
     return ProviderStep::ask(QNetworkRequest(url), &LyricsFreakProvider::lyricsRequestFinished);
 }
 
-ProviderStep LyricsFreakProvider::lyricsRequestFinished(const Page &page)
-{
-    return ProviderStep::lyrics(lyricsOfPage(page.text));
-}
-
 std::optional<QString> LyricsFreakProvider::songLink(const QString &searchPage, const QString &artist,
                                                      const QString &title)
 {
@@ -120,8 +115,8 @@ std::optional<QString> LyricsFreakProvider::songLink(const QString &searchPage, 
     return std::nullopt;
 }
 
-QString LyricsFreakProvider::lyricsOfPage(const QString &songPage)
+ProviderStep LyricsFreakProvider::lyricsRequestFinished(const Page &page)
 {
     static const ChainPattern content(QStringLiteral("<div[^>]*id=[\"']content[\"'].*>(.*)</div>"));
-    return cleanLyrics(firstCapture(content, songPage).value_or(QString()));
+    return ProviderStep::cleanedLyrics(firstCapture(content, page.text).value_or(QString()));
 }

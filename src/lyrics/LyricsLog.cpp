@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/LyricsLog.h"
+
+Q_LOGGING_CATEGORY(lyricsLog, "versewell.lyrics")
