@@ -72,6 +72,18 @@ std::optional<ChainMatch> ChainScan::next(int from) const
     return match;
 }
 
+QString withMatchesReplaced(const QString &text, const ChainPattern &pattern, const QString &replacement)
+{
+    QString result;
+    int copied = 0;
+    const ChainScan matches(pattern, text);
+    for (auto match = matches.next(); match; match = matches.next(match->end())) {
+        result.append(QStringView(text).mid(copied, match->position - copied)).append(replacement);
+        copied = match->end();
+    }
+    return result.append(QStringView(text).mid(copied));
+}
+
 std::optional<QString> firstCapture(const ChainPattern &pattern, const QString &text)
 {
     const std::optional<ChainMatch> match = ChainScan(pattern, text).next();

@@ -44,5 +44,8 @@ private:
     std::vector<ChainSpots> m_spots;
 };
 
+// The text with `replacement` in place of every match.
+[[nodiscard]] QString withMatchesReplaced(const QString &text, const ChainPattern &pattern, const QString &replacement);
+
 // The first capture of the first match.
 [[nodiscard]] std::optional<QString> firstCapture(const ChainPattern &pattern, const QString &text);

@@ -97,6 +97,12 @@ const QStringList &wholeNotices()
     return notices;
 }
 
+// Something, but no words: the page was to be filled later.
+bool isShell(const QString &lyrics)
+{
+    return !lyrics.isEmpty() && stripTags(lyrics).remove(QLatin1String("&nbsp;")).trimmed().isEmpty();
+}
+
 QString folded(const QString &lyrics)
 {
     return lyrics.simplified().toLower().replace(QChar(0x2019), QLatin1Char('\''));
@@ -122,5 +128,5 @@ bool isNotice(const QString &lyrics)
 bool isJunk(const QString &lyrics, const QString &markup)
 {
     return lyrics.toUtf8().size() > mostBytes || holdsLeftOvers(lyrics) || holdsLeftOvers(withoutComments(markup)) ||
-           isNotice(lyrics);
+           isShell(lyrics) || isNotice(lyrics);
 }

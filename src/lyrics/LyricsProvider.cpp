@@ -60,6 +60,14 @@ QByteArray LyricsProvider::browserUserAgent()
                              "Chrome/46.0.2490.86 Safari/537.36");
 }
 
+QNetworkRequest LyricsProvider::browserRequest(const QUrl &url, const QUrl &referer)
+{
+    QNetworkRequest request(url);
+    request.setRawHeader("User-Agent", browserUserAgent());
+    request.setRawHeader("Referer", referer.toEncoded());
+    return request;
+}
+
 QNetworkRequest LyricsProvider::redirectedRequest(const QUrl &target) const
 {
     return QNetworkRequest(target);

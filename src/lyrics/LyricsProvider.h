@@ -49,6 +49,8 @@ signals:
 protected:
     // How every site sees us that wants to see a browser.
     static QByteArray browserUserAgent();
+    // A request as a browser sends it that comes from the page `referer`.
+    static QNetworkRequest browserRequest(const QUrl &url, const QUrl &referer);
 
     [[nodiscard]] QNetworkAccessManager *sharedNetworkManager() const { return m_networkManager; }
 

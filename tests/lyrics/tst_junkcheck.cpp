@@ -64,6 +64,8 @@ void tst_JunkCheck::tellsNoticesFromLyrics_data()
     notice("nothing but a status", QStringLiteral(" 404 Not Found "));
     notice("an empty shell", QStringLiteral("Loading lyrics..."));
     notice("nothing there yet", QStringLiteral("We do not have the lyrics of this one. Add them?"));
+    notice("blanks and tags alone", QStringLiteral(" \n<br/>&nbsp;<p>\u00a0</p>"));
+    song("brackets", QStringLiteral("<3"));
     song("one word again and again", QStringLiteral("No\nNo no no\nNo"));
     song("blocked", QStringLiteral("You have been blocked, she told my number\nblocked by the moon"));
     song("copyright", QStringLiteral("There's a copyright on kisses\nall rights are hers to keep"));

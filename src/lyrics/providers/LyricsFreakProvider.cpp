@@ -75,10 +75,7 @@ ProviderStep LyricsFreakProvider::firstStep(const QString &artist, const QString
 
 QNetworkRequest LyricsFreakProvider::redirectedRequest(const QUrl &target) const
 {
-    QNetworkRequest request(target);
-    request.setRawHeader("User-Agent", browserUserAgent());
-    request.setRawHeader("Referer", searchPageUrl().toEncoded());
-    return request;
+    return browserRequest(target, searchPageUrl());
 }
 
 ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "lyrics/LyricsProvider.h"
+
+#include <QPair>
+
+#include <optional>
+
+// AZLyrics: a small script that hands out a parameter for the search, the search for artist and title, then the page of
+// the first song in the answer whose artist resembles the wanted one.
+class AZLyricsProvider final : public LyricsProvider
+{
+    Q_OBJECT
+
+public:
+    explicit AZLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
+
+    [[nodiscard]] QString name() const override;
+    [[nodiscard]] QString siteUrl() const override;
+    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+
+    // The name and the value of the parameter that the script hands out; each empty when it does not name it.
+    [[nodiscard]] static QPair<QString, QString> searchParameter(const QString &script);
+    // The link, as it stands in the page, of the first song of a search page whose artist resembles this normalised
+    // one; nothing when there is none. The site's ranking is trusted for the title, which is deliberate.
+    [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist);
+    // Reads a song's page.
+    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
+
+protected:
+    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
+
+private:
+    [[nodiscard]] ProviderStep scriptRequestFinished(const Page &page);
+    [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
+
+    QString m_artist; // both normalised
+    QString m_title;
+};

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/providers/MegaLyricsProvider.h"
+
+#include "lyrics/ChainScan.h"
+#include "lyrics/LyricsText.h"
+#include "lyrics/SongNames.h"
+#include "lyrics/providers/MegaLyricsText.h"
+#include "network/Endpoints.h"
+
+#include <QUrlQuery>
+
+namespace {
+
+QString foundName(const QString &encoded)
+{
+    return decodeHtmlEntities(decodeMegaLyricsText(encoded)).trimmed();
+}
+
+// The newer layout: a block of text for each part of the song.
+QString joinedTexts(const QString &songText)
+{
+    static const ChainPattern block(QStringLiteral("<div.*class=\"text\".*>(.*)</div>"));
+    const ChainScan blocks(block, songText);
+    QStringList texts;
+    for (auto text = blocks.next(); text; text = blocks.next(text->end()))
+        texts.append(decodeMegaLyricsText(text->captures.at(0)));
+    return texts.join(QLatin1Char('\n'));
+}
+
+// The older layout: one block with break tags, which may come out of the decoding only.
+QString withoutBreakTags(const QString &textInner)
+{
+    static const ChainPattern breakTag(QStringLiteral("<br.*>"));
+    return withMatchesReplaced(decodeMegaLyricsText(textInner), breakTag, QStringLiteral("\n"));
+}
+
+} // namespace
+
+MegaLyricsProvider::MegaLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent)
+    : LyricsProvider(networkManager, parent)
+{
+}
+
+QString MegaLyricsProvider::name() const
+{
+    return QStringLiteral("Megalyrics");
+}
+
+QString MegaLyricsProvider::siteUrl() const
+{
+    return endpointBase(Endpoint::Megalyrics).toString();
+}
+
+LyricsProvider *MegaLyricsProvider::clone(QObject *parent) const
+{
+    return new MegaLyricsProvider(sharedNetworkManager(), parent);
+}
+
+ProviderStep MegaLyricsProvider::firstStep(const QString &artist, const QString &title)
+{
+    m_artist = normalisedArtist(artist);
+    m_title = normalisedTitle(title);
+    QUrlQuery query;
+    // The check mark that the site's own form sends, encoded already.
+    query.addQueryItem(QStringLiteral("utf8"), QStringLiteral("%E2%9C%93"));
+    query.addQueryItem(QStringLiteral("search"), queryValue(m_artist + QLatin1Char(' ') + m_title));
+    QUrl url = endpointUrl(Endpoint::Megalyrics, QStringLiteral("/search"));
+    url.setQuery(query);
+    return ProviderStep::ask(QNetworkRequest(url), [this](const Page &page) { return infoRequestFinished(page); });
+}
+
+ProviderStep MegaLyricsProvider::infoRequestFinished(const Page &page) const
+{
+    const std::optional<QString> link = songLink(page.text, m_artist, m_title);
+    if (!link)
+        return ProviderStep::nothing();
+    return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, *link)),
+                             &MegaLyricsProvider::lyricsRequestFinished);
+}
+
+std::optional<QString> MegaLyricsProvider::songLink(const QString &searchPage, const QString &artist,
+                                                    const QString &title)
+{
+    static const ChainPattern table(
+        QStringLiteral("<div[^>]*class=\"songs-table\"[^<]*>.*<table>.*<tbody>(.*)</tbody>"));
+    static const ChainPattern rowPattern(
+        QStringLiteral("<tr.*>.*<td.*>.*<td.*>.*<a.*href=\"([^\"]*)\".*>([^<]*)</a>.*<td.*>(.*)</td>"
+                       ".*<td.*>.*<td.*>.*</tr>"));
+    const ChainScan rows(rowPattern, firstCapture(table, searchPage).value_or(QString()));
+    for (auto row = rows.next(); row; row = rows.next(row->end())) {
+        if (looselyAgree(artist, foundName(row->captures.at(2))) && looselyAgree(title, foundName(row->captures.at(1))))
+            return row->captures.at(0);
+    }
+    return std::nullopt;
+}
+
+ProviderStep MegaLyricsProvider::lyricsRequestFinished(const Page &page)
+{
+    static const ChainPattern advert(QStringLiteral("<div\\s*id=\"native_roll\">.*</div>"));
+    static const ChainPattern song(
+        QStringLiteral("<div[^>]*id=\"song_text\"[^>]*>(.*)</div>.*<div.*class=\"switch-block\".*>"));
+    static const ChainPattern inner(QStringLiteral("<div[^>]*class=\"text_inner\"[^>]*>(.*)</div>"));
+    const QString text = withMatchesReplaced(page.text, advert, QString());
+    if (const std::optional<QString> songText = firstCapture(song, text))
+        return ProviderStep::lyrics(joinedTexts(*songText));
+    return ProviderStep::lyrics(withoutBreakTags(firstCapture(inner, text).value_or(QString())));
+}
