@@ -15,13 +15,22 @@ private slots:
 
 void tst_ProviderCatalogue::listsTheSitesInTheirOrder()
 {
-    SiteRig rig({Endpoint::LyricsFreak});
+    SiteRig rig({
+        Endpoint::LyricsFreak,
+        Endpoint::Megalyrics,
+        Endpoint::AZLyrics,
+    });
     QStringList names;
     for (const auto &provider : makeProviders(rig.manager())) {
         names.append(provider->name());
         QCOMPARE(QUrl(provider->siteUrl()).adjusted(QUrl::StripTrailingSlash), QUrl(rig.server().base()));
     }
-    QCOMPARE(names, QStringList{QStringLiteral("LyricsFreak")});
+    const QStringList expected{
+        QStringLiteral("LyricsFreak"),
+        QStringLiteral("Megalyrics"),
+        QStringLiteral("AZLyrics"),
+    };
+    QCOMPARE(names, expected);
 }
 
 void tst_ProviderCatalogue::copiesEachSite()
