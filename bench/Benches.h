@@ -12,5 +12,7 @@ void benchAdding();
 void benchSelecting();
 // A tree of folders scanned, beside `find` on the same tree.
 void benchScanning();
+// Pages of 1 MiB that a site with bad intent could send, read for each site client, beside one lower-case copy of them.
+void benchPages();
 // Songs searched on a site that takes 50 ms a page, beside the bound that six connections to a host set.
 void benchSearching();

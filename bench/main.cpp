@@ -18,6 +18,7 @@ int main(int argc, char **argv)
     benchAdding();
     benchSelecting();
     benchScanning();
+    benchPages();
     benchSearching();
     return 0;
 }

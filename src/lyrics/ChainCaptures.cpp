@@ -2,6 +2,7 @@
 #include "lyrics/ChainCaptures.h"
 
 #include <algorithm>
+#include <array>
 #include <deque>
 
 namespace {
@@ -10,7 +11,8 @@ namespace {
 struct Route
 {
     int position;
-    ChainCaptures captures;
+    // Those so far; the others are empty.
+    std::array<ChainCapture, ChainPattern::mostGroups> captures;
 };
 
 int rank(const ChainCapture &left, const ChainCapture &right)
@@ -87,19 +89,17 @@ private:
     std::deque<Entry> m_inGap;
 };
 
-// The places behind `position` from which a match goes on to `matchEnd`.
-std::pair<ChainSpots::const_iterator, ChainSpots::const_iterator> placesBehind(const ChainSpots &spots, int position,
-                                                                               int matchEnd)
+// The places behind `position` from which a match goes on to `matchEnd`, one of which is the one at `index`: they stand
+// side by side.
+std::pair<std::size_t, std::size_t> placesAround(const ChainSpots &spots, std::size_t index, int position, int matchEnd)
 {
-    const auto before = [](const ChainSpot &spot, int place) {
-        return spot.position < place;
-    };
-    const auto endsBefore = [](const ChainSpot &spot, int end) {
-        return spot.end < end;
-    };
-    const auto behind = std::lower_bound(spots.begin(), spots.end(), position, before);
-    return {std::lower_bound(behind, spots.end(), matchEnd, endsBefore),
-            std::lower_bound(behind, spots.end(), matchEnd + 1, endsBefore)};
+    std::size_t first = index;
+    std::size_t last = index + 1;
+    while (first > 0 && spots[first - 1].position > position && spots[first - 1].end == matchEnd)
+        --first;
+    while (last < spots.size() && spots[last].end == matchEnd)
+        ++last;
+    return {first, last};
 }
 
 } // namespace
@@ -126,22 +126,26 @@ ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, con
 {
     std::vector<Route> routes{{start.position, {}}};
     auto group = pattern.groups().begin();
+    const ChainSpot *onTheWay = &start;
     for (std::size_t link = 1; link < spots.size() && group != pattern.groups().end(); ++link) {
         const bool captures = group->end.link == link;
         GapCrossing crossing(pattern.links()[link - 1], text, routes, start.end);
         std::vector<Route> reached;
-        const auto [first, last] = placesBehind(spots[link], start.position, start.end);
-        for (auto spot = first; spot != last; ++spot) {
-            const Route *route = crossing.to(spot->position);
+        const auto [first, last] = placesAround(spots[link], onTheWay->next, start.position, start.end);
+        onTheWay = &spots[link][onTheWay->next];
+        for (std::size_t spot = first; spot < last; ++spot) {
+            const int position = spots[link][spot].position;
+            const Route *route = crossing.to(position);
             if (!route)
                 continue;
-            reached.push_back({spot->position, route->captures});
+            reached.push_back({position, route->captures});
             if (captures)
-                reached.back().captures.push_back(
-                    {route->position + group->begin.offset, spot->position + group->end.offset});
+                reached.back().captures[static_cast<std::size_t>(group - pattern.groups().begin())] = {
+                    route->position + group->begin.offset, position + group->end.offset};
         }
         routes = std::move(reached);
         group += captures ? 1 : 0;
     }
-    return std::min_element(routes.begin(), routes.end(), isBetter)->captures;
+    const auto best = std::min_element(routes.begin(), routes.end(), isBetter);
+    return {best->captures.begin(), best->captures.begin() + (group - pattern.groups().begin())};
 }

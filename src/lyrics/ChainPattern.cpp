@@ -139,7 +139,7 @@ ChainPattern::ChainPattern(const QString &pattern, Matching matching)
         if (m_afterGap && matching == Matching::Stepwise && reader.take('?'))
             m_links.back().isLazy = true;
     }
-    Q_ASSERT(!m_afterGap);
+    Q_ASSERT(!m_afterGap && m_groups.size() <= mostGroups);
 }
 
 // Behind a gap stands the beginning of the next piece, which has no link of its own yet.

@@ -26,6 +26,9 @@ public:
 
     explicit ChainPattern(const QString &pattern, Matching matching = Matching::Shortest);
 
+    // A pattern has no more groups than that.
+    static constexpr std::size_t mostGroups = 4;
+
     // A set of characters, of which one matches.
     class CharacterSet
     {

@@ -9,8 +9,9 @@ ChainScan::ChainScan(ChainPattern pattern, QString text)
     , m_text(std::move(text))
     , m_spots(m_pattern.links().size())
 {
+    KnownPlaces known;
     for (std::size_t link = m_spots.size(); link-- > 0;) {
-        ChainSpots spots = placesOf(link);
+        ChainSpots spots = placesOf(m_pattern.links()[link], known);
         if (link + 1 < m_spots.size())
             keepViable(link, spots);
         if (spots.empty())
@@ -19,9 +20,18 @@ ChainScan::ChainScan(ChainPattern pattern, QString text)
     }
 }
 
-ChainSpots ChainScan::placesOf(std::size_t link) const
+// Pieces such as "<td" and ">" stand in a pattern several times.
+ChainSpots ChainScan::placesOf(const ChainPattern::Link &piece, KnownPlaces &known) const
 {
-    const ChainPattern::Link &piece = m_pattern.links()[link];
+    const bool isPlain = piece.prefix.size() == piece.length();
+    if (!isPlain)
+        return searchedPlacesOf(piece);
+    const auto found = known.find(piece.prefix);
+    return found != known.end() ? found->second : known.emplace(piece.prefix, searchedPlacesOf(piece)).first->second;
+}
+
+ChainSpots ChainScan::searchedPlacesOf(const ChainPattern::Link &piece) const
+{
     ChainSpots spots;
     for (int at = piece.indexIn(m_text, 0); at >= 0; at = piece.indexIn(m_text, at + 1))
         spots.push_back({at, at + piece.length(), 0});

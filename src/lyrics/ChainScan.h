@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -35,7 +36,11 @@ public:
     [[nodiscard]] std::optional<ChainMatch> next(int from = 0) const;
 
 private:
-    [[nodiscard]] ChainSpots placesOf(std::size_t link) const;
+    // By pieces of plain characters.
+    using KnownPlaces = std::map<QString, ChainSpots>;
+
+    [[nodiscard]] ChainSpots placesOf(const ChainPattern::Link &piece, KnownPlaces &known) const;
+    [[nodiscard]] ChainSpots searchedPlacesOf(const ChainPattern::Link &piece) const;
     void keepViable(std::size_t link, ChainSpots &spots) const;
 
     ChainPattern m_pattern;
