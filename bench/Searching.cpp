@@ -104,7 +104,9 @@ void searchAll(const QList<QUrl> &songs)
 void benchSearching()
 {
     SiteThread site;
-    QSettings().setValue(QStringLiteral("endpoints/LyricsFreak"), site.startSite());
+    const QString base = site.startSite();
+    for (const Endpoint endpoint : allEndpoints())
+        QSettings().setValue(endpointGroup() + QLatin1Char('/') + endpointKey(endpoint), base);
     reloadEndpoints();
     const QTemporaryDir folder;
     const QList<QUrl> songs = copySongs(folder.path(), 200);

@@ -99,6 +99,17 @@ class LyricsFreakSite:
         return page(f"{names[1]} - {names[0]}", content)
 
 
+class QuietSite:
+    """Stands for every site that a stage has none of its own for: it knows no song and no better name."""
+
+    def answer(self, _request):
+        return Answer()
+
+
+# Every address that the program asks during a search.
+SEARCH_ENDPOINTS = ("LyricsFreak", "Genius", "Megalyrics", "AZLyrics", "AZLyricsSearch", "DarkLyrics", "MusixMatch", "Lastfm")
+
+
 class Server(http.server.ThreadingHTTPServer):
     daemon_threads = True
     block_on_close = False
@@ -158,20 +169,23 @@ class Sites:
 
     def __init__(self, *sites):
         self.servers = [Server(site) for site in sites]
+        self.others = Server(QuietSite())
 
     def __enter__(self):
-        for server in self.servers:
+        for server in (*self.servers, self.others):
             threading.Thread(target=server.serve_forever, kwargs={"poll_interval": 0.05}, daemon=True).start()
         return self
 
     def __exit__(self, *_):
-        for server in self.servers:
+        for server in (*self.servers, self.others):
             server.shutdown()
             server.server_close()
 
     def endpoints(self):
-        """Key of the settings group "endpoints" -> base address."""
-        return {server.site.endpoint: f"http://127.0.0.1:{server.server_address[1]}" for server in self.servers}
+        """Key of the settings group "endpoints" -> base address, so that no other host is asked for a song."""
+        servers = dict.fromkeys(SEARCH_ENDPOINTS, self.others)
+        servers.update((server.site.endpoint, server) for server in self.servers)
+        return {endpoint: f"http://127.0.0.1:{server.server_address[1]}" for endpoint, server in servers.items()}
 
     def requests(self):
         return [request for server in self.servers for request in list(server.requests)]

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Application.h"
 
+#include "lyrics/LastfmTagCorrector.h"
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/providers/ProviderCatalogue.h"
 #include "network/Endpoints.h"
@@ -89,6 +90,7 @@ void Application::createSearch()
     m_search.setProvidersOrder(m_settings.providersOrder());
     // Stored back, so that the stored order always names every site.
     m_settings.setProvidersOrder(m_search.providersOrder());
+    m_search.addCorrector(std::make_unique<LastfmTagCorrector>(&m_networkManager));
 }
 
 void Application::onPaletteChanged(const QPalette &palette)

@@ -3,6 +3,7 @@
 
 #include "app/GraphicsBackend.h"
 #include "network/Endpoints.h"
+#include "support/LoopbackServer.h"
 
 #include <QCryptographicHash>
 #include <QDesktopServices>
@@ -75,6 +76,7 @@ private slots:
     void theSavedListIsRestored_data();
     void theSavedListIsRestored();
     void servicesAreWired();
+    void betterNamesAreAskedForWhenNoSiteHasTheSong();
     void theProxyFollowsTheSettings();
     void aDamagedSettingsFileStopsNothing_data();
     void aDamagedSettingsFileStopsNothing();
@@ -144,6 +146,21 @@ void tst_Application::servicesAreWired()
     QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
     app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));
     QVERIFY(app->lyricsSearch()->providersOrder().contains(QLatin1String("LyricsFreak::0")));
+}
+
+void tst_Application::betterNamesAreAskedForWhenNoSiteHasTheSong()
+{
+    LoopbackServer service;
+    service.route(QStringLiteral("/2.0/"), LoopbackResponse::page("<lfm/>"));
+    Stage app({{QStringLiteral("endpoints/Lastfm"), service.base()}});
+    LyricsSearch *search = app->lyricsSearch();
+    const QString disabled = QStringLiteral("::0");
+    search->setProvidersOrder(search->providersOrder().replace(QLatin1String(";;"), disabled + QLatin1String(";;")) +
+                              disabled);
+    QSignalSpy finished(search, &LyricsSearch::searchFinished);
+    QVERIFY(search->search(1, QStringLiteral("Nora Vale"), QStringLiteral("Harbour")));
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(service.requestCount(QStringLiteral("/2.0/")), 2);
 }
 
 void tst_Application::theProxyFollowsTheSettings()
