@@ -150,9 +150,11 @@ void tst_Application::servicesAreWired()
 
 void tst_Application::betterNamesAreAskedForWhenNoSiteHasTheSong()
 {
+    Stage app;
     LoopbackServer service;
     service.route(QStringLiteral("/2.0/"), LoopbackResponse::page("<lfm/>"));
-    Stage app({{QStringLiteral("endpoints/Lastfm"), service.base()}});
+    QSettings().setValue(endpointGroup() + QLatin1Char('/') + endpointKey(Endpoint::Lastfm), service.base());
+    reloadEndpoints();
     LyricsSearch *search = app->lyricsSearch();
     const QString disabled = QStringLiteral("::0");
     search->setProvidersOrder(search->providersOrder().replace(QLatin1String(";;"), disabled + QLatin1String(";;")) +

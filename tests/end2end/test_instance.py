@@ -139,7 +139,7 @@ class InstanceTest(unittest.TestCase):
         self.assertEqual(rig.end(program), 0, session.messages())
         self.assertEqual(rig.tags.lyrics_of(path), "\r\n" + rig.words_for("Linen Clouds"))
         self.assertEqual(path.with_suffix(".txt").read_bytes().decode(), "\r\n" + rig.words_for("Linen Clouds"))
-        order = stored(session)["providersOrder"].split(";;")
+        order = stored(session)["providersOrder"].strip('"').split(";;")
         self.assertEqual(order[0], "LyricsFreak")
         self.assertNotIn("Nobody", order)
 
