@@ -37,7 +37,8 @@ const QStringList &noticePhrases()
         QStringLiteral("following a copyright complaint"),
         QStringLiteral("lyrics are not available in your country"),
         QStringLiteral("content is not available in your country"),
-        QStringLiteral("правообладател"),
+        QStringLiteral("по требованию правообладател"),
+        QStringLiteral("по просьбе правообладател"),
         // Nothing there yet
         QStringLiteral("lyrics for this song have yet to be released"),
         QStringLiteral("we do not have the lyrics"),
