@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "lyrics/LyricsProvider.h"
+
+#include <QMap>
+
+#include <optional>
+
+// DarkLyrics: its search, then the album's page that the first link in the answer leads to whose text resembles the
+// wanted artist and title; the song is the part of that page under the anchor that the link names.
+//
+// The site wants a cookie that its pages compute in a script. The client runs that script, which is a fixed text of
+// its own: nothing of a page ever reaches the script engine.
+class DarkLyricsProvider final : public LyricsProvider
+{
+    Q_OBJECT
+
+public:
+    explicit DarkLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
+
+    [[nodiscard]] QString name() const override;
+    [[nodiscard]] QString siteUrl() const override;
+    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+
+    // The parts of the content of a page by their headings: the HTML in each heading up to a colon, in lower case. What
+    // stands before the first heading has an empty key. Of several parts with one key the last one stays.
+    [[nodiscard]] static QMap<QString, QString> sections(const QString &page);
+    // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
+    // nothing when there is none.
+    [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist,
+                                                         const QString &title);
+    // The HTML of the song under the anchor of this name, in any letter case; empty when there is none.
+    [[nodiscard]] static QString songUnderAnchor(const QString &albumPage, const QString &anchor);
+
+protected:
+    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
+
+private:
+    [[nodiscard]] ProviderStep processSearch();
+    [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
+    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
+
+    QString m_artist; // both normalised
+    QString m_title;
+};

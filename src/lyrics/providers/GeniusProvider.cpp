@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/providers/GeniusProvider.h"
+
+#include "lyrics/ChainScan.h"
+#include "lyrics/LyricsText.h"
+#include "lyrics/SongNames.h"
+#include "lyrics/providers/GeniusContainers.h"
+#include "network/Endpoints.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrlQuery>
+
+namespace {
+
+constexpr int hitsPerSection = 5;
+// What the service says of itself inside its answer, whatever HTTP said.
+constexpr int statusOk = 200;
+
+QString textOf(const QJsonValue &value)
+{
+    return value.toVariant().toString();
+}
+
+bool resembles(const QJsonObject &song, const QString &artist, const QString &title)
+{
+    const QJsonObject primaryArtist = song.value(QLatin1String("primary_artist")).toObject();
+    return looselyAgree(artist, decodeHtmlEntities(textOf(primaryArtist.value(QLatin1String("name"))))) &&
+           looselyAgree(title, decodeHtmlEntities(textOf(song.value(QLatin1String("title")))));
+}
+
+// The song that a hit stands for; an empty object when it stands for something else.
+QJsonObject songOfHit(const QJsonObject &hit)
+{
+    const QString song = QStringLiteral("song");
+    const QJsonObject result = hit.value(QLatin1String("result")).toObject();
+    const bool isSong =
+        textOf(hit.value(QLatin1String("type"))) == song && textOf(result.value(QLatin1String("_type"))) == song;
+    return isSong ? result : QJsonObject();
+}
+
+std::optional<QString> songPathInSection(const QJsonObject &section, const QString &artist, const QString &title)
+{
+    const QString type = textOf(section.value(QLatin1String("type")));
+    if (type != QLatin1String("song") && type != QLatin1String("top_hit"))
+        return std::nullopt;
+    const QJsonArray hits = section.value(QLatin1String("hits")).toArray();
+    for (const QJsonValue &hit : hits) {
+        const QJsonObject song = songOfHit(hit.toObject());
+        const QString path = textOf(song.value(QLatin1String("path")));
+        if (path.startsWith(QLatin1Char('/')) && resembles(song, artist, title))
+            return path;
+    }
+    return std::nullopt;
+}
+
+// Line breaks are those of the break tags alone. Entities stay: whoever shows or stores the lyrics decodes them.
+QString olderLyrics(QString block)
+{
+    block.remove(QLatin1Char('\n')).remove(QLatin1Char('\r'));
+    return stripTags(withPlainBreaksAsNewlines(block)).trimmed();
+}
+
+} // namespace
+
+GeniusProvider::GeniusProvider(QNetworkAccessManager *networkManager, QObject *parent)
+    : LyricsProvider(networkManager, parent)
+{
+}
+
+QString GeniusProvider::name() const
+{
+    return QStringLiteral("Genius");
+}
+
+QString GeniusProvider::siteUrl() const
+{
+    return endpointUrl(Endpoint::Genius, QStringLiteral("/")).toString();
+}
+
+LyricsProvider *GeniusProvider::clone(QObject *parent) const
+{
+    return new GeniusProvider(sharedNetworkManager(), parent);
+}
+
+ProviderStep GeniusProvider::firstStep(const QString &artist, const QString &title)
+{
+    m_artist = normalisedArtist(artist);
+    m_title = normalisedTitle(title);
+    QUrlQuery query;
+    query.addQueryItem(QStringLiteral("per_page"), QString::number(hitsPerSection));
+    query.addQueryItem(QStringLiteral("q"), queryValue(m_artist + QLatin1Char(' ') + m_title));
+    QUrl url = endpointUrl(Endpoint::Genius, QStringLiteral("/api/search/multi"));
+    url.setQuery(query);
+    return ProviderStep::ask(QNetworkRequest(url), [this](const Page &page) { return infoRequestFinished(page); });
+}
+
+ProviderStep GeniusProvider::infoRequestFinished(const Page &page) const
+{
+    const std::optional<QString> path = songPath(page.text, m_artist, m_title);
+    if (!path)
+        return ProviderStep::nothing();
+    const QString base = endpointBase(Endpoint::Genius).toString(QUrl::FullyEncoded);
+    return ProviderStep::ask(QNetworkRequest(QUrl::fromUserInput(base + *path)),
+                             &GeniusProvider::lyricsRequestFinished);
+}
+
+ProviderStep GeniusProvider::lyricsRequestFinished(const Page &page)
+{
+    return ProviderStep::lyrics(lyricsOfPage(page.text));
+}
+
+std::optional<QString> GeniusProvider::songPath(const QString &searchAnswer, const QString &artist,
+                                                const QString &title)
+{
+    const QJsonObject answer = QJsonDocument::fromJson(searchAnswer.toUtf8()).object();
+    const QJsonObject meta = answer.value(QLatin1String("meta")).toObject();
+    if (meta.value(QLatin1String("status")).toVariant().toInt() != statusOk)
+        return std::nullopt;
+    const QJsonObject response = answer.value(QLatin1String("response")).toObject();
+    const QJsonArray sections = response.value(QLatin1String("sections")).toArray();
+    for (const QJsonValue &section : sections) {
+        std::optional<QString> path = songPathInSection(section.toObject(), artist, title);
+        if (path)
+            return path;
+    }
+    return std::nullopt;
+}
+
+QString GeniusProvider::lyricsOfPage(const QString &songPage)
+{
+    // The "*" makes the quotation mark optional and repeatable; it is meant.
+    static const ChainPattern olderBlock(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
+    const std::optional<QString> block = firstCapture(olderBlock, songPage);
+    return block ? olderLyrics(*block) : lyricsOfGeniusContainers(songPage);
+}

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/providers/MusixMatchProvider.h"
+
+#include "lyrics/ChainScan.h"
+#include "lyrics/LyricsText.h"
+#include "lyrics/SongNames.h"
+#include "lyrics/providers/ElementFinder.h"
+#include "lyrics/providers/TextSearch.h"
+#include "network/Endpoints.h"
+
+namespace {
+
+// A list of tracks leads to a track's page. A site that goes on answering with lists is not followed for ever.
+constexpr int mostRequests = 20;
+
+// How much of a block may be searched in all, in UTF-16 units. Each piece of lyrics is searched for from the start of
+// the block, and pages have few of them.
+constexpr qint64 mostSearched = 6 * 1024 * 1024;
+
+// The first address in the title's element, between quotation marks of either kind.
+QString linkOf(const QString &titleElement)
+{
+    static const ChainPattern doubleQuoted(QStringLiteral("href=\"(.+)\""));
+    static const ChainPattern singleQuoted(QStringLiteral("href='(.+)'"));
+    const std::optional<ChainMatch> first = ChainScan(doubleQuoted, titleElement).next();
+    const std::optional<ChainMatch> second = ChainScan(singleQuoted, titleElement).next();
+    if (!first && !second)
+        return {};
+    return (first && (!second || first->position < second->position) ? first : second)->captures.at(0);
+}
+
+bool nameAgrees(const QString &wanted, const QString &element)
+{
+    return looselyAgree(wanted, decodeHtmlEntities(stripTags(element)));
+}
+
+// The link of one item of the list; empty when it is another track or has no link.
+QString linkOfItem(const QString &item, const QString &artist, const QString &title)
+{
+    if (!item.contains(QLatin1String("href=")))
+        return {};
+    const QString anchor = QStringLiteral("a");
+    const QString titleElement = findElement(item, anchor, {QStringLiteral("title")}, true);
+    const QString link = linkOf(titleElement);
+    const bool wanted = !link.isEmpty() && nameAgrees(title, titleElement) &&
+                        nameAgrees(artist, findElement(item, anchor, {QStringLiteral("artist")}, false));
+    return wanted ? link : QString();
+}
+
+} // namespace
+
+MusixMatchProvider::MusixMatchProvider(QNetworkAccessManager *networkManager, QObject *parent)
+    : LyricsProvider(networkManager, parent)
+{
+}
+
+QString MusixMatchProvider::name() const
+{
+    return QStringLiteral("MusixMatch");
+}
+
+QString MusixMatchProvider::siteUrl() const
+{
+    return endpointBase(Endpoint::MusixMatch).toString();
+}
+
+LyricsProvider *MusixMatchProvider::clone(QObject *parent) const
+{
+    return new MusixMatchProvider(sharedNetworkManager(), parent);
+}
+
+ProviderStep MusixMatchProvider::firstStep(const QString &artist, const QString &title)
+{
+    m_artist = normalisedArtist(artist);
+    m_title = normalisedTitle(title);
+    m_requests = 0;
+    return processSearch();
+}
+
+QNetworkRequest MusixMatchProvider::redirectedRequest(const QUrl &target) const
+{
+    QNetworkRequest request(target);
+    request.setRawHeader("User-Agent", browserUserAgent());
+    return request;
+}
+
+ProviderStep MusixMatchProvider::processSearch()
+{
+    const QString names = queryValue(m_artist + QLatin1Char(' ') + m_title);
+    return askFor(endpointUrl(Endpoint::MusixMatch, QStringLiteral("/search/%1/tracks").arg(names)));
+}
+
+ProviderStep MusixMatchProvider::askFor(const QUrl &url)
+{
+    if (++m_requests > mostRequests)
+        //: %1 is the name of a lyrics site.
+        return ProviderStep::failure(tr("%1 leads from one list of songs to the next.").arg(name()));
+    return ProviderStep::ask(redirectedRequest(url), [this](const Page &page) { return requestFinished(page); });
+}
+
+ProviderStep MusixMatchProvider::requestFinished(const Page &page)
+{
+    const QString block = lyricsBlock(page.text);
+    if (!block.isEmpty()) {
+        const std::optional<QString> lyrics = lyricsOfBlock(block);
+        //: %1 is the name of a lyrics site.
+        return lyrics ? ProviderStep::lyrics(*lyrics)
+                      : ProviderStep::failure(tr("%1 gave a page that is too intricate to read.").arg(name()));
+    }
+    const std::optional<QString> link = trackLink(page.text, m_artist, m_title);
+    return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::nothing();
+}
+
+QString MusixMatchProvider::lyricsBlock(const QString &page)
+{
+    return findElement(page, QStringLiteral("div"), {QStringLiteral("mxm-lyrics")}, false);
+}
+
+std::optional<QString> MusixMatchProvider::lyricsOfBlock(const QString &block)
+{
+    QString lyrics;
+    QString rest = block;
+    for (qint64 searched = rest.size(); searched <= mostSearched; searched += rest.size()) {
+        const QString span = findElement(rest, QStringLiteral("span"), {QStringLiteral("lyrics__content__ok")}, true);
+        if (span.isEmpty())
+            return lyrics;
+        lyrics += stripTags(span);
+        // Wherever it stands: a part that comes again, word for word, is taken once. This is deliberate.
+        rest = withoutText(rest, span);
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> MusixMatchProvider::trackLink(const QString &searchPage, const QString &artist,
+                                                     const QString &title)
+{
+    // One item with all its parts on one line; "<li" may also be the beginning of a longer name.
+    static const ChainPattern itemPattern(QStringLiteral("<li[^\n]+>([^\n]+)</li"));
+    static const QStringList listClasses{QStringLiteral("tracks"), QStringLiteral("list"),
+                                         QStringLiteral("thumb-list")};
+    const QString list = findElement(searchPage, QStringLiteral("ul"), listClasses, false);
+    const ChainScan items(itemPattern, asciiLower(list));
+    int offset = 0;
+    while (const auto item = items.next(offset)) {
+        const int length = item->captures.at(0).size();
+        const int begin = item->end() - static_cast<int>(qstrlen("</li")) - length;
+        const QString link = linkOfItem(list.mid(begin, length), artist, title);
+        if (!link.isEmpty())
+            return link;
+        offset = offsetBehind(offset, item->position, item->length);
+    }
+    return std::nullopt;
+}

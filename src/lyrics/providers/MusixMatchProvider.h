@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "lyrics/LyricsProvider.h"
+
+#include <optional>
+
+// MusixMatch: its list of tracks for the artist and the title, then the page of the first track in the list whose
+// artist and title both resemble the wanted ones. What a page is shows in its content alone.
+class MusixMatchProvider final : public LyricsProvider
+{
+    Q_OBJECT
+
+public:
+    explicit MusixMatchProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
+
+    [[nodiscard]] QString name() const override;
+    [[nodiscard]] QString siteUrl() const override;
+    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+
+    // The HTML of the lyrics on a track's page; empty when it is another page.
+    [[nodiscard]] static QString lyricsBlock(const QString &page);
+    // The text of all lyrics in such a block, one behind the other without a separator; nothing when the block is too
+    // intricate to be one.
+    [[nodiscard]] static std::optional<QString> lyricsOfBlock(const QString &block);
+    // The link, as it stands in the page, of the first track in a list that resembles these normalised names; nothing
+    // when there is none. Tracks without a link do not count.
+    [[nodiscard]] static std::optional<QString> trackLink(const QString &searchPage, const QString &artist,
+                                                          const QString &title);
+
+protected:
+    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
+
+private:
+    [[nodiscard]] ProviderStep processSearch();
+    [[nodiscard]] ProviderStep askFor(const QUrl &url);
+    [[nodiscard]] ProviderStep requestFinished(const Page &page);
+
+    QString m_artist; // both normalised
+    QString m_title;
+    int m_requests = 0;
+};
