@@ -15,22 +15,15 @@ private slots:
 
 void tst_ProviderCatalogue::listsTheSitesInTheirOrder()
 {
-    SiteRig rig({
-        Endpoint::LyricsFreak,
-        Endpoint::Megalyrics,
-        Endpoint::AZLyrics,
-    });
+    SiteRig rig({Endpoint::LyricsFreak, Endpoint::Genius, Endpoint::Megalyrics, Endpoint::AZLyrics,
+                 Endpoint::DarkLyrics, Endpoint::MusixMatch});
     QStringList names;
     for (const auto &provider : makeProviders(rig.manager())) {
         names.append(provider->name());
-        QCOMPARE(QUrl(provider->siteUrl()).adjusted(QUrl::StripTrailingSlash), QUrl(rig.server().base()));
+        QVERIFY(provider->siteUrl().startsWith(rig.server().base()));
     }
-    const QStringList expected{
-        QStringLiteral("LyricsFreak"),
-        QStringLiteral("Megalyrics"),
-        QStringLiteral("AZLyrics"),
-    };
-    QCOMPARE(names, expected);
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("LyricsFreak Genius Megalyrics AZLyrics DarkLyrics MusixMatch"));
 }
 
 void tst_ProviderCatalogue::copiesEachSite()

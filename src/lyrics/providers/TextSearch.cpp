@@ -1,37 +1,70 @@
 // SPDX-License-Identifier: MIT
 #include "lyrics/providers/TextSearch.h"
 
-#include <algorithm>
-#include <functional>
+#include <QStringView>
+
+#include <vector>
 
 namespace {
 
-using Searcher = std::boyer_moore_searcher<const ushort *>;
-
-Searcher searcherFor(const QString &part)
+// The algorithm of Knuth, Morris and Pratt: after a mismatch it goes on with the longest beginning of the part that
+// stands where the comparison has come to. (The standard library's searcher for long texts takes quadratic time for
+// its tables.)
+class Searcher
 {
-    return Searcher(part.utf16(), part.utf16() + part.size());
-}
+public:
+    explicit Searcher(const QString &part)
+        : m_part(part)
+        , m_borders(static_cast<std::size_t>(part.size()), 0)
+    {
+        for (int i = 1, matched = 0; i < part.size(); ++i) {
+            matched = extended(matched, part.at(i));
+            m_borders[static_cast<std::size_t>(i)] = matched;
+        }
+    }
+
+    // Where the part stands first from `from` on, -1 when nowhere.
+    [[nodiscard]] int indexIn(const QString &text, int from) const
+    {
+        int matched = 0;
+        for (int i = from; i < text.size(); ++i) {
+            matched = extended(matched, text.at(i));
+            if (matched == m_part.size())
+                return i + 1 - matched;
+        }
+        return -1;
+    }
+
+private:
+    // How much of the part matches once `next` stands behind its first `matched` characters, which are not all of it.
+    [[nodiscard]] int extended(int matched, QChar next) const
+    {
+        while (matched > 0 && m_part.at(matched) != next)
+            matched = m_borders[static_cast<std::size_t>(matched) - 1];
+        return m_part.at(matched) == next ? matched + 1 : 0;
+    }
+
+    const QString &m_part;
+    // For each length of a beginning, less one: how much of it is beginning and end of it at once.
+    std::vector<int> m_borders;
+};
 
 } // namespace
 
 bool holdsText(const QString &text, const QString &part)
 {
-    const ushort *const end = text.utf16() + text.size();
-    return part.isEmpty() || (part.size() <= text.size() && std::search(text.utf16(), end, searcherFor(part)) != end);
+    return part.isEmpty() || (part.size() <= text.size() && Searcher(part).indexIn(text, 0) >= 0);
 }
 
 QString withoutText(const QString &text, const QString &part)
 {
-    const Searcher searcher = searcherFor(part);
-    const ushort *from = text.utf16();
-    const ushort *const end = from + text.size();
+    const Searcher searcher(part);
     QString rest;
     rest.reserve(text.size());
-    for (const ushort *at = from; at != end;) {
-        at = std::search(from, end, searcher);
-        rest += QStringView(from, at - from);
-        from = at == end ? end : at + part.size();
+    int from = 0;
+    for (int at = searcher.indexIn(text, from); at >= 0; at = searcher.indexIn(text, from)) {
+        rest += QStringView(text).mid(from, at - from);
+        from = at + part.size();
     }
-    return rest;
+    return rest += QStringView(text).mid(from);
 }

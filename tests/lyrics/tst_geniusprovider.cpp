@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: MIT
+#include "RandomText.h"
+#include "SitePages.h"
+#include "SiteRig.h"
+#include "lyrics/LyricsText.h"
+#include "lyrics/providers/GeniusProvider.h"
+
+#include <QRegExp>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+// With double quotation marks for the single ones.
+QString json(const char *text)
+{
+    return QString::fromLatin1(text).replace(QLatin1Char('\''), QLatin1Char('"'));
+}
+
+QString searchAnswer()
+{
+    QStringList decoys;
+    for (int i = 0; i < 120; ++i)
+        decoys << json("{'type':'%1','hits':[{'type':'song','result':{'_type':'song','path':'/decoy-%2','titl"
+                       "e':'Harbour Lights','stats':{'hot':false,'views':%2},'primary_artist':{'name':'Tin La"
+                       "nterns','url':'https://x.invalid/%2'}}}]}")
+                      .arg(i % 2 == 0 ? QStringLiteral("album") : QStringLiteral("Song"))
+                      .arg(i);
+    return sitePage(QStringLiteral("genius"), QStringLiteral("search.json"))
+        .replace(QLatin1String("\"@DECOYS@\""), decoys.join(QLatin1Char(',')));
+}
+
+// Containers are joined by CR LF.
+QString newerLyrics()
+{
+    return harbourLights().replace(QLatin1String("\n\n"), QLatin1String("\r\n"));
+}
+
+// The same as it is written with the expressions themselves.
+namespace plain {
+
+QRegExp minimal(const QString &pattern)
+{
+    QRegExp expression(pattern);
+    expression.setMinimal(true);
+    return expression;
+}
+
+QString strip(QString text)
+{
+    for (QString before; before != text;) {
+        before = text;
+        text.remove(minimal(QStringLiteral("</?[^>]+/?>")));
+    }
+    return text;
+}
+
+QString elementAt(const QString &page, int start)
+{
+    const QString rest = page.mid(start);
+    const QString name = rest.mid(1, std::max(0, rest.indexOf(QLatin1Char(' '), 1) - 1));
+    if (name.isEmpty())
+        return {};
+    QRegExp tag(QStringLiteral("<%1[^>]+/>|<%1|</%1").arg(QRegExp::escape(name)));
+    int depth = 0;
+    for (int at = tag.indexIn(rest); at >= 0; at = tag.indexIn(rest, at + tag.matchedLength())) {
+        if (!tag.cap(0).endsWith(QLatin1String("/>")))
+            depth += tag.cap(0).startsWith(QLatin1String("</")) ? -1 : 1;
+        if (depth == 0)
+            return rest.left(at + tag.matchedLength());
+    }
+    return {};
+}
+
+QString lyricsOfContainer(QString text)
+{
+    text.replace(QRegExp(QStringLiteral("<br/?>")), QStringLiteral("\n"));
+    text.replace(QRegularExpression(QStringLiteral("<div.*?</div>")), QStringLiteral("\n"));
+    text = strip(text).trimmed();
+    QRegExp reference = minimal(QStringLiteral("&#(\\d+);"));
+    while (reference.indexIn(text) >= 0) {
+        const uint code = reference.cap(1).toUInt();
+        text.replace(reference.cap(0), QString::fromUcs4(&code, 1));
+    }
+    return decodeHtmlEntities(text).remove(QLatin1String("</div"));
+}
+
+QString lyricsOfPage(const QString &page)
+{
+    QRegExp older = minimal(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
+    if (older.indexIn(page) >= 0) {
+        QString block = older.cap(1).remove(QLatin1Char('\n')).remove(QLatin1Char('\r'));
+        return strip(block.replace(QRegExp(QStringLiteral("<br/?>")), QStringLiteral("\n"))).trimmed();
+    }
+    QStringList texts;
+    QRegExp container = minimal(QStringLiteral("<div[^>]*class=\"Lyrics__Container.*>"));
+    for (int at = container.indexIn(page); at >= 0;) {
+        const QString element = elementAt(page, at);
+        if (element.isEmpty())
+            break;
+        texts << lyricsOfContainer(element);
+        at = container.indexIn(page, at + element.size());
+    }
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral("\r\n"));
+}
+
+} // namespace plain
+
+} // namespace
+
+class tst_GeniusProvider : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsTheSong_data();
+    void findsTheSong();
+    void understandsAnswers_data();
+    void understandsAnswers();
+    void findsTheLyrics_data();
+    void findsTheLyrics();
+    void readsLikeThePlainExpressions();
+    void answersHostilePages_data();
+    void answersHostilePages();
+    void asksForTheSearchAndThenForTheSong();
+    void carriesNoHeadersOnRedirects();
+};
+
+void tst_GeniusProvider::findsTheSong_data()
+{
+    QTest::addColumn<QString>("artist");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("decoys of other kinds, other sections and other addresses before it")
+        << "Tin Lanterns"
+        << "Harbour Lights"
+        << "/Tin-lanterns-harbour-lights-lyrics";
+    QTest::newRow("a slash is no space") << "Moth Lamp"
+                                         << "Harbour Lights"
+                                         << "";
+    QTest::newRow("quotation marks do not count, entities are decoded") << "Moth Lamp"
+                                                                        << "Dont Dim"
+                                                                        << "/Moth-lamp-dont-dim-lyrics";
+    QTest::newRow("Cyrillic in any case") << "ПАРУСА"
+                                          << "огни Гавани"
+                                          << "/Parusa-ogni-gavani-lyrics";
+    QTest::newRow("right to left, and a percent sign") << "מגדלור"
+                                                       << "נמל קטן"
+                                                       << "/Migdalor-namal-katan-100%-lyrics";
+    QTest::newRow("an artist who is not there") << "Nobody At All"
+                                                << "Harbour Lights"
+                                                << "";
+}
+
+void tst_GeniusProvider::findsTheSong()
+{
+    QFETCH(QString, artist);
+    QFETCH(QString, title);
+    const QString answer = searchAnswer();
+    QVERIFY(answer.size() > 20000 && answer.size() < 60000);
+    QTEST(GeniusProvider::songPath(answer, artist, title).value_or(QString()), "path");
+}
+
+void tst_GeniusProvider::understandsAnswers_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("path");
+    const QString song = json("{'type':'song','result':{'_type':'song','title':'a','path':'/1','primary_artist':{'na"
+                              "me':'b'}}}");
+    const QString answer = json("{'meta':%1,'response':{'sections':[{'type':'top_hit','hits':[%2]}]}}");
+    QTest::newRow("a top hit") << answer.arg(json("{'status':200}"), song) << "/1";
+    QTest::newRow("the service says that it failed") << answer.arg(json("{'status':404}"), song) << "";
+    QTest::newRow("a status that is text") << answer.arg(json("{'status':'200'}"), song) << "/1";
+    QTest::newRow("no status") << answer.arg(QStringLiteral("{}"), song) << "";
+    QTest::newRow("hits of the wrong shape before it")
+        << answer.arg(json("{'status':200}"), json("null,7,[],{'type':'song','result':[]},") + song) << "/1";
+    QTest::newRow("names that are missing resemble everything")
+        << answer.arg(json("{'status':200}"), json("{'type':'song','result':{'_type':'song','path':'/2'}}")) << "/2";
+    QTest::newRow("cut short") << answer.arg(json("{'status':200}"), song).chopped(1) << "";
+    QTest::newRow("a page") << "<html></html>"
+                            << "";
+}
+
+void tst_GeniusProvider::understandsAnswers()
+{
+    QFETCH(QString, answer);
+    const auto path = GeniusProvider::songPath(answer, QStringLiteral("b"), QStringLiteral("a"));
+    QTEST(path.value_or(QString()), "path");
+}
+
+void tst_GeniusProvider::findsTheLyrics_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("lyrics");
+    QTest::newRow("older: a whole page") << sitePage(QStringLiteral("genius"), QStringLiteral("older.html"))
+                                         << harbourLights();
+    QTest::newRow("older: breaks with a blank are tags, entities stay")
+        << "<div class=\"lyrics\">a<br />b<br>\r\nc&amp;d</div>"
+        << "ab\nc&amp;d";
+    QTest::newRow("older: the quotation mark may be missing or come twice")
+        << "<div class=\"lyrics\"\">a</div><div class=\"lyrics>b</div>"
+        << "a";
+    QTest::newRow("older: an empty block hides the newer layout") << "<div class=\"lyrics\"></div>@la</div>"
+                                                                  << "";
+    QTest::newRow("newer: a whole page, a header block in the container")
+        << sitePage(QStringLiteral("genius"), QStringLiteral("newer.html")) << newerLyrics();
+    QTest::newRow("newer: an inner element is counted") << "@a<div>\nb</div>\nc</div>d"
+                                                        << "a\nb\nc";
+    QTest::newRow("newer: a self-closing element is not") << "@a<div class=\"x\" />b</div>c</div>"
+                                                          << "ab";
+    QTest::newRow("newer: empty containers leave no line") << "@</div>@a</div>@ </div>@b</div>"
+                                                           << "a\r\nb";
+    QTest::newRow("newer: an unclosed container ends the walk") << "@a</div>@b"
+                                                                << "a";
+    QTest::newRow("newer: a container that is closed already") << "<div class=\"Lyrics__Container\" />x@a</div>"
+                                                               << "a";
+    QTest::newRow("newer: a name that goes on to the next space is never closed")
+        << "<div\nclass=\"Lyrics__Container x\">a</div>"
+        << "";
+    QTest::newRow("newer: references of any length, through others too")
+        << "@&#0000000065;&#38;#66;&#9;&#x43;&amp;lt;&#1114112;</div>"
+        << "AB\tC<\ufffd";
+    QTest::newRow("neither") << "<div class='lyrics'>a</div>"
+                             << "";
+}
+
+void tst_GeniusProvider::findsTheLyrics()
+{
+    QFETCH(QString, page);
+    page.replace(QLatin1Char('@'), QLatin1String("<div class=\"Lyrics__Container-sc\">"));
+    QTEST(GeniusProvider::lyricsOfPage(page), "lyrics");
+}
+
+void tst_GeniusProvider::readsLikeThePlainExpressions()
+{
+    for (const char *name : {"older.html", "newer.html"}) {
+        const QString page = sitePage(QStringLiteral("genius"), QLatin1String(name));
+        QVERIFY(page.size() > 20000 && page.size() < 60000);
+        QCOMPARE(GeniusProvider::lyricsOfPage(page), plain::lyricsOfPage(page));
+    }
+    RandomText pages(QStringLiteral("<div~class=\"Lyrics__Container </div </div> </div> <div~ <div /> > <br> <br/> x "
+                                    "\n \r ~ class=\"Lyrics__Container <div&class=\"lyrics\"> &#65; &#38; amp; #66; "
+                                    "<div~class=\"Lyrics__Container\"> </div> / &lt; <b>")
+                         .split(QLatin1Char(' ')));
+    int found = 0;
+    for (int i = 0; i < 6000; ++i) {
+        QString page = pages.next(6 + i % 30).replace(QLatin1Char('~'), QLatin1Char(' '));
+        if (i % 4 == 0)
+            page.replace(QLatin1String("div&"), QLatin1String("div "));
+        const QString lyrics = plain::lyricsOfPage(page);
+        found += lyrics.isEmpty() ? 0 : 1;
+        QVERIFY2(GeniusProvider::lyricsOfPage(page) == lyrics, qPrintable(page));
+    }
+    QVERIFY2(found > 500, "the pages must hold lyrics often enough to say something");
+}
+
+void tst_GeniusProvider::answersHostilePages_data()
+{
+    QTest::addColumn<QString>("page");
+    const QString container = QStringLiteral("<div class=\"Lyrics__Container\">");
+    const QString hit = json("{'type':'song','result':{'_type':'song'}},");
+    const QString answer = json("{'meta':{'status':200},'response':{'sections':[{'type':'song','hits':");
+    QTest::newRow("brackets") << repeated(QStringLiteral("<"), hostileSize);
+    QTest::newRow("openings") << repeated(QStringLiteral("<div "), hostileSize);
+    QTest::newRow("openings behind a container") << container + repeated(QStringLiteral("<div "), hostileSize);
+    QTest::newRow("older blocks that are not closed")
+        << repeated(QStringLiteral("<div class=\"lyrics\">"), hostileSize);
+    QTest::newRow("older block marks without an end")
+        << QStringLiteral("<div class=\"lyrics") + repeated(QStringLiteral("\""), hostileSize);
+    QTest::newRow("containers that are not closed") << repeated(container, hostileSize);
+    QTest::newRow("one container that is not closed, of a long name")
+        << repeated(QStringLiteral("<div\nclass=\"Lyrics__Container\">"), hostileSize) + QLatin1Char(' ');
+    QTest::newRow("empty containers") << repeated(container + QStringLiteral("</div>"), hostileSize);
+    QTest::newRow("elements in one another") << container + repeated(QStringLiteral("<div "), hostileSize / 2) +
+                                                    repeated(QStringLiteral("</div"), hostileSize / 2) +
+                                                    QStringLiteral("</div");
+    QTest::newRow("break tags") << container + repeated(QStringLiteral("<br>"), hostileSize) + QStringLiteral("</div>");
+    QTest::newRow("blocks on one line") << container + repeated(QStringLiteral("<div></div>"), hostileSize) +
+                                               QStringLiteral("</div>");
+    QTest::newRow("references to references")
+        << container + repeated(QStringLiteral("&#38;#38;"), hostileSize) + QStringLiteral("</div>");
+    QTest::newRow("digits") << container + QStringLiteral("&#") + repeated(QStringLiteral("1"), hostileSize) +
+                                   QStringLiteral(";</div>");
+    QTest::newRow("arrays in one another") << answer + repeated(QStringLiteral("["), hostileSize);
+    QTest::newRow("objects in one another") << repeated(QStringLiteral("{\"meta\":"), hostileSize);
+    QTest::newRow("empty arrays") << answer + QLatin1Char('[') + repeated(QStringLiteral("[],"), hostileSize) +
+                                         QStringLiteral("0]}]}}");
+    QTest::newRow("hits without an address")
+        << answer + QLatin1Char('[') + repeated(hit, hostileSize) + QStringLiteral("0]}]}}");
+}
+
+void tst_GeniusProvider::answersHostilePages()
+{
+    QFETCH(QString, page);
+    QVERIFY(!GeniusProvider::songPath(page, QStringLiteral("b"), QStringLiteral("a")));
+    QVERIFY(GeniusProvider::lyricsOfPage(page).size() < page.size());
+}
+
+void tst_GeniusProvider::asksForTheSearchAndThenForTheSong()
+{
+    SiteRig rig({Endpoint::Genius});
+    rig.page(QStringLiteral("/api/search/multi"), searchAnswer());
+    rig.page(QStringLiteral("/Tin-lanterns-harbour-lights-lyrics"),
+             sitePage(QStringLiteral("genius"), QStringLiteral("newer.html")));
+    const SiteAnswer found = rig.search<GeniusProvider>(QStringLiteral("Tin Lanterns feat. Moth"),
+                                                        QStringLiteral("Harbour Lights (Official)"));
+    QCOMPARE(found.lyrics, newerLyrics());
+    const SiteAnswer missing = rig.search<GeniusProvider>(QStringLiteral("AC/DC"), QStringLiteral("50% + C&A да"));
+    QVERIFY(missing.lyrics.isEmpty() && missing.errorString.isEmpty());
+    QCOMPARE(rig.targets(),
+             (QList<QByteArray>{"/api/search/multi?per_page=5&q=Tin%20Lanterns%20Harbour%20Lights",
+                                "/Tin-lanterns-harbour-lights-lyrics",
+                                "/api/search/multi?per_page=5&q=AC%2FDC%2050%25%20%2B%20C%26A%20%D0%B4%D0%B0"}));
+    // The song's page is asked for on the site itself, whatever its path looks like, and is not percent-decoded.
+    rig.page(QStringLiteral("/api/search/multi"),
+             searchAnswer().replace(QLatin1String("/Tin-lanterns-harbour-lights"), QLatin1String("//other.invalid")));
+    rig.page(QStringLiteral("//other.invalid-lyrics"), QStringLiteral("<div class=\"lyrics\">100%41</div>"));
+    QCOMPARE(rig.search<GeniusProvider>(QStringLiteral("Tin Lanterns"), QStringLiteral("Harbour Lights")).lyrics,
+             QStringLiteral("100%41"));
+}
+
+void tst_GeniusProvider::carriesNoHeadersOnRedirects()
+{
+    SiteRig rig({Endpoint::Genius});
+    rig.server().route(QStringLiteral("/api/search/multi"), LoopbackResponse::redirect(307, "/found"));
+    rig.page(QStringLiteral("/found"), searchAnswer());
+    rig.server().route(QStringLiteral("/Parusa-ogni-gavani-lyrics"), LoopbackResponse::redirect(301, "/song"));
+    rig.page(QStringLiteral("/song"), QStringLiteral("<div class=\"lyrics\">la</div>"));
+    QCOMPARE(rig.search<GeniusProvider>(QStringLiteral("Паруса"), QStringLiteral("Огни гавани")).lyrics,
+             QStringLiteral("la"));
+    QCOMPARE(rig.server().requests().size(), 4);
+    for (const LoopbackRequest &request : rig.server().requests())
+        QVERIFY(request.header("Referer").isNull() && !request.header("User-Agent").contains("Chrome"));
+}
+
+QTEST_GUILESS_MAIN(tst_GeniusProvider)
+#include "tst_geniusprovider.moc"
