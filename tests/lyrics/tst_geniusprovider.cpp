@@ -124,6 +124,7 @@ private slots:
     void answersHostilePages_data();
     void answersHostilePages();
     void asksForTheSearchAndThenForTheSong();
+    void asksForPathsAsTheyStand();
     void carriesNoHeadersOnRedirects();
 };
 
@@ -312,12 +313,22 @@ void tst_GeniusProvider::asksForTheSearchAndThenForTheSong()
              (QList<QByteArray>{"/api/search/multi?per_page=5&q=Tin%20Lanterns%20Harbour%20Lights",
                                 "/Tin-lanterns-harbour-lights-lyrics",
                                 "/api/search/multi?per_page=5&q=AC%2FDC%2050%25%20%2B%20C%26A%20%D0%B4%D0%B0"}));
-    // The song's page is asked for on the site itself, whatever its path looks like, and is not percent-decoded.
-    rig.page(QStringLiteral("/api/search/multi"),
-             searchAnswer().replace(QLatin1String("/Tin-lanterns-harbour-lights"), QLatin1String("//other.invalid")));
-    rig.page(QStringLiteral("//other.invalid-lyrics"), QStringLiteral("<div class=\"lyrics\">100%41</div>"));
-    QCOMPARE(rig.search<GeniusProvider>(QStringLiteral("Tin Lanterns"), QStringLiteral("Harbour Lights")).lyrics,
-             QStringLiteral("100%41"));
+}
+
+// On the site itself, however it begins.
+void tst_GeniusProvider::asksForPathsAsTheyStand()
+{
+    SiteRig rig({Endpoint::Genius});
+    const QString answer = json("{'meta':{'status':200},'response':{'sections':[{'type':'song','hits':[{'type':'song',"
+                                "'result':{'_type':'song','path':'@'}}]}]}}");
+    rig.server().routeOthers(
+        [](const LoopbackRequest &) { return LoopbackResponse::page("<div class=\"lyrics\">100%41</div>"); });
+    for (const char *path : {"/a%20b%2F", "//other.invalid/a", "/a?b=%26"}) {
+        rig.page(QStringLiteral("/api/search/multi"), QString(answer).replace(QLatin1Char('@'), QLatin1String(path)));
+        const SiteAnswer found = rig.search<GeniusProvider>(QStringLiteral("b"), QStringLiteral("a"));
+        QCOMPARE(found.lyrics, QStringLiteral("100%41"));
+        QCOMPARE(rig.targets().last(), QByteArray(path).replace("//", "/"));
+    }
 }
 
 void tst_GeniusProvider::carriesNoHeadersOnRedirects()
