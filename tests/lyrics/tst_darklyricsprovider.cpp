@@ -200,9 +200,10 @@ void tst_DarkLyricsProvider::readsLikeThePlainExpressions()
         QVERIFY2(DarkLyricsProvider::sections(content) == plain::sections(content), qPrintable(content));
         const QString page = wrapped(QStringLiteral("<h3>Songs</h3>") +
                                      links.next(6 + i % 30).replace(QLatin1Char('~'), QLatin1Char(' ')));
-        const QString link = plain::songLink(page, QString(), QStringLiteral("y"));
+        const QString link = plain::songLink(page, QStringLiteral("x"), QStringLiteral("y"));
         found += link.isEmpty() ? 0 : 1;
-        QVERIFY2(DarkLyricsProvider::songLink(page, QString(), QStringLiteral("y")).value_or(QString()) == link,
+        QVERIFY2(DarkLyricsProvider::songLink(page, QStringLiteral("x"), QStringLiteral("y")).value_or(QString()) ==
+                     link,
                  qPrintable(page));
     }
     QVERIFY2(found > 200, qPrintable(QString::number(found)));
