@@ -245,7 +245,7 @@ void tst_GeniusProvider::readsLikeThePlainExpressions()
                                     "<div~class=\"Lyrics__Container\"> </div> / &lt; <b>")
                          .split(QLatin1Char(' ')));
     int found = 0;
-    for (int i = 0; i < 6000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         QString page = pages.next(6 + i % 30).replace(QLatin1Char('~'), QLatin1Char(' '));
         if (i % 4 == 0)
             page.replace(QLatin1String("div&"), QLatin1String("div "));
@@ -253,7 +253,7 @@ void tst_GeniusProvider::readsLikeThePlainExpressions()
         found += lyrics.isEmpty() ? 0 : 1;
         QVERIFY2(GeniusProvider::lyricsOfPage(page) == lyrics, qPrintable(page));
     }
-    QVERIFY2(found > 500, "the pages must hold lyrics often enough to say something");
+    QVERIFY2(found > 200, "the pages must hold lyrics often enough to say something");
 }
 
 void tst_GeniusProvider::answersHostilePages_data()

@@ -15,7 +15,7 @@ constexpr int mostRequests = 20;
 
 // How much of a block may be searched in all, in UTF-16 units. Each piece of lyrics is searched for from the start of
 // the block, and pages have few of them.
-constexpr qint64 mostSearched = 6 * 1024 * 1024;
+constexpr qint64 mostSearched = 6LL * 1024 * 1024;
 
 // The first address in the title's element, between quotation marks of either kind.
 QString linkOf(const QString &titleElement)
