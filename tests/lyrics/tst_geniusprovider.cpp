@@ -306,6 +306,7 @@ void tst_GeniusProvider::asksForTheSearchAndThenForTheSong()
              sitePage(QStringLiteral("genius"), QStringLiteral("newer.html")));
     const SiteAnswer found = rig.search<GeniusProvider>(QStringLiteral("Tin Lanterns feat. Moth"),
                                                         QStringLiteral("Harbour Lights (Official)"));
+    QCOMPARE(GeniusProvider(rig.manager()).siteUrl(), rig.server().base() + QLatin1Char('/'));
     QCOMPARE(found.lyrics, newerLyrics());
     const SiteAnswer missing = rig.search<GeniusProvider>(QStringLiteral("AC/DC"), QStringLiteral("50% + C&A да"));
     QVERIFY(missing.lyrics.isEmpty() && missing.errorString.isEmpty());
