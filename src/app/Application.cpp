@@ -46,20 +46,20 @@ Application::Application(int &argc, char **argv)
     : QApplication(argc, argv)
     , m_instance(lockFile())
 {
-    if (m_instance.isHolder())
-        m_settingsMending = mendSettingsFile(settingsFile());
+    readSettings(); // mended first of all: every look at the settings reads the file
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     m_mainModel.setSupportedExtensions(supportedExtensions());
     m_folderScanner.setTypes(supportedExtensions());
     setNames();
     m_settings.load();
+    m_settings.setHolder(m_instance.isHolder());
     createSearch();
     connectModels();
     proxyChanged();
     connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
     connect(&m_settings, &Settings::proxyChanged, this, &Application::proxyChanged);
     connect(&m_settings, &Settings::providersOrderChanged, &m_search, &LyricsSearch::setProvidersOrder);
-    if (!isOtherInstanceRunning() && m_settings.saveFilesList())
+    if (m_settings.keepsFilesList())
         restoreFilesList();
     onPaletteChanged(palette());
     connect(this, &QGuiApplication::paletteChanged, this, &Application::onPaletteChanged);
@@ -67,7 +67,19 @@ Application::Application(int &argc, char **argv)
 
 Application::~Application()
 {
+    // The coordinator goes before the model, which would be left with a pointer to it.
     m_mainModel.setSearch(nullptr);
+}
+
+void Application::readSettings()
+{
+    const QFileInfo file(settingsFile());
+    const SettingsFileAccess access = m_instance.isHolder() ? SettingsFileAccess::Mend : SettingsFileAccess::Look;
+    m_settingsMending = mendSettingsFile(file.filePath(), access);
+    if (!m_settingsMending.standIn)
+        return;
+    m_standIn = std::make_unique<SettingsStandIn>(file.dir().dirName(), file.fileName(), *m_settingsMending.standIn);
+    m_settingsStored = false;
 }
 
 void Application::setNames()
@@ -80,7 +92,10 @@ void Application::setNames()
 
 QString Application::settingsFile()
 {
-    return QSettings(organisation, program).fileName();
+    // By the name of a neighbour that is never there: QSettings reads its file as soon as it is made, and the settings
+    // may be damaged, or a FIFO that never answers.
+    const QFileInfo neighbour(QSettings(organisation, program + QLatin1String(" place")).fileName());
+    return neighbour.path() + QLatin1Char('/') + program + QLatin1Char('.') + neighbour.suffix();
 }
 
 void Application::createSearch()
@@ -167,8 +182,8 @@ void Application::noteStart()
     const QString lastVersion = storedValue(QSettings(), SettingsKey::FirstStart).toString();
     SettingsChange change;
     change.set(SettingsKey::FirstStart, applicationVersion());
-    change.commit();
-    if (!storedValue(QSettings(), SettingsKey::OpenQuillmarshSite).toBool() || lastVersion == applicationVersion())
+    m_settingsStored = change.commit();
+    if (!flagOf(storedValue(QSettings(), SettingsKey::OpenQuillmarshSite)) || lastVersion == applicationVersion())
         return;
     openMakerPage(lastVersion.isEmpty() ? QStringLiteral("/versewell/welcome.html")
                                         : QStringLiteral("/versewell/update.html"));

@@ -9,6 +9,7 @@
 #include "network/AccessManager.h"
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
+#include "settings/SettingsStandIn.h"
 #include "ui/AppPalette.h"
 
 #include <QApplication>
@@ -34,16 +35,20 @@ public:
     enum OSType { OS_Mac, OS_Windows, OS_Linux, OS_Unknown };
     Q_ENUM(OSType)
 
-    // A damaged settings file is kept aside and mended, the settings are loaded and, when no other instance runs, the
-    // saved list of files is restored.
+    // A damaged settings file is kept aside and mended, the settings are loaded and the saved list of files is
+    // restored; where this program does not hold the lock, nothing is mended and no list restored.
     Application(int &argc, char **argv);
     ~Application() override;
 
     // The settings file of this user; can be asked before there is an application object.
     [[nodiscard]] static QString settingsFile();
 
-    // What was found of damage in the settings file at the start; to be told to the user.
+    // What was found wrong with the settings file at the start; to be told to the user.
     [[nodiscard]] SettingsMending settingsMending() const { return m_settingsMending; }
+
+    // Whether the settings could be stored when that was last tried; false when this run cannot store any. To be told
+    // to the user.
+    [[nodiscard]] bool areSettingsStored() const { return m_settingsStored; }
 
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
     [[nodiscard]] static OSType osType();
@@ -88,6 +93,7 @@ public slots:
 
 private:
     static void setNames();
+    void readSettings();
     void createSearch();
     void connectModels();
     void restoreFilesList();
@@ -98,6 +104,8 @@ private:
 
     SingleInstance m_instance;
     SettingsMending m_settingsMending;
+    std::unique_ptr<SettingsStandIn> m_standIn; // where the settings file must not be read
+    bool m_settingsStored = true;
     MainModel m_mainModel;
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;

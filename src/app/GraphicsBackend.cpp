@@ -23,7 +23,8 @@ void chooseGraphicsBackend()
 {
     if (!qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE"))
         return;
-    switch (storedValue(QSettings(), SettingsKey::OpenGlMethod).toInt()) {
+    switch (
+        numberOf(storedValue(QSettings(), SettingsKey::OpenGlMethod), Automatic, DesktopOpenGl).value_or(Software)) {
     case Automatic:
         break;
     case OpenGlEs:

@@ -38,14 +38,12 @@ class Reader
 {
 public:
     [[nodiscard]] QString text(SettingsKey key, const QString &current) const { return value(key, current).toString(); }
-    [[nodiscard]] bool flag(SettingsKey key, bool current) const { return value(key, current).toBool(); }
-    [[nodiscard]] int number(SettingsKey key, int current) const { return value(key, current).toInt(); }
+    [[nodiscard]] bool flag(SettingsKey key, bool current) const { return flagOf(value(key, current)); }
 
-    // `current` also stands when what is stored is out of range.
+    // `current` also stands when what is stored is no number or out of range.
     [[nodiscard]] int number(SettingsKey key, int current, int smallest, int largest) const
     {
-        const int stored = number(key, current);
-        return stored >= smallest && stored <= largest ? stored : current;
+        return numberOf(value(key, current), smallest, largest).value_or(current);
     }
 
     [[nodiscard]] QString secret(SettingsKey key, const QString &current) const
@@ -96,7 +94,8 @@ void Settings::load()
     const Reader stored;
     m_lyricsFontSize = stored.number(SettingsKey::LyricsFontSize, m_lyricsFontSize, smallestFontSize, largestFontSize);
     m_language = stored.text(SettingsKey::Language, m_language);
-    m_proxy.type = stored.number(SettingsKey::ProxyType, m_proxy.type);
+    m_proxy.type = stored.number(SettingsKey::ProxyType, m_proxy.type, std::numeric_limits<int>::min(),
+                                 std::numeric_limits<int>::max());
     m_proxy.address = stored.text(SettingsKey::ProxyAddress, m_proxy.address);
     m_proxy.port = static_cast<quint16>(stored.number(SettingsKey::ProxyPort, m_proxy.port, 0, largestPort));
     m_proxy.authentication = stored.flag(SettingsKey::ProxyAuthentication, m_proxy.authentication);
@@ -112,20 +111,25 @@ void Settings::load()
 bool Settings::save() const
 {
     SettingsChange change;
-    change.set(SettingsKey::LyricsFontSize, m_lyricsFontSize);
-    change.set(SettingsKey::Language, m_language);
-    change.set(SettingsKey::ProxyType, m_proxy.type);
-    change.set(SettingsKey::ProxyAddress, m_proxy.address);
-    change.set(SettingsKey::ProxyPort, static_cast<int>(m_proxy.port));
-    change.set(SettingsKey::ProxyAuthentication, m_proxy.authentication);
-    change.set(SettingsKey::ProxyUsername, enciphered(m_proxy.username));
-    change.set(SettingsKey::ProxyPassword, enciphered(m_proxy.password));
-    change.set(SettingsKey::SaveFilesList, m_saveFilesList);
-    change.set(SettingsKey::SearchProvider, m_searchProvider);
-    change.set(SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);
-    change.set(SettingsKey::PrependNewLine, m_prependNewLine);
-    change.set(SettingsKey::ProvidersOrder, m_providersOrder);
+    addTo(&change);
     return change.commit();
+}
+
+void Settings::addTo(SettingsChange *change) const
+{
+    change->set(SettingsKey::LyricsFontSize, m_lyricsFontSize);
+    change->set(SettingsKey::Language, m_language);
+    change->set(SettingsKey::ProxyType, m_proxy.type);
+    change->set(SettingsKey::ProxyAddress, m_proxy.address);
+    change->set(SettingsKey::ProxyPort, static_cast<int>(m_proxy.port));
+    change->set(SettingsKey::ProxyAuthentication, m_proxy.authentication);
+    change->set(SettingsKey::ProxyUsername, enciphered(m_proxy.username));
+    change->set(SettingsKey::ProxyPassword, enciphered(m_proxy.password));
+    change->set(SettingsKey::SaveFilesList, m_saveFilesList);
+    change->set(SettingsKey::SearchProvider, m_searchProvider);
+    change->set(SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);
+    change->set(SettingsKey::PrependNewLine, m_prependNewLine);
+    change->set(SettingsKey::ProvidersOrder, m_providersOrder);
 }
 
 void Settings::setLyricsFontSize(int pointSize)

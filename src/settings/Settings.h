@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QString>
 
+class SettingsChange;
+
 // The user's preferences while the program runs.
 //
 // Loaded once at the start and saved when the main window goes; in between this object is the only current copy. Every
@@ -64,6 +66,13 @@ public:
     // Writes every key to the store. False, after a warning in the log, when the store cannot be written; it is then as
     // it was before.
     bool save() const;
+    // Adds every key to what is stored together with it.
+    void addTo(SettingsChange *change) const;
+
+    // Whether this run may store the list of files: it is wanted, and no other program works on these settings. The
+    // second is so unless it is said otherwise.
+    [[nodiscard]] bool keepsFilesList() const { return m_saveFilesList && m_isHolder; }
+    void setHolder(bool isHolder) { m_isHolder = isHolder; }
 
 signals:
     // The font size, the language or the proxy changed.
@@ -102,4 +111,5 @@ private:
     bool m_generateLyricsFileAuto;
     bool m_prependNewLine;
     QString m_providersOrder;
+    bool m_isHolder = true;
 };

@@ -24,9 +24,10 @@ QString storePath()
     return target.isEmpty() ? path : target;
 }
 
+// By its permissions, which count for root as well.
 bool isWritable(const QFileInfo &file)
 {
-    return !file.exists() || (file.isFile() && file.isWritable());
+    return !file.exists() || (file.isFile() && file.isWritable() && file.permission(QFile::WriteUser));
 }
 
 // Makes a copy of the old file, for its entries that do not change; nothing when there is none.
@@ -45,7 +46,7 @@ bool copyInto(QTemporaryFile *copy, const QString &path)
 bool isWhole(const QByteArray &content, int entries)
 {
     const SettingsFileCheck check = checkSettingsFile(content);
-    return !check.damaged && check.entries == entries;
+    return check.clean && check.entries == entries;
 }
 
 bool syncAndRename(QFile *file, const QString &path)

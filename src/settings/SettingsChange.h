@@ -17,7 +17,7 @@ public:
     void set(SettingsKey key, const QVariant &value) { m_values.append({key, value}); }
 
     // Writes to the default store. False, after a warning in the log, when that fails; the file is then as it was. A
-    // file that is read-only stays as it is.
+    // file that is read-only stays as it is, also for root.
     bool commit() const;
 
 private:

@@ -18,7 +18,7 @@ namespace {
 constexpr qint64 largestFileBytes = 64LL * 1024 * 1024;
 constexpr int mostCopies = 99;
 
-enum class LineKind { Skipped, Group, Entry, Damaged };
+enum class LineKind { Skipped, Dropped, Group, Entry, Damaged };
 
 bool isKeyCharacter(char c)
 {
@@ -114,6 +114,8 @@ LineKind kindOf(const QByteArray &rawLine)
         return LineKind::Damaged;
     if (line.isEmpty() || line.startsWith(';'))
         return LineKind::Skipped;
+    if (line.startsWith('#')) // a comment in other formats; the store would take it for an entry
+        return LineKind::Dropped;
     if (line.startsWith('['))
         return isGroup(line) ? LineKind::Group : LineKind::Damaged;
     return isEntry(line) ? LineKind::Entry : LineKind::Damaged;
@@ -172,13 +174,29 @@ bool replaceContent(const QString &path, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
 }
 
+void mendContent(SettingsMending *mending, const QString &path, const QByteArray &content, SettingsFileAccess access)
+{
+    const SettingsFileCheck check = checkSettingsFile(content);
+    if (check.clean)
+        return;
+    mending->damaged = check.damaged;
+    const bool mayMend = access == SettingsFileAccess::Mend;
+    if (check.damaged && mayMend)
+        mending->copy = keepCopy(path, content);
+    // Where entries are lost, the file is the only place that has them until there is a copy.
+    const bool mayReplace = mayMend && (!check.damaged || !mending->copy.isEmpty());
+    if (mayReplace && replaceContent(path, check.readable))
+        return;
+    qCWarning(settingsLog, "The settings file is damaged and cannot be mended.");
+    mending->standIn = check.readable;
+}
+
 } // namespace
 
 SettingsFileCheck checkSettingsFile(const QByteArray &content)
 {
     static const QByteArray byteOrderMark("\xef\xbb\xbf");
     SettingsFileCheck check;
-    check.damaged = content.startsWith(byteOrderMark) || (!content.isEmpty() && !content.endsWith('\n'));
     bool isGroupReadable = true;
     int start = content.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
     while (start < content.size()) {
@@ -193,33 +211,35 @@ SettingsFileCheck checkSettingsFile(const QByteArray &content)
             isGroupReadable = false;
         if (kind == LineKind::Damaged || (kind == LineKind::Entry && !isGroupReadable))
             check.damaged = true;
-        else
+        else if (kind != LineKind::Dropped)
             check.readable += line + '\n';
         if (kind == LineKind::Entry && isGroupReadable)
             ++check.entries;
     }
+    check.clean = check.readable == content;
     return check;
 }
 
-SettingsMending mendSettingsFile(const QString &path)
+SettingsMending mendSettingsFile(const QString &path, SettingsFileAccess access)
 {
+    const QFileInfo info(path);
+    if (!info.exists())
+        return {};
+    SettingsMending mending;
     QFile file(path);
-    if (!QFileInfo(path).isFile())
-        return {};
-    if (file.size() > largestFileBytes) {
-        qCWarning(settingsLog, "The settings file is too large to be one; it is moved aside.");
-        return {true, moveAside(path)};
+    // Only a regular file is opened: a FIFO would never answer.
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCWarning(settingsLog, "The settings file cannot be read.");
+        mending.unreadable = true;
+        mending.standIn = QByteArray();
+    } else if (file.size() > largestFileBytes) {
+        qCWarning(settingsLog, "The settings file is too large to be one.");
+        mending.damaged = true;
+        mending.copy = access == SettingsFileAccess::Mend ? moveAside(path) : QString();
+        if (mending.copy.isEmpty())
+            mending.standIn = QByteArray();
+    } else {
+        mendContent(&mending, path, file.readAll(), access);
     }
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QByteArray content = file.readAll();
-    const SettingsFileCheck check = checkSettingsFile(content);
-    if (!check.damaged)
-        return {};
-    const SettingsMending mending{true, keepCopy(path, content)};
-    if (mending.copy.isEmpty())
-        qCWarning(settingsLog, "The settings file is damaged, and no copy of it can be made.");
-    else if (!replaceContent(path, check.readable))
-        qCWarning(settingsLog, "The settings file is damaged and cannot be mended; a copy of it is kept.");
     return mending;
 }

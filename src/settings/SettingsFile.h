@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 // Keeps a damaged settings file from doing harm: the damage is found, kept aside and taken out before anything is read.
 //
 // The format is the one in which QSettings writes on this platform: "[group]" and "key=value" lines, one entry a line.
@@ -12,24 +14,34 @@
 
 struct SettingsFileCheck
 {
-    bool damaged = false;
-    QByteArray readable; // the lines that are whole; all of them when nothing is damaged
-    int entries = 0;     // how many "key=value" lines are in that
+    bool damaged = false; // something was lost
+    bool clean = true;    // what is readable is all there is, to the byte
+    QByteArray readable;  // the lines that are whole
+    int entries = 0;      // how many "key=value" lines are in that
 };
 
-// Damage is: a line that is neither a group, an entry, a blank nor a comment after ";"; control characters; a quote or
-// an escape that does not end; entries under a broken group line; a last line without its end, which is kept when it is
-// whole; a byte order mark; and values of types that the program never stores, as Qt builds some of
-// them ("@Variant") without bounds: a few bytes are enough to end the program. No content at all is not damage.
+// Damage is: a line that is neither a group, an entry, a blank nor a comment; control characters; a quote or an escape
+// that does not end; entries under a broken group line; and values of types that the program never stores, as Qt builds
+// some of them ("@Variant") without bounds: a few bytes are enough to end the program. A byte order mark, a comment
+// after "#" and a last line without its end are no damage, but the store cannot do with them: they are not clean.
 [[nodiscard]] SettingsFileCheck checkSettingsFile(const QByteArray &content);
+
+enum class SettingsFileAccess {
+    Mend, // for the only instance of the program
+    Look  // changes nothing on the disk
+};
 
 struct SettingsMending
 {
-    bool damaged = false;
-    QString copy; // path of the damaged file as it was; empty when no copy could be made
+    bool damaged = false;    // something in the file was lost
+    bool unreadable = false; // there is something in the file's place, but no file, or none that may be read
+    QString copy;            // path of the damaged file as it was; empty when no copy was made
+    // What is to be read in this run instead of the file, which must not be read; nothing is to be stored then, as it
+    // would take the file's place. Without a value, the file is good.
+    std::optional<QByteArray> standIn;
 };
 
 // Copies a damaged file to "<path>.bad", or to "<path>.bad.2" and so on when that is taken by another content, and then
 // leaves only what can be read in the file. Without a copy the file stays as it is. A file that is larger than any
-// settings can be is moved aside unread. For the only instance of the program, before anything is read or written.
-SettingsMending mendSettingsFile(const QString &path);
+// settings can be is moved aside unread; what is no regular file is never opened. Before anything is read or written.
+[[nodiscard]] SettingsMending mendSettingsFile(const QString &path, SettingsFileAccess access);

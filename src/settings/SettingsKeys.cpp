@@ -10,6 +10,9 @@
 
 namespace {
 
+constexpr int smallestListWidth = 100;
+constexpr int largestListWidth = 10000;
+
 struct Row
 {
     SettingsKey key;
@@ -39,7 +42,8 @@ constexpr std::array<Row, 25> table{{
     {SettingsKey::ProvidersOrder, "providersOrder", QMetaType::QString, "",
      "order of the lyrics sites, and which are off; empty: the built-in order"},
     {SettingsKey::Geometry, "geometry", QMetaType::QByteArray, nullptr, "place and size of the main window"},
-    {SettingsKey::ListWidth, "listWidth", QMetaType::Int, nullptr, "width of the list of files"},
+    {SettingsKey::ListWidth, "listWidth", QMetaType::Int, nullptr,
+     "width of the list of files in pixels, 100 to 10000"},
     {SettingsKey::FilesList, "filesList", QMetaType::QStringList, "",
      "addresses of the listed files in row order; absolute paths are read too"},
     {SettingsKey::LastFileDir, "lastFileDir", QMetaType::QString, "/", "folder from which files were added last"},
@@ -101,6 +105,26 @@ QVariant keyDefault(SettingsKey key)
 QVariant storedValue(const QSettings &store, SettingsKey key)
 {
     return store.value(keyName(key), keyDefault(key));
+}
+
+bool flagOf(const QVariant &stored)
+{
+    const QString text = stored.toString();
+    return text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0 || text == QLatin1String("1");
+}
+
+std::optional<int> numberOf(const QVariant &stored, int smallest, int largest)
+{
+    bool isNumber = false;
+    const qlonglong number = stored.toLongLong(&isNumber);
+    if (!isNumber || number < smallest || number > largest)
+        return {};
+    return static_cast<int>(number);
+}
+
+std::optional<int> storedListWidth(const QSettings &store)
+{
+    return numberOf(storedValue(store, SettingsKey::ListWidth), smallestListWidth, largestListWidth);
 }
 
 QVector<SettingsKeyRow> settingsKeyTable()

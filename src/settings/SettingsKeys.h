@@ -6,6 +6,8 @@
 #include <QVariant>
 #include <QVector>
 
+#include <optional>
+
 class QSettings;
 
 // The one table of what the program keeps in its settings file: name, type, default and meaning of every key. Whoever
@@ -48,6 +50,17 @@ enum class SettingsKey {
 
 // What is stored, or the default. A stored value comes as the store has it, often as a text: convert it.
 [[nodiscard]] QVariant storedValue(const QSettings &store, SettingsKey key);
+
+// A stored flag: on for "true" and 1, in any case; off for any other value. The conversion of QVariant turns every text
+// on but "false" and "0".
+[[nodiscard]] bool flagOf(const QVariant &stored);
+
+// A stored whole number within the bounds, which are included; nothing for any other value. The conversion of QVariant
+// wraps numbers that are too large.
+[[nodiscard]] std::optional<int> numberOf(const QVariant &stored, int smallest, int largest);
+
+// Width of the list of files in pixels; nothing when none is stored, or none that a window can have.
+[[nodiscard]] std::optional<int> storedListWidth(const QSettings &store);
 
 struct SettingsKeyRow
 {

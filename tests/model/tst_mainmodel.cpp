@@ -94,381 +94,365 @@ class tst_MainModel : public QObject
 
 private slots:
     void initTestCase() { qRegisterMetaType<ModelItem::ProcessState>("ModelItem::ProcessState"); }
-    void onlyRegularLocalFilesAreAddedAndEachOnce();
-    void dropsAreSortedIntoFilesAndFolders();
-    void songsGoTheirWayThroughTheStates();
-    void lyricsAreDecodedAndWritten_data();
-    void lyricsAreDecodedAndWritten();
-    void aFailedWriteKeepsTheLyricsAndSaysWhy();
-    void theLastOfTwoWritesCounts();
-    void songsWithoutLyricsAreNotExported();
-    void anOvertakenReadComesBackWithAForcedSearch();
-    void removingTheSongThatIsReadLetsTheOthersBeRead();
-    void tenSearchesAtATime();
-    void anUnsuitableSongDoesNotStopTheOthers();
-    void rowsCanBeRemoved_data();
-    void rowsCanBeRemoved();
-    void anIdIsNotGivenAgainWhileItIsSearchedFor();
-    void idsWrapAndRunOut();
-    void filesAreShownInTheFileManager_data();
-    void filesAreShownInTheFileManager();
-};
-
-void tst_MainModel::onlyRegularLocalFilesAreAddedAndEachOnce()
-{
-    Stage stage;
-    const QUrl first = stage.song(QStringLiteral("#1 100%41\n.mp3"));
-    const QUrl second = stage.song(QStringLiteral("b.mp3"));
-    QSignalSpy inserted(&stage.model, &MainModel::rowsInserted);
-    QSignalSpy counts(&stage.model, &MainModel::activeCountChanged);
-    stage.model.add({first, QUrl::fromLocalFile(stage.folder.path()), QUrl(), QUrl(QStringLiteral("http://h/b.mp3")),
-                     QUrl::fromLocalFile(stage.folder.filePath(QStringLiteral("gone.mp3"))), second, first});
-    stage.model.addUrls({second});
-    QCOMPARE(stage.model.urls(), (QList<QUrl>{first, second}));
-    QCOMPARE(inserted.count(), 1);
-    QCOMPARE(counts.count(), 1);
-    QCOMPARE(stage.model.itemAt(0)->id(), quint16(1));
-    QCOMPARE(stage.model.itemAt(1)->id(), quint16(2));
-    QCOMPARE(stage.state(1), ModelItem::ProcessWaiting);
-    QCOMPARE(stage.model.data(stage.model.index(1), MainModel::fileThumbnailRole).toString(), QString());
-    QTRY_COMPARE(stage.model.data(stage.model.index(1), MainModel::fileThumbnailRole).toString(),
-                 QStringLiteral("image://file-cover/2"));
-    QCOMPARE(stage.model.data(stage.model.index(0), MainModel::filenameRole).toString(),
-             QStringLiteral("#1 100%41\n.mp3"));
-}
-
-void tst_MainModel::dropsAreSortedIntoFilesAndFolders()
-{
-    Stage stage;
-    QCOMPARE(stage.model.supportedTypesMask(QStringLiteral(" ")), QStringLiteral("*.ogg *.mp3"));
-    const QUrl loud = stage.song(QStringLiteral("SONG.MP3"));
-    const QUrl backup = stage.song(QStringLiteral("song.mp3.bak"));
-    const QUrl folder = QUrl::fromLocalFile(stage.folder.path());
-    QSignalSpy scans(&stage.model, &MainModel::scanFolders);
-    stage.model.addUrlsFromDrop({backup, loud, folder, QUrl(QStringLiteral("http://h/c.mp3"))});
-    QCOMPARE(stage.model.urls(), QList<QUrl>{loud});
-    QCOMPARE(scans.count(), 1);
-    QCOMPARE(scans.at(0).at(0).value<QList<QUrl>>(), QList<QUrl>{folder});
-}
-
-void tst_MainModel::songsGoTheirWayThroughTheStates()
-{
-    Stage stage({{QStringLiteral("Found"), QStringLiteral("la la")}});
-    QSignalSpy searches(&stage.model, &MainModel::searchStarted);
-    stage.model.add({stage.song(QStringLiteral("A - Found.mp3")), stage.song(QStringLiteral("A - Unknown.mp3")),
-                     stage.song(QStringLiteral("A - fail.mp3")), stage.song(QStringLiteral("track07.mp3")),
-                     stage.song(QStringLiteral("has.mp3"), "lyrics.mp3")});
-    QCOMPARE(stage.model.activeCount(), 5);
-    QTRY_VERIFY(stage.isSettled() && stage.state(0) == ModelItem::ProcessComplete);
-    QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la la"));
-    QCOMPARE(stage.model.itemAt(0)->lyricsTitle(), QStringLiteral("Found"));
-    QCOMPARE(stage.state(1), ModelItem::ProcessComplete);
-    QCOMPARE(stage.model.itemAt(1)->errorString(), QString());
-    QCOMPARE(stage.state(2), ModelItem::ProcessComplete);
-    QCOMPARE(stage.model.itemAt(2)->errorString(), QStringLiteral("the site is down"));
-    QCOMPARE(stage.state(3), ModelItem::ProcessNotSuitable);
-    QCOMPARE(stage.state(4), ModelItem::ProcessComplete);
-    QVERIFY(stage.model.itemAt(4)->lyricsEmbedded());
-    QCOMPARE(searches.count(), 3);
-    QCOMPARE(searches.at(0), (QVariantList{QStringLiteral("A"), QStringLiteral("Found")}));
-}
-
-void tst_MainModel::lyricsAreDecodedAndWritten_data()
-{
-    QTest::addColumn<bool>("prependNewLine");
-    QTest::addColumn<QString>("found");
-    QTest::addColumn<QString>("stored");
-    QTest::newRow("as they are") << false << "la\nla"
-                                 << "la\nla";
-    QTest::newRow("character references become characters")
-        << false << "rock &amp; r&#111;ll &#x44f;" << QStringLiteral("rock & roll я");
-    QTest::newRow("with a line break in front") << true << "la"
-                                                << "\r\nla";
-}
-
-void tst_MainModel::lyricsAreDecodedAndWritten()
-{
-    QFETCH(bool, prependNewLine);
-    QFETCH(QString, found);
-    QFETCH(QString, stored);
-    Stage stage({{QStringLiteral("Song"), found}});
-    stage.settings.setPrependNewLine(prependNewLine);
-    stage.settings.setGenerateLyricsFileAuto(true);
-    const QUrl url = stage.song(QStringLiteral("A - Song.m4a"), "plain.m4a");
-    stage.model.setAutoStart(false);
-    stage.model.add({url});
-    QTRY_VERIFY(stage.isLoaded(0));
-    QCOMPARE(stage.state(0), ModelItem::ProcessIdle);
-    stage.model.itemAt(0)->setTitleTag(QStringLiteral("Song"));
-    QVERIFY(stage.model.startSearch(1));
-    QTRY_VERIFY(stage.isSettled() && stage.state(0) == ModelItem::ProcessComplete);
-    QCOMPARE(stage.model.itemAt(0)->lyricsTag(), stored);
-    MediaFileTags tags;
-    QVERIFY(tags.read(url.toLocalFile()));
-    QCOMPARE(tags.value(QStringLiteral("lyrics")), stored);
-    QCOMPARE(tags.value(QStringLiteral("title")), QStringLiteral("Song"));
-    QFile text(stage.folder.filePath(QStringLiteral("A - Song.txt")));
-    QVERIFY(text.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(text.readAll()), stored);
-}
-
-void tst_MainModel::aFailedWriteKeepsTheLyricsAndSaysWhy()
-{
-    Stage stage({{QStringLiteral("Song"), QStringLiteral("la")}});
-    const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
-    stage.model.setAutoStart(false);
-    stage.model.add({url});
-    QTRY_VERIFY(stage.isLoaded(0));
-    QVERIFY(QFile::remove(url.toLocalFile()));
-    QSignalSpy states(stage.model.itemAt(0), &ModelItem::processStateChanged);
-    QVERIFY(stage.model.startSearch(1));
-    QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete);
-    QVERIFY(!stage.model.itemAt(0)->errorString().isEmpty());
-    QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la"));
-    QVERIFY(!QFile::exists(url.toLocalFile()));
-    QCOMPARE(states.count(), 4);
-    QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
-}
-
-void tst_MainModel::theLastOfTwoWritesCounts()
-{
-    Stage stage;
-    stage.model.setAutoStart(false);
-    const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
-    stage.model.add({url});
-    QTRY_VERIFY(stage.isLoaded(0));
-    ModelItem *item = stage.model.itemAt(0);
-    QSignalSpy states(item, &ModelItem::processStateChanged);
-    const auto write = [&](const QString &lyrics) {
-        item->setEditedLyricsTag(lyrics);
-        QVERIFY(stage.model.writeTags(1));
-        QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(30)));
-    };
-    const QString elsewhere = stage.folder.filePath(QStringLiteral("elsewhere"));
-    QVERIFY(QFile::rename(url.toLocalFile(), elsewhere));
-    write(QStringLiteral("first"));
-    QVERIFY(QFile::rename(elsewhere, url.toLocalFile()));
-    write(QStringLiteral("second"));
-    QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete); // the model hears of both only now
-    QCOMPARE(states.count(), 2);
-    QCOMPARE(item->errorString(), QString());
-    MediaFileTags tags;
-    QVERIFY(tags.read(url.toLocalFile()));
-    QCOMPARE(tags.value(QStringLiteral("lyrics")), QStringLiteral("second"));
-}
-
-void tst_MainModel::songsWithoutLyricsAreNotExported()
-{
-    Stage stage;
-    stage.model.setAutoStart(false);
-    stage.model.add({stage.song(QStringLiteral("A - Song.mp3"), "lyrics.mp3")});
-    QFile notes(stage.folder.filePath(QStringLiteral("A - Song.txt")));
-    QVERIFY(notes.open(QIODevice::ReadWrite) && notes.write("my own notes") > 0 && notes.flush());
-    QVERIFY(!stage.model.generateLyricsFile(1)); // not read yet
-    QTRY_VERIFY(stage.isLoaded(0));
-    stage.model.itemAt(0)->setEditedLyricsTag(QString());
-    QVERIFY(!stage.model.generateLyricsFile(1));
-    QVERIFY(notes.seek(0));
-    QCOMPARE(notes.readAll(), QByteArray("my own notes"));
-}
-
-void tst_MainModel::anOvertakenReadComesBackWithAForcedSearch()
-{
-    Stage stage;
-    stage.model.add({stage.song(QStringLiteral("named in its tags.mp3"), "plain-v23.mp3")});
-    stage.model.add(stage.songs(3)); // overtakes the read of the first
-    stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
-    for (int row = 1; row < 5; ++row)
-        QTRY_VERIFY(stage.isLoaded(row));
-    QTRY_COMPARE(stage.model.activeCount(), 1);
-    QVERIFY(!stage.isLoaded(0));
-    stage.model.add({stage.song(QStringLiteral("A - later.mp3"))});
-    QVERIFY(stage.model.startSearch(1)); // while another read is under way
-    QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(5));
-    QTRY_COMPARE(stage.model.activeCount(), 0);
-    QCOMPARE(stage.state(0), ModelItem::ProcessComplete);
-}
-
-void tst_MainModel::removingTheSongThatIsReadLetsTheOthersBeRead()
-{
-    Stage stage;
-    stage.model.add(stage.songs(4));
-    stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
-    QVERIFY(stage.model.removeRows(1, 1)); // is read
-    QVERIFY(stage.model.removeRows(0, 1)); // was overtaken
-    for (int row = 0; row < 3; ++row)
-        QTRY_VERIFY(stage.isLoaded(row));
-    QTRY_COMPARE(stage.model.activeCount(), 0);
-}
-
-void tst_MainModel::tenSearchesAtATime()
-{
-    Stage stage;
-    stage.model.setAutoStart(false);
-    stage.model.add(stage.songs(25));
-    QTRY_VERIFY(stage.isLoaded(24));
-    QSignalSpy started(&stage.model, &MainModel::searchStarted);
-    for (quint16 id = 25; id > 0; --id)
-        QVERIFY(stage.model.startSearch(id));
-    QCOMPARE(stage.model.searchCount(), 10);
-    QCOMPARE(stage.model.activeCount(), 25);
-    // Those that were asked for first have started; from then on it goes by row.
-    int most = 0;
-    connect(&stage.model, &MainModel::searchCountChanged, this, [&most](int count) { most = std::max(most, count); });
-    QTRY_COMPARE(stage.model.activeCount(), 0);
-    QCOMPARE(most, 10);
-    QCOMPARE(started.count(), 25);
-    QCOMPARE(started.at(10).at(1).toString(), QStringLiteral("S000"));
-    QCOMPARE(started.at(24).at(1).toString(), QStringLiteral("S014"));
-}
-
-void tst_MainModel::anUnsuitableSongDoesNotStopTheOthers()
-{
-    Stage stage;
-    stage.model.setAutoStart(false);
-    stage.model.add(
-        {stage.song(QStringLiteral("first.mp3"), "plain-v23.mp3"), stage.song(QStringLiteral("A - S.mp3"))});
-    QTRY_VERIFY(stage.isLoaded(1));
-    ModelItem *first = stage.model.itemAt(0);
-    first->setArtistTag(QString());
-    first->setProcessState(ModelItem::ProcessWaiting);
-    QVERIFY(stage.model.startSearch(2));
-    QCOMPARE(stage.state(0), ModelItem::ProcessNotSuitable);
-    QCOMPARE(stage.state(1), ModelItem::ProcessWorking);
-    QVERIFY(!stage.model.startSearch(1));
-}
-
-void tst_MainModel::rowsCanBeRemoved_data()
-{
-    QTest::addColumn<QVector<int>>("rows");
-    QVector<int> odd;
-    QVector<int> all;
-    for (int row = 0; row < 200; ++row) {
-        all.append(row);
-        if (row % 2)
-            odd.append(row);
+    void onlyRegularLocalFilesAreAddedAndEachOnce()
+    {
+        Stage stage;
+        const QUrl first = stage.song(QStringLiteral("#1 100%41\n.mp3"));
+        const QUrl second = stage.song(QStringLiteral("b.mp3"));
+        QSignalSpy inserted(&stage.model, &MainModel::rowsInserted);
+        QSignalSpy counts(&stage.model, &MainModel::activeCountChanged);
+        stage.model.add({first, QUrl::fromLocalFile(stage.folder.path()), QUrl(),
+                         QUrl(QStringLiteral("http://h/b.mp3")),
+                         QUrl::fromLocalFile(stage.folder.filePath(QStringLiteral("gone.mp3"))), second, first});
+        stage.model.addUrls({second});
+        QCOMPARE(stage.model.urls(), (QList<QUrl>{first, second}));
+        QCOMPARE(inserted.count(), 1);
+        QCOMPARE(counts.count(), 1);
+        QCOMPARE(stage.model.itemAt(0)->id(), quint16(1));
+        QCOMPARE(stage.model.itemAt(1)->id(), quint16(2));
+        QCOMPARE(stage.state(1), ModelItem::ProcessWaiting);
+        QCOMPARE(stage.model.data(stage.model.index(1), MainModel::fileThumbnailRole).toString(), QString());
+        QTRY_COMPARE(stage.model.data(stage.model.index(1), MainModel::fileThumbnailRole).toString(),
+                     QStringLiteral("image://file-cover/2"));
+        QCOMPARE(stage.model.data(stage.model.index(0), MainModel::filenameRole).toString(),
+                 QStringLiteral("#1 100%41\n.mp3"));
     }
-    QTest::newRow("none") << QVector<int>{};
-    QTest::newRow("first, last and a few between") << QVector<int>{0, 3, 4, 5, 100, 199};
-    QTest::newRow("so many ranges that it is one reset") << odd;
-    QTest::newRow("all") << all;
-}
 
-void tst_MainModel::rowsCanBeRemoved()
-{
-    QFETCH(QVector<int>, rows);
-    Stage stage;
-    QList<QUrl> expected = stage.songs(200);
-    stage.model.add(expected);
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-        expected.removeAt(*row);
-    const QPointer<ModelItem> removed = rows.isEmpty() ? nullptr : stage.model.itemAt(rows.first());
-    stage.model.removeScattered(rows);
-    QCOMPARE(stage.model.urls(), expected);
-    QCOMPARE(stage.model.activeCount(), expected.size());
-    QTRY_VERIFY(!removed);
-    for (int row = 0; row < expected.size(); ++row)
-        QTRY_VERIFY(stage.isLoaded(row));
-    // The row of an item is found by its id after all that.
-    QSignalSpy changes(&stage.model, &MainModel::dataChanged);
-    if (!expected.isEmpty()) {
-        stage.model.itemAt(expected.size() - 1)->setErrorString(QStringLiteral("e"));
-        QCOMPARE(changes.last().at(0).toModelIndex().row(), expected.size() - 1);
+    void dropsAreSortedIntoFilesAndFolders()
+    {
+        Stage stage;
+        QCOMPARE(stage.model.supportedTypesMask(QStringLiteral(" ")), QStringLiteral("*.ogg *.mp3"));
+        const QUrl loud = stage.song(QStringLiteral("SONG.MP3"));
+        const QUrl backup = stage.song(QStringLiteral("song.mp3.bak"));
+        const QUrl folder = QUrl::fromLocalFile(stage.folder.path());
+        QSignalSpy scans(&stage.model, &MainModel::scanFolders);
+        stage.model.addUrlsFromDrop({backup, loud, folder, QUrl(QStringLiteral("http://h/c.mp3"))});
+        QCOMPARE(stage.model.urls(), QList<QUrl>{loud});
+        QCOMPARE(scans.count(), 1);
+        QCOMPARE(scans.at(0).at(0).value<QList<QUrl>>(), QList<QUrl>{folder});
     }
-    stage.model.removeAll();
-    QCOMPARE(stage.model.rowCount(), 0);
-    QCOMPARE(stage.model.activeCount(), 0);
-}
 
-void tst_MainModel::anIdIsNotGivenAgainWhileItIsSearchedFor()
-{
-    Stage stage;
-    const QList<QUrl> songs = stage.songs(2);
-    stage.model.setAutoStart(false);
-    stage.model.add(songs.mid(0, 1));
-    QTRY_VERIFY(stage.isLoaded(0));
-    QVERIFY(stage.model.startSearch(1));
-    stage.model.removeAll();
-    QCOMPARE(stage.model.searchCount(), 1);
-    // Round the whole circle of ids, to where id 1 would be next.
-    for (int i = 0; i < 65535; ++i) { // the event loop does not run, so the search stays in flight
-        stage.model.add(songs.mid(1, 1));
-        stage.model.removeAll();
+    void songsGoTheirWayThroughTheStates()
+    {
+        Stage stage({{QStringLiteral("Found"), QStringLiteral("la la")}});
+        QSignalSpy searches(&stage.model, &MainModel::searchStarted);
+        stage.model.add({stage.song(QStringLiteral("A - Found.mp3")), stage.song(QStringLiteral("A - Unknown.mp3")),
+                         stage.song(QStringLiteral("A - fail.mp3")), stage.song(QStringLiteral("track07.mp3")),
+                         stage.song(QStringLiteral("has.mp3"), "lyrics.mp3")});
+        QCOMPARE(stage.model.activeCount(), 5);
+        QTRY_VERIFY(stage.isSettled() && stage.state(0) == ModelItem::ProcessComplete);
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la la"));
+        QCOMPARE(stage.model.itemAt(0)->lyricsTitle(), QStringLiteral("Found"));
+        QCOMPARE(stage.state(1), ModelItem::ProcessComplete);
+        QCOMPARE(stage.model.itemAt(1)->errorString(), QString());
+        QCOMPARE(stage.state(2), ModelItem::ProcessComplete);
+        QCOMPARE(stage.model.itemAt(2)->errorString(), QStringLiteral("the site is down"));
+        QCOMPARE(stage.state(3), ModelItem::ProcessNotSuitable);
+        QCOMPARE(stage.state(4), ModelItem::ProcessComplete);
+        QVERIFY(stage.model.itemAt(4)->lyricsEmbedded());
+        QCOMPARE(searches.count(), 3);
+        QCOMPARE(searches.at(0), (QVariantList{QStringLiteral("A"), QStringLiteral("Found")}));
     }
-    stage.model.add(songs.mid(1, 1));
-    QCOMPARE(stage.model.itemAt(0)->id(), quint16(2));
-    QTRY_COMPARE(stage.model.searchCount(), 0); // its end finds no item, and does no harm
-}
 
-void tst_MainModel::idsWrapAndRunOut()
-{
-    Stage songs;
-    const QUrl file = songs.song(QStringLiteral("a.mp3"));
-    const auto variants = [&file](int first, int count) {
-        QList<QUrl> urls;
-        for (int i = first; i < first + count; ++i) {
-            QUrl url = file;
-            url.setQuery(QString::number(i));
-            urls.append(url);
+    void lyricsAreDecodedAndWritten_data()
+    {
+        QTest::addColumn<bool>("prependNewLine");
+        QTest::addColumn<QString>("found");
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("as they are") << false << "la\nla"
+                                     << "la\nla";
+        QTest::newRow("character references become characters")
+            << false << "rock &amp; r&#111;ll &#x44f;" << QStringLiteral("rock & roll я");
+        QTest::newRow("with a line break in front") << true << "la"
+                                                    << "\r\nla";
+    }
+
+    void lyricsAreDecodedAndWritten()
+    {
+        QFETCH(bool, prependNewLine);
+        QFETCH(QString, found);
+        QFETCH(QString, stored);
+        Stage stage({{QStringLiteral("Song"), found}});
+        stage.settings.setPrependNewLine(prependNewLine);
+        stage.settings.setGenerateLyricsFileAuto(true);
+        const QUrl url = stage.song(QStringLiteral("A - Song.m4a"), "plain.m4a");
+        stage.model.setAutoStart(false);
+        stage.model.add({url});
+        QTRY_VERIFY(stage.isLoaded(0));
+        QCOMPARE(stage.state(0), ModelItem::ProcessIdle);
+        stage.model.itemAt(0)->setTitleTag(QStringLiteral("Song"));
+        QVERIFY(stage.model.startSearch(1));
+        QTRY_VERIFY(stage.isSettled() && stage.state(0) == ModelItem::ProcessComplete);
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), stored);
+        MediaFileTags tags;
+        QVERIFY(tags.read(url.toLocalFile()));
+        QCOMPARE(tags.value(QStringLiteral("lyrics")), stored);
+        QCOMPARE(tags.value(QStringLiteral("title")), QStringLiteral("Song"));
+        QFile text(stage.folder.filePath(QStringLiteral("A - Song.txt")));
+        QVERIFY(text.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(text.readAll()), stored);
+    }
+
+    void aFailedWriteKeepsTheLyricsAndSaysWhy()
+    {
+        Stage stage({{QStringLiteral("Song"), QStringLiteral("la")}});
+        const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
+        stage.model.setAutoStart(false);
+        stage.model.add({url});
+        QTRY_VERIFY(stage.isLoaded(0));
+        QVERIFY(QFile::remove(url.toLocalFile()));
+        QSignalSpy states(stage.model.itemAt(0), &ModelItem::processStateChanged);
+        QVERIFY(stage.model.startSearch(1));
+        QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete);
+        QVERIFY(!stage.model.itemAt(0)->errorString().isEmpty());
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la"));
+        QVERIFY(!QFile::exists(url.toLocalFile()));
+        QCOMPARE(states.count(), 4);
+        QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
+    }
+
+    void theLastOfTwoWritesCounts()
+    {
+        Stage stage;
+        stage.model.setAutoStart(false);
+        const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
+        stage.model.add({url});
+        QTRY_VERIFY(stage.isLoaded(0));
+        ModelItem *item = stage.model.itemAt(0);
+        QSignalSpy states(item, &ModelItem::processStateChanged);
+        const auto write = [&](const QString &lyrics) {
+            item->setEditedLyricsTag(lyrics);
+            QVERIFY(stage.model.writeTags(1));
+            QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(30)));
+        };
+        const QString elsewhere = stage.folder.filePath(QStringLiteral("elsewhere"));
+        QVERIFY(QFile::rename(url.toLocalFile(), elsewhere));
+        write(QStringLiteral("first"));
+        QVERIFY(QFile::rename(elsewhere, url.toLocalFile()));
+        write(QStringLiteral("second"));
+        QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete); // the model hears of both only now
+        QCOMPARE(states.count(), 2);
+        QCOMPARE(item->errorString(), QString());
+        MediaFileTags tags;
+        QVERIFY(tags.read(url.toLocalFile()));
+        QCOMPARE(tags.value(QStringLiteral("lyrics")), QStringLiteral("second"));
+    }
+
+    void songsWithoutLyricsAreNotExported()
+    {
+        Stage stage;
+        stage.model.setAutoStart(false);
+        stage.model.add({stage.song(QStringLiteral("A - Song.mp3"), "lyrics.mp3")});
+        QFile notes(stage.folder.filePath(QStringLiteral("A - Song.txt")));
+        QVERIFY(notes.open(QIODevice::ReadWrite) && notes.write("my own notes") > 0 && notes.flush());
+        QVERIFY(!stage.model.generateLyricsFile(1)); // not read yet
+        QTRY_VERIFY(stage.isLoaded(0));
+        stage.model.itemAt(0)->setEditedLyricsTag(QString());
+        QVERIFY(!stage.model.generateLyricsFile(1));
+        QVERIFY(notes.seek(0));
+        QCOMPARE(notes.readAll(), QByteArray("my own notes"));
+    }
+
+    void anOvertakenReadComesBackWithAForcedSearch()
+    {
+        Stage stage;
+        stage.model.add({stage.song(QStringLiteral("named in its tags.mp3"), "plain-v23.mp3")});
+        stage.model.add(stage.songs(3)); // overtakes the read of the first
+        stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
+        for (int row = 1; row < 5; ++row)
+            QTRY_VERIFY(stage.isLoaded(row));
+        QTRY_COMPARE(stage.model.activeCount(), 1);
+        QVERIFY(!stage.isLoaded(0));
+        stage.model.add({stage.song(QStringLiteral("A - later.mp3"))});
+        QVERIFY(stage.model.startSearch(1)); // while another read is under way
+        QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(5));
+        QTRY_COMPARE(stage.model.activeCount(), 0);
+        QCOMPARE(stage.state(0), ModelItem::ProcessComplete);
+    }
+
+    void removingTheSongThatIsReadLetsTheOthersBeRead()
+    {
+        Stage stage;
+        stage.model.add(stage.songs(4));
+        stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
+        QVERIFY(stage.model.removeRows(1, 1)); // is read
+        QVERIFY(stage.model.removeRows(0, 1)); // was overtaken
+        for (int row = 0; row < 3; ++row)
+            QTRY_VERIFY(stage.isLoaded(row));
+        QTRY_COMPARE(stage.model.activeCount(), 0);
+    }
+
+    void tenSearchesAtATime()
+    {
+        Stage stage;
+        stage.model.setAutoStart(false);
+        stage.model.add(stage.songs(25));
+        QTRY_VERIFY(stage.isLoaded(24));
+        QSignalSpy started(&stage.model, &MainModel::searchStarted);
+        for (quint16 id = 25; id > 0; --id)
+            QVERIFY(stage.model.startSearch(id));
+        QCOMPARE(stage.model.searchCount(), 10);
+        QCOMPARE(stage.model.activeCount(), 25);
+        // Those that were asked for first have started; from then on it goes by row.
+        int most = 0;
+        connect(&stage.model, &MainModel::searchCountChanged, this,
+                [&most](int count) { most = std::max(most, count); });
+        QTRY_COMPARE(stage.model.activeCount(), 0);
+        QCOMPARE(most, 10);
+        QCOMPARE(started.count(), 25);
+        QCOMPARE(started.at(10).at(1).toString(), QStringLiteral("S000"));
+        QCOMPARE(started.at(24).at(1).toString(), QStringLiteral("S014"));
+    }
+
+    void anUnsuitableSongDoesNotStopTheOthers()
+    {
+        Stage stage;
+        stage.model.setAutoStart(false);
+        stage.model.add(
+            {stage.song(QStringLiteral("first.mp3"), "plain-v23.mp3"), stage.song(QStringLiteral("A - S.mp3"))});
+        QTRY_VERIFY(stage.isLoaded(1));
+        ModelItem *first = stage.model.itemAt(0);
+        first->setArtistTag(QString());
+        first->setProcessState(ModelItem::ProcessWaiting);
+        QVERIFY(stage.model.startSearch(2));
+        QCOMPARE(stage.state(0), ModelItem::ProcessNotSuitable);
+        QCOMPARE(stage.state(1), ModelItem::ProcessWorking);
+        QVERIFY(!stage.model.startSearch(1));
+    }
+
+    void rowsCanBeRemoved_data()
+    {
+        QTest::addColumn<QVector<int>>("rows");
+        QVector<int> odd;
+        QVector<int> all;
+        for (int row = 0; row < 200; ++row) {
+            all.append(row);
+            if (row % 2)
+                odd.append(row);
         }
-        return urls;
-    };
-    MainModel model;
-    QSignalSpy leftOut(&model, &MainModel::filesLeftOut);
-    model.add(variants(0, 65000));
-    model.add(variants(65000, 540));
-    QCOMPARE(model.rowCount(), 65536);
-    QCOMPARE(model.itemAt(65534)->id(), quint16(65535));
-    QCOMPARE(model.itemAt(65535)->id(), quint16(0));
-    QCOMPARE(leftOut.count(), 1);
-    QCOMPARE(leftOut.at(0).at(0).toInt(), 4);
-    QVERIFY(model.removeRows(777, 1));
-    model.add(variants(70000, 2));
-    QCOMPARE(model.itemAt(65535)->id(), quint16(778));
-    QCOMPARE(leftOut.at(1).at(0).toInt(), 1);
-}
+        QTest::newRow("none") << QVector<int>{};
+        QTest::newRow("first, last and a few between") << QVector<int>{0, 3, 4, 5, 100, 199};
+        QTest::newRow("so many ranges that it is one reset") << odd;
+        QTest::newRow("all") << all;
+    }
 
-void tst_MainModel::filesAreShownInTheFileManager_data()
-{
-    QTest::addColumn<QByteArray>("nautilus");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("nautilus has it") << QByteArray("exit 0") << QStringList{QStringLiteral("nautilus a b.mp3")};
-    QTest::newRow("nautilus fails") << QByteArray("exit 3")
-                                    << QStringList{QStringLiteral("nautilus a b.mp3"),
-                                                   QStringLiteral("xdg-open music")};
-    QTest::newRow("nautilus crashes") << QByteArray("kill -9 $$")
-                                      << QStringList{QStringLiteral("nautilus a b.mp3"),
-                                                     QStringLiteral("xdg-open music")};
-    QTest::newRow("there is no nautilus") << QByteArray() << QStringList{QStringLiteral("xdg-open music")};
-}
+    void rowsCanBeRemoved()
+    {
+        QFETCH(QVector<int>, rows);
+        Stage stage;
+        QList<QUrl> expected = stage.songs(200);
+        stage.model.add(expected);
+        for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+            expected.removeAt(*row);
+        const QPointer<ModelItem> removed = rows.isEmpty() ? nullptr : stage.model.itemAt(rows.first());
+        stage.model.removeScattered(rows);
+        QCOMPARE(stage.model.urls(), expected);
+        QCOMPARE(stage.model.activeCount(), expected.size());
+        QTRY_VERIFY(!removed);
+        for (int row = 0; row < expected.size(); ++row)
+            QTRY_VERIFY(stage.isLoaded(row));
+        // The row of an item is found by its id after all that.
+        QSignalSpy changes(&stage.model, &MainModel::dataChanged);
+        if (!expected.isEmpty()) {
+            stage.model.itemAt(expected.size() - 1)->setErrorString(QStringLiteral("e"));
+            QCOMPARE(changes.last().at(0).toModelIndex().row(), expected.size() - 1);
+        }
+        stage.model.removeAll();
+        QCOMPARE(stage.model.rowCount(), 0);
+        QCOMPARE(stage.model.activeCount(), 0);
+    }
 
-void tst_MainModel::filesAreShownInTheFileManager()
-{
-    QFETCH(QByteArray, nautilus);
-    Stage stage;
-    const QString log = stage.folder.filePath(QStringLiteral("log"));
-    const auto install = [&](const QString &name, const QByteArray &end) {
-        QFile program(stage.folder.filePath(name));
-        QVERIFY(program.open(QIODevice::WriteOnly));
-        program.write("#!/bin/sh\necho \"" + name.toUtf8() + " ${1##*/}\" >> '" + log.toUtf8() + "'\n" + end + "\n");
-        program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    };
-    if (!nautilus.isEmpty())
-        install(QStringLiteral("nautilus"), nautilus);
-    install(QStringLiteral("xdg-open"), "exit 0");
-    QVERIFY(QDir(stage.folder.path()).mkdir(QStringLiteral("music")));
-    stage.model.add({stage.song(QStringLiteral("music/a b.mp3"))});
+    void anIdIsNotGivenAgainWhileItIsSearchedFor()
+    {
+        Stage stage;
+        const QList<QUrl> songs = stage.songs(2);
+        stage.model.setAutoStart(false);
+        stage.model.add(songs.mid(0, 1));
+        QTRY_VERIFY(stage.isLoaded(0));
+        QVERIFY(stage.model.startSearch(1));
+        stage.model.removeAll();
+        QCOMPARE(stage.model.searchCount(), 1);
+        // Round the whole circle of ids, to where id 1 would be next.
+        for (int i = 0; i < 65535; ++i) { // the event loop does not run, so the search stays in flight
+            stage.model.add(songs.mid(1, 1));
+            stage.model.removeAll();
+        }
+        stage.model.add(songs.mid(1, 1));
+        QCOMPARE(stage.model.itemAt(0)->id(), quint16(2));
+        QTRY_COMPARE(stage.model.searchCount(), 0); // its end finds no item, and does no harm
+    }
 
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", QFile::encodeName(stage.folder.path()));
-    stage.model.locate(0);
-    stage.model.locate(1);
-    stage.model.locate(-1);
-    qputenv("PATH", path);
-    QFile lines(log);
-    QVERIFY(lines.open(QIODevice::ReadOnly));
-    QTEST(QString::fromUtf8(lines.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts), "expected");
-}
+    void idsWrapAndRunOut()
+    {
+        Stage songs;
+        const QUrl file = songs.song(QStringLiteral("a.mp3"));
+        const auto variants = [&file](int first, int count) {
+            QList<QUrl> urls;
+            for (int i = first; i < first + count; ++i) {
+                QUrl url = file;
+                url.setQuery(QString::number(i));
+                urls.append(url);
+            }
+            return urls;
+        };
+        MainModel model;
+        QSignalSpy leftOut(&model, &MainModel::filesLeftOut);
+        model.add(variants(0, 65000));
+        model.add(variants(65000, 540));
+        QCOMPARE(model.rowCount(), 65536);
+        QCOMPARE(model.itemAt(65534)->id(), quint16(65535));
+        QCOMPARE(model.itemAt(65535)->id(), quint16(0));
+        QCOMPARE(leftOut.count(), 1);
+        QCOMPARE(leftOut.at(0).at(0).toInt(), 4);
+        QVERIFY(model.removeRows(777, 1));
+        model.add(variants(70000, 2));
+        QCOMPARE(model.itemAt(65535)->id(), quint16(778));
+        QCOMPARE(leftOut.at(1).at(0).toInt(), 1);
+    }
+
+    void filesAreShownInTheFileManager_data()
+    {
+        QTest::addColumn<QByteArray>("nautilus");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("nautilus has it") << QByteArray("exit 0") << QStringList{QStringLiteral("nautilus a b.mp3")};
+        QTest::newRow("nautilus fails") << QByteArray("exit 3")
+                                        << QStringList{QStringLiteral("nautilus a b.mp3"),
+                                                       QStringLiteral("xdg-open music")};
+        QTest::newRow("nautilus crashes")
+            << QByteArray("kill -9 $$")
+            << QStringList{QStringLiteral("nautilus a b.mp3"), QStringLiteral("xdg-open music")};
+        QTest::newRow("there is no nautilus") << QByteArray() << QStringList{QStringLiteral("xdg-open music")};
+    }
+
+    void filesAreShownInTheFileManager()
+    {
+        QFETCH(QByteArray, nautilus);
+        Stage stage;
+        const QString log = stage.folder.filePath(QStringLiteral("log"));
+        const auto install = [&](const QString &name, const QByteArray &end) {
+            QFile program(stage.folder.filePath(name));
+            QVERIFY(program.open(QIODevice::WriteOnly));
+            program.write("#!/bin/sh\necho \"" + name.toUtf8() + " ${1##*/}\" >> '" + log.toUtf8() + "'\n" + end +
+                          "\n");
+            program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        };
+        if (!nautilus.isEmpty())
+            install(QStringLiteral("nautilus"), nautilus);
+        install(QStringLiteral("xdg-open"), "exit 0");
+        QVERIFY(QDir(stage.folder.path()).mkdir(QStringLiteral("music")));
+        stage.model.add({stage.song(QStringLiteral("music/a b.mp3"))});
+
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(stage.folder.path()));
+        stage.model.locate(0);
+        stage.model.locate(1);
+        stage.model.locate(-1);
+        qputenv("PATH", path);
+        QFile lines(log);
+        QVERIFY(lines.open(QIODevice::ReadOnly));
+        QTEST(QString::fromUtf8(lines.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts), "expected");
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_MainModel)
 #include "tst_mainmodel.moc"

@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsFile.h"
 
+#include "support/TestFolder.h"
+
+#include <QDir>
 #include <QFile>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
 const QByteArray good("[General]\nlanguage=de\nlyricsFontSize=20\n\n[proxy]\ntype=1\n");
+const QByteArray bad(good + "oops\n");
+const char *const cannotBeMended = "The settings file is damaged and cannot be mended.";
 
-void write(const QString &path, const QByteArray &content)
+SettingsMending mend(const QString &path)
 {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    return mendSettingsFile(path, SettingsFileAccess::Mend);
 }
 
 } // namespace
@@ -29,183 +28,171 @@ class tst_SettingsFile : public QObject
     Q_OBJECT
 
 private slots:
-    void damageIsFoundAndTakenOut_data();
-    void damageIsFoundAndTakenOut();
-    void whatTheStoreWritesIsNoDamage();
-    void everyCutIsSurvived();
-    void aDamagedFileIsKeptAside();
-    void whatCannotBeMendedIsLeftAlone();
-    void aFileOfImpossibleSizeIsMovedAside();
-};
-
-// "silent": the store itself reads this without a word, and keeps what it made of it.
-void tst_SettingsFile::damageIsFoundAndTakenOut_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("damaged");
-    QTest::addColumn<bool>("silent");
-    QTest::addColumn<QByteArray>("readable");
-    const QByteArray general("[General]\n");
-    const QByteArray size("lyricsFontSize=20\n");
-    const auto row = [](const char *name, const QByteArray &content, bool silent, const QByteArray &readable) {
-        QTest::newRow(name) << content << true << silent << readable;
-    };
-    const auto wholeRow = [](const char *name, const QByteArray &content) {
-        QTest::newRow(name) << content << false << true << content;
-    };
-    wholeRow("nothing", "");
-    wholeRow("a good file", good);
-    wholeRow("a comment, blanks, a key before any group", "; a = \"note\n\n lyricsFontSize = 20 ; points\n");
-    wholeRow("an escaped quote, a list, a longer at sign", "[a%20b]\nx\\y=\"a\\\", b\", @@Variant(1), c@Variant(\n");
-    QTest::newRow("line ends of another system") << QByteArray("[General]\r\nlyricsFontSize=20\r\n") << false << true
-                                                 << QByteArray("[General]\r\nlyricsFontSize=20\r\n");
-
-    row("cut in a value", general + size + "language=d", true, general + size + "language=d\n");
-    row("cut in a key", general + size + "langu", false, general + size);
-    row("cut in a group", general + size + "[pro", false, general + size);
-    row("cut in a quote", general + size + "filesList=\"file:///a", true, general + size);
-    row("cut in an escape", general + size + "language=a\\", true, general + size);
-    row("entries of a broken group", general + size + "[pro\ntype=1\n[updater]\nperiod=5\n", false,
-        general + size + "[updater]\nperiod=5\n");
-    row("text after a group", "[proxy]x\ntype=1\n" + general + size, true, general + size);
-    row("a group without a name", "[]\ntype=1\n" + general + size, true, general + size);
-    row("nothing but NULs", QByteArray(4096, '\0'), false, "");
-    row("a NUL in a value", general + QByteArray("language=d\0e\n", 13) + size, true, general + size);
-    row("NULs at the end", general + size + QByteArray(512, '\0'), false, general + size);
-    row("a control character in a key", general + "lang\x01=de\n" + size, true, general + size);
-    row("an open quote", general + "language=\"de\n" + size, true, general + size);
-    row("no equals sign", general + "hello\n" + size, false, general + size);
-    row("no key", general + "=5\n" + size, true, general + size);
-    row("a comment of another kind", general + "# hello\n" + size, false, general + size);
-    row("a byte order mark", "\xef\xbb\xbf" + general + size, false, general + size);
-    row("two bytes a letter", QByteArray("\xff\xfe[\0a\0]\0\n\0b\0=\0c\0\n\0", 18), false, "");
-    row("a web page", "<!DOCTYPE html>\n<a href=\"x\">y</a>\n<p>\n", false, "");
-    row("a picture", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR=\xff\xfe", 19), false, "");
-    row("such types in disguise",
-        general +
-            "a=\\x40Variant(\\0)\nb=\\x10040Variant(\nc=1, \"\\100Variant(\"\nd=\\q@Variant(\ne=@Va\\x72iant(\n"
-            "f=\\x@Variant(\ng=\"\"@Variant(\n" +
-            size,
-        true, general + size);
-    row("types that are never stored", general + "a=@Variant(\\0\\0)\nb=1, \"@DateTime(\\0)\"\n" + size, true,
-        general + size);
-}
-
-void tst_SettingsFile::damageIsFoundAndTakenOut()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, damaged);
-    QFETCH(bool, silent);
-    QFETCH(QByteArray, readable);
-    const SettingsFileCheck check = checkSettingsFile(content);
-    QCOMPARE(check.damaged, damaged);
-    QCOMPARE(check.readable, readable);
-    QVERIFY2(!checkSettingsFile(readable).damaged, "what is left is damaged again");
-
-    const QTemporaryDir folder;
-    const auto isSilent = [&folder](const QByteArray &text) {
-        const QString path = folder.filePath(QString::number(text.size()) + QLatin1String(".conf"));
-        write(path, text);
-        const QSettings store(path, QSettings::NativeFormat);
-        return store.allKeys().size() >= 0 && store.status() == QSettings::NoError;
-    };
-    QCOMPARE(isSilent(content), silent);
-    QVERIFY(isSilent(readable));
-}
-
-void tst_SettingsFile::whatTheStoreWritesIsNoDamage()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("store.conf"));
-    QByteArray bytes;
-    QString letters;
-    for (int i = 0; i < 512; ++i) {
-        bytes.append(static_cast<char>(i));
-        letters.append(QChar(i));
-    }
-    QStringList list;
-    for (int i = 0; i < letters.size(); ++i)
-        list.append(letters.mid(i, 3));
+    void damageIsFoundAndTakenOut_data()
     {
-        QSettings store(path, QSettings::NativeFormat);
-        store.setValue(QStringLiteral("geometry"), bytes);
-        store.setValue(QStringLiteral("letters"), letters);
-        store.setValue(QStringLiteral("list"), list);
-        store.setValue(QStringLiteral("empty list"), QStringList());
-        store.setValue(QStringLiteral("signs"), QStringLiteral("@Variant(x), @Invalid() \"@DateTime("));
-        store.setValue(letters.mid(1) + QStringLiteral("/[x]=;ключ"), QStringLiteral("\\ "));
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QByteArray>("readable");
+        QTest::addColumn<bool>("damaged");
+        const QByteArray general("[General]\n");
+        const QByteArray size("lyricsFontSize=20\n");
+        const auto row = [](const char *name, const QByteArray &content, const QByteArray &readable) {
+            QTest::newRow(name) << content << readable << true;
+        };
+        const auto wholeRow = [](const char *name, const QByteArray &content) {
+            QTest::newRow(name) << content << content << false;
+        };
+        const auto untidyRow = [](const char *name, const QByteArray &content, const QByteArray &readable) {
+            QTest::newRow(name) << content << readable << false;
+        };
+        wholeRow("nothing", "");
+        wholeRow("a comment, blanks, a key before any group", "; a = \"note\n\n lyricsFontSize = 20 ; points\n");
+        wholeRow("an escaped quote, a list, a longer at sign",
+                 "[a%20b]\nx\\y=\"a\\\", b\", @@Variant(1), c@Variant(\n");
+        wholeRow("line ends of another system", "[General]\r\nlyricsFontSize=20\r\n");
+
+        untidyRow("a last line without its end", general + size + "language=d", general + size + "language=d\n");
+        untidyRow("a comment of another kind", general + "# hello\n#language=fr\n" + size, general + size);
+        untidyRow("a byte order mark", "\xef\xbb\xbf" + general + size, general + size);
+
+        row("cut in a quote", general + size + "filesList=\"file:///a", general + size);
+        row("cut in an escape", general + size + "language=a\\", general + size);
+        row("entries of a broken group", general + size + "[pro\ntype=1\n[updater]\nperiod=5\n",
+            general + size + "[updater]\nperiod=5\n");
+        row("text after a group", "[proxy]x\ntype=1\n" + general + size, general + size);
+        row("a group without a name", "[]\ntype=1\n" + general + size, general + size);
+        row("a NUL in a value", general + QByteArray("language=d\0e\n", 13) + size, general + size);
+        row("a control character in a key", general + "lang\x01=de\n" + size, general + size);
+        row("an open quote", general + "language=\"de\n" + size, general + size);
+        row("neither key nor equals sign", general + "hello\n=5\n" + size, general + size);
+        row("two bytes a letter", QByteArray("\xff\xfe[\0a\0]\0\n\0b\0=\0c\0\n\0", 18), "");
+        row("types that are never stored, also in disguise",
+            general +
+                "a=@Variant(\\0\\0)\nb=1, \"@DateTime(\\0)\"\na=\\x40Variant(\\0)\nb=\\x10040Variant(\n"
+                "c=1, \"\\100Variant(\"\nd=\\q@Variant(\ne=@Va\\x72iant(\nf=\\x@Variant(\ng=\"\"@Variant(\n" +
+                size,
+            general + size);
     }
-    const QByteArray content = contentOf(path);
-    QVERIFY(content.size() > 1000);
-    const SettingsFileCheck check = checkSettingsFile(content);
-    QVERIFY2(!check.damaged && check.readable == content, content.constData());
-}
 
-void tst_SettingsFile::everyCutIsSurvived()
-{
-    for (int length = 1; length < good.size(); ++length) {
-        const SettingsFileCheck check = checkSettingsFile(good.left(length));
-        QCOMPARE(check.damaged, good.at(length - 1) != '\n');
-        const int lastWhole = good.lastIndexOf('\n', length - 1) + 1;
-        QVERIFY(check.readable.startsWith(good.left(lastWhole)));
+    void damageIsFoundAndTakenOut()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, readable);
+        const SettingsFileCheck check = checkSettingsFile(content);
+        QTEST(check.damaged, "damaged");
+        QCOMPARE(check.readable, readable);
+        QCOMPARE(check.clean, content == readable);
+        QVERIFY2(checkSettingsFile(readable).clean, "what is left is to be mended again");
+        const TestFolder folder;
+        const QSettings store(folder.write(QStringLiteral("a.conf"), readable), QSettings::NativeFormat);
+        QCOMPARE(store.allKeys().size(), check.entries);
+        QCOMPARE(store.status(), QSettings::NoError);
     }
-}
 
-void tst_SettingsFile::aDamagedFileIsKeptAside()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.conf"));
-    const QString first = path + QLatin1String(".bad");
-    const QString second = path + QLatin1String(".bad.2");
-    QVERIFY(!mendSettingsFile(path).damaged); // there is none
-    write(path, good);
-    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner));
-    QVERIFY(!mendSettingsFile(path).damaged);
-    QCOMPARE(contentOf(path), good);
-
-    const QByteArray bad = good + "oops\n";
-    for (int time = 0; time < 2; ++time) { // the same damage needs no second copy
-        write(path, bad);
-        const SettingsMending mending = mendSettingsFile(path);
-        QVERIFY(mending.damaged);
-        QCOMPARE(mending.copy, first);
-        QCOMPARE(contentOf(path), good);
+    void whatTheStoreWritesIsNoDamage()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("store.conf"));
+        QByteArray bytes;
+        QString letters;
+        for (int i = 0; i < 512; ++i) {
+            bytes.append(static_cast<char>(i));
+            letters.append(QChar(i));
+        }
+        QStringList list;
+        for (int i = 0; i < letters.size(); ++i)
+            list.append(letters.mid(i, 3));
+        {
+            QSettings store(path, QSettings::NativeFormat);
+            store.setValue(QStringLiteral("geometry"), bytes);
+            store.setValue(QStringLiteral("letters"), letters);
+            store.setValue(QStringLiteral("list"), list);
+            store.setValue(QStringLiteral("empty list"), QStringList());
+            store.setValue(QStringLiteral("signs"), QStringLiteral("@Variant(x), @Invalid() \"@DateTime("));
+            store.setValue(letters.mid(1) + QStringLiteral("/[x]=;ключ"), QStringLiteral("\\ "));
+        }
+        const QByteArray content = folder.read(path);
+        QVERIFY(content.size() > 1000);
+        QVERIFY2(checkSettingsFile(content).clean, content.constData());
     }
-    write(path, "other\n");
-    QCOMPARE(mendSettingsFile(path).copy, second);
-    QCOMPARE(contentOf(path), QByteArray());
-    QCOMPARE(contentOf(first), bad);
-    QCOMPARE(contentOf(second), QByteArray("other\n"));
-    QCOMPARE(QFile::permissions(first) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
-    QVERIFY(!mendSettingsFile(path).damaged);
-}
 
-// Where no copy can be made, the damaged file is the only one there is.
-void tst_SettingsFile::whatCannotBeMendedIsLeftAlone()
-{
-    const QTemporaryDir folder;
-    QVERIFY(!mendSettingsFile(folder.path()).damaged);
-    const QString path = folder.filePath(QString(253, QLatin1Char('a'))); // no room for ".bad" in the name
-    const QByteArray bad = good + "oops\n";
-    write(path, bad);
-    QTest::ignoreMessage(QtWarningMsg, "The settings file is damaged, and no copy of it can be made.");
-    const SettingsMending mending = mendSettingsFile(path);
-    QVERIFY(mending.damaged && mending.copy.isEmpty());
-    QCOMPARE(contentOf(path), bad);
-}
+    void everyCutIsNoticed()
+    {
+        for (int length = 1; length < good.size(); ++length) {
+            const SettingsFileCheck check = checkSettingsFile(good.left(length));
+            QCOMPARE(check.clean, good.at(length - 1) == '\n');
+            QVERIFY(check.readable.startsWith(good.left(good.lastIndexOf('\n', length - 1) + 1)));
+        }
+    }
 
-void tst_SettingsFile::aFileOfImpossibleSizeIsMovedAside()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.conf"));
-    write(path, good);
-    constexpr qint64 tooMuch = 1024LL * 1024 * 1024; // a hole, which takes no space
-    QVERIFY(QFile::resize(path, tooMuch));
-    QTest::ignoreMessage(QtWarningMsg, "The settings file is too large to be one; it is moved aside.");
-    QCOMPARE(mendSettingsFile(path).copy, path + QLatin1String(".bad"));
-    QVERIFY(!QFile::exists(path));
-    QCOMPARE(QFile(path + QLatin1String(".bad")).size(), tooMuch);
-}
+    void aDamagedFileIsKeptAside()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("a.conf"));
+        const QString first = path + QLatin1String(".bad");
+        QVERIFY(!mend(path).damaged); // there is none
+        for (const QByteArray &harmless : {good, good + "#\n"}) {
+            QVERIFY(QFile::setPermissions(folder.write(path, harmless), QFile::ReadOwner | QFile::WriteOwner));
+            QVERIFY(!mend(path).damaged);
+            QCOMPARE(folder.read(path), good);
+            QVERIFY(!QFile::exists(first));
+        }
+        for (int time = 0; time < 2; ++time) { // the same damage needs no second copy
+            folder.write(path, bad);
+            const SettingsMending mending = mend(path);
+            QVERIFY(mending.damaged && !mending.standIn);
+            QCOMPARE(mending.copy, first);
+            QCOMPARE(folder.read(path), good);
+        }
+        folder.write(path, "other\n");
+        QCOMPARE(mend(path).copy, first + QLatin1String(".2"));
+        QCOMPARE(folder.read(path), QByteArray());
+        QCOMPARE(folder.read(first), bad);
+        QCOMPARE(folder.read(first + QLatin1String(".2")), QByteArray("other\n"));
+        QCOMPARE(QFile::permissions(first) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    }
+
+    // Where no copy can be made, the damaged file is the only one there is; something else is read.
+    void whatCannotBeMendedIsLeftAlone()
+    {
+        const TestFolder folder;
+        const QString noRoom = folder.write(QString(253, QLatin1Char('a')), bad); // none for ".bad" in the name
+        const QString others = folder.write(QStringLiteral("a.conf"), bad);
+        for (const auto &[path, access] :
+             {std::pair(noRoom, SettingsFileAccess::Mend), std::pair(others, SettingsFileAccess::Look)}) {
+            QTest::ignoreMessage(QtWarningMsg, cannotBeMended);
+            const SettingsMending mending = mendSettingsFile(path, access);
+            QVERIFY(mending.damaged && mending.copy.isEmpty());
+            QCOMPARE(mending.standIn, std::optional<QByteArray>(good));
+            QCOMPARE(folder.read(path), bad);
+        }
+        QCOMPARE(folder.names().size(), 2);
+    }
+
+    void whatIsNoFileIsNotOpened()
+    {
+        const TestFolder folder;
+        const QString pipe = folder.path(QStringLiteral("pipe"));
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0); // would never answer
+        for (const QString &path : {folder.path(), pipe}) {
+            QTest::ignoreMessage(QtWarningMsg, "The settings file cannot be read.");
+            const SettingsMending mending = mend(path);
+            QVERIFY(mending.unreadable && !mending.damaged);
+            QCOMPARE(mending.standIn, std::optional<QByteArray>(QByteArray()));
+        }
+    }
+
+    void aFileOfImpossibleSizeIsMovedAside()
+    {
+        const TestFolder folder;
+        const QString path = folder.write(QStringLiteral("a.conf"), good);
+        constexpr qint64 tooMuch = 1024LL * 1024 * 1024; // a hole, which takes no space
+        QVERIFY(QFile::resize(path, tooMuch));
+        QTest::ignoreMessage(QtWarningMsg, "The settings file is too large to be one.");
+        QCOMPARE(mend(path).copy, path + QLatin1String(".bad"));
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(QFile(path + QLatin1String(".bad")).size(), tooMuch);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_SettingsFile)
 #include "tst_settingsfile.moc"
