@@ -118,7 +118,8 @@ void Application::connectModels()
     m_mainModel.setSettings(&m_settings);
     m_mainModel.setSearch(&m_search);
     m_proxyModel.setSourceModel(&m_mainModel);
-    connect(&m_folderScanner, &FolderScanner::found, &m_mainModel, &MainModel::add);
+    connect(&m_folderScanner, &FolderScanner::found, &m_mainModel,
+            [this](const QList<QUrl> &files) { m_mainModel.add(files, MainModel::IsRegularFile); });
     connect(&m_mainModel, &MainModel::scanFolders, &m_folderScanner, &FolderScanner::addFolders);
     connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
 }
@@ -134,7 +135,7 @@ void Application::restoreFilesList()
             urls.append(url);
     }
     if (!urls.isEmpty())
-        m_mainModel.add(urls);
+        m_mainModel.restore(urls);
 }
 
 Application::OSType Application::osType()

@@ -2,12 +2,15 @@
 #include "model/DelayedFolderScanner.h"
 
 #include <QFile>
-#include <QVector>
 
 #include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <tuple>
+#include <vector>
+
 #include <dirent.h>
 #include <fcntl.h>
-#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,54 +21,40 @@ struct CloseDirectory
     void operator()(DIR *directory) const { closedir(directory); }
 };
 
-// The order in which Qt lists a directory: by name, without regard to case.
-void sortByName(QVector<QByteArray> *names)
-{
-    QVector<std::pair<QString, QByteArray>> keyed;
-    keyed.reserve(names->size());
-    for (const QByteArray &name : qAsConst(*names))
-        keyed.append({QFile::decodeName(name).toLower(), name});
-    std::sort(keyed.begin(), keyed.end());
-    std::transform(keyed.begin(), keyed.end(), names->begin(), [](const auto &entry) { return entry.second; });
-}
-
 QByteArray joined(const QByteArray &folder, const QByteArray &name)
 {
     return folder.endsWith('/') ? folder + name : folder + '/' + name;
 }
 
-// The type that the directory entry tells, looked up on the disk only when it tells none or names a link.
-mode_t typeOf(int directory, const dirent &entry)
+// Whether the path can be opened by those who get it as text.
+bool isUsable(const QByteArray &path)
 {
-    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
-        return DTTOIF(entry.d_type);
-    struct stat status = {};
-    return fstatat(directory, entry.d_name, &status, 0) == 0 ? status.st_mode & S_IFMT : 0;
+    return path.size() < PATH_MAX && QFile::encodeName(QFile::decodeName(path)) == path;
 }
 
 } // namespace
 
-QString FolderScanProgress::lastFile() const
+struct DelayedFolderScanner::Entry
 {
-    const QMutexLocker lock(&m_lastFileMutex);
-    return m_lastFile;
-}
+    QByteArray name;
+    QString sortKey;
+    mode_t type = 0;
+    bool isLink = false;
+    WalkedEntries::Id id;
 
-void FolderScanProgress::noteFile(const QString &name)
-{
-    ++m_count;
-    const QMutexLocker lock(&m_lastFileMutex);
-    m_lastFile = name;
-}
+    // The order in which Qt lists a directory: by name, without regard to case.
+    bool operator<(const Entry &other) const { return std::tie(sortKey, name) < std::tie(other.sortKey, other.name); }
+};
 
 struct DelayedFolderScanner::Listing
 {
-    QVector<QByteArray> files;
-    QVector<QByteArray> folders;
+    std::vector<Entry> files;
+    std::vector<Entry> folders;
 };
 
-DelayedFolderScanner::DelayedFolderScanner(const QString &folder)
+DelayedFolderScanner::DelayedFolderScanner(const QString &folder, std::shared_ptr<WalkedEntries> walked)
     : m_folder(folder)
+    , m_walked(std::move(walked))
 {
 }
 
@@ -94,23 +83,37 @@ QRegularExpression DelayedFolderScanner::namePattern() const
 void DelayedFolderScanner::scan(const QByteArray &folder)
 {
     const Listing listing = list(folder);
-    for (const QByteArray &name : listing.files) {
+    for (const Entry &file : listing.files) {
         if (m_progress->isCancelled())
             return;
-        take(folder, name);
+        if (m_walked->take(file.id, file.isLink))
+            take(folder, file.name);
     }
-    for (const QByteArray &name : listing.folders) {
+    for (const Entry &subfolder : listing.folders) {
         if (m_progress->isCancelled())
             return;
-        scan(joined(folder, name));
+        scan(joined(folder, subfolder.name));
     }
 }
 
-// Whether this directory was not walked before.
-bool DelayedFolderScanner::enter(int directory)
+// The type that the directory entry tells, looked up on the disk only when it tells none or names a link.
+static void lookUp(int directory, const dirent &entry, dev_t device, mode_t *type, WalkedEntries::Id *id)
 {
+    *type = DTTOIF(entry.d_type);
+    *id = {device, entry.d_ino};
+    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
+        return;
     struct stat status = {};
-    return fstat(directory, &status) == 0 && m_walked.insert({status.st_dev, status.st_ino}).second;
+    const bool isThere = fstatat(directory, entry.d_name, &status, 0) == 0;
+    *type = isThere ? status.st_mode & S_IFMT : 0;
+    *id = {status.st_dev, status.st_ino};
+}
+
+bool DelayedFolderScanner::isWanted(const Entry &entry, int directory) const
+{
+    const bool isKind =
+        entry.type == S_IFDIR || (entry.type == S_IFREG && m_pattern.match(QFile::decodeName(entry.name)).hasMatch());
+    return isKind && faccessat(directory, entry.name.constData(), R_OK, AT_EACCESS) == 0;
 }
 
 // Readable files that match the filters, and readable folders, each sorted; nothing when the folder cannot be read.
@@ -118,27 +121,37 @@ DelayedFolderScanner::Listing DelayedFolderScanner::list(const QByteArray &folde
 {
     Listing listing;
     const std::unique_ptr<DIR, CloseDirectory> directory(opendir(folder.constData()));
-    if (!directory || !enter(dirfd(directory.get())))
+    if (!directory && errno == ENAMETOOLONG)
+        m_progress->noteLeftOut();
+    struct stat status = {};
+    if (!directory || fstat(dirfd(directory.get()), &status) != 0 || !m_walked->enter({status.st_dev, status.st_ino}))
         return listing;
     const int handle = dirfd(directory.get());
-    while (const dirent *entry = readdir(directory.get())) {
-        const QByteArray name(entry->d_name);
+    while (const dirent *found = readdir(directory.get())) {
+        Entry entry;
+        entry.name = found->d_name;
         // Hidden entries are left out, "." and ".." among them.
-        if (m_progress->isCancelled() || name.startsWith('.'))
+        if (m_progress->isCancelled() || entry.name.startsWith('.'))
             continue;
-        const mode_t type = typeOf(handle, *entry);
-        const bool isWantedFile = type == S_IFREG && m_pattern.match(QFile::decodeName(name)).hasMatch();
-        if ((!isWantedFile && type != S_IFDIR) || faccessat(handle, entry->d_name, R_OK, AT_EACCESS) != 0)
+        entry.isLink = found->d_type == DT_LNK;
+        lookUp(handle, *found, status.st_dev, &entry.type, &entry.id);
+        if (!isWanted(entry, handle))
             continue;
-        (isWantedFile ? listing.files : listing.folders).append(name);
+        entry.sortKey = QFile::decodeName(entry.name).toLower();
+        (entry.type == S_IFREG ? listing.files : listing.folders).push_back(std::move(entry));
     }
-    sortByName(&listing.files);
-    sortByName(&listing.folders);
+    std::sort(listing.files.begin(), listing.files.end());
+    std::sort(listing.folders.begin(), listing.folders.end());
     return listing;
 }
 
 void DelayedFolderScanner::take(const QByteArray &folder, const QByteArray &name)
 {
-    m_files.append(QUrl::fromLocalFile(QFile::decodeName(joined(folder, name))));
+    const QByteArray path = joined(folder, name);
+    if (!isUsable(path)) {
+        m_progress->noteLeftOut();
+        return;
+    }
+    m_files.append(QUrl::fromLocalFile(QFile::decodeName(path)));
     m_progress->noteFile(QFile::decodeName(name));
 }

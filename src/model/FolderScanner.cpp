@@ -46,7 +46,9 @@ void FolderScanner::scanNext()
 {
     if (m_current || m_folders.isEmpty())
         return;
-    auto *walk = new DelayedFolderScanner(m_folders.first());
+    if (!m_walked)
+        m_walked = std::make_shared<WalkedEntries>();
+    auto *walk = new DelayedFolderScanner(m_folders.first(), m_walked);
     walk->setNameFilters(nameFilters());
     m_current = walk->progress();
     connect(walk, &DelayedFolderScanner::scanned, this, &FolderScanner::scanned, Qt::QueuedConnection);
@@ -65,10 +67,15 @@ void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
     const bool wasCancelled = m_current && m_current->isCancelled();
     if (!files.isEmpty() && !wasCancelled)
         emit found(files);
+    if (const int leftOut = m_current ? m_current->leftOut() : 0; leftOut > 0 && !wasCancelled)
+        emit filesLeftOut(leftOut);
     // Cancelling has emptied the queue: what stands there now was added later and is still to be walked.
     if (!wasCancelled && m_folders.removeOne(folder))
         emit foldersChanged();
     m_current.reset();
+    // What a cancelled walk came past was not reported.
+    if (wasCancelled || m_folders.isEmpty())
+        m_walked.reset();
     if (m_folders.isEmpty())
         emit processingChanged(false);
     else

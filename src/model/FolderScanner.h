@@ -9,6 +9,7 @@
 #include <memory>
 
 class FolderScanProgress;
+class WalkedEntries;
 
 // Turns folders into the audio files in them: keeps a queue of folders and walks one tree at a time on the thread pool.
 //
@@ -35,9 +36,14 @@ public:
     Q_INVOKABLE int lastCount() const;
 
 signals:
+    // True at the start of each walk, false once at the end of the last.
     void processingChanged(bool processing);
     void foldersChanged();
+    // All files of one folder that was added, at the end of its walk and never empty: those of each folder by name,
+    // before those of its subfolders. Their being regular files has been checked.
     void found(const QList<QUrl> &files);
+    // After `found`: so many files of that folder are left out, since their names or paths cannot be used. Never 0.
+    void filesLeftOut(int count);
 
 public slots:
     void addFolders(const QList<QUrl> &folders);
@@ -53,4 +59,5 @@ private:
     QStringList m_types;
     QStringList m_folders;
     std::shared_ptr<FolderScanProgress> m_current; // of the walk under way
+    std::shared_ptr<WalkedEntries> m_walked;       // until the queue is empty
 };

@@ -3,6 +3,7 @@
 
 #include "lyrics/LyricsSearch.h"
 #include "lyrics/LyricsText.h"
+#include "model/DelayedFileCheck.h"
 #include "model/FileManager.h"
 #include "model/LyricsFile.h"
 #include "settings/Settings.h"
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 #include <QQmlEngine>
 #include <QSet>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <limits>
@@ -23,6 +25,8 @@ constexpr int searchLimit = 10;
 constexpr int tagReadLimit = 1;
 // Above this many ranges a removal is one reset: each range costs every view a pass of its own.
 constexpr int mostRangesRemoved = 64;
+// How many known files become rows in one go: some ten milliseconds of work.
+constexpr int insertedAtOnce = 1000;
 // How many identifiers of 16 bits there are.
 constexpr int idCount = std::numeric_limits<quint16>::max() + 1;
 
@@ -34,9 +38,13 @@ MainModel::MainModel(QObject *parent)
     qRegisterMetaType<MediaFileTags>("MediaFileTags");
     qmlRegisterUncreatableType<ModelItem>("com.quillmarsh", 1, 0, "ModelItem", QStringLiteral("nope"));
     connect(&m_tagReader, &MediaInfoExtractor::infoExtracted, this, &MainModel::fileInfoExtracted);
+    connect(&m_insertTimer, &QTimer::timeout, this, &MainModel::insertKnownFiles);
 }
 
-MainModel::~MainModel() = default;
+MainModel::~MainModel()
+{
+    *m_checkCancelled = true;
+}
 
 void MainModel::setSearch(LyricsSearch *search)
 {
@@ -126,7 +134,7 @@ QList<QUrl> MainModel::urls() const
     urls.reserve(m_items.count());
     for (int row = 0; row < m_items.count(); ++row)
         urls.append(m_items.itemAt(row)->url());
-    return urls;
+    return urls + m_knownFiles + m_unchecked;
 }
 
 // Adding
@@ -164,31 +172,76 @@ void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
         emit scanFolders(folders);
 }
 
-void MainModel::add(const QList<QUrl> &urls)
+void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)
 {
-    const QList<QUrl> files = newFiles(urls);
+    if (knowledge == IsRegularFile) {
+        m_knownFiles += urls;
+        if (!m_insertTimer.isActive())
+            insertKnownFiles();
+        return;
+    }
+    QList<QUrl> files = newUrls(urls);
+    files.erase(
+        std::remove_if(files.begin(), files.end(), [](const QUrl &url) { return !DelayedFileCheck::isFile(url); }),
+        files.end());
+    insertFiles(files, true);
+}
+
+// One block of them.
+void MainModel::insertKnownFiles()
+{
+    const bool isFirstBlock = !m_insertTimer.isActive();
+    const QList<QUrl> block = m_knownFiles.mid(0, insertedAtOnce);
+    m_knownFiles.erase(m_knownFiles.begin(), m_knownFiles.begin() + block.size());
+    const bool areMoreLeft = !m_knownFiles.isEmpty();
+    if (areMoreLeft != m_insertTimer.isActive())
+        areMoreLeft ? m_insertTimer.start() : m_insertTimer.stop();
+    // A read under way asks for the next one by itself; a request for each block would only overtake it.
+    insertFiles(newUrls(block), isFirstBlock || m_currentRead == noRead);
+}
+
+void MainModel::restore(const QList<QUrl> &urls)
+{
+    m_unchecked = urls;
+    auto *check = new DelayedFileCheck(urls);
+    m_checkCancelled = check->cancelled();
+    connect(check, &DelayedFileCheck::checked, this, &MainModel::filesChecked, Qt::QueuedConnection);
+    QThreadPool::globalInstance()->start(check);
+}
+
+void MainModel::filesChecked(int count, const QList<QUrl> &files)
+{
+    m_unchecked.erase(m_unchecked.begin(), m_unchecked.begin() + count);
+    add(files, IsRegularFile);
+}
+
+void MainModel::insertFiles(const QList<QUrl> &files, bool requestRead)
+{
     std::vector<std::unique_ptr<ModelItem>> items = makeItems(files);
     const int leftOut = files.size() - static_cast<int>(items.size());
-    if (!items.empty())
+    if (!items.empty()) {
         insertItems(std::move(items));
+        if (requestRead)
+            extractNextFileInfo();
+        if (m_autoStart)
+            feedSearches();
+    }
     if (leftOut > 0)
         emit filesLeftOut(leftOut);
 }
 
-// Those that name regular local files and are not in the list, each once.
-QList<QUrl> MainModel::newFiles(const QList<QUrl> &urls) const
+// Those that are not in the list, each once.
+QList<QUrl> MainModel::newUrls(const QList<QUrl> &urls) const
 {
-    QList<QUrl> files;
+    QList<QUrl> fresh;
     QSet<QUrl> seen;
     for (const QUrl &url : urls) {
-        if (!url.isLocalFile() || m_items.contains(url) || seen.contains(url))
-            continue;
-        if (!QFileInfo(url.toLocalFile()).isFile())
+        if (m_items.contains(url) || seen.contains(url))
             continue;
         seen.insert(url);
-        files.append(url);
+        fresh.append(url);
     }
-    return files;
+    return fresh;
 }
 
 // One item a file, with ids that count up from the last one given and skip those in use; fewer items than files when
@@ -233,9 +286,6 @@ void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
     endInsertRows();
     if (m_autoStart)
         emit activeCountChanged();
-    extractNextFileInfo();
-    if (m_autoStart)
-        feedSearches();
 }
 
 void MainModel::connectItem(ModelItem *item)

@@ -8,9 +8,12 @@
 #include <QAbstractListModel>
 #include <QHash>
 #include <QStringList>
+#include <QTimer>
 #include <QVector>
 
+#include <atomic>
 #include <map>
+#include <memory>
 
 class LyricsSearch;
 class Settings;
@@ -47,6 +50,9 @@ public:
     };
     Q_ENUM(Role)
 
+    // Of a url that is to be added.
+    enum FileKnowledge { MayBeAnything, IsRegularFile };
+
     explicit MainModel(QObject *parent = nullptr);
     ~MainModel() override;
 
@@ -74,8 +80,13 @@ public:
     [[nodiscard]] ModelItem *itemAt(int row) const { return m_items.itemAt(row); }
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
-    // The urls of all rows, in row order.
+    // The urls of all rows, in row order, and then of the files that are still to become rows: what is to be kept
+    // across runs.
     [[nodiscard]] QList<QUrl> urls() const;
+
+    // Adds a list that was kept across runs. Its files are looked at elsewhere and become rows when that is done, so
+    // that a disk that does not answer holds up nothing but them and those behind them. To be called once.
+    void restore(const QList<QUrl> &urls);
 
     // The supported extensions, each as "*.mp3", joined with the separator.
     Q_INVOKABLE QString supportedTypesMask(const QString &separator) const;
@@ -96,8 +107,11 @@ public:
     Q_INVOKABLE bool writeTags(quint16 id);
 
 public slots:
-    // Appends the urls that name regular local files and are not listed yet, as one insertion.
-    void add(const QList<QUrl> &urls);
+    // Appends the urls that name regular local files and are not listed yet. One call is one request for a read.
+    //
+    // Files that are known to be regular are not looked at again, and many of them are inserted in blocks, from the
+    // event loop, so that the window goes on living; otherwise one call is one insertion, made before it returns.
+    void add(const QList<QUrl> &urls, FileKnowledge knowledge = MayBeAnything);
     void setAutoStart(bool on);
     // Exports the item's lyrics to the text file beside its audio file. False, with nothing touched, when there are
     // none or the file cannot be written.
@@ -125,7 +139,10 @@ private:
     using WorkQueue = std::map<quint64, quint16>;
     static constexpr int noRead = -1;
 
-    [[nodiscard]] QList<QUrl> newFiles(const QList<QUrl> &urls) const;
+    void insertKnownFiles();
+    void filesChecked(int count, const QList<QUrl> &files);
+    void insertFiles(const QList<QUrl> &files, bool requestRead);
+    [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
     [[nodiscard]] std::vector<std::unique_ptr<ModelItem>> makeItems(const QList<QUrl> &files);
     [[nodiscard]] bool isIdInUse(quint16 id) const;
     void insertItems(std::vector<std::unique_ptr<ModelItem>> items);
@@ -141,6 +158,10 @@ private:
 
     ItemStore m_items;
     quint16 m_lastId = 0;
+    QList<QUrl> m_unchecked;  // of the list that is being restored
+    QList<QUrl> m_knownFiles; // wait to become rows
+    QTimer m_insertTimer;     // runs while there are any
+    std::shared_ptr<std::atomic<bool>> m_checkCancelled = std::make_shared<std::atomic<bool>>(false);
     QStringList m_extensions;
     const Settings *m_settings = nullptr;
     LyricsSearch *m_search = nullptr;

@@ -63,7 +63,8 @@ public slots:
     // Selects this row alone; a negative one empties the selection. Nothing when it is current already.
     void setCurrentIndex(int n);
     void setShowFound(bool on);
-    // Drops songs that are not shown any more from the selection.
+    // Drops songs that are not shown any more from the selection. Rows take their marks along when they go, so that
+    // there is nothing left to drop; for those who ask nevertheless.
     void removeInvalidSelections();
 
 signals:

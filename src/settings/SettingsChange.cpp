@@ -27,7 +27,7 @@ QString storePath()
 // By its permissions, which count for root as well.
 bool isWritable(const QFileInfo &file)
 {
-    return !file.exists() || (file.isFile() && file.isWritable() && file.permission(QFile::WriteUser));
+    return !file.exists() || (file.isFile() && file.isWritable() && file.permission(QFile::WriteOwner));
 }
 
 // Makes a copy of the old file, for its entries that do not change; nothing when there is none.

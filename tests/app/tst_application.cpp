@@ -3,17 +3,23 @@
 
 #include "app/GraphicsBackend.h"
 #include "network/Endpoints.h"
+#include "support/AsOrdinaryUser.h"
+#include "support/TestFolder.h"
 
-#include <QCryptographicHash>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
-#include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -21,44 +27,40 @@ namespace {
 class Stage
 {
 public:
-    explicit Stage(const QVariantMap &stored = {})
+    // What stands on the disk is made ready before the object is made.
+    explicit Stage(const QVariantMap &stored = {}, const std::function<void(const Stage &)> &prepare = {})
     {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_configuration.path());
-        QSettings store(Application::settingsFile(), QSettings::NativeFormat);
-        for (auto entry = stored.begin(); entry != stored.end(); ++entry)
-            store.setValue(entry.key(), entry.value());
-        store.sync();
-        start();
-    }
-
-    // With a settings file of this content.
-    explicit Stage(const QByteArray &content)
-    {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_configuration.path());
-        QDir(m_configuration.path()).mkdir(QStringLiteral("Quillmarsh"));
-        QFile file(Application::settingsFile());
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        file.close();
-        start();
-    }
-
-    Application *operator->() { return m_app.get(); }
-    Application &operator*() { return *m_app; }
-
-private:
-    void start()
-    {
+        {
+            QSettings store(settingsFile, QSettings::NativeFormat);
+            for (auto entry = stored.begin(); entry != stored.end(); ++entry)
+                store.setValue(entry.key(), entry.value());
+        }
+        if (prepare)
+            prepare(*this);
         reloadEndpoints();
         m_app = std::make_unique<Application>(m_argc, m_argv);
     }
 
-    QTemporaryDir m_configuration;
+    Application *operator->() { return m_app.get(); }
+    Application &operator*() { return *m_app; }
+    QString lockFile() const { return folder.path(QStringLiteral("Quillmarsh/Versewell.lock")); }
+
+    const TestFolder folder;
+    const QString settingsFile = folder.holdSettings();
+
+private:
     int m_argc = 1;
     char m_name[16] = "tst_application";
     char *m_argv[2] = {m_name, nullptr};
     std::unique_ptr<Application> m_app;
 };
+
+// Each list holds the next one; read as a value, they would use up the stack.
+QByteArray endlessLists()
+{
+    return "[General]\nlyricsFontSize=20\nlanguage=@Variant(" +
+           QByteArray("\\0\\0\\0\\t\\0\\0\\0\\x1").repeated(400000) + ")\n";
+}
 
 QString sample(const char *name)
 {
@@ -67,11 +69,15 @@ QString sample(const char *name)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(const Stage &)>)
+
 class tst_Application : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QCoreApplication::setSetuidAllowed(true); } // for the tests that give up the rights of root
+
     void theSavedListIsRestored_data()
     {
         QTest::addColumn<QVariant>("stored");
@@ -98,10 +104,14 @@ private slots:
         QFETCH(bool, wanted);
         QFETCH(QStringList, expected);
         Stage app({{QStringLiteral("filesList"), stored}, {QStringLiteral("saveFilesList"), wanted}});
-        QStringList paths;
-        for (const QUrl &url : app->mainModel()->urls())
-            paths.append(url.toLocalFile());
-        QCOMPARE(paths, expected);
+        const auto paths = [&app] {
+            QStringList list;
+            for (const QUrl &url : app->mainModel()->urls())
+                list.append(url.toLocalFile());
+            return list;
+        };
+        QTRY_COMPARE(paths(), expected);
+        QTRY_COMPARE(app->mainModel()->rowCount(), expected.size());
     }
 
     void servicesAreWired()
@@ -122,6 +132,11 @@ private slots:
         QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
         app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));
         QVERIFY(app->lyricsSearch()->providersOrder().contains(QLatin1String("LyricsFreak::0")));
+        QSignalSpy usage(&*app, &Application::usageEvent);
+        for (const char *artist : {" Nora Vale ", "  "})
+            app->trackUsage(QString::fromLatin1(artist), QStringLiteral(" Harbour "));
+        QCOMPARE(usage.count(), 1);
+        QCOMPARE(usage.at(0).at(2).toString(), QStringLiteral("Nora Vale // Harbour"));
     }
 
     void theProxyFollowsTheSettings()
@@ -141,51 +156,93 @@ private slots:
         QCOMPARE(proxy().type(), QNetworkProxy::DefaultProxy);
     }
 
-    void aDamagedSettingsFileStopsNothing_data()
+    void aDamagedSettingsFileIsMended_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("damaged");
-        QTest::addColumn<int>("fontSize");
-        QTest::newRow("whole") << QByteArray("[General]\nlyricsFontSize=20\n") << false << 20;
-        QTest::newRow("half") << QByteArray("[General]\nlyricsFontSize=20\nlanguage=\"d") << true << 20;
-        QTest::newRow("an open quote before the rest") << QByteArray("language=\"d\nlyricsFontSize=20\n") << true << 20;
-        QTest::newRow("NULs") << QByteArray(4096, '\0') << true << 12;
-        QTest::newRow("random bytes") << QCryptographicHash::hash("seed", QCryptographicHash::Sha3_512) << true << 12;
-        // Each list holds the next one; read as a value, they would use up the stack.
-        QByteArray lists("[General]\nlyricsFontSize=20\nlanguage=@Variant(");
-        for (int depth = 0; depth < 400000; ++depth)
-            lists += "\\0\\0\\0\\t\\0\\0\\0\\x1";
-        QTest::newRow("lists in lists without end") << lists + ")\n" << true << 20;
+        QTest::newRow("half") << QByteArray("[General]\nlyricsFontSize=20\nlanguage=\"d");
+        QTest::newRow("lists in lists without end") << endlessLists();
     }
 
-    void aDamagedSettingsFileStopsNothing()
+    void aDamagedSettingsFileIsMended()
     {
         QFETCH(QByteArray, content);
-        QFETCH(bool, damaged);
-        Stage app(content);
-        QTEST(app->settings()->lyricsFontSize(), "fontSize");
-        QCOMPARE(app->settingsMending().damaged, damaged);
-        QFile copy(Application::settingsFile() + QLatin1String(".bad"));
-        QCOMPARE(copy.exists(), damaged);
-        QCOMPARE(app->settingsMending().copy, damaged ? copy.fileName() : QString());
-        if (damaged) {
-            QVERIFY(copy.open(QIODevice::ReadOnly));
-            QCOMPARE(copy.readAll(), content);
-        }
+        Stage app({}, [&](const Stage &stage) { stage.folder.write(stage.settingsFile, content); });
+        QCOMPARE(app->settings()->lyricsFontSize(), 20);
+        QVERIFY(app->settingsMending().damaged && app->areSettingsStored());
+        QCOMPARE(app->settingsMending().copy, app.settingsFile + QLatin1String(".bad"));
+        QCOMPARE(app.folder.read(app->settingsMending().copy), content);
         QVERIFY(app->settings()->save());
-        QVERIFY(!mendSettingsFile(Application::settingsFile()).damaged);
+        QVERIFY(app.folder.read(app.settingsFile).contains("lyricsFontSize=20\n"));
     }
 
-    void theLockHasOneHolder()
+    void aSettingsFileThatMustNotBeReadIsNotRead_data()
     {
-        const QTemporaryDir folder;
-        const QString lock = folder.filePath(QStringLiteral("a.lock"));
-        const SingleInstance first(lock);
-        QVERIFY(first.isHolder() && !first.isOtherRunning());
-        const SingleInstance second(lock);
-        QVERIFY(!second.isHolder() && second.isOtherRunning());
-        const SingleInstance unlockable(QStringLiteral("/proc/there is no such folder/a.lock"));
-        QVERIFY(!unlockable.isHolder() && !unlockable.isOtherRunning());
+        using Step = std::function<void(const Stage &)>;
+        QTest::addColumn<Step>("obstacle");
+        QTest::addColumn<int>("fontSize");
+        QTest::newRow("all names for a copy are taken") << Step([](const Stage &stage) {
+            for (int i = 1; i <= 99; ++i)
+                stage.folder.write(
+                    stage.settingsFile + (i == 1 ? QStringLiteral(".bad") : QStringLiteral(".bad.%1").arg(i)), "other");
+        }) << 20;
+        QTest::newRow("the folder cannot be written to") << Step(forbidWriting) << 20;
+        QTest::newRow("the disk is full") << Step([](const Stage &) {
+            signal(SIGXFSZ, SIG_IGN);
+            QVERIFY(getrlimit(RLIMIT_FSIZE, &m_usualSize) == 0);
+            const rlimit none{0, m_usualSize.rlim_max};
+            QVERIFY(setrlimit(RLIMIT_FSIZE, &none) == 0);
+        }) << 12;
+        QTest::newRow("another instance runs")
+            << Step([](const Stage &stage) { m_other = std::make_unique<SingleInstance>(stage.lockFile()); }) << 20;
+    }
+
+    void aSettingsFileThatMustNotBeReadIsNotRead()
+    {
+        QFETCH(std::function<void(const Stage &)>, obstacle);
+        QStringList namesBefore;
+        Stage app({{QStringLiteral("saveFilesList"), true}}, [&](const Stage &stage) {
+            stage.folder.write(stage.settingsFile, endlessLists());
+            obstacle(stage);
+            namesBefore = stage.folder.names(QStringLiteral("Quillmarsh"));
+        });
+        const int fontSize = app->settings()->lyricsFontSize();
+        const bool isStored = app->settings()->save();
+        m_user.reset();
+        m_other.reset();
+        if (m_usualSize.rlim_max != 0)
+            QCOMPARE(setrlimit(RLIMIT_FSIZE, &m_usualSize), 0);
+        m_usualSize = {};
+        QTEST(fontSize, "fontSize");
+        QVERIFY(!isStored && !app->areSettingsStored());
+        QVERIFY(app->settingsMending().damaged && app->settingsMending().copy.isEmpty());
+        QCOMPARE(app.folder.read(app.settingsFile), endlessLists());
+        QStringList names = app.folder.names(QStringLiteral("Quillmarsh"));
+        names.removeOne(QStringLiteral("Versewell.lock"));
+        namesBefore.removeOne(QStringLiteral("Versewell.lock"));
+        QCOMPARE(names, namesBefore);
+    }
+
+    void whatIsNoSettingsFileIsNotOpened()
+    {
+        Stage app({}, [](const Stage &stage) { // would never answer
+            QVERIFY(QFile::remove(stage.folder.write(stage.settingsFile)));
+            QVERIFY(mkfifo(QFile::encodeName(stage.settingsFile).constData(), 0600) == 0);
+        });
+        app->noteStart();
+        QVERIFY(app->settingsMending().unreadable && !app->areSettingsStored());
+        QCOMPARE(app->settings()->lyricsFontSize(), 12);
+        QVERIFY(!app->settings()->save());
+    }
+
+    // The lock cannot be made, so that somebody else may be using the list.
+    void withoutTheLockNoListIsRestoredOrStored()
+    {
+        Stage app({{QStringLiteral("saveFilesList"), true}, {QStringLiteral("filesList"), sample("plain.flac")}},
+                  forbidWriting);
+        m_user.reset();
+        QVERIFY(!app->isOtherInstanceRunning());
+        QVERIFY(app->settings()->saveFilesList() && !app->settings()->keepsFilesList());
+        QCOMPARE(app->mainModel()->urls(), QList<QUrl>());
     }
 
     void makerPagesAreOpenedOnce_data()
@@ -264,46 +321,16 @@ private slots:
         QVERIFY(folder.removeRecursively());
     }
 
-    void searchesAreReported_data()
-    {
-        QTest::addColumn<QString>("artist");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QStringList>("labels");
-        QTest::newRow("both") << " Nora Vale "
-                              << " Harbour " << QStringList{QStringLiteral("Nora Vale // Harbour")};
-        QTest::newRow("the first alone") << "Nora Vale"
-                                         << " " << QStringList{QStringLiteral("Nora Vale")};
-        QTest::newRow("without the first nothing is said") << "  "
-                                                           << "Harbour" << QStringList{};
-    }
-
-    void searchesAreReported()
-    {
-        QFETCH(QString, artist);
-        QFETCH(QString, title);
-        Stage app;
-        QStringList labels;
-        connect(&*app, &Application::usageEvent, this,
-                [&labels](const QString &category, const QString &action, const QString &label) {
-                    if (category == QLatin1String("usage") && action == QLatin1String("search"))
-                        labels.append(label);
-                });
-        app->trackUsage(artist, title);
-        QTEST(labels, "labels");
-    }
-
     void theGraphicsBackendIsChosen_data()
     {
         QTest::addColumn<QByteArray>("environment");
         QTest::addColumn<QVariant>("method");
         QTest::addColumn<QByteArray>("device");
         QTest::newRow("nothing said") << QByteArray() << QVariant() << QByteArray("softwarecontext");
-        QTest::newRow("software") << QByteArray() << QVariant(2) << QByteArray("softwarecontext");
         QTest::newRow("automatic") << QByteArray() << QVariant(0) << QByteArray();
-        QTest::newRow("OpenGL ES") << QByteArray() << QVariant(1) << QByteArray();
-        QTest::newRow("desktop OpenGL") << QByteArray() << QVariant(3) << QByteArray();
         QTest::newRow("the environment wins") << QByteArray("mine") << QVariant(2) << QByteArray("mine");
-        QTest::newRow("out of range") << QByteArray() << QVariant(-7) << QByteArray("softwarecontext");
+        QTest::newRow("more than there are numbers")
+            << QByteArray() << QVariant(1LL << 32) << QByteArray("softwarecontext");
     }
 
     void theGraphicsBackendIsChosen()
@@ -321,7 +348,18 @@ public slots:
     void noteOpenedUrl(const QUrl &url) { m_opened.append(url); }
 
 private:
+    static void forbidWriting(const Stage &stage)
+    {
+        QVERIFY(chmod(QFile::encodeName(stage.folder.path()).constData(), 0755) == 0);
+        QVERIFY(chmod(QFile::encodeName(QFileInfo(stage.settingsFile).path()).constData(), 0555) == 0);
+        m_user = std::make_unique<AsOrdinaryUser>();
+    }
+
     QList<QUrl> m_opened;
+    // What the obstacles put up until a test has looked.
+    static inline std::unique_ptr<AsOrdinaryUser> m_user;
+    static inline std::unique_ptr<SingleInstance> m_other;
+    static inline rlimit m_usualSize = {};
 };
 
 QTEST_APPLESS_MAIN(tst_Application)

@@ -118,6 +118,39 @@ private slots:
                  QStringLiteral("#1 100%41\n.mp3"));
     }
 
+    // As they come from the scanner: not looked at again, in blocks, and no read is overtaken.
+    void manyKnownFilesBecomeRowsInBlocks()
+    {
+        Stage stage;
+        stage.model.setAutoStart(false);
+        QList<QUrl> files{stage.song(QStringLiteral("first.mp3"))};
+        for (int i = 0; i < 2500; ++i)
+            files.append(QUrl::fromLocalFile(QStringLiteral("/gone/%1.mp3").arg(i)));
+        files.append(files.last());
+        stage.model.add(files, MainModel::IsRegularFile);
+        files.removeLast();
+        QCOMPARE(stage.model.rowCount(), 1000);
+        QCOMPARE(stage.model.urls().mid(0, 2501), files); // all of them are kept when the program ends now
+        QTRY_COMPARE(stage.model.rowCount(), 2501);
+        QCOMPARE(stage.model.urls(), files);
+        QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(20));
+    }
+
+    // Its files are looked at elsewhere; until then they are kept, and come behind those added meanwhile.
+    void aListIsRestoredInItsOrder()
+    {
+        Stage stage;
+        const QList<QUrl> songs = stage.songs(3);
+        const QList<QUrl> list{songs.at(2), QUrl::fromLocalFile(stage.folder.path()), songs.at(0),
+                               QUrl::fromLocalFile(QStringLiteral("/gone.mp3"))};
+        stage.model.restore(list);
+        QCOMPARE(stage.model.urls(), list);
+        stage.model.add({songs.at(1)});
+        QCOMPARE(stage.model.rowCount(), 1);
+        QTRY_COMPARE(stage.model.urls(), (QList<QUrl>{songs.at(1), songs.at(2), songs.at(0)}));
+        QCOMPARE(stage.model.rowCount(), 3);
+    }
+
     void dropsAreSortedIntoFilesAndFolders()
     {
         Stage stage;

@@ -8,11 +8,8 @@
 #include <QProcess>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
-
-constexpr uid_t nobody = 65534;
 
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
@@ -70,16 +67,4 @@ QByteArray SongFiles::bytes(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(path));
     return file.readAll();
-}
-
-AsOrdinaryUser::AsOrdinaryUser()
-{
-    if (::getuid() == 0 && ::seteuid(nobody) != 0)
-        qFatal("cannot give up the rights of root");
-}
-
-AsOrdinaryUser::~AsOrdinaryUser()
-{
-    if (::getuid() == 0 && ::seteuid(0) != 0)
-        qFatal("cannot get the rights of root back");
 }

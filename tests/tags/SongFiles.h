@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/AsOrdinaryUser.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
@@ -27,13 +29,4 @@ public:
 
 private:
     QTemporaryDir m_directory;
-};
-
-// While it lives the process has no more rights than an ordinary user, also when root runs the tests.
-class AsOrdinaryUser
-{
-public:
-    AsOrdinaryUser();
-    ~AsOrdinaryUser();
-    Q_DISABLE_COPY(AsOrdinaryUser)
 };
