@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/AppPalette.h"
 
-#include <QLoggingCategory>
-#include <QMap>
+#include "ui/UiLog.h"
 
-Q_LOGGING_CATEGORY(uiLog, "versewell.ui")
+#include <QMap>
 
 namespace {
 

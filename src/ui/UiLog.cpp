@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "ui/UiLog.h"
+
+Q_LOGGING_CATEGORY(uiLog, "versewell.ui")
