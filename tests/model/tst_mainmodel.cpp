@@ -357,16 +357,10 @@ private slots:
     {
         QTest::addColumn<QVector<int>>("rows");
         QVector<int> odd;
-        QVector<int> all;
-        for (int row = 0; row < 200; ++row) {
-            all.append(row);
-            if (row % 2)
-                odd.append(row);
-        }
-        QTest::newRow("none") << QVector<int>{};
+        for (int row = 1; row < 200; row += 2)
+            odd.append(row);
         QTest::newRow("first, last and a few between") << QVector<int>{0, 3, 4, 5, 100, 199};
         QTest::newRow("so many ranges that it is one reset") << odd;
-        QTest::newRow("all") << all;
     }
 
     void rowsCanBeRemoved()
@@ -377,7 +371,7 @@ private slots:
         stage.model.add(expected);
         for (auto row = rows.rbegin(); row != rows.rend(); ++row)
             expected.removeAt(*row);
-        const QPointer<ModelItem> removed = rows.isEmpty() ? nullptr : stage.model.itemAt(rows.first());
+        const QPointer<ModelItem> removed = stage.model.itemAt(rows.first());
         stage.model.removeScattered(rows);
         QCOMPARE(stage.model.urls(), expected);
         QCOMPARE(stage.model.activeCount(), expected.size());
@@ -386,61 +380,47 @@ private slots:
             QTRY_VERIFY(stage.isLoaded(row));
         // The row of an item is found by its id after all that.
         QSignalSpy changes(&stage.model, &MainModel::dataChanged);
-        if (!expected.isEmpty()) {
-            stage.model.itemAt(expected.size() - 1)->setErrorString(QStringLiteral("e"));
-            QCOMPARE(changes.last().at(0).toModelIndex().row(), expected.size() - 1);
-        }
+        stage.model.itemAt(expected.size() - 1)->setErrorString(QStringLiteral("e"));
+        QCOMPARE(changes.last().at(0).toModelIndex().row(), expected.size() - 1);
         stage.model.removeAll();
         QCOMPARE(stage.model.rowCount(), 0);
         QCOMPARE(stage.model.activeCount(), 0);
     }
 
-    void anIdIsNotGivenAgainWhileItIsSearchedFor()
-    {
-        Stage stage;
-        const QList<QUrl> songs = stage.songs(2);
-        stage.model.setAutoStart(false);
-        stage.model.add(songs.mid(0, 1));
-        QTRY_VERIFY(stage.isLoaded(0));
-        QVERIFY(stage.model.startSearch(1));
-        stage.model.removeAll();
-        QCOMPARE(stage.model.searchCount(), 1);
-        // Round the whole circle of ids, to where id 1 would be next.
-        for (int i = 0; i < 65535; ++i) { // the event loop does not run, so the search stays in flight
-            stage.model.add(songs.mid(1, 1));
-            stage.model.removeAll();
-        }
-        stage.model.add(songs.mid(1, 1));
-        QCOMPARE(stage.model.itemAt(0)->id(), quint16(2));
-        QTRY_COMPARE(stage.model.searchCount(), 0); // its end finds no item, and does no harm
-    }
-
     void idsWrapAndRunOut()
     {
-        Stage songs;
-        const QUrl file = songs.song(QStringLiteral("a.mp3"));
+        Stage stage;
+        const QUrl file = stage.song(QStringLiteral("A - S.mp3"));
         const auto variants = [&file](int first, int count) {
             QList<QUrl> urls;
             for (int i = first; i < first + count; ++i) {
-                QUrl url = file;
-                url.setQuery(QString::number(i));
-                urls.append(url);
+                urls.append(file);
+                urls.last().setQuery(QString::number(i));
             }
             return urls;
         };
-        MainModel model;
+        stage.model.setAutoStart(false);
+        stage.model.add({file});
+        QTRY_VERIFY(stage.isLoaded(0));
+        QVERIFY(stage.model.startSearch(1));
+        stage.model.removeAll();
+        QCOMPARE(stage.model.searchCount(), 1); // the event loop does not run, so id 1 stays in use
+        MainModel &model = stage.model;
         QSignalSpy leftOut(&model, &MainModel::filesLeftOut);
         model.add(variants(0, 65000));
         model.add(variants(65000, 540));
-        QCOMPARE(model.rowCount(), 65536);
-        QCOMPARE(model.itemAt(65534)->id(), quint16(65535));
-        QCOMPARE(model.itemAt(65535)->id(), quint16(0));
+        QCOMPARE(model.rowCount(), 65535);
+        QCOMPARE(model.itemAt(65533)->id(), quint16(65535));
+        QCOMPARE(model.itemAt(65534)->id(), quint16(0));
+        QVERIFY(!model.item(1));
         QCOMPARE(leftOut.count(), 1);
-        QCOMPARE(leftOut.at(0).at(0).toInt(), 4);
-        QVERIFY(model.removeRows(777, 1));
+        QCOMPARE(leftOut.at(0).at(0).toInt(), 5);
+        QVERIFY(model.removeRows(776, 1));
         model.add(variants(70000, 2));
-        QCOMPARE(model.itemAt(65535)->id(), quint16(778));
+        QCOMPARE(model.itemAt(65534)->id(), quint16(778));
         QCOMPARE(leftOut.at(1).at(0).toInt(), 1);
+        stage.model.removeAll();
+        QTRY_COMPARE(stage.model.searchCount(), 0); // its end finds no item, and does no harm
     }
 
     void filesAreShownInTheFileManager_data()
@@ -448,9 +428,6 @@ private slots:
         QTest::addColumn<QByteArray>("nautilus");
         QTest::addColumn<QStringList>("expected");
         QTest::newRow("nautilus has it") << QByteArray("exit 0") << QStringList{QStringLiteral("nautilus a b.mp3")};
-        QTest::newRow("nautilus fails") << QByteArray("exit 3")
-                                        << QStringList{QStringLiteral("nautilus a b.mp3"),
-                                                       QStringLiteral("xdg-open music")};
         QTest::newRow("nautilus crashes")
             << QByteArray("kill -9 $$")
             << QStringList{QStringLiteral("nautilus a b.mp3"), QStringLiteral("xdg-open music")};
