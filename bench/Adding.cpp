@@ -3,11 +3,15 @@
 #include "Table.h"
 
 #include "model/MainModel.h"
+#include "model/ProxyModel.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 namespace {
 
@@ -54,6 +58,21 @@ Times addTwice(const QStringList &paths)
     return {first, again};
 }
 
+// The longest time that the event loop stands still while files that were found in folders become rows.
+double longestStandStill(const QStringList &paths)
+{
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(path));
+    MainModel model;
+    ProxyModel proxy;
+    proxy.setSourceModel(&model);
+    double longest = secondsOf([&] { model.add(urls, MainModel::IsRegularFile); });
+    while (model.rowCount() < urls.size())
+        longest = std::max(longest, secondsOf([] { QCoreApplication::processEvents(); }));
+    return longest;
+}
+
 } // namespace
 
 void benchAdding()
@@ -71,4 +90,8 @@ void benchAdding()
     BenchTable::printRow(first, many.size(), manyTimes.first, manyReference, fewTimes.first, 4);
     BenchTable::printRow(again, few.size(), fewTimes.again, fewReference);
     BenchTable::printRow(again, many.size(), manyTimes.again, manyReference, fewTimes.again, 4);
+    const QString standStill = QStringLiteral("longest stand-still while found files are added / the same");
+    const double fewGap = longestStandStill(few);
+    BenchTable::printRow(standStill, few.size(), fewGap, fewReference);
+    BenchTable::printRow(standStill, many.size(), longestStandStill(many), manyReference, fewGap, 4);
 }
