@@ -36,6 +36,8 @@ bool isUsable(const QByteArray &path)
 
 struct DelayedFolderScanner::Entry
 {
+    static Entry of(const dirent &found, int directory, dev_t device);
+
     QByteArray name;
     QString sortKey;
     mode_t type = 0;
@@ -86,8 +88,7 @@ void DelayedFolderScanner::scan(const QByteArray &folder)
     for (const Entry &file : listing.files) {
         if (m_progress->isCancelled())
             return;
-        if (m_walked->take(file.id, file.isLink))
-            take(folder, file.name);
+        take(folder, file);
     }
     for (const Entry &subfolder : listing.folders) {
         if (m_progress->isCancelled())
@@ -96,17 +97,21 @@ void DelayedFolderScanner::scan(const QByteArray &folder)
     }
 }
 
-// The type that the directory entry tells, looked up on the disk only when it tells none or names a link.
-static void lookUp(int directory, const dirent &entry, dev_t device, mode_t *type, WalkedEntries::Id *id)
+// Type and identity are looked up on the disk only when the directory entry tells no type or names a link.
+DelayedFolderScanner::Entry DelayedFolderScanner::Entry::of(const dirent &found, int directory, dev_t device)
 {
-    *type = DTTOIF(entry.d_type);
-    *id = {device, entry.d_ino};
-    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
-        return;
-    struct stat status = {};
-    const bool isThere = fstatat(directory, entry.d_name, &status, 0) == 0;
-    *type = isThere ? status.st_mode & S_IFMT : 0;
-    *id = {status.st_dev, status.st_ino};
+    Entry entry;
+    entry.name = found.d_name;
+    entry.type = DTTOIF(found.d_type);
+    entry.isLink = found.d_type == DT_LNK;
+    entry.id = {device, found.d_ino};
+    if (found.d_type == DT_UNKNOWN || entry.isLink) {
+        struct stat status = {};
+        const bool isThere = fstatat(directory, found.d_name, &status, 0) == 0;
+        entry.type = isThere ? status.st_mode & S_IFMT : 0;
+        entry.id = {status.st_dev, status.st_ino};
+    }
+    return entry;
 }
 
 bool DelayedFolderScanner::isWanted(const Entry &entry, int directory) const
@@ -128,13 +133,10 @@ DelayedFolderScanner::Listing DelayedFolderScanner::list(const QByteArray &folde
         return listing;
     const int handle = dirfd(directory.get());
     while (const dirent *found = readdir(directory.get())) {
-        Entry entry;
-        entry.name = found->d_name;
         // Hidden entries are left out, "." and ".." among them.
-        if (m_progress->isCancelled() || entry.name.startsWith('.'))
+        if (m_progress->isCancelled() || found->d_name[0] == '.')
             continue;
-        entry.isLink = found->d_type == DT_LNK;
-        lookUp(handle, *found, status.st_dev, &entry.type, &entry.id);
+        Entry entry = Entry::of(*found, handle, status.st_dev);
         if (!isWanted(entry, handle))
             continue;
         entry.sortKey = QFile::decodeName(entry.name).toLower();
@@ -145,13 +147,13 @@ DelayedFolderScanner::Listing DelayedFolderScanner::list(const QByteArray &folde
     return listing;
 }
 
-void DelayedFolderScanner::take(const QByteArray &folder, const QByteArray &name)
+void DelayedFolderScanner::take(const QByteArray &folder, const Entry &file)
 {
-    const QByteArray path = joined(folder, name);
+    const QByteArray path = joined(folder, file.name);
     if (!isUsable(path)) {
         m_progress->noteLeftOut();
-        return;
+    } else if (m_walked->take(file.id, file.isLink)) {
+        m_files.append(QUrl::fromLocalFile(QFile::decodeName(path)));
+        m_progress->noteFile(QFile::decodeName(file.name));
     }
-    m_files.append(QUrl::fromLocalFile(QFile::decodeName(path)));
-    m_progress->noteFile(QFile::decodeName(name));
 }

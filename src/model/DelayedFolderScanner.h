@@ -44,7 +44,7 @@ private:
     void scan(const QByteArray &folder);
     [[nodiscard]] Listing list(const QByteArray &folder);
     [[nodiscard]] bool isWanted(const Entry &entry, int directory) const;
-    void take(const QByteArray &folder, const QByteArray &name);
+    void take(const QByteArray &folder, const Entry &file);
 
     const QString m_folder;
     QString m_nameFilters = QStringLiteral("*.mp3,*.m4a");

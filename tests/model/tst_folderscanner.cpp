@@ -169,7 +169,7 @@ private slots:
     {
         Tree songs;
         songs.make(words("vanishing/a.mp3|zz/last.mp3"));
-        for (int i = 0; i < 3000; ++i)
+        for (int i = 0; i < 1000; ++i)
             songs.make({QStringLiteral("%1.mp3").arg(i)});
         const QString vanishing = songs.path(QStringLiteral("vanishing"));
         songs.scanner.addFolder(songs.url());
@@ -179,7 +179,7 @@ private slots:
         QTRY_VERIFY(!songs.scanner.processing());
         QStringList found = songs.found();
         found.removeOne(QStringLiteral("vanishing/a.mp3")); // where this machine stood still, it was in time
-        QCOMPARE(found.size(), 3001);
+        QCOMPARE(found.size(), 1001);
         QCOMPARE(found.last(), QStringLiteral("zz/last.mp3"));
     }
 
