@@ -4,6 +4,7 @@
 #include "app/GraphicsBackend.h"
 #include "network/Endpoints.h"
 #include "support/AsOrdinaryUser.h"
+#include "support/LoopbackServer.h"
 #include "support/TestFolder.h"
 
 #include <QDesktopServices>
@@ -137,6 +138,23 @@ private slots:
             app->trackUsage(QString::fromLatin1(artist), QStringLiteral(" Harbour "));
         QCOMPARE(usage.count(), 1);
         QCOMPARE(usage.at(0).at(2).toString(), QStringLiteral("Nora Vale // Harbour"));
+    }
+
+    void betterNamesAreAskedForWhenNoSiteHasTheSong()
+    {
+        Stage app;
+        LoopbackServer service;
+        service.route(QStringLiteral("/2.0/"), LoopbackResponse::page("<lfm/>"));
+        QSettings().setValue(endpointGroup() + QLatin1Char('/') + endpointKey(Endpoint::Lastfm), service.base());
+        reloadEndpoints();
+        LyricsSearch *search = app->lyricsSearch();
+        const QString disabled = QStringLiteral("::0");
+        search->setProvidersOrder(
+            search->providersOrder().replace(QLatin1String(";;"), disabled + QLatin1String(";;")) + disabled);
+        QSignalSpy finished(search, &LyricsSearch::searchFinished);
+        QVERIFY(search->search(1, QStringLiteral("Nora Vale"), QStringLiteral("Harbour")));
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(service.requestCount(QStringLiteral("/2.0/")), 2);
     }
 
     void theProxyFollowsTheSettings()

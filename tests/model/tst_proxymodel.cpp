@@ -201,6 +201,40 @@ private slots:
         QCOMPARE(stage.currents.last(), QVariantList{2});
     }
 
+    void hidingAnnouncesTheCountsFirst()
+    {
+        Stage stage(4, {0});
+        stage.proxy.setCurrentIndex(2);
+        stage.proxy.selectAll();
+        QStringList order;
+        const auto note = [&order](const char *what) {
+            return [&order, what] {
+                order.append(QString::fromLatin1(what));
+            };
+        };
+        connect(&stage.proxy, &ProxyModel::hiddenCountChanged, this, note("hidden"));
+        connect(&stage.proxy, &ProxyModel::selectedCountChanged, this, note("count"));
+        connect(&stage.proxy, &ProxyModel::showFoundChanged, this, note("flag"));
+        connect(&stage.proxy, &ProxyModel::currentIndexChanged, this, note("row"));
+        stage.proxy.setShowFound(false);
+        QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("count hidden flag row"));
+    }
+
+    // In ranges and, when there are too many of them, in one reset: both end on the same song.
+    void theNextSongBecomesCurrent()
+    {
+        for (const int lastRemoved : {19, 199}) {
+            Stage stage(220);
+            stage.proxy.setCurrentIndex(11);
+            QVector<int> odd;
+            for (int row = 1; row <= lastRemoved; row += 2)
+                odd.append(row);
+            stage.model.removeScattered(odd);
+            QCOMPARE(stage.current(), 12);
+            QCOMPARE(stage.proxy.currentIndex(), 6);
+        }
+    }
+
     void rowsAreRemoved_data()
     {
         QTest::addColumn<bool>("hide");
