@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "ui/LyricsEdit.h"
+
+#include "model/MainModel.h"
+
+// Text as an editor hands it back when nobody has typed: one kind of line break, and no no-break spaces. Without this
+// a draft would count as modified the moment it is shown.
+static QString editorText(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (const QChar lineBreak :
+         {QChar(QChar::CarriageReturn), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
+        text.replace(lineBreak, QLatin1Char('\n'));
+    return text.replace(QChar::Nbsp, QLatin1Char(' '));
+}
+
+LyricsEdit::LyricsEdit(MainModel *model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+{
+}
+
+LyricsEdit::~LyricsEdit() = default;
+
+ModelItem *LyricsEdit::song() const
+{
+    return m_song;
+}
+
+void LyricsEdit::begin(ModelItem *song)
+{
+    if (!song || !song->editable() || modified() || song == m_song)
+        return;
+    const QString text = editorText(song->lyricsTag());
+    change(song, text, text);
+}
+
+void LyricsEdit::save()
+{
+    const QPointer<ModelItem> song = m_song;
+    // What nobody changed goes back as the song has it, down to the kind of its line breaks.
+    const QString lyrics = song && editorText(song->lyricsTag()) == m_text ? song->lyricsTag() : m_text;
+    cancel();
+    if (!song)
+        return;
+    song->setEditedLyricsTag(lyrics);
+    m_model->writeTags(song->id());
+}
+
+void LyricsEdit::cancel()
+{
+    change(nullptr, {}, {});
+}
+
+void LyricsEdit::setText(const QString &text)
+{
+    if (active())
+        change(m_song, m_startText, text);
+}
+
+// Takes the new state as a whole and then tells what has changed.
+void LyricsEdit::change(ModelItem *song, const QString &startText, const QString &text)
+{
+    const int oldId = m_songId;
+    const QString oldText = m_text;
+    const bool wasModified = modified();
+    if (song != m_song) {
+        if (m_song)
+            disconnect(m_song, &QObject::destroyed, this, nullptr);
+        if (song)
+            connect(song, &QObject::destroyed, this, &LyricsEdit::cancel);
+    }
+    m_song = song;
+    m_songId = song ? song->id() : noSong;
+    m_startText = startText;
+    m_text = text;
+    if (m_songId != oldId)
+        emit songIdChanged(m_songId);
+    if (m_text != oldText)
+        emit textChanged(m_text);
+    if (modified() != wasModified)
+        emit modifiedChanged(modified());
+    if (active() != (oldId != noSong))
+        emit activeChanged(active());
+}
