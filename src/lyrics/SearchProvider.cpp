@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "lyrics/SearchProvider.h"
+
+#include "network/Endpoints.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+#include <QUrlQuery>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+struct Engine
+{
+    Endpoint endpoint;
+    const char *name;
+    const char *target;
+};
+
+constexpr std::array<Engine, 4> engines{{
+    {Endpoint::Google, "Google", "/search?q={{QUERY}}"},
+    {Endpoint::Bing, "Bing", "/?q={{QUERY}}"},
+    {Endpoint::Yahoo, "Yahoo", "/search?p={{QUERY}}"},
+    {Endpoint::Yandex, "Yandex", "/search/?q={{QUERY}}"},
+}};
+
+// Exactly as QUrlQuery does it, which leaves a plus sign and a written escape ("%41") as they are. This is deliberate.
+QByteArray encoded(const QString &query)
+{
+    const QString key = QStringLiteral("q");
+    QUrlQuery items;
+    items.addQueryItem(key, query);
+    return items.queryItemValue(key, QUrl::FullyEncoded).toLatin1();
+}
+
+} // namespace
+
+SearchProvider::SearchProvider(QObject *parent)
+    : QObject(parent)
+{
+    for (const Engine &engine : engines) {
+        m_names.append(QString::fromLatin1(engine.name));
+        m_templates.append(endpointBase(engine.endpoint).toEncoded() + engine.target);
+    }
+}
+
+void SearchProvider::search(const QString &query, const QString &name) const
+{
+    QByteArray address = m_templates.at(std::max(m_names.indexOf(name), 0));
+    address.replace("{{QUERY}}", encoded(query));
+    QDesktopServices::openUrl(QUrl::fromEncoded(address, QUrl::TolerantMode));
+}
