@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "ui/ElidedLabel.h"
+
+#include <QPainter>
+
+ElidedLabel::ElidedLabel(const QString &text, QWidget *parent)
+    : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+    setToolTip(QLatin1String("<qt>") + text.toHtmlEscaped() + QLatin1String("</qt>")); // so that it is wrapped
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QRect area = contentsRect();
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(area, static_cast<int>(alignment()),
+                     fontMetrics().elidedText(text(), Qt::ElideMiddle, area.width()));
+}

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "ui/StatusLine.h"
+
+#include "ui/ElidedLabel.h"
+#include "ui/SlimProgressBar.h"
+
+#include <QAction>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTimer>
+#include <QToolButton>
+
+#include <chrono>
+
+static constexpr int progressWidth = 160;
+static constexpr std::chrono::seconds briefly(6);
+
+StatusLine::StatusLine(QStatusBar *bar)
+    : QObject(bar)
+    , m_bar(bar)
+    , m_label(new QLabel(bar))
+    , m_progress(new SlimProgressBar(bar))
+{
+    m_bar->setSizeGripEnabled(false);
+    m_bar->setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));
+    m_bar->setContentsMargins(8, 0, 8, 0);
+    m_label->setTextFormat(Qt::PlainText);
+    m_progress->setFixedWidth(progressWidth);
+    m_progress->setAccessibleName(tr("Progress of the searches"));
+    m_bar->addWidget(m_label);
+    m_bar->addWidget(m_progress);
+    setSearchesLeft(0);
+}
+
+StatusLine::~StatusLine() = default;
+
+void StatusLine::setSearchesLeft(int left)
+{
+    m_done = left == 0 ? 0 : m_done + qMax(0, m_left - left);
+    m_left = left;
+    m_label->setText(left > 0 ? tr("Searching... %n left...", nullptr, left) : QString());
+    m_progress->setRange(0, qMax(1, m_done + left));
+    m_progress->setValue(m_done);
+    m_progress->setVisible(left > 0);
+}
+
+void StatusLine::showSettingsDamaged(const QString &copy)
+{
+    const QString text =
+        copy.isEmpty() ? tr("The settings file is damaged. What could be read is used, but no copy could be made.")
+                       : tr("The settings file was damaged. What could be read is kept; the damaged file is now %1",
+                            "%1 is the path of a file")
+                             .arg(QDir::toNativeSeparators(copy));
+    showNotice(SettingsDamaged, text);
+}
+
+void StatusLine::addFilesLeftOut(int count)
+{
+    m_filesLeftOut += count;
+    showNotice(FilesLeftOut, tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
+}
+
+void StatusLine::showExported(const LyricsExport::Result &result)
+{
+    if (result.failed > 1)
+        showNotice(LyricsExported, tr("The lyrics of %n song(s) could not be exported", nullptr, result.failed));
+    else if (result.failed == 1)
+        showNotice(LyricsExported, tr("The lyrics could not be written to %1", "%1 is the path of a file")
+                                       .arg(QDir::toNativeSeparators(result.failedFile)));
+    else if (result.written > 0)
+        showNoticeBriefly(LyricsExported, tr("Lyrics exported to %n text file(s)", nullptr, result.written));
+    else
+        showNoticeBriefly(LyricsExported, tr("There are no lyrics to export"));
+}
+
+void StatusLine::showNotice(Notice notice, const QString &text)
+{
+    delete m_notices.take(notice);
+    m_notices.insert(notice, makeNotice(notice, text));
+    m_bar->insertPermanentWidget(0, m_notices.value(notice), 1);
+    m_notices.value(notice)->show();
+}
+
+void StatusLine::showNoticeBriefly(Notice notice, const QString &text)
+{
+    showNotice(notice, text);
+    QTimer::singleShot(briefly, m_notices.value(notice), [this, notice] { dismiss(notice); });
+}
+
+QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
+{
+    auto *widget = new QWidget(m_bar);
+    auto *label = new ElidedLabel(text, widget);
+    auto *button = new QToolButton(widget);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setIcon(button->style()->standardIcon(QStyle::SP_DialogCloseButton));
+    button->setToolTip(tr("Dismiss"));
+    button->setAccessibleName(tr("Dismiss"));
+    button->setAccessibleDescription(text);
+    connect(button, &QToolButton::clicked, this, [this, notice] { dismiss(notice); });
+    auto *layout = new QHBoxLayout(widget);
+    layout->setContentsMargins(8, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(label, 1);
+    layout->addWidget(button);
+    return widget;
+}
+
+void StatusLine::dismiss(Notice notice)
+{
+    QWidget *widget = m_notices.take(notice);
+    if (!widget)
+        return;
+    widget->hide();
+    widget->deleteLater(); // its button may be what was clicked
+    if (notice == FilesLeftOut)
+        m_filesLeftOut = 0;
+}
+
+void StatusLine::addButton(QAction *action)
+{
+    auto *button = new QToolButton(m_bar);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setDefaultAction(action);
+    button->setVisible(action->isVisible());
+    connect(action, &QAction::changed, button, [button, action] { button->setVisible(action->isVisible()); });
+    m_bar->addPermanentWidget(button);
+}

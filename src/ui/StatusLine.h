@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/LyricsExport.h"
+
+#include <QMap>
+#include <QObject>
+
+class QAction;
+class QLabel;
+class QProgressBar;
+class QStatusBar;
+class QWidget;
+
+// What stands in the window's status bar: how many searches are left and their progress, notices that stay until the
+// user dismisses them, and buttons.
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Fills the status bar, and belongs to it.
+    explicit StatusLine(QStatusBar *bar);
+    ~StatusLine() override;
+
+    // Progress counts from the last time when none was left.
+    void setSearchesLeft(int left);
+
+    // A button for an action, at the right end; hidden while the action is.
+    void addButton(QAction *action);
+
+public slots:
+    // `copy` is the path of the damaged file as it was; empty when no copy could be made.
+    void showSettingsDamaged(const QString &copy);
+    // The list is full. Counts on until the notice is dismissed.
+    void addFilesLeftOut(int count);
+    // Success is shown for some seconds only.
+    void showExported(const LyricsExport::Result &result);
+
+private:
+    // Each kind has a place of its own, so that none overwrites another one.
+    enum Notice { SettingsDamaged, FilesLeftOut, LyricsExported };
+
+    void showNotice(Notice notice, const QString &text);
+    void showNoticeBriefly(Notice notice, const QString &text);
+    [[nodiscard]] QWidget *makeNotice(Notice notice, const QString &text);
+    void dismiss(Notice notice);
+
+    QStatusBar *m_bar;
+    QLabel *m_label;
+    QProgressBar *m_progress;
+    int m_left = 0;
+    int m_done = 0; // since no search was left
+    int m_filesLeftOut = 0;
+    QMap<Notice, QWidget *> m_notices;
+};
