@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "ui/LyricsEditGuard.h"
+
+#include "model/MainModel.h"
+#include "model/ProxyModel.h"
+#include "ui/LyricsEdit.h"
+
+#include <QMessageBox>
+
+// Longer names of songs are cut in a question; in pixels.
+static constexpr int widestName = 320;
+
+LyricsEditGuard::LyricsEditGuard(LyricsEdit *edit, MainModel *model, ProxyModel *proxy, QWidget *window)
+    : QObject(window)
+    , m_edit(edit)
+    , m_model(model)
+    , m_proxy(proxy)
+    , m_window(window)
+{
+    m_check.setSingleShot(true);
+    m_check.setInterval(0);
+    const auto checkSoon = qOverload<>(&QTimer::start);
+    connect(m_proxy, &ProxyModel::currentIndexChanged, &m_check, checkSoon);
+    connect(m_proxy, &ProxyModel::selectedCountChanged, &m_check, checkSoon);
+    connect(&m_check, &QTimer::timeout, this, &LyricsEditGuard::check);
+}
+
+LyricsEditGuard::~LyricsEditGuard() = default;
+
+bool LyricsEditGuard::isSongShown() const
+{
+    const QModelIndex row = m_proxy->mapFromSource(m_model->index(m_model->rowOf(m_edit->song()->id())));
+    return row.isValid() && m_proxy->selectedCount() == 1 && m_proxy->isSelected(row.row());
+}
+
+void LyricsEditGuard::check()
+{
+    if (!m_edit->song() || m_question || isSongShown())
+        return;
+    const bool isListed = m_model->item(m_edit->song()->id()) == m_edit->song();
+    if (m_edit->modified() && isListed)
+        ask([] {}, [this] { showSong(); });
+    else
+        m_edit->cancel();
+}
+
+void LyricsEditGuard::before(std::function<void()> action)
+{
+    if (m_question) {
+        m_question->raise();
+        m_question->activateWindow();
+    } else if (m_edit->modified()) {
+        ask(std::move(action), [] {});
+    } else {
+        action();
+    }
+}
+
+void LyricsEditGuard::ask(std::function<void()> leave, std::function<void()> stay)
+{
+    m_question = makeQuestion();
+    connect(m_question, &QMessageBox::finished, this,
+            [this, leave = std::move(leave), stay = std::move(stay)](int answer) {
+                m_question.clear();
+                if (answer == QMessageBox::Save)
+                    m_edit->save();
+                else if (answer == QMessageBox::Discard)
+                    m_edit->cancel();
+                m_check.start(); // the list may have changed behind the question
+                m_edit->active() ? stay() : leave();
+            });
+    m_question->open();
+}
+
+QMessageBox *LyricsEditGuard::makeQuestion() const
+{
+    const ModelItem *song = m_edit->song();
+    const QString name = song->titleTag().isEmpty() ? song->filename() : song->titleTag();
+    auto *box = new QMessageBox(QMessageBox::Question, QString(), QString(),
+                                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(tr("The lyrics of “%1” have been changed.", "%1 is the title of a song")
+                     .arg(box->fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, widestName)));
+    box->setInformativeText(tr("Do you want to save the changes?"));
+    box->setDefaultButton(QMessageBox::Save);
+    box->setEscapeButton(QMessageBox::Cancel);
+    return box;
+}
+
+// Makes it the only selected row, and the current one.
+void LyricsEditGuard::showSong()
+{
+    const QModelIndex sourceRow = m_model->index(m_model->rowOf(m_edit->song()->id()));
+    if (!m_proxy->mapFromSource(sourceRow).isValid())
+        m_proxy->setShowFound(true);
+    // A row that is current already would keep the other rows selected.
+    m_proxy->setCurrentIndex(-1);
+    m_proxy->setCurrentIndex(m_proxy->mapFromSource(sourceRow).row());
+}
