@@ -4,65 +4,63 @@
 #include "model/FolderScanner.h"
 #include "model/MainModel.h"
 #include "model/ProxyModel.h"
+#include "network/Endpoints.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
-#include "settings/SettingsKeys.h"
+#include "ui/AddDialogs.h"
 #include "ui/AppPalette.h"
-#include "ui/ButtonImageProvider.h"
+#include "ui/ExitWidget.h"
+#include "ui/LyricsEdit.h"
+#include "ui/LyricsEditGuard.h"
+#include "ui/LyricsExport.h"
+#include "ui/MakerSite.h"
+#include "ui/StatusLine.h"
+#include "ui/WindowActions.h"
 
-#include <QDir>
+#include <QAction>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFileDialog>
 #include <QFileInfo>
-#include <QLabel>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQmlError>
-#include <QQuickItem>
-#include <QQuickWidget>
+#include <QGuiApplication>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 
-#include <algorithm>
+#include <limits>
 
-// The scene and its pictures lie in static libraries, so their resources have to be asked for; the macro must stand
-// outside any namespace.
-static void initSceneResources()
+static bool isId(int number)
 {
-    Q_INIT_RESOURCE(qml);
-    Q_INIT_RESOURCE(pictures);
-}
-
-// A line for each module of the scene that is not installed, with the Debian package that holds it.
-static QStringList missingModules(const QStringList &importPaths)
-{
-    QStringList lines;
-    const auto check = [&lines, &importPaths](const QString &folder, const QString &package) {
-        const bool isInstalled = std::any_of(importPaths.begin(), importPaths.end(), [&folder](const QString &path) {
-            return QFileInfo::exists(path + QLatin1Char('/') + folder + QLatin1String("/qmldir"));
-        });
-        if (!isInstalled)
-            lines.append(MainWindow::tr("The Qt module %1 is missing (package %2).").arg(folder, package));
-    };
-    check(QStringLiteral("QtQuick.2"), QStringLiteral("qml-module-qtquick2"));
-    return lines;
+    return number >= 0 && number <= std::numeric_limits<quint16>::max();
 }
 
 MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     : QMainWindow(parent)
     , m_parts(parts)
-    , m_scene(new QQuickWidget(this))
-    , m_statusLabel(new QLabel(this))
-    , m_noticeLabel(new QLabel(this))
+    , m_lyricsEdit(new LyricsEdit(parts.mainModel, this))
+    , m_editGuard(new LyricsEditGuard(m_lyricsEdit, parts.mainModel, parts.proxyModel, this))
+    , m_export(new LyricsExport(parts.mainModel, this))
+    , m_actions(std::make_unique<WindowActions>(this))
+    , m_status(new StatusLine(statusBar()))
+    , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
 {
     setWindowTitle(QStringLiteral("Versewell"));
     setMinimumSize(480, 320);
     resize(1040, 680);
-    createScene();
-    createStatusBar();
-    connect(m_parts.mainModel, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
-    connect(m_parts.mainModel, &MainModel::filesLeftOut, this, &MainWindow::showFilesLeftOut);
+    setUpLinks();
+    setCentralWidget(m_scene.get());
+    m_scene->setFocus();
+    connectSceneSignals();
+    connectModels();
+    QMetaObject::connectSlotsByName(this);
+    connect(m_actions->quit, &QAction::triggered, this, &MainWindow::quit_app);
+    connect(m_actions->exportLyrics, &QAction::triggered, this, &MainWindow::generateLyricsForSelected);
+    updateActions();
     updateStatusLabel();
     QTimer::singleShot(0, this, &MainWindow::onRestoreGeometry);
+    // At the end of a session Qt would close the window and take its question for a refusal. The program is told to
+    // quit then, which it does without asking.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
 }
 
 MainWindow::~MainWindow()
@@ -70,81 +68,305 @@ MainWindow::~MainWindow()
     saveState();
 }
 
-void MainWindow::createScene()
+// Making the window
+
+SceneWidget::Names MainWindow::sceneNames()
 {
-    initSceneResources();
-    m_scene->setResizeMode(QQuickWidget::SizeRootObjectToView);
-    m_scene->setAcceptDrops(true);
-    m_scene->setFocusPolicy(Qt::ClickFocus);
-    connect(m_scene, &QQuickWidget::sceneGraphError, this,
+    return {{QStringLiteral("app"), m_parts.app},
+            {QStringLiteral("settings"), m_parts.settings},
+            {QStringLiteral("mainWindow"), this},
+            {QStringLiteral("mainModel"), m_parts.mainModel},
+            {QStringLiteral("proxyModel"), m_parts.proxyModel},
+            {QStringLiteral("folderScanner"), m_parts.folderScanner},
+            {QStringLiteral("appPalette"), m_parts.palette}};
+}
+
+void MainWindow::connectSceneSignals()
+{
+    const auto connectSignal = [this](const char *signal, const char *slot) {
+        m_scene->connectRoot(signal, this, slot);
+    };
+    connectSignal("listExportLyricsSelected()", "generateLyricsForSelected()");
+    connectSignal("listRemoveSelected()", "removeSelected()");
+    connectSignal("listRemoveAll()", "clearList()");
+    connectSignal("listForceSearchSelected()", "forceSearchSelected()");
+    connectSignal("listCopyPathToClipboard(int)", "copyPathToClipboard(int)");
+    connectSignal("listSearchLyricsInBrowser(int)", "searchLyricsInBrowser(int)");
+    connectSignal("listSearchLyricsInBrowser_url(QUrl)", "searchLyricsInBrowser(QUrl)");
+    connectSignal("listLyricsToClipboard(int)", "listLyricsToClipboard(int)");
+    connectSignal("listRemoveWithLyrics()", "on_actionRemoveWithLyrics_triggered()");
+    connectSignal("addFilesRequested()", "on_actionAddFile_triggered()");
+    connectSignal("addFolderRequested()", "on_actionAddFolder_triggered()");
+    connect(m_scene.get(), &QQuickWidget::sceneGraphError, this,
             [this](QQuickWindow::SceneGraphError, const QString &message) { emit sceneFailed(message); });
-    publishToScene();
-    m_scene->setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
-    setCentralWidget(m_scene);
-    m_scene->setFocus();
-}
-
-void MainWindow::publishToScene()
-{
-    QQmlContext *context = m_scene->rootContext();
-    context->setContextProperty(QStringLiteral("app"), m_parts.app);
-    context->setContextProperty(QStringLiteral("settings"), m_parts.settings);
-    context->setContextProperty(QStringLiteral("mainWindow"), this);
-    context->setContextProperty(QStringLiteral("mainModel"), m_parts.mainModel);
-    context->setContextProperty(QStringLiteral("proxyModel"), m_parts.proxyModel);
-    context->setContextProperty(QStringLiteral("folderScanner"), m_parts.folderScanner);
-    context->setContextProperty(QStringLiteral("appPalette"), m_parts.palette);
-    m_scene->engine()->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider); // owned by the engine
-}
-
-void MainWindow::createStatusBar()
-{
-    m_statusLabel->setTextFormat(Qt::PlainText);
-    m_noticeLabel->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(m_statusLabel);
-    statusBar()->addPermanentWidget(m_noticeLabel);
-    statusBar()->setSizeGripEnabled(false);
 }
 
 QString MainWindow::sceneErrors() const
 {
-    if (m_scene->errors().isEmpty())
-        return {};
-    QStringList lines = missingModules(m_scene->engine()->importPathList());
-    for (const QQmlError &error : m_scene->errors())
-        lines.append(error.toString());
-    return lines.join(QLatin1Char('\n'));
+    return m_scene->loadErrors();
+}
+
+void MainWindow::connectModels()
+{
+    connect(m_parts.proxyModel, &ProxyModel::showFoundChanged, this, &MainWindow::onProxyShowFoundChanged);
+    onProxyShowFoundChanged(m_parts.proxyModel->showFound());
+    connect(m_parts.mainModel, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
+    connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
+    connect(m_export, &LyricsExport::finished, m_status, &StatusLine::showExported);
+    connect(m_parts.proxyModel, &ProxyModel::selectedCountChanged, this, &MainWindow::updateActions);
+    connect(m_parts.proxyModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateActions);
+    connect(m_parts.proxyModel, &QAbstractItemModel::rowsRemoved, this, &MainWindow::updateActions);
+    connect(m_parts.proxyModel, &QAbstractItemModel::modelReset, this, &MainWindow::updateActions);
+}
+
+// The links are in no menu but in the status bar; without a site of the maker they are nowhere.
+void MainWindow::setUpLinks()
+{
+    for (QAction *link : {m_actions->website, m_actions->facebook, m_actions->twitter}) {
+        link->setVisible(endpointExists(Endpoint::Maker));
+        m_status->addButton(link);
+    }
+}
+
+void MainWindow::updateActions()
+{
+    const bool hasRows = m_parts.proxyModel->rowCount() > 0;
+    const bool hasSelection = m_parts.proxyModel->selectedCount() > 0;
+    m_actions->selectAll->setEnabled(hasRows);
+    m_actions->clearList->setEnabled(hasRows);
+    m_actions->removeSelected->setEnabled(hasSelection);
+    m_actions->exportLyrics->setEnabled(hasSelection);
+    m_actions->removeWithLyrics->setEnabled(m_parts.mainModel->rowCount() > 0);
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_actions->retranslate();
+        updateStatusLabel();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::updateStatusLabel()
 {
-    const int count = m_parts.mainModel->activeCount();
-    m_statusLabel->setText(count > 0 ? tr("Searching... %n left...", nullptr, count) : QString());
-}
-
-void MainWindow::showFilesLeftOut(int count)
-{
-    m_filesLeftOut += count;
-    m_noticeLabel->setText(tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
+    m_status->setSearchesLeft(m_parts.mainModel->activeCount());
 }
 
 void MainWindow::showSettingsDamaged(const QString &copy)
 {
-    const QString text =
-        copy.isEmpty() ? tr("The settings file is damaged. What could be read is used, but no copy could be made.")
-                       : tr("The settings file was damaged. What could be read is kept; the damaged file is now %1",
-                            "%1 is the path of a file")
-                             .arg(QDir::toNativeSeparators(copy));
-    m_noticeLabel->setText(text);
+    m_status->showSettingsDamaged(copy);
 }
+
+// Adding
+
+void MainWindow::on_actionAddFile_triggered()
+{
+    const MainModel *model = m_parts.mainModel;
+    QFileDialog *dialog = makeAddFilesDialog(model->supportedTypesMask(QStringLiteral(" ")), this);
+    connect(dialog, &QFileDialog::filesSelected, this, &MainWindow::addFilesSelected);
+    dialog->open();
+}
+
+void MainWindow::addFilesSelected(const QStringList &files)
+{
+    if (files.isEmpty())
+        return;
+    rememberFilesFolder(QFileInfo(files.first()).absolutePath());
+    QList<QUrl> urls;
+    for (const QString &file : files)
+        urls.append(QUrl::fromLocalFile(file));
+    m_parts.mainModel->addUrls(urls);
+}
+
+void MainWindow::on_actionAddFolder_triggered()
+{
+    QFileDialog *dialog = makeAddFolderDialog(this);
+    connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::addFolderSelected);
+    dialog->open();
+}
+
+void MainWindow::addFolderSelected(const QString &folder)
+{
+    if (folder.isEmpty())
+        return;
+    rememberAddedFolder(folder);
+    m_parts.folderScanner->addFolder(QUrl::fromLocalFile(folder));
+}
+
+// Selecting, hiding and removing
+
+void MainWindow::on_actionSelectAll_triggered()
+{
+    m_parts.proxyModel->selectAll();
+}
+
+void MainWindow::on_actionHideWithLyrics_toggled(bool arg1)
+{
+    m_parts.proxyModel->setShowFound(!arg1);
+}
+
+void MainWindow::onProxyShowFoundChanged(bool showFound)
+{
+    m_actions->hideWithLyrics->setChecked(!showFound);
+}
+
+void MainWindow::removeSelected()
+{
+    const auto remove = [this] {
+        m_parts.proxyModel->removeSelected();
+    };
+    m_parts.proxyModel->selectedIds().contains(m_lyricsEdit->songId()) ? m_editGuard->before(remove) : remove();
+}
+
+void MainWindow::clearList()
+{
+    m_editGuard->before([this] { m_parts.proxyModel->removeAll(); });
+}
+
+void MainWindow::on_actionRemoveWithLyrics_triggered()
+{
+    const auto remove = [this] {
+        m_parts.mainModel->removeWithLyrics();
+    };
+    const ModelItem *edited = m_lyricsEdit->song();
+    edited && !edited->lyricsTag().isEmpty() ? m_editGuard->before(remove) : remove();
+}
+
+void MainWindow::on_actionClearList_triggered()
+{
+    clearList();
+}
+
+void MainWindow::on_actionRemoveSelected_triggered()
+{
+    removeSelected();
+}
+
+// What the scene asks for
+
+const ModelItem *MainWindow::itemAtRow(int row) const
+{
+    const QModelIndex sourceRow = m_parts.proxyModel->mapToSource(m_parts.proxyModel->index(row, 0));
+    return sourceRow.isValid() ? m_parts.mainModel->itemAt(sourceRow.row()) : nullptr;
+}
+
+void MainWindow::forceSearchSelected()
+{
+    const QVector<quint16> ids = m_parts.proxyModel->selectedIds();
+    for (const quint16 id : ids)
+        m_parts.mainModel->startSearch(id);
+}
+
+void MainWindow::copyPathToClipboard(int itemIndex)
+{
+    if (const ModelItem *item = itemAtRow(itemIndex))
+        QGuiApplication::clipboard()->setText(item->url().toLocalFile());
+}
+
+void MainWindow::listLyricsToClipboard(int itemId)
+{
+    const ModelItem *item = isId(itemId) ? m_parts.mainModel->item(static_cast<quint16>(itemId)) : nullptr;
+    if (item && !item->lyricsTag().isEmpty())
+        QGuiApplication::clipboard()->setText(item->lyricsTag());
+}
+
+void MainWindow::searchLyricsInBrowser(int itemIndex)
+{
+    searchInBrowser(itemAtRow(itemIndex));
+}
+
+void MainWindow::searchLyricsInBrowser(const QUrl &itemUrl)
+{
+    const int row = m_parts.mainModel->urls().indexOf(itemUrl);
+    if (row >= 0)
+        searchInBrowser(m_parts.mainModel->itemAt(row));
+}
+
+void MainWindow::searchInBrowser(const ModelItem *item)
+{
+    if (!item)
+        return;
+    const SearchNames names = item->searchArtistTitle();
+    const QString query = (names.artist + QLatin1Char(' ') + names.title).trimmed();
+    const QString engine = m_parts.settings->searchProvider();
+    if (!query.isEmpty())
+        m_searchProvider.search(query, engine.isEmpty() ? QStringLiteral("default") : engine);
+}
+
+void MainWindow::generateLyricsForSelected()
+{
+    m_export->add(m_parts.proxyModel->selectedIds());
+}
+
+// Links
+
+void MainWindow::on_actionFacebook_triggered()
+{
+    openMakerSite(QStringLiteral("/facebook/"), QStringLiteral("app"));
+}
+
+void MainWindow::on_actionTwitter_triggered()
+{
+    openMakerSite(QStringLiteral("/twitter/"), QStringLiteral("app"));
+}
+
+void MainWindow::on_actionWebsite_triggered()
+{
+    openMakerSite(QStringLiteral("/"), QStringLiteral("app-statusbar"));
+}
+
+// Quitting
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(m_quitting);
+    if (!m_quitting)
+        quit_app();
+}
+
+void MainWindow::quit_app()
+{
+    if (!m_quitting)
+        m_editGuard->before([this] { askToQuit(); });
+}
+
+void MainWindow::askToQuit()
+{
+    if (m_parts.mainModel->activeCount() == 0) {
+        quit_app_accepted();
+        return;
+    }
+    if (!m_exitWidget) {
+        m_exitWidget = new ExitWidget(m_parts.mainModel, this);
+        connect(m_exitWidget, &QDialog::accepted, this, &MainWindow::quit_app_accepted);
+    }
+    m_exitWidget->open();
+    m_exitWidget->raise();
+    m_exitWidget->activateWindow();
+}
+
+void MainWindow::quit_app_accepted()
+{
+    m_quitting = true;
+    hide();
+    // Nothing has to be waited for yet; what is to be told at the end of a session is told here.
+    QTimer::singleShot(0, this, &MainWindow::quit_app_force);
+}
+
+void MainWindow::quit_app_force()
+{
+    m_quitting = true;
+    close();
+}
+
+// What is kept
 
 void MainWindow::onRestoreGeometry()
 {
     const QSettings store;
     restoreGeometry(storedValue(store, SettingsKey::Geometry).toByteArray());
-    const int listWidth = storedValue(store, SettingsKey::ListWidth).toInt();
-    if (QQuickItem *root = m_scene->rootObject(); root && listWidth > 0)
-        root->setProperty("listWidth", listWidth);
+    m_scene->setListWidth(storedValue(store, SettingsKey::ListWidth).toInt());
 }
 
 QStringList MainWindow::fileUrls() const
@@ -160,8 +382,8 @@ void MainWindow::saveState() const
     m_parts.settings->save();
     SettingsChange change;
     change.set(SettingsKey::Geometry, saveGeometry());
-    if (const QQuickItem *root = m_scene->rootObject())
-        change.set(SettingsKey::ListWidth, root->property("listWidth").toInt());
+    if (m_scene->listWidth() > 0)
+        change.set(SettingsKey::ListWidth, m_scene->listWidth());
     if (m_parts.settings->saveFilesList())
         change.set(SettingsKey::FilesList, fileUrls());
     change.commit();

@@ -1,22 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "lyrics/SearchProvider.h"
+#include "ui/SceneWidget.h"
+
 #include <QMainWindow>
 
-class AppPalette;
-class FolderScanner;
-class MainModel;
-class ProxyModel;
-class QLabel;
-class QQuickWidget;
-class Settings;
+#include <memory>
 
-// The program's one window: the scene with the list of songs, and a status line.
+class AppPalette;
+class ExitWidget;
+class FolderScanner;
+class LyricsEdit;
+class LyricsEditGuard;
+class LyricsExport;
+class MainModel;
+class ModelItem;
+class ProxyModel;
+class QUrl;
+class Settings;
+class StatusLine;
+class WindowActions;
+
+// The program's one window: menus, tool bar and status bar around the scene. It turns actions and signals of the scene
+// into calls on the models, and asks before work of the user is lost.
 //
 // As it goes it stores its geometry, the settings and, when that is wanted, the list of files.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
+    Q_PROPERTY(LyricsEdit *lyricsEdit READ lyricsEdit CONSTANT)
 
 public:
     // What the window shows and works on. Nothing is owned, and all must outlive the window.
@@ -33,14 +46,45 @@ public:
     explicit MainWindow(const Parts &parts, QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    [[nodiscard]] LyricsEdit *lyricsEdit() const { return m_lyricsEdit; }
+
     // Why the scene could not be loaded, in words for the user; empty when it could.
     [[nodiscard]] QString sceneErrors() const;
 
 public slots:
-    // Keeps the number of songs that are still to be searched for in the status line.
-    void updateStatusLabel();
+    // Removing asks first when a modified draft of lyrics would be lost. `clearList` leaves hidden songs in the list.
+    void clearList();
+    void removeSelected();
+    void forceSearchSelected();
+    // Rows are those of the list as it is shown. A row, an id or an address that is not there is ignored.
+    void copyPathToClipboard(int itemIndex);
+    void searchLyricsInBrowser(int itemIndex);
+    void searchLyricsInBrowser(const QUrl &itemUrl);
+    void listLyricsToClipboard(int itemId);
+    // Exports the lyrics of the selected songs to text files, and says in the status bar how it went.
+    void generateLyricsForSelected();
+    void on_actionAddFile_triggered();
+    void on_actionAddFolder_triggered();
+    void on_actionSelectAll_triggered();
+    void on_actionRemoveWithLyrics_triggered();
+    void on_actionHideWithLyrics_toggled(bool arg1);
+    void on_actionClearList_triggered();
+    void on_actionRemoveSelected_triggered();
+    void on_actionFacebook_triggered();
+    void on_actionTwitter_triggered();
+    void onProxyShowFoundChanged(bool showFound);
     // Brings back the window's geometry and the width of the list.
     void onRestoreGeometry();
+    // Paths that were chosen in a dialog; their folder is where the next dialog begins.
+    void addFilesSelected(const QStringList &files);
+    void addFolderSelected(const QString &folder);
+    // Keeps the number of songs that are still to be searched for in the status line.
+    void updateStatusLabel();
+    // Quits after asking, when there is something to ask; then hides the window, and then ends the event loop.
+    void quit_app();
+    void quit_app_accepted();
+    void quit_app_force();
+    void on_actionWebsite_triggered();
     // Says in the status line that the settings file was damaged. `copy` is the path of the damaged file as it was;
     // empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
@@ -49,17 +93,31 @@ signals:
     // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.
     void sceneFailed(const QString &reason);
 
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
 private:
-    void createScene();
-    void publishToScene();
-    void createStatusBar();
-    void showFilesLeftOut(int count);
+    [[nodiscard]] SceneWidget::Names sceneNames();
+    void connectSceneSignals();
+    void connectModels();
+    void setUpLinks();
+    void updateActions();
+    void searchInBrowser(const ModelItem *item);
+    [[nodiscard]] const ModelItem *itemAtRow(int row) const;
+    void askToQuit();
     [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;
 
     const Parts m_parts;
-    QQuickWidget *m_scene;
-    QLabel *m_statusLabel;
-    QLabel *m_noticeLabel;
-    int m_filesLeftOut = 0;
+    LyricsEdit *const m_lyricsEdit;
+    LyricsEditGuard *const m_editGuard;
+    LyricsExport *const m_export;
+    const std::unique_ptr<WindowActions> m_actions;
+    StatusLine *const m_status;
+    ExitWidget *m_exitWidget = nullptr; // made when it is first needed
+    const SearchProvider m_searchProvider;
+    bool m_quitting = false;
+    // The last member, since it has to go before what it shows.
+    const std::unique_ptr<SceneWidget> m_scene;
 };

@@ -6,14 +6,33 @@
 #include "model/ProxyModel.h"
 #include "settings/Settings.h"
 #include "ui/AppPalette.h"
+#include "ui/ExitWidget.h"
+#include "ui/LyricsEdit.h"
 
+#include <QAction>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWidget>
+#include <QScreen>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <QToolButton>
 
 namespace {
 
@@ -30,6 +49,21 @@ QUrl sample(const char *name)
     return QUrl::fromLocalFile(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + QLatin1String(name));
 }
 
+// Opens pages in place of the browser.
+class BrowserStandIn : public QObject
+{
+    Q_OBJECT
+
+public:
+    BrowserStandIn() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
+    ~BrowserStandIn() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
+
+    QList<QUrl> urls;
+
+public slots:
+    void open(const QUrl &url) { urls.append(url); }
+};
+
 } // namespace
 
 class tst_MainWindow : public QObject
@@ -43,7 +77,21 @@ private slots:
     void theSceneShowsTheSongs();
     void theKeyboardReachesListAndLyrics();
     void theStatusBarSaysWhatIsGoingOn();
+    void noticesStandSideBySide();
+    void geometryAndPaneComeBack_data();
     void geometryAndPaneComeBack();
+    void theMenusHaveTheirActions();
+    void textsHaveTheirKeysForThemselves_data();
+    void textsHaveTheirKeysForThemselves();
+    void filesAndFoldersAreDropped();
+    void theDialogsRememberTheirFolders();
+    void aSongIsTakenToClipboardAndBrowser();
+    void coloursFollowThePalette();
+    void quittingAsksWhileSongsAreSearchedFor_data();
+    void quittingAsksWhileSongsAreSearchedFor();
+    void aDraftIsAskedAbout_data();
+    void aDraftIsAskedAbout();
+    void anUnchangedDraftGoesQuietly();
     void rowsAreSelectedHiddenAndRemovedByKey();
     void theListIsSavedWhenThatIsWanted_data();
     void theListIsSavedWhenThatIsWanted();
@@ -61,8 +109,13 @@ private:
         return texts;
     }
 
-    QTemporaryDir m_folder;
+    QAction *action(const char *name) const { return m_window->findChild<QAction *>(QLatin1String(name)); }
+    QQuickWidget *scene() const { return m_window->findChild<QQuickWidget *>(); }
     void openWindow();
+    void addCopies(int count);
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<QTemporaryDir> m_songs;
 
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<MainModel> m_model;
@@ -100,6 +153,21 @@ void tst_MainWindow::openWindow()
         MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+// Songs without names, which nobody searches for, in a folder of their own.
+void tst_MainWindow::addCopies(int count)
+{
+    m_songs = std::make_unique<QTemporaryDir>();
+    QList<QUrl> urls;
+    for (int i = 0; i < count; ++i) {
+        const QString file = m_songs->filePath(QStringLiteral("%1.mp3").arg(i));
+        QVERIFY(QFile::copy(sample("untagged.mp3").toLocalFile(), file));
+        urls.append(QUrl::fromLocalFile(file));
+    }
+    m_model->add(urls);
+    for (int i = 0; i < count; ++i)
+        QTRY_COMPARE(m_model->itemAt(i)->processState(), ModelItem::ProcessNotSuitable);
 }
 
 void tst_MainWindow::cleanup()
@@ -159,28 +227,371 @@ void tst_MainWindow::theKeyboardReachesListAndLyrics()
 
 void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
 {
-    m_model->add({sample("lyrics.mp3"), sample("untagged.mp3")});
-    QVERIFY(labels().contains(QStringLiteral("Searching... 2 left...")));
+    const auto *progress = m_window->findChild<QProgressBar *>();
+    QVERIFY(!progress->isVisible());
+    addCopies(4);
+    for (int row = 0; row < 4; ++row)
+        m_model->itemAt(row)->setProcessState(ModelItem::ProcessWaiting);
+    m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
+    QVERIFY(labels().contains(QStringLiteral("Searching... 3 left...")));
+    QVERIFY(progress->isVisible());
+    QCOMPARE(progress->value() * 4, progress->maximum());
+    m_model->removeAll();
+    QVERIFY(!progress->isVisible());
+    QVERIFY(labels().filter(QStringLiteral("Searching")).isEmpty());
+}
+
+void tst_MainWindow::noticesStandSideBySide()
+{
+    const auto exportLyrics = [this] {
+        action("actionExportLyrics")->trigger();
+    };
+    addCopies(3);
+    QVERIFY(!action("actionRemoveSelected")->isEnabled() || m_proxy->selectedCount() > 0);
+    m_window->showSettingsDamaged(QStringLiteral("/home/<b>x</b>"));
     emit m_model->filesLeftOut(4);
     emit m_model->filesLeftOut(3);
+    m_proxy->selectAll();
+    exportLyrics();
+    QTRY_VERIFY(labels().contains(QStringLiteral("There are no lyrics to export")));
+    for (int row = 0; row < 3; ++row)
+        m_model->itemAt(row)->setEditedLyricsTag(QStringLiteral("la"));
+    // A folder stands where the text file would.
+    QVERIFY(QDir(m_songs->path()).mkdir(QStringLiteral("1.txt")));
+    exportLyrics();
+    QTRY_VERIFY(labels().contains(QLatin1String("The lyrics could not be written to ") +
+                                  m_songs->filePath(QStringLiteral("1.txt"))));
+    QVERIFY(QFile::exists(m_songs->filePath(QStringLiteral("2.txt"))));
+    QVERIFY(QFile::remove(m_songs->filePath(QStringLiteral("0.txt"))));
+    QVERIFY(QDir(m_songs->path()).mkdir(QStringLiteral("0.txt")));
+    exportLyrics();
+    QTRY_VERIFY(labels().contains(QStringLiteral("The lyrics of 2 song(s) could not be exported")));
     QVERIFY(labels().contains(QStringLiteral("The list is full. Files left out: 7")));
-    QVERIFY(labels().contains(QStringLiteral("Searching... 2 left...")));
-    QTRY_COMPARE(m_model->activeCount(), 0);
-    QVERIFY(labels().contains(QString()));
+    QCOMPARE(labels().filter(QStringLiteral("settings file")).size(), 1);
+    QVERIFY(m_window->minimumSizeHint().width() < 640);
+    for (QToolButton *button : m_window->findChildren<QToolButton *>()) {
+        if (button->accessibleDescription().contains(QStringLiteral("settings file")))
+            button->click();
+    }
+    QTRY_COMPARE(labels().filter(QStringLiteral("settings file")).size(), 0);
+}
+
+void tst_MainWindow::geometryAndPaneComeBack_data()
+{
+    QTest::addColumn<QRect>("place");
+    QTest::addColumn<bool>("maximized");
+    QTest::newRow("a place on the screen") << QRect(50, 60, 700, 500) << false;
+    QTest::newRow("maximized") << QRect(50, 60, 700, 500) << true;
+    QTest::newRow("off the screen") << QRect(5000, 4000, 700, 500) << false;
 }
 
 void tst_MainWindow::geometryAndPaneComeBack()
 {
-    m_window->resize(700, 500);
-    QQuickItem *root = m_window->findChild<QQuickWidget *>()->rootObject();
-    root->setProperty("listWidth", 321);
+    QFETCH(QRect, place);
+    QFETCH(bool, maximized);
+    m_window->setGeometry(place);
+    if (maximized)
+        m_window->showMaximized();
+    scene()->rootObject()->setProperty("listWidth", 321);
     m_window.reset();
     m_model->add({sample("lyrics.mp3")});
     openWindow();
-    QTRY_COMPARE(m_window->size(), QSize(700, 500));
+    QTRY_COMPARE(m_window->isMaximized(), maximized);
+    QTRY_COMPARE(m_window->normalGeometry().size(), place.size());
+    const QRect screen = m_window->screen()->availableGeometry();
+    QVERIFY(screen.intersects(m_window->geometry()));
+    if (screen.contains(place))
+        QCOMPARE(m_window->normalGeometry(), place);
     QTRY_COMPARE(sceneItem(QStringLiteral("lyricsText"))->property("text").toString(), m_model->itemAt(0)->lyricsTag());
-    QCOMPARE(m_window->findChild<QQuickWidget *>()->rootObject()->property("listWidth").toInt(), 321);
+    QCOMPARE(scene()->rootObject()->property("listWidth").toInt(), 321);
     QCOMPARE(sceneItem(QStringLiteral("songList"))->width(), 321.0);
+}
+
+void tst_MainWindow::theMenusHaveTheirActions()
+{
+    QStringList menus;
+    for (const QAction *title : m_window->menuBar()->actions()) {
+        QStringList entries;
+        for (const QAction *entry : title->menu()->actions())
+            entries.append(entry->text() + entry->shortcut().toString());
+        menus.append(title->text() + QLatin1String(": ") + entries.join(QLatin1Char('|')));
+    }
+    QCOMPARE(
+        menus,
+        QStringList(
+            {QStringLiteral("File: Add fileCtrl+O|Add folder||Export lyrics to TXT file||Preferences|Quit"),
+             QStringLiteral("Edit: Select allCtrl+A||Remove selectedDel|Remove with lyricsMeta+Alt+Del||Clear list"),
+             QStringLiteral("View: Hide file(s) with lyricsCtrl+L"), QStringLiteral("Help: About")}));
+    QVERIFY(!action("actionAddFile")->icon().isNull());
+    QCOMPARE(action("actionTwitter")->toolTip(), QStringLiteral("Twitter"));
+    m_proxy->setShowFound(false);
+    QVERIFY(action("actionHideWithLyrics")->isChecked());
+}
+
+void tst_MainWindow::textsHaveTheirKeysForThemselves_data()
+{
+    QTest::addColumn<QByteArray>("element");
+    QTest::addColumn<QString>("afterDelete");
+    QTest::newRow("a field") << QByteArray("TextInput {") << "bc";
+    QTest::newRow("a text that is edited") << QByteArray("TextEdit {") << "bc";
+    QTest::newRow("a text that is only read")
+        << QByteArray("TextEdit { readOnly: true; selectByKeyboard: true;") << "abc";
+}
+
+void tst_MainWindow::textsHaveTheirKeysForThemselves()
+{
+    QFETCH(QByteArray, element);
+    QFETCH(QString, afterDelete);
+    addCopies(2);
+    QQmlComponent component(scene()->engine());
+    component.setData("import QtQuick 2.15\n" + element + " text: 'abc' }", QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    auto *text = qobject_cast<QQuickItem *>(object.get());
+    QVERIFY(text);
+    text->setParentItem(scene()->rootObject());
+    text->forceActiveFocus();
+    text->setProperty("cursorPosition", 0);
+    QTest::keyClick(scene(), Qt::Key_Delete);
+    QCOMPARE(m_model->rowCount(), 2);
+    QCOMPARE(text->property("text").toString(), afterDelete);
+    QTest::keyClick(scene(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(text->property("selectedText").toString(), afterDelete);
+    QCOMPARE(m_proxy->selectedCount(), 1);
+    QTest::keyClick(scene(), Qt::Key_Backspace);
+    QCOMPARE(m_model->rowCount(), 2);
+    text->setParentItem(nullptr);
+    sceneItem(QStringLiteral("songList"))->forceActiveFocus();
+    QTest::keyClick(scene(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(m_proxy->selectedCount(), 2);
+}
+
+void tst_MainWindow::filesAndFoldersAreDropped()
+{
+    QSignalSpy scans(m_model.get(), &MainModel::scanFolders);
+    m_model->setSupportedExtensions({QStringLiteral("mp3")});
+    QMimeData data;
+    data.setUrls(
+        {sample("lyrics.mp3"), QUrl::fromLocalFile(m_folder.path()), QUrl(QStringLiteral("http://127.0.0.1/a.mp3"))});
+    const QPoint middle = scene()->rect().center();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(scene(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(scene(), &drop);
+    QVERIFY(drop.isAccepted());
+    QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
+    QCOMPARE(scans.value(0).value(0).value<QList<QUrl>>(), QList<QUrl>{QUrl::fromLocalFile(m_folder.path())});
+}
+
+void tst_MainWindow::theDialogsRememberTheirFolders()
+{
+    m_model->setSupportedExtensions({QStringLiteral("mp3"), QStringLiteral("ogg")});
+    const QString folder = QFileInfo(sample("lyrics.mp3").toLocalFile()).path();
+    const auto openDialog = [this](const char *name) {
+        action(name)->trigger();
+        return m_window->findChild<QFileDialog *>();
+    };
+    QFileDialog *dialog = openDialog("actionAddFile");
+    QCOMPARE(dialog->nameFilters(), QStringList{QStringLiteral("Audio files (*.mp3 *.ogg)")});
+    dialog->reject();
+    QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
+    QVERIFY(!QSettings().contains(QStringLiteral("lastFileDir")));
+    dialog = openDialog("actionAddFile");
+    emit dialog->filesSelected({sample("lyrics.mp3").toLocalFile(), sample("plain.flac").toLocalFile()});
+    dialog->reject();
+    QCOMPARE(m_model->rowCount(), 2);
+    QCOMPARE(QSettings().value(QStringLiteral("lastFileDir")).toString(), folder);
+    QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
+    dialog = openDialog("actionAddFile");
+    QCOMPARE(dialog->directory().absolutePath(), folder);
+    dialog->reject();
+    QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
+
+    QSignalSpy scans(m_scanner.get(), &FolderScanner::found);
+    m_scanner->setTypes({QStringLiteral("flac")});
+    dialog = openDialog("actionAddFolder");
+    emit dialog->fileSelected(folder);
+    dialog->reject();
+    QCOMPARE(QSettings().value(QStringLiteral("lastFolderDir")).toString(), folder);
+    QVERIFY(scans.wait());
+    QVERIFY(scans.at(0).at(0).value<QList<QUrl>>().contains(sample("plain.flac")));
+}
+
+void tst_MainWindow::aSongIsTakenToClipboardAndBrowser()
+{
+    BrowserStandIn browser;
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    addCopies(2);
+    m_model->itemAt(1)->setEditedLyricsTag(QStringLiteral("la"));
+    m_window->copyPathToClipboard(1);
+    QCOMPARE(clipboard->text(), m_model->itemAt(1)->url().toLocalFile());
+    m_window->listLyricsToClipboard(m_model->itemAt(1)->id());
+    m_window->listLyricsToClipboard(m_model->itemAt(0)->id()); // no lyrics
+    m_window->listLyricsToClipboard(m_model->itemAt(0)->id() + 65536);
+    m_window->copyPathToClipboard(-1);
+    m_window->copyPathToClipboard(2);
+    QCOMPARE(clipboard->text(), QStringLiteral("la"));
+    m_window->searchLyricsInBrowser(0); // no names
+    m_window->searchLyricsInBrowser(7);
+    m_window->searchLyricsInBrowser(QUrl(QStringLiteral("file:///nowhere.mp3")));
+    QCOMPARE(browser.urls, QList<QUrl>());
+    m_model->itemAt(0)->setTitleTag(QStringLiteral("R&B"));
+    m_model->itemAt(1)->setTitleTag(QStringLiteral("T"));
+    m_model->itemAt(1)->setArtistTag(QStringLiteral("A"));
+    m_window->searchLyricsInBrowser(0);
+    m_settings->setSearchProvider(QStringLiteral("Yahoo"));
+    m_window->searchLyricsInBrowser(m_model->itemAt(1)->url());
+    QCOMPARE(browser.urls.size(), 2);
+    QVERIFY(browser.urls.at(0).toEncoded().endsWith("/search?q=R%26B"));
+    QVERIFY(browser.urls.at(1).toEncoded().endsWith("/search?p=A%20T"));
+}
+
+void tst_MainWindow::coloursFollowThePalette()
+{
+    const QColor before = scene()->rootObject()->property("color").value<QColor>();
+    m_palette.setPalette(QPalette(Qt::darkBlue));
+    QVERIFY(scene()->rootObject()->property("color").value<QColor>() != before);
+    QCOMPARE(scene()->rootObject()->property("color").value<QColor>(), QPalette(Qt::darkBlue).color(QPalette::Window));
+    m_palette.setPalette(QPalette());
+}
+
+void tst_MainWindow::quittingAsksWhileSongsAreSearchedFor_data()
+{
+    QTest::addColumn<int>("active");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("quits");
+    QTest::newRow("nothing is searched for") << 0 << QString() << true;
+    QTest::newRow("yes") << 3 << "&Yes" << true;
+    QTest::newRow("no") << 3 << "&No" << false;
+    QTest::newRow("Escape") << 3 << "Escape" << false;
+    QTest::newRow("the last search ends") << 3 << "end" << true;
+}
+
+void tst_MainWindow::quittingAsksWhileSongsAreSearchedFor()
+{
+    QFETCH(int, active);
+    QFETCH(QString, answer);
+    QFETCH(bool, quits);
+    addCopies(3);
+    for (int row = 0; row < active; ++row)
+        m_model->itemAt(row)->setProcessState(ModelItem::ProcessWaiting);
+    m_window->close();
+    auto *question = m_window->findChild<ExitWidget *>();
+    QCOMPARE(question != nullptr, active > 0);
+    if (question) {
+        QVERIFY(m_window->isVisible() && question->isVisible());
+        m_window->quit_app(); // once more
+        QVERIFY(labels().contains(QStringLiteral("Search for 3 songs is currently in progress.")));
+        m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
+        QVERIFY(labels().contains(QStringLiteral("Search for 2 songs is currently in progress.")));
+        if (answer == QLatin1String("Escape"))
+            QTest::keyClick(question, Qt::Key_Escape);
+        for (QPushButton *button : question->findChildren<QPushButton *>()) {
+            if (button->text() == answer)
+                button->click();
+        }
+        if (answer == QLatin1String("end"))
+            m_model->removeAll();
+        QVERIFY(!question->isVisible());
+    }
+    QCOMPARE(m_window->isVisible(), !quits);
+    QTimer::singleShot(quits ? 5000 : 100, qApp, [] { QCoreApplication::exit(1); });
+    QCOMPARE(QCoreApplication::exec(), quits ? 0 : 1);
+}
+
+void tst_MainWindow::aDraftIsAskedAbout_data()
+{
+    QTest::addColumn<QString>("cause");
+    QTest::addColumn<int>("rowsLeft");
+    QTest::newRow("another row") << "row" << 3;
+    QTest::newRow("several rows") << "several" << 3;
+    QTest::newRow("the song is filtered away") << "filter" << 3;
+    QTest::newRow("removed by key") << "key" << 2;
+    QTest::newRow("the list is cleared") << "clear" << 0;
+    QTest::newRow("removed with all that have lyrics") << "removeWithLyrics" << 2;
+    QTest::newRow("the window is closed") << "close" << 3;
+}
+
+void tst_MainWindow::aDraftIsAskedAbout()
+{
+    QFETCH(QString, cause);
+    QFETCH(int, rowsLeft);
+    LyricsEdit *edit = m_window->lyricsEdit();
+    addCopies(3);
+    const QUrl url = m_model->itemAt(1)->url();
+    m_model->itemAt(1)->setEditedLyricsTag(QStringLiteral("old"));
+    const auto beginDraft = [&] {
+        m_proxy->setCurrentIndex(-1);
+        m_proxy->setCurrentIndex(1);
+        edit->begin(m_model->itemAt(1));
+        edit->setText(QStringLiteral("new"));
+    };
+    const auto act = [&] {
+        if (cause == QLatin1String("row"))
+            m_proxy->setCurrentIndex(0);
+        else if (cause == QLatin1String("several"))
+            m_proxy->selectAll();
+        else if (cause == QLatin1String("filter"))
+            m_proxy->setShowFound(false);
+        else if (cause == QLatin1String("key"))
+            QTest::keyClick(scene(), Qt::Key_Delete);
+        else if (cause == QLatin1String("clear"))
+            action("actionClearList")->trigger();
+        else if (cause == QLatin1String("removeWithLyrics"))
+            action("actionRemoveWithLyrics")->trigger();
+        else
+            m_window->close();
+    };
+    const auto answer = [this](QMessageBox::StandardButton button) {
+        QTRY_VERIFY(m_window->findChild<QMessageBox *>());
+        m_window->findChild<QMessageBox *>()->button(button)->click();
+        QTRY_VERIFY(!m_window->findChild<QMessageBox *>());
+        QApplication::setActiveWindow(m_window.get());
+    };
+    beginDraft();
+    act();
+    answer(QMessageBox::Cancel);
+    QTest::qWait(0);
+    QCOMPARE(edit->text(), QStringLiteral("new"));
+    QCOMPARE(m_model->rowCount(), 3);
+    QVERIFY(m_window->isVisible() && !m_window->findChild<QMessageBox *>());
+    QCOMPARE(m_proxy->currentItem(), m_model->itemAt(1));
+    QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{m_model->itemAt(1)->id()});
+    act();
+    answer(QMessageBox::Discard);
+    QVERIFY(!edit->active());
+    QCOMPARE(m_model->rowCount(), rowsLeft);
+    QCOMPARE(m_window->isVisible(), cause != QLatin1String("close"));
+    if (rowsLeft < 3 || !m_window->isVisible())
+        return;
+    QCOMPARE(m_model->itemAt(1)->lyricsTag(), QStringLiteral("old"));
+    m_proxy->setShowFound(true);
+    beginDraft();
+    act();
+    answer(QMessageBox::Save);
+    QTRY_COMPARE(m_model->itemAt(1)->processState(), ModelItem::ProcessComplete);
+    MainModel again;
+    again.add({url});
+    QTRY_COMPARE(again.itemAt(0)->lyricsTag(), QStringLiteral("new"));
+}
+
+void tst_MainWindow::anUnchangedDraftGoesQuietly()
+{
+    LyricsEdit *edit = m_window->lyricsEdit();
+    addCopies(3);
+    m_proxy->setCurrentIndex(1);
+    edit->begin(m_model->itemAt(1));
+    m_model->removeRows(0, 1); // another song goes: the edited one is still shown
+    QTest::qWait(0);
+    QVERIFY(edit->active());
+    m_proxy->setCurrentIndex(1);
+    QTRY_VERIFY(!edit->active());
+    edit->begin(m_model->itemAt(1));
+    edit->setText(QStringLiteral("draft"));
+    m_model->setSearch(nullptr);
+    m_model->removeRows(1, 1); // past all questions
+    QTRY_VERIFY(!edit->active());
+    QVERIFY(!m_window->findChild<QMessageBox *>());
 }
 
 void tst_MainWindow::rowsAreSelectedHiddenAndRemovedByKey()

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "ui/AddDialogs.h"
+
+#include "settings/SettingsChange.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QSettings>
+
+static QFileDialog *makeDialog(const QString &title, SettingsKey folder, QFileDialog::FileMode mode, QWidget *parent)
+{
+    auto *dialog = new QFileDialog(parent, title, storedValue(QSettings(), folder).toString());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(mode);
+    return dialog;
+}
+
+static void remember(SettingsKey key, const QString &folder)
+{
+    SettingsChange change;
+    change.set(key, folder);
+    change.commit();
+}
+
+QFileDialog *makeAddFilesDialog(const QString &masks, QWidget *parent)
+{
+    QFileDialog *dialog = makeDialog(QCoreApplication::translate("AddDialogs", "Select file(s) to add"),
+                                     SettingsKey::LastFileDir, QFileDialog::ExistingFiles, parent);
+    dialog->setNameFilter(QCoreApplication::translate("AddDialogs", "Audio files") + QLatin1String(" (") + masks +
+                          QLatin1Char(')'));
+    return dialog;
+}
+
+QFileDialog *makeAddFolderDialog(QWidget *parent)
+{
+    QFileDialog *dialog = makeDialog(QCoreApplication::translate("AddDialogs", "Select folder to add"),
+                                     SettingsKey::LastFolderDir, QFileDialog::Directory, parent);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    return dialog;
+}
+
+void rememberFilesFolder(const QString &folder)
+{
+    remember(SettingsKey::LastFileDir, folder);
+}
+
+void rememberAddedFolder(const QString &folder)
+{
+    remember(SettingsKey::LastFolderDir, folder);
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "ui/MakerSite.h"
+
+#include "network/Endpoints.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QUrlQuery>
+
+void openMakerSite(const QString &path, const QString &source)
+{
+    if (!endpointExists(Endpoint::Maker))
+        return;
+    QUrl url = endpointUrl(Endpoint::Maker, path);
+    url.setQuery(QUrlQuery{{QStringLiteral("zv_product"), QStringLiteral("versewell")},
+                           {QStringLiteral("zv_version"), QCoreApplication::applicationVersion()},
+                           {QStringLiteral("zv_source"), source}});
+    QDesktopServices::openUrl(url);
+}

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "ui/SceneWidget.h"
+
+#include "model/MainModel.h"
+#include "ui/ButtonImageProvider.h"
+#include "ui/FileImageProvider.h"
+
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlError>
+#include <QQuickWindow>
+
+#include <algorithm>
+
+// The version of Qt that the scene is told, as one number: it opens its menus in the way of 5.5 and later.
+static constexpr int qtVersion = 551;
+
+static const char listWidthName[] = "listWidth";
+
+// Scene and pictures lie in static libraries, so their resources have to be asked for; the macro must stand outside any
+// namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(qml);
+    Q_INIT_RESOURCE(pictures);
+}
+
+// A line for each module of the scene that is not installed, with the Debian package that holds it. Sound is left out:
+// without it the scene is loaded as well.
+static QStringList missingModules(const QStringList &importPaths)
+{
+    QStringList lines;
+    const auto check = [&lines, &importPaths](const QString &folder, const QString &package) {
+        const bool isInstalled = std::any_of(importPaths.begin(), importPaths.end(), [&folder](const QString &path) {
+            return QFileInfo::exists(path + QLatin1Char('/') + folder + QLatin1String("/qmldir"));
+        });
+        if (!isInstalled)
+            lines.append(SceneWidget::tr("The Qt module %1 is missing (package %2).").arg(folder, package));
+    };
+    check(QStringLiteral("QtQuick.2"), QStringLiteral("qml-module-qtquick2"));
+    check(QStringLiteral("QtQuick/Window.2"), QStringLiteral("qml-module-qtquick-window2"));
+    check(QStringLiteral("QtQuick/Layouts"), QStringLiteral("qml-module-qtquick-layouts"));
+    check(QStringLiteral("QtQuick/Controls"), QStringLiteral("qml-module-qtquick-controls"));
+    return lines;
+}
+
+SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *parent)
+    : QQuickWidget(parent)
+{
+    initResources();
+    setResizeMode(SizeRootObjectToView);
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::ClickFocus);
+    for (const auto &[name, object] : names)
+        rootContext()->setContextProperty(name, object);
+    auto *covers = new FileImageProvider;
+    covers->setModel(model);
+    // Both are owned by the engine.
+    engine()->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider);
+    engine()->addImageProvider(QStringLiteral("file-cover"), covers);
+    connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
+    setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    if (rootObject())
+        rootObject()->setProperty("qtVersion", qtVersion);
+}
+
+SceneWidget::~SceneWidget() = default;
+
+QString SceneWidget::loadErrors() const
+{
+    const QList<QQmlError> found = errors();
+    if (found.isEmpty())
+        return {};
+    QStringList lines = missingModules(engine()->importPathList());
+    for (const QQmlError &error : found)
+        lines.append(error.toString());
+    return lines.join(QLatin1Char('\n'));
+}
+
+void SceneWidget::connectRoot(const char *signal, QObject *receiver, const char *slot) const
+{
+    const QObject *root = rootObject();
+    const int signalIndex = root ? root->metaObject()->indexOfSignal(signal) : -1;
+    const int slotIndex = receiver->metaObject()->indexOfSlot(slot);
+    Q_ASSERT(slotIndex >= 0);
+    if (signalIndex >= 0)
+        connect(root, root->metaObject()->method(signalIndex), receiver, receiver->metaObject()->method(slotIndex));
+}
+
+int SceneWidget::listWidth() const
+{
+    return rootObject() ? rootObject()->property(listWidthName).toInt() : 0;
+}
+
+void SceneWidget::setListWidth(int width)
+{
+    if (rootObject() && width > 0)
+        rootObject()->setProperty(listWidthName, width);
+}
+
+void SceneWidget::watchFocus()
+{
+    if (m_focusedText)
+        m_focusedText->removeEventFilter(this);
+    QQuickItem *item = quickWindow()->activeFocusItem();
+    const bool isText = item && (item->inherits("QQuickTextEdit") || item->inherits("QQuickTextInput"));
+    m_focusedText = isText ? item : nullptr;
+    if (isText)
+        item->installEventFilter(this);
+}
+
+bool SceneWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_focusedText && event->type() == QEvent::ShortcutOverride) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (key->matches(QKeySequence::Delete) || key->matches(QKeySequence::SelectAll)) {
+            key->accept();
+            return true;
+        }
+    }
+    return QQuickWidget::eventFilter(watched, event);
+}

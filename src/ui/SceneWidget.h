@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWidget>
+
+#include <utility>
+
+class MainModel;
+
+// The scene inside the main window: makes it from its document, gives it what it works on and serves its pictures.
+class SceneWidget : public QQuickWidget
+{
+    Q_OBJECT
+
+public:
+    // Objects that the scene knows by these names. Not owned; they must outlive the widget.
+    using Names = QList<std::pair<QString, QObject *>>;
+
+    // Covers are those of the model, which must outlive the widget.
+    SceneWidget(const Names &names, const MainModel *model, QWidget *parent);
+    ~SceneWidget() override;
+
+    // Why the scene could not be loaded, in words for the user; empty when it could.
+    [[nodiscard]] QString loadErrors() const;
+
+    // Connects a signal of the scene's root, which has no C++ pointer, to a slot of `receiver`. Both are given by their
+    // normalized signatures: "listRemoveAll()". Nothing when the root lacks the signal.
+    void connectRoot(const char *signal, QObject *receiver, const char *slot) const;
+
+    // Width of the list of songs in pixels; 0 when there is no scene. A width that is not above 0 is not set.
+    [[nodiscard]] int listWidth() const;
+    void setListWidth(int width);
+
+    // Leaves Del and Ctrl+A to the text of the scene that has the focus, although actions of the window have them as
+    // shortcuts. Texts that can be edited ask for these keys by themselves, those that can only be read do not (Qt
+    // 5.15): Del in the lyrics would remove songs from the list.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void watchFocus();
+
+    QPointer<QQuickItem> m_focusedText;
+};
