@@ -7,6 +7,7 @@
 #include "network/Endpoints.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
+#include "ui/AboutDialog.h"
 #include "ui/AddDialogs.h"
 #include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
@@ -20,6 +21,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -32,6 +34,13 @@
 static bool isId(int number)
 {
     return number >= 0 && number <= std::numeric_limits<quint16>::max();
+}
+
+static void openMakerPage(const QString &path, const QString &source)
+{
+    const QUrl page = makerPage(path, source);
+    if (!page.isEmpty())
+        QDesktopServices::openUrl(page);
 }
 
 MainWindow::MainWindow(const Parts &parts, QWidget *parent)
@@ -47,6 +56,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     setWindowTitle(QStringLiteral("Versewell"));
     setMinimumSize(480, 320);
     resize(1040, 680);
+    m_actions->settings->setEnabled(false); // there is no dialog of preferences yet
     setUpLinks();
     setCentralWidget(m_scene.get());
     m_scene->setFocus();
@@ -303,17 +313,24 @@ void MainWindow::generateLyricsForSelected()
 
 void MainWindow::on_actionFacebook_triggered()
 {
-    openMakerSite(QStringLiteral("/facebook/"), QStringLiteral("app"));
+    openMakerPage(QStringLiteral("/facebook/"), QStringLiteral("app"));
 }
 
 void MainWindow::on_actionTwitter_triggered()
 {
-    openMakerSite(QStringLiteral("/twitter/"), QStringLiteral("app"));
+    openMakerPage(QStringLiteral("/twitter/"), QStringLiteral("app"));
 }
 
 void MainWindow::on_actionWebsite_triggered()
 {
-    openMakerSite(QStringLiteral("/"), QStringLiteral("app-statusbar"));
+    openMakerPage(QStringLiteral("/"), QStringLiteral("app-statusbar"));
+}
+
+void MainWindow::on_actionAbout_triggered()
+{
+    auto *dialog = new AboutDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 // Quitting

@@ -84,6 +84,7 @@ public slots:
     void quit_app();
     void quit_app_accepted();
     void quit_app_force();
+    void on_actionAbout_triggered();
     void on_actionWebsite_triggered();
     // Says in the status line that the settings file was damaged. `copy` is the path of the damaged file as it was;
     // empty when no copy could be made.

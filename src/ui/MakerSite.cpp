@@ -4,16 +4,15 @@
 #include "network/Endpoints.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QUrlQuery>
 
-void openMakerSite(const QString &path, const QString &source)
+QUrl makerPage(const QString &path, const QString &source)
 {
     if (!endpointExists(Endpoint::Maker))
-        return;
+        return {};
     QUrl url = endpointUrl(Endpoint::Maker, path);
     url.setQuery(QUrlQuery{{QStringLiteral("zv_product"), QStringLiteral("versewell")},
                            {QStringLiteral("zv_version"), QCoreApplication::applicationVersion()},
                            {QStringLiteral("zv_source"), source}});
-    QDesktopServices::openUrl(url);
+    return url;
 }

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
-// Opens a page of the maker's site in the browser, telling it the program, its version and `source`: which link of the
-// program was followed. `path` begins with a slash. Nothing when there is no such site.
-void openMakerSite(const QString &path, const QString &source);
+// The address of a page on the maker's site, `path` beginning with "/", with the product, its version and the place in
+// the program that leads there ("app", "app-about") in its query. Empty when there is no such site.
+[[nodiscard]] QUrl makerPage(const QString &path, const QString &source);

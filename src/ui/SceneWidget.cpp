@@ -4,6 +4,7 @@
 #include "model/MainModel.h"
 #include "ui/ButtonImageProvider.h"
 #include "ui/FileImageProvider.h"
+#include "ui/Pictures.h"
 
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -20,12 +21,11 @@ static constexpr int qtVersion = 551;
 
 static const char listWidthName[] = "listWidth";
 
-// Scene and pictures lie in static libraries, so their resources have to be asked for; the macro must stand outside any
+// The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
 // namespace.
-static void initResources()
+static void initSceneResources()
 {
     Q_INIT_RESOURCE(qml);
-    Q_INIT_RESOURCE(pictures);
 }
 
 // A line for each module of the scene that is not installed, with the Debian package that holds it. Sound is left out:
@@ -50,7 +50,8 @@ static QStringList missingModules(const QStringList &importPaths)
 SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *parent)
     : QQuickWidget(parent)
 {
-    initResources();
+    initSceneResources();
+    initPictures();
     setResizeMode(SizeRootObjectToView);
     setAcceptDrops(true);
     setFocusPolicy(Qt::ClickFocus);

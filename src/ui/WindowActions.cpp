@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/WindowActions.h"
 
+#include "ui/Pictures.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QMainWindow>
@@ -66,6 +68,7 @@ const WindowActions::Row WindowActions::rows[] = {
 
 WindowActions::WindowActions(QMainWindow *window)
 {
+    initPictures();
     createActions(window);
     createMenus(window);
     createToolBar(window);

@@ -128,7 +128,7 @@ class Check:
                 self.offend(path, text, position, rule)
 
     def judge_quoted(self, path, room, header, text, position):
-        if header == path.stem + ".moc":
+        if header == path.stem + ".moc" or header == f"ui_{path.stem}.h" and path.with_suffix(".ui").is_file():
             return None
         if not (self.src / header).is_file() or ".." in header:
             return f'"{header}" is not a path written from src/'

@@ -17,6 +17,7 @@ SOUND = {
     **{f"qt/{header}": "" for header in QT_HEADERS},
     **{f"src/{room}/X.h": "" for room in ROOMS},
     "src/lyrics/X.h": '#include "network/X.h"',
+    "src/ui/F.ui": "",
 }
 
 # Sentence, file, its text, what the report must hold ("" when the tree is in order).
@@ -25,6 +26,9 @@ ROWS = [
     ("a Qt module of a room that may be included comes along", "src/model/A.cpp", "#include <QNetworkReply>", ""),
     ("a nested room may include the room around it", "src/lyrics/providers/A.cpp", '#include "lyrics/X.h"', ""),
     ("the generated moc file of the file itself is fine", "src/app/A.cpp", '#include "A.moc"', ""),
+    ("the generated header of a form of another's", "src/ui/A.cpp", '#include "ui_B.h"', "not a path written from src/"),
+    ("the generated header without a form", "src/ui/A.cpp", '#include "ui_A.h"', "not a path written from src/"),
+    ("the generated header of the file's own form is fine", "src/ui/F.cpp", '#include "ui_F.h"', ""),
     ("an include in a block comment counts for nothing", "src/tags/A.cpp", '/*\n#include "app/X.h"\n*/', ""),
     ("a higher floor", "src/lyrics/A.cpp", '\n#include "model/X.h"', "src/lyrics/A.cpp:2: lyrics (floor 1) may not include model"),
     ("the room inside one's own", "src/lyrics/A.cpp", '#include "lyrics/providers/X.h"', "it stands above"),
