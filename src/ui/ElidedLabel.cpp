@@ -8,7 +8,6 @@ ElidedLabel::ElidedLabel(const QString &text, QWidget *parent)
 {
     setTextFormat(Qt::PlainText);
     setToolTip(QLatin1String("<qt>") + text.toHtmlEscaped() + QLatin1String("</qt>")); // so that it is wrapped
-    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 QSize ElidedLabel::minimumSizeHint() const
@@ -22,5 +21,5 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     const QRect area = contentsRect();
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(area, static_cast<int>(alignment()),
-                     fontMetrics().elidedText(text(), Qt::ElideMiddle, area.width()));
+                     fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
 }

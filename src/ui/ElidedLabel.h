@@ -3,7 +3,7 @@
 
 #include <QLabel>
 
-// One line of plain text that is cut in the middle where it does not fit, and then shown whole in the tool tip.
+// One line of plain text whose end is cut off where it does not fit, and then shown whole in the tool tip.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

@@ -9,7 +9,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStatusBar>
-#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 
@@ -25,7 +24,6 @@ StatusLine::StatusLine(QStatusBar *bar)
     , m_progress(new SlimProgressBar(bar))
 {
     m_bar->setSizeGripEnabled(false);
-    m_bar->setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));
     m_bar->setContentsMargins(8, 0, 8, 0);
     m_label->setTextFormat(Qt::PlainText);
     m_progress->setFixedWidth(progressWidth);
@@ -80,7 +78,7 @@ void StatusLine::showNotice(Notice notice, const QString &text)
 {
     delete m_notices.take(notice);
     m_notices.insert(notice, makeNotice(notice, text));
-    m_bar->insertPermanentWidget(0, m_notices.value(notice), 1);
+    m_bar->addWidget(m_notices.value(notice), 1);
     m_notices.value(notice)->show();
 }
 
@@ -97,7 +95,7 @@ QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
     auto *button = new QToolButton(widget);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setIcon(button->style()->standardIcon(QStyle::SP_DialogCloseButton));
+    button->setText(QStringLiteral("×")); // unlike the style's picture it is seen on a dark window
     button->setToolTip(tr("Dismiss"));
     button->setAccessibleName(tr("Dismiss"));
     button->setAccessibleDescription(text);
@@ -105,8 +103,9 @@ QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
     auto *layout = new QHBoxLayout(widget);
     layout->setContentsMargins(8, 0, 0, 0);
     layout->setSpacing(4);
-    layout->addWidget(label, 1);
+    layout->addWidget(label);
     layout->addWidget(button);
+    layout->addStretch(1);
     return widget;
 }
 

@@ -110,6 +110,7 @@ void WindowActions::createToolBar(QMainWindow *window)
     m_toolBar->setMovable(false);
     m_toolBar->setFloatable(false);
     m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
+    m_toolBar->setContentsMargins(8, 4, 8, 4);
     m_toolBar->setIconSize(toolIconSize);
     m_toolBar->setStyleSheet(QStringLiteral("QToolBar { border: none; spacing: 0px }"));
     m_toolBar->addActions({addFile, addFolder});
@@ -130,7 +131,7 @@ void WindowActions::createGearButton(QToolBar *bar)
     m_gear->setPopupMode(QToolButton::InstantPopup);
     m_gear->setStyleSheet(
         QStringLiteral(" QToolButton { width: 30; border: none; } QToolButton::menu-indicator { image: none; }"));
-    auto *menu = new QMenu(m_gear);
+    auto *menu = new QMenu(bar->window()); // as a child of the button its colours would not follow the palette
     fill(menu, {settings, separator, hideWithLyrics});
     m_gear->setMenu(menu);
     bar->addWidget(m_gear);
