@@ -37,7 +37,7 @@ void LyricsEdit::begin(ModelItem *song)
 
 void LyricsEdit::save()
 {
-    const QPointer<ModelItem> song = m_song;
+    ModelItem *song = m_song;
     // What nobody changed goes back as the song has it, down to the kind of its line breaks.
     const QString lyrics = song && editorText(song->lyricsTag()) == m_text ? song->lyricsTag() : m_text;
     cancel();

@@ -76,7 +76,7 @@ void StatusLine::showExported(const LyricsExport::Result &result)
 
 void StatusLine::showNotice(Notice notice, const QString &text)
 {
-    delete m_notices.take(notice);
+    remove(notice);
     m_notices.insert(notice, makeNotice(notice, text));
     m_bar->addWidget(m_notices.value(notice), 1);
     m_notices.value(notice)->show();
@@ -109,13 +109,18 @@ QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
     return widget;
 }
 
-void StatusLine::dismiss(Notice notice)
+void StatusLine::remove(Notice notice)
 {
     QWidget *widget = m_notices.take(notice);
     if (!widget)
         return;
     widget->hide();
     widget->deleteLater(); // its button may be what was clicked
+}
+
+void StatusLine::dismiss(Notice notice)
+{
+    remove(notice);
     if (notice == FilesLeftOut)
         m_filesLeftOut = 0;
 }

@@ -44,6 +44,7 @@ private:
     void showNotice(Notice notice, const QString &text);
     void showNoticeBriefly(Notice notice, const QString &text);
     [[nodiscard]] QWidget *makeNotice(Notice notice, const QString &text);
+    void remove(Notice notice);
     void dismiss(Notice notice);
 
     QStatusBar *m_bar;
