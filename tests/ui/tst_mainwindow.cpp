@@ -4,6 +4,7 @@
 #include "model/FolderScanner.h"
 #include "model/MainModel.h"
 #include "model/ProxyModel.h"
+#include "network/Endpoints.h"
 #include "settings/Settings.h"
 #include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
@@ -131,12 +132,14 @@ void tst_MainWindow::initTestCase()
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
     QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
     QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
     qputenv("QMLSCENE_DEVICE", "softwarecontext");
 }
 
 void tst_MainWindow::init()
 {
     QSettings().clear();
+    reloadEndpoints();
     warnings.clear();
     m_handler = qInstallMessageHandler(noteWarnings);
     m_settings = std::make_unique<Settings>();
@@ -444,6 +447,15 @@ void tst_MainWindow::aSongIsTakenToClipboardAndBrowser()
     QCOMPARE(browser.urls.size(), 2);
     QVERIFY(browser.urls.at(0).toEncoded().endsWith("/search?q=R%26B"));
     QVERIFY(browser.urls.at(1).toEncoded().endsWith("/search?p=A%20T"));
+    m_window->on_actionFacebook_triggered(); // there is no site of the maker
+    QCOMPARE(browser.urls.size(), 2);
+    QSettings().setValue(QStringLiteral("endpoints/Maker"), QStringLiteral("https://127.0.0.1"));
+    reloadEndpoints();
+    m_window->on_actionFacebook_triggered();
+    m_window->on_actionWebsite_triggered();
+    QCOMPARE(browser.urls.at(2).toEncoded(),
+             QByteArray("https://127.0.0.1/facebook/?zv_product=versewell&zv_version=1.5.6&zv_source=app"));
+    QVERIFY(browser.urls.last().toEncoded().endsWith("&zv_source=app-statusbar"));
 }
 
 void tst_MainWindow::coloursFollowThePalette()
