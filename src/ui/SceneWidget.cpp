@@ -68,7 +68,11 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
         rootObject()->setProperty("qtVersion", qtVersion);
 }
 
-SceneWidget::~SceneWidget() = default;
+SceneWidget::~SceneWidget()
+{
+    // The scene goes with the base class and moves its focus then.
+    disconnect(quickWindow(), nullptr, this, nullptr);
+}
 
 QString SceneWidget::loadErrors() const
 {
