@@ -59,8 +59,6 @@ Application::Application(int &argc, char **argv)
     connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
     connect(&m_settings, &Settings::proxyChanged, this, &Application::proxyChanged);
     connect(&m_settings, &Settings::providersOrderChanged, &m_search, &LyricsSearch::setProvidersOrder);
-    if (m_settings.keepsFilesList())
-        restoreFilesList();
     onPaletteChanged(palette());
     connect(this, &QGuiApplication::paletteChanged, this, &Application::onPaletteChanged);
 }
@@ -126,6 +124,8 @@ void Application::connectModels()
 
 void Application::restoreFilesList()
 {
+    if (!m_settings.keepsFilesList())
+        return;
     QList<QUrl> urls;
     // A list of one comes back from the store as a plain string, which toList() would lose.
     const QStringList entries = storedValue(QSettings(), SettingsKey::FilesList).toStringList();

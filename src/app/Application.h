@@ -35,8 +35,7 @@ public:
     enum OSType { OS_Mac, OS_Windows, OS_Linux, OS_Unknown };
     Q_ENUM(OSType)
 
-    // A damaged settings file is kept aside and mended, the settings are loaded and the saved list of files is
-    // restored; where this program does not hold the lock, nothing is mended and no list restored.
+    // A damaged settings file is kept aside and mended, where this program holds the lock, and the settings are loaded.
     Application(int &argc, char **argv);
     ~Application() override;
 
@@ -51,6 +50,12 @@ public:
     [[nodiscard]] bool areSettingsStored() const { return m_settingsStored; }
 
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
+    // Lets another instance start while this one ends; nothing may be stored from here on.
+    void makeWayForRestart() { m_instance.release(); }
+    // Adds the saved list of files to the model, when this program holds the lock and the settings say so. Once, before
+    // the window is made.
+    void restoreFilesList();
+
     [[nodiscard]] static OSType osType();
     [[nodiscard]] static bool isWindows() { return osType() == OS_Windows; }
     [[nodiscard]] static bool isMacOS() { return osType() == OS_Mac; }
@@ -96,7 +101,6 @@ private:
     void readSettings();
     void createSearch();
     void connectModels();
-    void restoreFilesList();
     void openMakerPage(const QString &path) const;
     [[nodiscard]] QString systemLanguage() const;
     [[nodiscard]] bool hasTranslation(const QString &code) const;

@@ -19,6 +19,9 @@ public:
     // Whether this process holds it. Neither is true where the lock could not be made.
     [[nodiscard]] bool isHolder() const { return m_lock.isLocked(); }
 
+    // Lets go of the lock, for a process that is to take this one's place.
+    void release() { m_lock.unlock(); }
+
 private:
     QLockFile m_lock;
     bool m_otherRunning = false;

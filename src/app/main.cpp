@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Application.h"
 #include "app/GraphicsBackend.h"
+#include "app/Recovery.h"
 #include "app/TerminationSignals.h"
 #include "tags/TagWriter.h"
 #include "ui/MainWindow.h"
@@ -14,7 +15,7 @@
 
 namespace {
 
-enum ExitStatus { OtherInstanceRuns = 1, SceneNotLoaded = 3 };
+enum ExitStatus { Done = 0, OtherInstanceRuns = 1, StartedAnew = 2, SceneNotLoaded = 3 };
 
 // A write that makes no progress for so long is given up at the end of the program.
 constexpr std::chrono::seconds writePatience(30);
@@ -51,6 +52,14 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
     return Application::exec();
 }
 
+int startAnew(Application &app)
+{
+    app.makeWayForRestart();
+    if (!startDetached(Application::arguments()))
+        qCritical("The program could not be started anew.");
+    return StartedAnew;
+}
+
 // Waits for the writes that are queued, and lets the model hear of them.
 void finishWrites()
 {
@@ -70,6 +79,12 @@ int main(int argc, char **argv)
     const TerminationSignals signalsToEnd; // from here on they end the program in order
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &app, &QCoreApplication::quit);
     chooseGraphicsBackend();
+    const AfterRecovery next = offerRecovery(QGuiApplication::queryKeyboardModifiers(), signalsToEnd);
+    if (next == AfterRecovery::StartAnew)
+        return startAnew(app);
+    if (next == AfterRecovery::End)
+        return Done;
+    app.restoreFilesList();
     app.setUpLanguages();
     app.noteStart();
     const int status = runWindow(app, signalsToEnd);

@@ -49,6 +49,18 @@ bool isWhole(const QByteArray &content, int entries)
     return check.clean && check.entries == entries;
 }
 
+void clearAllBut(const QVector<SettingsKey> &keys, QSettings *store)
+{
+    QVector<QPair<QString, QVariant>> kept;
+    for (const SettingsKey key : keys) {
+        if (store->contains(keyName(key)))
+            kept.append({keyName(key), store->value(keyName(key))});
+    }
+    store->clear();
+    for (const auto &[name, value] : kept)
+        store->setValue(name, value);
+}
+
 bool syncAndRename(QFile *file, const QString &path)
 {
     return fsync(file->handle()) == 0 &&
@@ -77,6 +89,8 @@ bool SettingsChange::writeNewFile(const QString &path) const
     int entries = 0;
     {
         QSettings store(copy.fileName(), QSettings::NativeFormat);
+        if (m_kept)
+            clearAllBut(*m_kept, &store);
         for (const auto &[key, value] : m_values)
             store.setValue(keyName(key), value);
         store.sync();

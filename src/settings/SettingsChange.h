@@ -6,6 +6,8 @@
 #include <QPair>
 #include <QVector>
 
+#include <optional>
+
 // Some values that go into the settings file together: all of them or none.
 //
 // Everything that the program stores goes this way. QSettings alone is not enough on a full disk: what it could not
@@ -15,6 +17,8 @@ class SettingsChange
 {
 public:
     void set(SettingsKey key, const QVariant &value) { m_values.append({key, value}); }
+    // Everything goes that is stored now, but for these keys and what is set here.
+    void keepOnly(const QVector<SettingsKey> &keys) { m_kept = keys; }
 
     // Writes to the default store. False, after a warning in the log, when that fails; the file is then as it was. A
     // file that is read-only stays as it is, also for root.
@@ -24,4 +28,5 @@ private:
     [[nodiscard]] bool writeNewFile(const QString &path) const;
 
     QVector<QPair<SettingsKey, QVariant>> m_values;
+    std::optional<QVector<SettingsKey>> m_kept; // nothing: all that is not set stays
 };

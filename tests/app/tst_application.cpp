@@ -105,6 +105,8 @@ private slots:
         QFETCH(bool, wanted);
         QFETCH(QStringList, expected);
         Stage app({{QStringLiteral("filesList"), stored}, {QStringLiteral("saveFilesList"), wanted}});
+        QVERIFY(app->mainModel()->urls().isEmpty());
+        app->restoreFilesList();
         const auto paths = [&app] {
             QStringList list;
             for (const QUrl &url : app->mainModel()->urls())

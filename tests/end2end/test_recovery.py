@@ -1,0 +1,91 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The start with Shift held, by real keys on a real screen."""
+import os
+import pathlib
+import signal
+import subprocess
+import unittest
+
+import rig
+
+STARTED_SECONDS = 30
+
+
+class RecoveryTest(unittest.TestCase):
+    def setUp(self):
+        self.session = self.enterContext(rig.Session({"Amber Gate": rig.words_for("Amber Gate")}))
+        songs = rig.Songs(self.session.music)
+        self.paths = [songs.make("Amber Gate.mp3", {"artist": rig.ARTIST, "title": "Amber Gate"})]
+
+    def xdotool(self, *words):
+        done = subprocess.run(["xdotool", *words], env={**os.environ, "DISPLAY": self.session.screen.display},
+                              capture_output=True, text=True, check=False)
+        return done.stdout.split()
+
+    def start_with_shift(self):
+        self.xdotool("keydown", "shift")
+        program = self.session.start(self.paths, settings={"openGlMethod": "2", "lyricsFontSize": "17"})
+        self.window("OpenGL settings")
+        self.xdotool("keyup", "shift")
+        return program
+
+    def window(self, title):
+        """Waits for the window with this title and gives it the keyboard."""
+        shown = rig.wait_until(lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"), STARTED_SECONDS)
+        self.assertTrue(shown, f'no window "{title}"' + self.session.messages())
+        self.xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowfocus", "--sync")
+
+    def test_clearing_starts_a_new_program_with_default_settings(self):
+        first = self.start_with_shift()
+        self.xdotool("key", "space")
+        self.window("Clear settings")
+        self.xdotool("key", "alt+y")
+        self.window("OpenGL settings")
+        self.xdotool("key", "Return")
+        self.assertEqual(first.wait(STARTED_SECONDS), 2, self.session.messages())
+        path = str(self.session.stage.program)
+        rig.wait_until(lambda: self.started_by_itself(), STARTED_SECONDS)
+        (second, arguments), = self.started_by_itself().items()
+        self.addCleanup(end_if_running, second)
+        self.assertEqual(arguments, [path, path])
+        self.window("Versewell")
+        os.kill(second, signal.SIGTERM)
+        self.assertTrue(rig.wait_until(lambda: not self.started_by_itself(), STARTED_SECONDS), "it does not end")
+        stored = self.session.stage.settings_path.read_text(encoding="ascii")
+        self.assertIn("openGlMethod=2", stored)
+        self.assertIn("lyricsFontSize=12", stored)
+        self.assertNotIn("endpoints", stored)
+        self.assertEqual(self.session.sites.requests(), [], "the list was worked on before the question was answered")
+
+    def test_ok_alone_goes_on_with_the_list(self):
+        program = self.start_with_shift()
+        self.assertEqual(self.session.sites.requests(), [], "the list was worked on before the question was answered")
+        self.xdotool("key", "Return")
+        self.assertEqual(self.session.wait_for_lyrics(program, self.paths), [], self.session.messages())
+        self.assertEqual(rig.end(program), 0, self.session.messages())
+
+    def started_by_itself(self):
+        """Process id -> arguments of the programs on this session's home that the session did not start."""
+        ours = {process.pid for process in self.session.stage.running}
+        home = f"HOME={self.session.stage.home}".encode()
+        found = {}
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            try:
+                arguments = (folder / "cmdline").read_bytes().decode().split("\0")[:-1]
+                if home in (folder / "environ").read_bytes().split(b"\0") and int(folder.name) not in ours and arguments:
+                    found[int(folder.name)] = arguments
+            except OSError:
+                pass  # it ended meanwhile
+        return found
+
+
+def end_if_running(process_id):
+    try:
+        os.kill(process_id, signal.SIGKILL)
+    except ProcessLookupError:
+        pass
+
+
+if __name__ == "__main__":
+    unittest.main()
