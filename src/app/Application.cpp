@@ -155,7 +155,7 @@ Application::OSType Application::osType()
 
 void Application::proxyChanged()
 {
-    m_networkManager.setProxy(m_settings.proxy());
+    m_networkManager.useProxy(m_settings.proxy());
 }
 
 // Usage events

@@ -3,6 +3,7 @@
 
 #include "network/LimitedReply.h"
 #include "network/NetworkLog.h"
+#include "network/ProxyErrors.h"
 #include "network/Redirects.h"
 #include "network/RefusedReply.h"
 #include "network/RetryAfter.h"
@@ -11,14 +12,29 @@
 
 namespace {
 
+constexpr auto loginRefused = QNetworkReply::ProxyAuthenticationRequiredError;
 constexpr int shownAddressCharacters = 120; // a data: address can be as long as a page
 
+// Left to itself, Qt 5.15 gives the proxy's user name and password to an http site that asks for some under the name
+// under which the proxy did. So it is kept from logging in anywhere, and an http page is asked for with the log-in for
+// the proxy, which does not pass it on. For https Qt gives it to the proxy alone.
+void addProxyLogin(const QNetworkProxy &proxy, QNetworkRequest *sent)
+{
+    sent->setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    const bool plain = sent->url().scheme() == QLatin1String("http");
+    if (!plain || proxy.type() != QNetworkProxy::HttpProxy || proxy.user().isEmpty())
+        return;
+    const QString login = proxy.user() + QLatin1Char(':') + proxy.password();
+    sent->setRawHeader("Proxy-Authorization", "Basic " + login.toUtf8().toBase64()); // RFC 7617
+}
+
 // Naming the codings ourselves keeps Qt from inflating, which it does without any bound.
-QNetworkRequest asSent(const LimitedReply &reply)
+QNetworkRequest asSent(const LimitedReply &reply, const QNetworkProxy &proxy)
 {
     QNetworkRequest sent = reply.request();
     sent.setRawHeader("Accept-Encoding", reply.kind() == RequestKind::Page ? "gzip, deflate" : "identity");
     sent.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    addProxyLogin(proxy, &sent);
     return sent;
 }
 
@@ -33,6 +49,13 @@ AccessManager::AccessManager(QObject *parent, RestingHosts::Clock clock)
 void AccessManager::setLimits(const RequestLimits &limits)
 {
     m_limits = limits;
+}
+
+void AccessManager::useProxy(const QNetworkProxy &proxy)
+{
+    setProxy(proxy);
+    m_refusingProxy.reset();
+    m_proxyHasAnswered = false;
 }
 
 QNetworkReply *AccessManager::createRequest(Operation operation, const QNetworkRequest &request,
@@ -67,32 +90,64 @@ QNetworkReply *AccessManager::refusal(Operation operation, const QNetworkRequest
         const QString text = tr("Not a web address: %1").arg(url.toDisplayString().left(shownAddressCharacters));
         return new RefusedReply(operation, request, QNetworkReply::ProtocolUnknownError, text, this);
     }
-    const QString text = pauseText(url);
-    if (!text.isEmpty())
-        return new RefusedReply(operation, request, QNetworkReply::ServiceUnavailableError, text, this);
+    if (const auto hindered = hindrance(url))
+        return new RefusedReply(operation, request, hindered->error, hindered->text, this);
     return nullptr;
 }
 
-QString AccessManager::pauseText(const QUrl &url) const
+std::optional<AccessManager::Hindrance> AccessManager::hindrance(const QUrl &url) const
 {
+    if (m_refusingProxy == proxy())
+        return Hindrance{loginRefused, proxyErrorText(loginRefused)};
     const qint64 seconds = m_restingHosts.remaining(url).count();
     if (seconds == 0)
         return {};
-    return tr("%1 asked for a pause and can be asked again in %2 s.", "%1 is a host name").arg(url.host()).arg(seconds);
+    const QString text = tr("%1 asked for a pause and can be asked again in %2 s.", "%1 is a host name");
+    return Hindrance{QNetworkReply::ServiceUnavailableError, text.arg(url.host()).arg(seconds)};
 }
 
 QNetworkReply *AccessManager::send(LimitedReply *reply, QIODevice *outgoingData)
 {
     if (reply->isSettled())
         return nullptr;
-    const QString text = pauseText(reply->url());
-    if (!text.isEmpty()) {
-        reply->fail(QNetworkReply::ServiceUnavailableError, text);
+    if (const auto hindered = hindrance(reply->url())) {
+        reply->fail(hindered->error, hindered->text);
         return nullptr;
     }
-    QNetworkReply *source = QNetworkAccessManager::createRequest(reply->operation(), asSent(*reply), outgoingData);
+    QNetworkReply *source =
+        QNetworkAccessManager::createRequest(reply->operation(), asSent(*reply, proxy()), outgoingData);
+    // Here and not where the outcome is handed out, so that it is known before the next one in the queue is sent.
+    connect(source, &QNetworkReply::finished, this,
+            [this, source, used = proxy(), waiting = QPointer(reply)] { noteProxy(*source, used, waiting); });
     reply->start(source);
     return source;
+}
+
+void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply)
+{
+    const bool refused = isLoginRefused(source, proxy);
+    const QNetworkReply::NetworkError error = refused ? loginRefused : proxyError(source, proxy);
+    if (proxy == this->proxy()) {
+        if (refused && !m_refusingProxy)
+            qCWarning(networkLog, "The proxy refuses the log-in.");
+        if (refused)
+            m_refusingProxy = proxy;
+        else if (error == QNetworkReply::NoError)
+            m_proxyHasAnswered |= source.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    }
+    if (error != QNetworkReply::NoError && reply)
+        reply->fail(error, proxyErrorText(error));
+}
+
+bool AccessManager::isLoginRefused(const QNetworkReply &source, const QNetworkProxy &proxy) const
+{
+    if (source.error() == QNetworkReply::ProxyAuthenticationRequiredError)
+        return true;
+    // There are proxies that answer a wrong password as if the site had been asked for one. Once a page has come
+    // through, the password is right and it is the site that asks.
+    return source.error() == QNetworkReply::AuthenticationRequiredError && proxy.type() == QNetworkProxy::HttpProxy &&
+           !proxy.user().isEmpty() && !m_proxyHasAnswered &&
+           !source.attribute(QNetworkRequest::ConnectionEncryptedAttribute).toBool();
 }
 
 void AccessManager::noteWish(const QNetworkReply &reply)

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "app/Stage.h"
+
+#include "support/LoopbackServer.h"
+#include "support/ProxyServer.h"
+
+#include <QTest>
+
+Q_DECLARE_METATYPE(QNetworkProxy::ProxyType)
+
+namespace {
+
+const QString user = QStringLiteral("nora");
+const QString password = QStringLiteral("swordfish");
+
+// A lyrics site that knows every song, on "localhost": the name has to be resolved by somebody. It takes the place of
+// all sites of the application that is there.
+class Site
+{
+public:
+    Site()
+    {
+        for (const Endpoint endpoint : allEndpoints())
+            QSettings().setValue(endpointGroup() + QLatin1Char('/') + endpointKey(endpoint),
+                                 QString(QStringLiteral("http://") + address()));
+        reloadEndpoints();
+        m_server.route(QStringLiteral("/search.php"), [](const LoopbackRequest &request) {
+            const QByteArray title = request.query.queryItemValue(QStringLiteral("q")).toUtf8();
+            return LoopbackResponse::page(
+                "<div class=\"list-row\" data-sorting-artist=\"Nora Vale\" data-sorting-song=\"" + title +
+                "\">\n<a href=\"/song.html\" class=\"song\">x</a>\n</div>");
+        });
+        m_server.route(QStringLiteral("/song.html"),
+                       LoopbackResponse::page("<div class=\"lyrics\" id=\"content\">la la la</div>"));
+    }
+    [[nodiscard]] QString address() const { return QStringLiteral("localhost:%1").arg(QUrl(m_server.base()).port()); }
+    [[nodiscard]] int requests() const { return m_server.requests().size(); }
+    [[nodiscard]] LoopbackServer &server() { return m_server; }
+
+private:
+    LoopbackServer m_server;
+};
+
+void setProxy(Settings *settings, QNetworkProxy::ProxyType type, quint16 port)
+{
+    settings->setProxyAddress(QStringLiteral("127.0.0.1"));
+    settings->setProxyPort(port);
+    settings->setProxyType(type == QNetworkProxy::Socks5Proxy ? 1 : 2);
+}
+
+void setLogin(Settings *settings, const QString &word)
+{
+    settings->setProxyAuthentication(true);
+    settings->setProxyUsername(user);
+    settings->setProxyPassword(word);
+}
+
+} // namespace
+
+class tst_Proxies : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void searchesGoThroughTheProxy_data();
+    void searchesGoThroughTheProxy();
+    void aRefusedLoginIsNotTriedAgain_data();
+    void aRefusedLoginIsNotTriedAgain();
+    void theLoginIsForTheProxyAlone();
+    void aDeadProxyLosesNothing_data();
+    void aDeadProxyLosesNothing();
+
+private:
+    void addSongs(MainModel *model, int count);
+
+    std::unique_ptr<QTemporaryDir> m_music;
+};
+
+void tst_Proxies::init()
+{
+    m_music = std::make_unique<QTemporaryDir>();
+}
+
+// Songs without lyrics, told apart by their names.
+void tst_Proxies::addSongs(MainModel *model, int count)
+{
+    QList<QUrl> urls;
+    for (int i = 0; i < count; ++i) {
+        const QString path = m_music->filePath(QStringLiteral("Nora Vale - Song %1.mp3").arg(i));
+        QVERIFY(QFile::copy(QStringLiteral(VERSEWELL_SAMPLES_DIR "/untagged.mp3"), path));
+        urls.append(QUrl::fromLocalFile(path));
+    }
+    model->add(urls);
+}
+
+void tst_Proxies::searchesGoThroughTheProxy_data()
+{
+    QTest::addColumn<QNetworkProxy::ProxyType>("type");
+    QTest::addColumn<bool>("withLogin");
+    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy << false;
+    QTest::newRow("SOCKS5 with a log-in") << QNetworkProxy::Socks5Proxy << true;
+    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy << false;
+    QTest::newRow("HTTP with a log-in") << QNetworkProxy::HttpProxy << true;
+}
+
+void tst_Proxies::searchesGoThroughTheProxy()
+{
+    QFETCH(QNetworkProxy::ProxyType, type);
+    QFETCH(bool, withLogin);
+    Stage app;
+    const Site site;
+    ProxyServer proxy(type, withLogin ? user : QString(), password);
+    QVERIFY(proxy.isReady());
+    if (withLogin)
+        setLogin(app->settings(), password);
+    setProxy(app->settings(), type, proxy.port());
+    addSongs(app->mainModel(), 1);
+    QTRY_COMPARE(app->mainModel()->itemAt(0)->lyricsTag(), QStringLiteral("la la la"));
+    QTRY_VERIFY2(proxy.log().contains(site.address().section(QLatin1Char(':'), 0, 0).toLatin1()),
+                 proxy.log().constData());
+    // The proxy was given the name, and each request went to it.
+    QCOMPARE(proxy.received().join().count("GET "), site.requests());
+    const int before = site.requests();
+    app->settings()->setProxyType(0);
+    app->mainModel()->startSearch(app->mainModel()->itemAt(0)->id());
+    const int passed = proxy.received().join().size();
+    QTRY_VERIFY(site.requests() > before);
+    QCOMPARE(proxy.received().join().size(), passed);
+}
+
+void tst_Proxies::aRefusedLoginIsNotTriedAgain_data()
+{
+    QTest::addColumn<QNetworkProxy::ProxyType>("type");
+    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy;
+    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy;
+}
+
+void tst_Proxies::aRefusedLoginIsNotTriedAgain()
+{
+    constexpr int songs = 30;
+    constexpr int inFlight = 6; // connections to one site
+    QFETCH(QNetworkProxy::ProxyType, type);
+    Stage app;
+    const Site site;
+    ProxyServer proxy(type, user, password);
+    QVERIFY(proxy.isReady());
+    setLogin(app->settings(), QStringLiteral("wrong"));
+    setProxy(app->settings(), type, proxy.port());
+    addSongs(app->mainModel(), songs);
+    QTRY_COMPARE_WITH_TIMEOUT(app->mainModel()->activeCount(), 0, 20000);
+    for (int row = 0; row < songs; ++row)
+        QCOMPARE(app->mainModel()->itemAt(row)->errorString(),
+                 QStringLiteral("The proxy refuses the user name or the password."));
+    const int attempts = proxy.logins("nora", "wrong");
+    QVERIFY2(attempts >= 1 && attempts <= inFlight, QByteArray::number(attempts).constData());
+    QCOMPARE(site.requests(), 0);
+
+    app->settings()->setProxyPassword(password);
+    app->mainModel()->startSearch(app->mainModel()->itemAt(0)->id());
+    QTRY_COMPARE(app->mainModel()->itemAt(0)->lyricsTag(), QStringLiteral("la la la"));
+    QCOMPARE(proxy.logins("nora", "wrong"), attempts);
+}
+
+// A site that asks for a log-in, under the name under which the proxy does.
+void tst_Proxies::theLoginIsForTheProxyAlone()
+{
+    Stage app;
+    Site site;
+    ProxyServer proxy(QNetworkProxy::HttpProxy, user, password);
+    QVERIFY(proxy.isReady());
+    setLogin(app->settings(), password);
+    setProxy(app->settings(), QNetworkProxy::HttpProxy, proxy.port());
+    addSongs(app->mainModel(), 1);
+    QTRY_COMPARE(app->mainModel()->itemAt(0)->lyricsTag(), QStringLiteral("la la la"));
+    site.server().routeOthers([](const LoopbackRequest &) {
+        return LoopbackResponse::error(401).with("WWW-Authenticate", "Basic realm=\"Tinyproxy\"");
+    });
+    LoopbackResponse elsewhere = LoopbackResponse::redirect(301, "/members.html");
+    elsewhere.untilClose = true; // tinyproxy hands on unread whatever follows on an open connection
+    site.server().route(QStringLiteral("/song.html"), elsewhere);
+    app->mainModel()->startSearch(app->mainModel()->itemAt(0)->id());
+    QTRY_COMPARE(app->mainModel()->itemAt(0)->errorString(),
+                 QStringLiteral("The server refuses to answer (HTTP 401)."));
+    QVERIFY(site.server().requestCount(QStringLiteral("/members.html")) > 0);
+    for (const LoopbackRequest &request : site.server().requests())
+        QCOMPARE(request.header("Authorization") + request.header("Proxy-Authorization"), QByteArray());
+}
+
+void tst_Proxies::aDeadProxyLosesNothing_data()
+{
+    QTest::addColumn<QNetworkProxy::ProxyType>("type");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy << "Connection to proxy refused"; // Qt's words
+    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy << "The proxy does not take the connection.";
+}
+
+void tst_Proxies::aDeadProxyLosesNothing()
+{
+    QFETCH(QNetworkProxy::ProxyType, type);
+    Stage app;
+    const Site site;
+    QTcpServer gone;
+    QVERIFY(gone.listen(QHostAddress::LocalHost));
+    const quint16 port = gone.serverPort();
+    gone.close();
+    setProxy(app->settings(), type, port);
+    addSongs(app->mainModel(), 3);
+    QTRY_COMPARE(app->mainModel()->activeCount(), 0);
+    for (int row = 0; row < 3; ++row) {
+        ModelItem *item = app->mainModel()->itemAt(row);
+        QTEST(item->errorString(), "reason");
+        app->mainModel()->startSearch(item->id());
+    }
+    QCOMPARE(site.requests(), 0);
+    app->settings()->setProxyType(0);
+    QTRY_COMPARE(app->mainModel()->activeCount(), 0);
+    app->mainModel()->startSearch(app->mainModel()->itemAt(2)->id());
+    QTRY_COMPARE(app->mainModel()->itemAt(2)->lyricsTag(), QStringLiteral("la la la"));
+}
+
+QTEST_APPLESS_MAIN(tst_Proxies)
+#include "tst_proxies.moc"
