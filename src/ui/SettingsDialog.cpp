@@ -1,0 +1,351 @@
+// SPDX-License-Identifier: MIT
+#include "ui/SettingsDialog.h"
+
+#include "lyrics/LyricsProvider.h"
+#include "lyrics/SearchProvider.h"
+#include "lyrics/providers/ProviderCatalogue.h"
+#include "network/Endpoints.h"
+#include "network/ProxyTester.h"
+#include "settings/Settings.h"
+#include "ui/LanguageNames.h"
+#include "ui/Pictures.h"
+#include "ui_SettingsDialog.h"
+
+#include <QCoreApplication>
+#include <QIntValidator>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::seconds proxyTestDelay(3); // after the last change
+constexpr int proxyTypeCount = 3;
+
+// The order of sites as a text: "First;;Second::0", the second one being disabled.
+const QString siteSeparator = QStringLiteral(";;");
+const QString markSeparator = QStringLiteral("::");
+const QString disabledMark = QStringLiteral("0");
+
+void select(QComboBox *box, int index)
+{
+    box->setCurrentIndex(std::max(index, 0));
+}
+
+bool isChecked(const QListWidgetItem &item)
+{
+    return item.checkState() == Qt::Checked;
+}
+
+} // namespace
+
+SettingsDialog::SettingsDialog(Settings *settings, QWidget *parent)
+    : QDialog(parent)
+    , m_form(std::make_unique<Ui::SettingsDialog>())
+    , m_settings(settings)
+{
+    initPictures();
+    m_form->setupUi(this);
+    m_form->proxyPortLineEdit->setValidator(new QIntValidator(0, 65535, this));
+    m_form->icoExclamation->hide();
+    alignProxyLabels();
+    setUpProxyTest();
+    fillSelectors();
+    writeUi();
+    trackChanges();
+}
+
+SettingsDialog::~SettingsDialog() = default;
+
+// The row of the type stands in a layout of its own, outside of the frame that can be disabled.
+void SettingsDialog::alignProxyLabels()
+{
+    const QLabel *labels[] = {m_form->proxyTypeLabel, m_form->proxyAddressLabel, m_form->proxyPortLabel,
+                              m_form->proxyUsernameLabel, m_form->proxyPasswordLabel};
+    int width = 0;
+    for (const QLabel *label : labels)
+        width = std::max(width, label->sizeHint().width());
+    m_form->proxyTypeLabel->setMinimumWidth(width);
+    m_form->proxyAddressLabel->setMinimumWidth(width);
+}
+
+void SettingsDialog::setUpProxyTest()
+{
+    m_proxyTester = new ProxyTester(endpointUrl(Endpoint::ProxyTest, QStringLiteral("/")), this);
+    connect(m_proxyTester, &ProxyTester::stateChanged, this, &SettingsDialog::updateProxyTestStatus);
+    m_proxyTestTimer = new QTimer(this);
+    m_proxyTestTimer->setObjectName(QStringLiteral("proxyTestTimer"));
+    m_proxyTestTimer->setSingleShot(true);
+    m_proxyTestTimer->setInterval(proxyTestDelay);
+    connect(m_proxyTestTimer, &QTimer::timeout, this, &SettingsDialog::proxyTestStart);
+}
+
+void SettingsDialog::fillSelectors()
+{
+    m_form->languageComboBox->addItem(tr("Automatic"), QString());
+    for (const QString &code : QCoreApplication::instance()->property("languageList").toStringList())
+        m_form->languageComboBox->addItem(languageName(code), code);
+    m_form->proxyTypeComboBox->addItem(tr("None"), 0);
+    m_form->proxyTypeComboBox->addItem(QStringLiteral("SOCKS5"), 1);
+    m_form->proxyTypeComboBox->addItem(QStringLiteral("HTTP"), 2);
+    m_form->seachProviderComboBox->addItems(SearchProvider().names());
+}
+
+// Changes
+
+void SettingsDialog::trackChanges()
+{
+    const auto selected = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    for (QComboBox *box : {m_form->languageComboBox, m_form->seachProviderComboBox, m_form->proxyTypeComboBox})
+        connect(box, selected, this, &SettingsDialog::contentChanged);
+    connect(m_form->languageComboBox, selected, this, &SettingsDialog::onLanguageChanged);
+    connect(m_form->lyrcisFontSizeSpinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &SettingsDialog::contentChanged);
+    for (QCheckBox *box :
+         {m_form->prependNewLineCheckBox, m_form->saveFilesListCheckBox, m_form->generateLyricsFileAuto})
+        connect(box, &QCheckBox::clicked, this, &SettingsDialog::contentChanged);
+    trackProxyChanges();
+    trackOrderChanges();
+}
+
+void SettingsDialog::trackProxyChanges()
+{
+    const auto selected = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(m_form->proxyTypeComboBox, selected, this, &SettingsDialog::updateProxyControls);
+    connect(m_form->proxyTypeComboBox, selected, this, &SettingsDialog::proxyChanged);
+    connect(m_form->proxyAuthenticationcheckBox, &QCheckBox::toggled, this, &SettingsDialog::updateProxyControls);
+    connect(m_form->proxyAuthenticationcheckBox, &QCheckBox::toggled, this, &SettingsDialog::proxyChanged);
+    for (QLineEdit *field : {m_form->proxyAddressLineEdit, m_form->proxyPortLineEdit, m_form->proxyUsernameLineEdit,
+                             m_form->proxyPasswordLineEdit})
+        connect(field, &QLineEdit::textEdited, this, &SettingsDialog::proxyChanged);
+    connect(this, &SettingsDialog::proxyChanged, this, &SettingsDialog::onProxyChanged);
+    connect(this, &SettingsDialog::proxyChanged, this, &SettingsDialog::contentChanged);
+}
+
+void SettingsDialog::trackOrderChanges()
+{
+    const QListWidget *list = m_form->orderList;
+    for (const auto &changed : {&SettingsDialog::contentChanged, &SettingsDialog::updateOrderButtons}) {
+        connect(list->model(), &QAbstractItemModel::rowsMoved, this, changed);
+        connect(list, &QListWidget::itemChanged, this, changed);
+    }
+    connect(list, &QListWidget::currentRowChanged, this, &SettingsDialog::updateOrderButtons);
+}
+
+void SettingsDialog::onLanguageChanged()
+{
+    m_form->icoExclamation->show();
+}
+
+// Settings and form
+
+void SettingsDialog::writeUi()
+{
+    select(m_form->languageComboBox, m_form->languageComboBox->findData(m_settings->language()));
+    select(m_form->seachProviderComboBox, m_form->seachProviderComboBox->findText(m_settings->searchProvider()));
+    select(m_form->proxyTypeComboBox, m_form->proxyTypeComboBox->findData(m_settings->proxyType()));
+    m_form->proxyAddressLineEdit->setText(m_settings->proxyAddress());
+    m_form->proxyPortLineEdit->setText(QString::number(m_settings->proxyPort()));
+    m_form->proxyAuthenticationcheckBox->setChecked(m_settings->proxyAuthentication());
+    m_form->proxyUsernameLineEdit->setText(m_settings->proxyUsername());
+    m_form->proxyPasswordLineEdit->setText(m_settings->proxyPassword());
+    m_form->lyrcisFontSizeSpinBox->setValue(m_settings->lyricsFontSize());
+    m_form->prependNewLineCheckBox->setChecked(m_settings->prependNewLine());
+    m_form->saveFilesListCheckBox->setChecked(m_settings->saveFilesList());
+    m_form->generateLyricsFileAuto->setChecked(m_settings->generateLyricsFileAuto());
+    writeOrder();
+    updateProxyControls();
+    updateOrderButtons();
+    updateProxyTestStatus();
+}
+
+void SettingsDialog::readUi()
+{
+    m_settings->setLanguage(m_form->languageComboBox->currentData().toString());
+    m_settings->setLyricsFontSize(m_form->lyrcisFontSizeSpinBox->value());
+    m_settings->setSearchProvider(m_form->seachProviderComboBox->currentText());
+    m_settings->setPrependNewLine(m_form->prependNewLineCheckBox->isChecked());
+    m_settings->setSaveFilesList(m_form->saveFilesListCheckBox->isChecked());
+    m_settings->setGenerateLyricsFileAuto(m_form->generateLyricsFileAuto->isChecked());
+    const int type = m_form->proxyTypeComboBox->currentData().toInt();
+    if (type < proxyTypeCount)
+        m_settings->setProxyType(type);
+    m_settings->setProxyAddress(m_form->proxyAddressLineEdit->text());
+    m_settings->setProxyPort(m_form->proxyPortLineEdit->text().toUShort());
+    m_settings->setProxyAuthentication(m_form->proxyAuthenticationcheckBox->isChecked());
+    m_settings->setProxyUsername(m_form->proxyUsernameLineEdit->text());
+    m_settings->setProxyPassword(m_form->proxyPasswordLineEdit->text());
+    m_settings->setProvidersOrder(readOrder());
+}
+
+void SettingsDialog::accept()
+{
+    readUi();
+    QDialog::accept();
+}
+
+void SettingsDialog::done(int result)
+{
+    m_proxyTestTimer->stop();
+    m_proxyTester->stop();
+    QDialog::done(result);
+}
+
+// The proxy
+
+QNetworkProxy SettingsDialog::readProxy() const
+{
+    ProxyConfiguration said;
+    said.type = m_form->proxyTypeComboBox->currentData().toInt();
+    said.address = m_form->proxyAddressLineEdit->text();
+    said.port = m_form->proxyPortLineEdit->text().toUShort();
+    said.authentication = m_form->proxyAuthenticationcheckBox->isChecked();
+    said.username = m_form->proxyUsernameLineEdit->text();
+    said.password = m_form->proxyPasswordLineEdit->text();
+    return said.toProxy();
+}
+
+void SettingsDialog::updateProxyControls()
+{
+    const bool authentication = m_form->proxyAuthenticationcheckBox->isChecked();
+    m_form->proxyFrame->setEnabled(m_form->proxyTypeComboBox->currentData().toInt() != 0);
+    for (QWidget *widget : {m_form->proxyUsernameLabel, m_form->proxyPasswordLabel})
+        widget->setEnabled(authentication);
+    for (QWidget *widget : {m_form->proxyUsernameLineEdit, m_form->proxyPasswordLineEdit})
+        widget->setEnabled(authentication);
+}
+
+void SettingsDialog::onProxyChanged()
+{
+    m_proxyTester->stop();
+    if (m_form->proxyTypeComboBox->currentData().toInt() != 0)
+        m_proxyTestTimer->start();
+    else
+        m_proxyTestTimer->stop();
+    updateProxyTestStatus();
+}
+
+void SettingsDialog::proxyTestStart()
+{
+    m_proxyTester->start(readProxy());
+}
+
+void SettingsDialog::updateProxyTestStatus()
+{
+    struct Look
+    {
+        const char *picture;
+        QString words;
+    };
+    const auto look = [state = m_proxyTester->state()]() -> Look {
+        switch (state) {
+        case ProxyTester::Working:
+            return {"working", tr("The proxy is being tested...")};
+        case ProxyTester::Error:
+            return {"error", tr("The proxy does not work.")};
+        case ProxyTester::Success:
+            return {"success", tr("The proxy works.")};
+        default:
+            return {"idle", {}};
+        }
+    }();
+    m_form->proxyTestStatusLabel->setPixmap(
+        QPixmap(QStringLiteral(":/img/proxy_%1.png").arg(QLatin1String(look.picture))));
+    m_form->proxyTestTextLabel->setText(look.words);
+}
+
+// The order of sites
+
+void SettingsDialog::writeOrder()
+{
+    QListWidget *list = m_form->orderList;
+    const QString current = list->currentItem() ? list->currentItem()->text() : QString();
+    list->clear();
+    for (const QString &entry : m_settings->providersOrder().split(siteSeparator, Qt::SkipEmptyParts)) {
+        const QStringList parts = entry.split(markSeparator);
+        addSite(parts.first().trimmed(), parts.value(1) != disabledMark);
+    }
+    for (const auto &provider : makeProviders(nullptr)) {
+        // As the search compares them.
+        if (list->findItems(provider->name(), Qt::MatchFixedString).isEmpty())
+            addSite(provider->name(), true);
+    }
+    const QList<QListWidgetItem *> same = list->findItems(current, Qt::MatchExactly);
+    list->setCurrentItem(same.isEmpty() ? list->item(0) : same.first());
+}
+
+void SettingsDialog::addSite(const QString &name, bool enabled)
+{
+    if (name.isEmpty())
+        return;
+    auto *item = new QListWidgetItem(name);
+    item->setData(Qt::UserRole, name);
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
+    item->setCheckState(enabled ? Qt::Checked : Qt::Unchecked);
+    m_form->orderList->addItem(item);
+}
+
+QString SettingsDialog::readOrder() const
+{
+    QStringList entries;
+    for (int row = 0; row < m_form->orderList->count(); ++row) {
+        const QListWidgetItem *item = m_form->orderList->item(row);
+        const QString name = item->data(Qt::UserRole).toString();
+        entries.append(isChecked(*item) ? name : name + markSeparator + disabledMark);
+    }
+    return entries.join(siteSeparator);
+}
+
+void SettingsDialog::on_btnUp_clicked()
+{
+    moveCurrentSite(-1);
+}
+
+void SettingsDialog::on_btnDown_clicked()
+{
+    moveCurrentSite(1);
+}
+
+void SettingsDialog::moveCurrentSite(int places)
+{
+    QListWidget *list = m_form->orderList;
+    const int row = list->currentRow();
+    const int target = row + places;
+    if (row < 0 || target < 0 || target >= list->count())
+        return;
+    list->insertItem(target, list->takeItem(row));
+    list->setCurrentRow(target);
+    updateOrderButtons();
+    emit contentChanged();
+}
+
+void SettingsDialog::on_btnEnable_clicked()
+{
+    if (QListWidgetItem *item = m_form->orderList->currentItem())
+        item->setCheckState(isChecked(*item) ? Qt::Unchecked : Qt::Checked);
+    updateOrderButtons();
+}
+
+void SettingsDialog::updateOrderButtons()
+{
+    const QListWidget *list = m_form->orderList;
+    const int row = list->currentRow();
+    m_form->btnUp->setEnabled(row >= 1);
+    m_form->btnDown->setEnabled(row >= 0 && row < list->count() - 1);
+    m_form->btnEnable->setEnabled(row >= 0);
+    m_form->btnEnable->setText(row >= 0 && isChecked(*list->item(row)) ? tr("Disable") : tr("Enable"));
+    warnWithoutSites();
+}
+
+void SettingsDialog::warnWithoutSites()
+{
+    const QListWidget *list = m_form->orderList;
+    int enabled = 0;
+    for (int row = 0; row < list->count(); ++row)
+        enabled += isChecked(*list->item(row));
+    const bool allDisabled = list->count() > 0 && enabled == 0;
+    m_form->icoOrderWarning->setVisible(allDisabled);
+    m_form->lblOrderWarning->setStyleSheet(allDisabled ? QStringLiteral("color: red") : QString());
+    m_form->lblOrderWarning->setText(allDisabled ? tr("Warning!!! You have disabled all sources.") : QString());
+}
