@@ -1,33 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "tags/TagUpdate.h"
 
+#include "tags/CheckedFileStream.h"
 #include "tags/FileAccess.h"
-#include "tags/FileTags.h"
-#include "tags/TagCopy.h"
-#include "tags/TagFields.h"
-#include "tags/TagKeys.h"
+#include "tags/FileCopying.h"
+#include "tags/Id3v2Frames.h"
+#include "tags/SafeSave.h"
+#include "tags/SongComparison.h"
+#include "tags/SongLayout.h"
+#include "tags/TagEdits.h"
 #include "tags/TagText.h"
 
-#include <taglib/aifffile.h>
-#include <taglib/apefile.h>
-#include <taglib/apetag.h>
 #include <taglib/audioproperties.h>
 #include <taglib/fileref.h>
-#include <taglib/id3v1tag.h>
-#include <taglib/id3v2header.h>
-#include <taglib/id3v2tag.h>
-#include <taglib/infotag.h>
-#include <taglib/mpcfile.h>
-#include <taglib/mpegfile.h>
-#include <taglib/trueaudiofile.h>
-#include <taglib/wavfile.h>
-#include <taglib/wavpackfile.h>
+#include <taglib/tiostream.h>
 
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <cstdlib>
 #include <exception>
-#include <optional>
+#include <memory>
+
+#include <fcntl.h>
 
 Q_DECLARE_LOGGING_CATEGORY(lcTags)
 
@@ -35,174 +30,169 @@ namespace tags {
 
 namespace {
 
-bool holdsAudio(const TagLib::FileRef &reference)
-{
-    const TagLib::AudioProperties *properties = reference.audioProperties();
-    return properties && (properties->lengthInMilliseconds() > 0 || properties->sampleRate() > 0);
-}
+// TagLib leaves up to 1 MB of padding behind a tag.
+constexpr qint64 paddingBytes = 2 * 1024 * 1024;
+// A character of a text takes at most so much in any encoding.
+constexpr qint64 characterBytes = 4;
 
-// What is left to store when all that the file says already is taken away.
-struct Edits
+// A song that TagLib has opened, on a descriptor of its own.
+class OpenSong
 {
-    QString artist; // empty: leave it
-    QString title;  // empty: leave it
-    std::optional<QString> lyrics;
+public:
+    // Takes the descriptor over. `path` tells the format.
+    OpenSong(int descriptor, const QByteArray &path, CheckedFileStream::Access access)
+        : m_stream(descriptor, path, access)
+    {
+        m_stream.setReadBudget(ReadBudget());
+        m_reference = TagLib::FileRef(m_stream.stream(), true, TagLib::AudioProperties::Average);
+        m_stream.liftReadBudget();
+    }
+
+    [[nodiscard]] bool isNull() const { return m_reference.isNull(); }
+    [[nodiscard]] TagLib::File &file() const { return *m_reference.file(); }
+    [[nodiscard]] CheckedFileStream &stream() { return m_stream; }
+    [[nodiscard]] bool holdsAudio() const
+    {
+        const TagLib::AudioProperties *properties = m_reference.audioProperties();
+        return properties && (properties->lengthInMilliseconds() > 0 || properties->sampleRate() > 0);
+    }
+
+private:
+    CheckedFileStream m_stream;
+    TagLib::FileRef m_reference;
 };
 
-QString withPlainBreaks(QString text)
+QByteArray resolvedPath(const QByteArray &path)
 {
-    return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.constData(), nullptr), &std::free);
+    return resolved ? QByteArray(resolved.get()) : QByteArray();
 }
 
-// Everything is compared with the text that was read from the file, since that is what the user saw. So lyrics that
-// were not edited keep their second language and their description. And where lyrics are never read, in APE tags and
-// WAV files, empty lyrics mean that nobody saw the stored ones: deliberately they do not remove them.
-Edits editsOf(TagLib::File &file, const SongTexts &texts)
+// One update of one file: what is there, what is to change, and the change on a copy.
+class Update
 {
-    const TagCopy read = TagCopy::ofFile(file);
-    Edits edits;
-    if (texts.artist != read.value(keys::artist))
-        edits.artist = texts.artist;
-    if (texts.title != read.value(keys::title))
-        edits.title = texts.title;
-    if (withPlainBreaks(texts.lyrics) != withPlainBreaks(read.value(keys::lyrics)))
-        edits.lyrics = texts.lyrics;
-    return edits;
-}
-
-bool setNames(TagLib::Tag &tag, const Edits &edits)
-{
-    const bool newArtist = !edits.artist.isEmpty() && setName(tag, keys::artist, edits.artist);
-    const bool newTitle = !edits.title.isEmpty() && setName(tag, keys::title, edits.title);
-    return newArtist || newTitle;
-}
-
-bool storeLyrics(TagLib::Tag &tag, const Edits &edits)
-{
-    return edits.lyrics && setLyrics(tag, *edits.lyrics);
-}
-
-// Only what is missing in it.
-void fill(TagLib::Tag &tag, const TagLib::Tag *source)
-{
-    if (source)
-        TagLib::Tag::duplicate(source, &tag, false);
-}
-
-TagLib::ID3v2::Version versionToSave(bool hadTag, const TagLib::ID3v2::Tag &tag)
-{
-    return hadTag && tag.header()->majorVersion() == 4 ? TagLib::ID3v2::v4 : TagLib::ID3v2::v3;
-}
-
-UpdateResult resultOf(bool saved)
-{
-    return saved ? UpdateResult::Saved : UpdateResult::SaveFailed;
-}
-
-// The ID3v2 version is kept, 3 for a new tag. ID3v1 and APE are never made, and not a byte of them is touched unless a
-// name changed in them.
-UpdateResult updateMpeg(TagLib::MPEG::File &file, const Edits &edits)
-{
-    using TagLib::MPEG::File;
-    const bool hadId3v2 = file.hasID3v2Tag();
-    TagLib::ID3v2::Tag &tag = *file.ID3v2Tag(true);
-    const bool newNames = setNames(tag, edits);
-    const bool newLyrics = storeLyrics(tag, edits);
-    const bool newApe = file.hasAPETag() && setNames(*file.APETag(), edits);
-    const bool newId3v1 = file.hasID3v1Tag() && setNames(*file.ID3v1Tag(), edits);
-    if (!newNames && !newLyrics && !newApe && !newId3v1)
-        return UpdateResult::Unchanged;
-    // A new ID3v2 tag hides the other two from players; APE is asked first, since ID3v1 cuts its texts.
-    if (!hadId3v2) {
-        fill(tag, file.APETag());
-        fill(tag, file.ID3v1Tag());
+public:
+    Update(const QByteArray &path, const SongTexts &texts)
+        : m_path(path)
+        , m_texts(texts)
+    {
     }
-    const int kinds = File::ID3v2 | (newApe ? File::APE : 0) | (newId3v1 ? File::ID3v1 : 0);
-    return resultOf(file.save(kinds, File::StripNone, versionToSave(hadId3v2, tag), File::DoNotDuplicate));
-}
+    UpdateResult run(const QString &dataFolder);
 
-// A tag that the file does not have yet, and the one that it hides from readers, this program among them.
-struct NewTag
-{
-    TagLib::Tag *tag = nullptr;
-    const TagLib::Tag *hidden = nullptr;
+private:
+    UpdateResult change(int copy);
+    UpdateResult writeTags(int copy);
+    UpdateResult keepFrames(CheckedFileStream &stream);
+    UpdateResult check(int copy);
+    [[nodiscard]] OpenSong opened(int descriptor, CheckedFileStream::Access access) const;
+
+    QByteArray m_path;
+    const SongTexts &m_texts;
+    int m_original = -1;
+    SongLayout m_layout;
+    TagEdits m_edits;
+    AppliedEdits m_applied;
 };
 
-template<typename File>
-NewTag newApeTag(File &file)
+UpdateResult Update::run(const QString &dataFolder)
 {
-    return file.hasAPETag() || !file.ID3v1Tag() ? NewTag() : NewTag{file.APETag(true), file.ID3v1Tag()};
-}
-
-// Without a tag TagLib makes the right one by itself; beside ID3v1, which holds no lyrics, it has to be asked.
-NewTag newTagOf(TagLib::File &file)
-{
-    if (auto *wav = dynamic_cast<TagLib::RIFF::WAV::File *>(&file))
-        return wav->hasID3v2Tag() ? NewTag() : NewTag{wav->ID3v2Tag(), wav->InfoTag()};
-    if (auto *ape = dynamic_cast<TagLib::APE::File *>(&file))
-        return newApeTag(*ape);
-    if (auto *wavPack = dynamic_cast<TagLib::WavPack::File *>(&file))
-        return newApeTag(*wavPack);
-    if (auto *musepack = dynamic_cast<TagLib::MPC::File *>(&file))
-        return newApeTag(*musepack);
-    auto *trueAudio = dynamic_cast<TagLib::TrueAudio::File *>(&file);
-    if (trueAudio && !trueAudio->hasID3v2Tag() && trueAudio->ID3v1Tag())
-        return {trueAudio->ID3v2Tag(true), trueAudio->ID3v1Tag()};
-    return {};
-}
-
-// Of a WAV file the ID3v2 chunk alone is written: RIFF INFO knows no encoding, and what another program put there
-// may not survive a rewrite.
-bool save(TagLib::File &file)
-{
-    using TagLib::RIFF::WAV::File;
-    if (auto *wav = dynamic_cast<File *>(&file))
-        return wav->save(File::ID3v2, File::StripNone, versionToSave(wav->hasID3v2Tag(), *wav->ID3v2Tag()));
-    if (auto *aiff = dynamic_cast<TagLib::RIFF::AIFF::File *>(&file))
-        return aiff->save(versionToSave(aiff->hasID3v2Tag(), *aiff->tag()));
-    return file.save();
-}
-
-UpdateResult updateOther(TagLib::File &file, const Edits &edits)
-{
-    const NewTag made = newTagOf(file);
-    const FileTags tags = tagsOf(file);
-    const auto holdsLyrics = [](const TagLib::Tag *tag) {
-        return tag && canHoldLyrics(*tag);
-    };
-    if (std::none_of(tags.members.begin(), tags.members.end(), holdsLyrics))
-        return UpdateResult::NoLyricsPlace;
-    bool changed = false;
-    for (TagLib::Tag *member : tags.members) {
-        changed = (member && setNames(*member, edits)) || changed;
-        changed = (member && storeLyrics(*member, edits)) || changed;
-    }
-    if (!changed)
-        return UpdateResult::Unchanged;
-    if (made.tag)
-        fill(*made.tag, made.hidden);
-    return resultOf(save(file));
-}
-
-UpdateResult updateWritable(const QString &path, const SongTexts &texts)
-{
-    acceptLatin1InRiffInfo();
-    const TagLib::FileRef reference(nativePath(path).constData(), true, TagLib::AudioProperties::Average);
-    if (reference.isNull())
+    m_original = openRegularFile(m_path, O_RDONLY);
+    if (m_original < 0)
         return UpdateResult::Unreadable;
-    if (reference.file()->readOnly())
-        return UpdateResult::ReadOnly;
-    if (!holdsAudio(reference))
+    const FileIdentity identity = FileIdentity::of(m_original);
+    OpenSong song(m_original, m_path, CheckedFileStream::Access::Read);
+    if (song.isNull())
+        return UpdateResult::Unreadable;
+    if (!song.holdsAudio())
         return UpdateResult::NotAudio;
-    const Edits edits = editsOf(*reference.file(), texts);
-    if (auto *mpeg = dynamic_cast<TagLib::MPEG::File *>(reference.file()))
-        return updateMpeg(*mpeg, edits);
-    return updateOther(*reference.file(), edits);
+    m_edits = editsOf(song.file(), m_texts);
+    m_applied = apply(m_edits, song.file());
+    if (!m_applied.isPossible)
+        return UpdateResult::NoLyricsPlace;
+    if (!m_applied.isChanged)
+        return UpdateResult::Unchanged;
+    const auto layout = SongLayout::of(FileBytes(m_original), formatOf(song.file()));
+    if (!layout)
+        return UpdateResult::TagsNotKept;
+    m_layout = *layout;
+    const qint64 characters = m_texts.artist.size() + m_texts.title.size() + m_texts.lyrics.size();
+    return SafeSave(m_path, m_original, identity, dataFolder)
+        .run([this](int copy) { return change(copy); }, paddingBytes + 2 * characters * characterBytes);
+}
+
+OpenSong Update::opened(int descriptor, CheckedFileStream::Access access) const
+{
+    return {::fcntl(descriptor, F_DUPFD_CLOEXEC, 0), m_path, access};
+}
+
+UpdateResult Update::change(int copy)
+{
+    const UpdateResult written = writeTags(copy);
+    if (written != UpdateResult::Saved)
+        return written;
+    startSync(copy); // while it is checked
+    return check(copy);
+}
+
+UpdateResult Update::writeTags(int copy)
+{
+    OpenSong song = opened(copy, CheckedFileStream::Access::ReadWrite);
+    if (song.isNull())
+        return UpdateResult::DiskError; // it was readable where it came from
+    const bool saved = save(apply(m_edits, song.file()), song.file());
+    const UpdateResult kept = song.stream().error() == 0 ? keepFrames(song.stream()) : UpdateResult::Saved;
+    if (song.stream().error() != 0)
+        return resultOfError(song.stream().error());
+    return saved ? kept : UpdateResult::SaveFailed;
+}
+
+// TagLib converts the frames of an ID3v2 tag and drops those that it does not know, or that it thinks of another
+// version. So all but the edited ones are put back as they were stored, into the room that TagLib made.
+UpdateResult Update::keepFrames(CheckedFileStream &stream)
+{
+    if (m_layout.id3v2.length == 0 || m_layout.id3v2View != Id3v2View::Stored)
+        return UpdateResult::Saved;
+    const auto written = SongLayout::of(FileBytes(stream.descriptor()), m_layout.format);
+    auto tag = Id3v2Frames::parse(FileBytes(m_original).read(m_layout.id3v2.offset, m_layout.id3v2.length));
+    if (!written || !tag)
+        return UpdateResult::TagsNotKept;
+    const auto isEdited = [this](const Id3v2Frame &frame) {
+        return m_applied.frames.contains(frame.id);
+    };
+    tag->frames.erase(std::remove_if(tag->frames.begin(), tag->frames.end(), isEdited), tag->frames.end());
+    if (const auto edited = Id3v2Frames::parse(editedFrames(m_edits, m_applied, tag->version)))
+        tag->frames += edited->frames;
+    const QByteArray bytes = tag->toTag(static_cast<int>(written->id3v2.length));
+    if (bytes.isEmpty())
+        return tag->frames.isEmpty() ? UpdateResult::Saved : UpdateResult::TagsNotKept;
+    stream.stream()->seek(written->id3v2.offset, TagLib::IOStream::Beginning);
+    stream.stream()->writeBlock(TagLib::ByteVector(bytes.constData(), static_cast<unsigned int>(bytes.size())));
+    return UpdateResult::Saved;
+}
+
+// The texts are stored when storing them again would change nothing.
+UpdateResult Update::check(int copy)
+{
+    const FileBytes written(copy);
+    const auto layout = SongLayout::of(written, m_layout.format, m_layout.id3v2View);
+    if (!layout)
+        return UpdateResult::AudioNotKept;
+    switch (compareSongs(FileBytes(m_original), m_layout, written, *layout, m_applied.keys)) {
+    case SongDifference::Audio:
+        return UpdateResult::AudioNotKept;
+    case SongDifference::Tags:
+        return UpdateResult::TagsNotKept;
+    case SongDifference::None:
+        break;
+    }
+    const OpenSong song = opened(copy, CheckedFileStream::Access::Read);
+    const bool isStored = !song.isNull() && song.holdsAudio() && !apply(m_edits, song.file()).isChanged;
+    return isStored ? UpdateResult::Saved : UpdateResult::SaveFailed;
 }
 
 } // namespace
 
-UpdateResult updateTags(const QString &path, const SongTexts &texts)
+UpdateResult updateTags(const QString &path, const SongTexts &texts, const QString &dataFolder)
 {
     switch (fileAccess(path)) {
     case FileAccess::Missing:
@@ -214,8 +204,12 @@ UpdateResult updateTags(const QString &path, const SongTexts &texts)
     case FileAccess::Writable:
         break;
     }
+    const QByteArray resolved = resolvedPath(nativePath(path));
+    if (resolved.isEmpty())
+        return UpdateResult::Missing;
+    acceptLatin1InRiffInfo();
     try {
-        return updateWritable(path, texts);
+        return Update(resolved, texts).run(dataFolder);
     } catch (const std::exception &error) {
         qCWarning(lcTags) << "a file could not be written:" << error.what();
         return UpdateResult::Unreadable;

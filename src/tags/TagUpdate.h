@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tags/UpdateResult.h"
+
 #include <QString>
 
 namespace tags {
@@ -14,22 +16,15 @@ struct SongTexts
     QString lyrics;
 };
 
-enum class UpdateResult {
-    Unchanged, // the file says all that already; it was not written
-    Saved,
-    Missing,
-    NotRegular,
-    ReadOnly,
-    Unreadable, // no format that is known, or damaged
-    NotAudio,   // nothing in it plays: tags in front of it would only harm it
-    NoLyricsPlace,
-    SaveFailed,
-};
-
 // Changes what differs in the tags of a file, and saves the file when something did. Names and lyrics count as
 // different when they are not the text that MediaFileTags reads there (line breaks of any kind are alike), so what
 // nobody edited stays as it is stored. A name that was edited goes into each tag that does not read as that name
-// already. Opens nothing but regular files that may be written. Blocks; never throws.
-UpdateResult updateTags(const QString &path, const SongTexts &texts);
+// already. Opens nothing but regular files that may be written.
+//
+// The file is never left half written (see SafeSave), and everything else in it stays: the audio byte for byte, or
+// packet for packet in Ogg, and every other entry of its tags; what would lose any of that is refused. Frames of ID3v2
+// tags stay as they are stored, known to anybody or not. `dataFolder` is the program's own, for saves in place; without
+// one, such saves are refused. Blocks; never throws.
+UpdateResult updateTags(const QString &path, const SongTexts &texts, const QString &dataFolder);
 
 } // namespace tags

@@ -25,6 +25,20 @@ QString reasonText(tags::UpdateResult result)
         return TagWriter::tr("no audio was found in the file");
     case tags::UpdateResult::NoLyricsPlace:
         return TagWriter::tr("files of this format cannot hold lyrics");
+    case tags::UpdateResult::NoRoom:
+        return TagWriter::tr("there is not enough room on the disk");
+    case tags::UpdateResult::TooLarge:
+        return TagWriter::tr("the file would become too large");
+    case tags::UpdateResult::DiskError:
+        return TagWriter::tr("the disk reports an error");
+    case tags::UpdateResult::TagsNotKept:
+        return TagWriter::tr("other entries of its tags would be lost");
+    case tags::UpdateResult::AudioNotKept:
+        return TagWriter::tr("the audio would not stay as it is");
+    case tags::UpdateResult::ChangedMeanwhile:
+        return TagWriter::tr("another program has changed the file");
+    case tags::UpdateResult::RestoredLater:
+        return TagWriter::tr("the disk failed; the file will be restored at the next start");
     case tags::UpdateResult::SaveFailed:
         break;
     }
@@ -33,7 +47,8 @@ QString reasonText(tags::UpdateResult result)
 
 } // namespace
 
-TagWriter::TagWriter()
+TagWriter::TagWriter(const QString &dataFolder)
+    : m_dataFolder(dataFolder)
 {
     moveToThread(tags::WriterThread::instance().thread());
 }
@@ -62,7 +77,8 @@ void TagWriter::write(const QUrl &fileToWrite, quint16 id, const QString &_artis
                       const QString &lyrics)
 {
     if (!_artist.isEmpty() || !title.isEmpty() || !lyrics.isEmpty()) {
-        const QString reason = reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}));
+        const QString reason =
+            reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder));
         if (!reason.isEmpty())
             emit failed(id, reason);
     }

@@ -13,7 +13,7 @@
 // Every writer moves to the one writer thread of the process when it is made, so that files are written one at a time,
 // in the order of the calls; connections to the GUI thread are queued by themselves. Use one writer a file:
 //
-//     auto *writer = new TagWriter;
+//     auto *writer = new TagWriter(dataFolder);
 //     connect(writer, &TagWriter::failed, ...); connect(writer, &TagWriter::written, ...);
 //     writer->queueWrite(url, id, artist, title, lyrics);
 //
@@ -23,8 +23,8 @@ class TagWriter : public QObject
     Q_OBJECT
 
 public:
-    // For the GUI thread. It has no parent, since it changes threads.
-    TagWriter();
+    // For the GUI thread. It has no parent, since it changes threads. `dataFolder`: see updateTags().
+    explicit TagWriter(const QString &dataFolder = {});
 
     // Calls write() on the writer thread. The write counts as queued from this call on, until written() was emitted or
     // the writer was deleted.
@@ -48,4 +48,7 @@ signals:
     void failed(quint16 id, QString reason);
     // In every case, exactly once for each write.
     void written(quint16 id);
+
+private:
+    QString m_dataFolder;
 };

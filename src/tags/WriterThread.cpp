@@ -99,14 +99,16 @@ bool WriterThread::waitForQueued(std::chrono::milliseconds withoutProgress)
 {
     const QMutexLocker locker(&m_mutex);
     quint64 endedBefore = m_ended;
+    quint64 stepsBefore = m_steps;
     QByteArray movedBefore = bytesMoved(m_systemId);
     QDeadlineTimer deadline(withoutProgress);
     while (m_pending > 0) {
         const auto left = std::chrono::milliseconds(deadline.remainingTime());
         m_writeEnded.wait(&m_mutex, QDeadlineTimer(std::min(lookInterval, left)));
         const QByteArray moved = bytesMoved(m_systemId);
-        if (m_ended != endedBefore || moved != movedBefore || moved.isEmpty()) {
+        if (m_ended != endedBefore || m_steps != stepsBefore || moved != movedBefore || moved.isEmpty()) {
             endedBefore = m_ended;
+            stepsBefore = m_steps;
             movedBefore = moved;
             deadline = QDeadlineTimer(withoutProgress);
         } else if (deadline.hasExpired()) {

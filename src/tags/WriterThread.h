@@ -4,6 +4,7 @@
 #include <QMutex>
 #include <QWaitCondition>
 
+#include <atomic>
 #include <chrono>
 #include <memory>
 
@@ -28,9 +29,13 @@ public:
 
     [[nodiscard]] int pendingWrites() const;
 
-    // Blocks until no write is queued. False when for that long no write ended and the thread neither read nor wrote
-    // anything: a large file on a slow stick is waited for as long as bytes move. Where the system does not count a
-    // thread's bytes nobody can tell a slow write from a dead one, and none is given up.
+    // A step was done that moves no bytes the system counts for a thread, such as waiting until a part of a file is on
+    // the disk.
+    void noteProgress() { ++m_steps; }
+
+    // Blocks until no write is queued. False when for that long no write ended, no step was noted and the thread
+    // neither read nor wrote anything: a large file on a slow stick is waited for as long as bytes move. Where the
+    // system does not count a thread's bytes nobody can tell a slow write from a dead one, and none is given up.
     bool waitForQueued(std::chrono::milliseconds withoutProgress);
 
 private:
@@ -47,6 +52,7 @@ private:
     int m_systemId = 0; // of the thread, as the system numbers threads; 0 until it runs
     int m_pending = 0;
     quint64 m_ended = 0;
+    std::atomic<quint64> m_steps{0};
     bool m_stalled = false;
 };
 

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "tags/SongLayout.h"
+
+#include <QByteArrayList>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace tags {
+
+namespace {
+
+// ISO/IEC 14496-12; the list of tags is described in the QuickTime file format.
+struct Atom
+{
+    QByteArray name;
+    qint64 offset = 0;
+    qint64 content = 0;
+    qint64 end = 0;
+};
+
+constexpr int deepest = 12; // an ordinary file nests six
+
+class Mp4Walk
+{
+public:
+    Mp4Walk(const FileBytes &file, SongLayout &layout)
+        : m_file(file)
+        , m_layout(layout)
+    {
+    }
+
+    bool readAtoms(qint64 place, qint64 end, const QByteArray &path, int depth)
+    {
+        while (place < end) {
+            const Atom atom = atomAt(place, end);
+            if (atom.end <= place || atom.end > end)
+                // What follows the last atom of user data may be four zeros.
+                return end - place < 8 && m_file.read(place, end - place).count('\0') == end - place;
+            if (!readAtom(atom, path, depth))
+                return false;
+            place = atom.end;
+        }
+        return true;
+    }
+
+private:
+    [[nodiscard]] Atom atomAt(qint64 place, qint64 end) const
+    {
+        const quint32 size = m_file.bigEndian32(place);
+        Atom atom{m_file.read(place + 4, 4), place, place + 8, place + size};
+        if (size == 1) {
+            atom.content = place + 16;
+            atom.end = place + static_cast<qint64>(std::min<quint64>(m_file.bigEndian64(place + 8), quint64(1) << 62));
+        } else if (size == 0) {
+            atom.end = end;
+        }
+        if (atom.content > end || atom.end < atom.content)
+            atom.end = place; // damaged
+        return atom;
+    }
+
+    bool readAtom(const Atom &atom, const QByteArray &path, int depth)
+    {
+        const QByteArray here = path + atom.name;
+        if (atom.name == "free" || atom.name == "skip")
+            return true;
+        if (path.isEmpty() && atom.name != "moov") {
+            if (atom.name == "mdat")
+                m_layout.audio.append({atom.offset, atom.end - atom.offset});
+            else
+                addItem(here, atom.offset, atom.end);
+            return true;
+        }
+        if (here == "moov/udta/meta/ilst")
+            return readTagList(atom);
+        static const QByteArrayList containers{"moov", "trak", "mdia", "minf", "stbl", "udta"};
+        if (containers.contains(atom.name))
+            return depth < deepest && readAtoms(atom.content, atom.end, here + '/', depth + 1);
+        if (here == "moov/udta/meta") // a full atom: four bytes of version and flags first
+            return readAtoms(atom.content + 4, atom.end, here + '/', depth + 1);
+        if (atom.name == "stco" || atom.name == "co64")
+            return readOffsets(atom);
+        addItem(here, atom.content, atom.end);
+        return true;
+    }
+
+    bool readTagList(const Atom &list)
+    {
+        for (qint64 place = list.content; place < list.end;) {
+            const Atom item = atomAt(place, list.end);
+            if (item.end <= place || item.end > list.end)
+                return false;
+            addItem(item.name, item.content, item.end);
+            place = item.end;
+        }
+        return true;
+    }
+
+    bool readOffsets(const Atom &atom)
+    {
+        const qint64 width = atom.name == "stco" ? 4 : 8;
+        const quint32 count = m_file.bigEndian32(atom.content + 4);
+        const QByteArray table = m_file.read(atom.content + 8, count * width);
+        if (table.size() != count * width)
+            return false;
+        for (qint64 i = 0; i < count; ++i) {
+            const char *entry = table.constData() + i * width;
+            m_layout.audioOffsets.append(width == 4 ? qFromBigEndian<quint32>(entry)
+                                                    : static_cast<qint64>(qFromBigEndian<quint64>(entry)));
+        }
+        return true;
+    }
+
+    void addItem(const QByteArray &key, qint64 start, qint64 end)
+    {
+        m_layout.items.append({"MP4/" + key, m_file.read(start, end - start)});
+    }
+
+    const FileBytes &m_file;
+    SongLayout &m_layout;
+};
+
+} // namespace
+
+bool readMp4Layout(const FileBytes &file, SongLayout &layout)
+{
+    return Mp4Walk(file, layout).readAtoms(0, file.size(), {}, 0) && !layout.audio.isEmpty();
+}
+
+} // namespace tags

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace tags {
+
+// What mending after a killed run did; full paths.
+struct MendedSaves
+{
+    QStringList restored; // songs whose save in place was cut off: they are again as they were before it
+    QStringList kept;     // copies of such songs, where another file stands now: left for the user
+    [[nodiscard]] bool isEmpty() const { return restored.isEmpty() && kept.isEmpty(); }
+};
+
+// What a killed run leaves behind, noted beforehand in a folder of the program's own:
+//   copies/<name>        the path of a working copy that may exist; it is removed at the next start
+//   rescue/<name>.song   the full content of a song that is being saved in place
+//   rescue/<name>.entry  inode, size before and after, and path of that song, once its copy is whole; an entry means:
+//                        restore
+// For one program at a time, which holds the lock of the running instance.
+class SaveJournal
+{
+public:
+    // Made when it is missing. With an empty name nothing is noted, and no song can be rescued.
+    explicit SaveJournal(const QString &folder);
+
+    void noteCopy(const QByteArray &path);
+    void forgetCopy(const QByteArray &path);
+
+    // Copies the content of an open song and notes it, both on the disk when this returns 0; else an errno. `path` is
+    // the song's, links resolved; `newSize` the size that it will have.
+    [[nodiscard]] int rescue(const QByteArray &path, int song, qint64 newSize);
+    // Puts the content back that was rescued last, and forgets it when that succeeds; 0 or an errno.
+    [[nodiscard]] int restore(int song);
+    // The song is whole.
+    void forgetRescue();
+
+    // Where the copies of songs lie; empty when there is no such folder.
+    [[nodiscard]] QByteArray rescueFolder() const { return m_rescueFolder; }
+
+    // Removes left-over copies and restores songs; those that are not there, on a stick perhaps, wait for a later
+    // start. To be called at the start, before any song is read. Blocks.
+    MendedSaves mend();
+
+private:
+    void removeLeftOverCopies();
+    QByteArray handOver(const QByteArray &path);
+
+    QByteArray m_copiesFolder;
+    QByteArray m_rescueFolder;
+    QByteArray m_rescued; // path of the rescue copy without its extension
+};
+
+} // namespace tags

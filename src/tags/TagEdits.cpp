@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "tags/TagEdits.h"
+
+#include "tags/FileTags.h"
+#include "tags/TagCopy.h"
+#include "tags/TagFields.h"
+#include "tags/TagKeys.h"
+#include "tags/TagKind.h"
+
+#include <taglib/aifffile.h>
+#include <taglib/apefile.h>
+#include <taglib/apetag.h>
+#include <taglib/id3v1tag.h>
+#include <taglib/id3v2header.h>
+#include <taglib/id3v2tag.h>
+#include <taglib/infotag.h>
+#include <taglib/mpcfile.h>
+#include <taglib/mpegfile.h>
+#include <taglib/trueaudiofile.h>
+#include <taglib/wavfile.h>
+#include <taglib/wavpackfile.h>
+
+#include <algorithm>
+
+namespace tags {
+
+namespace {
+
+QString withPlainBreaks(QString text)
+{
+    return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+// The items in which the formats keep what can be edited, as SongLayout names them.
+const QSet<QByteArray> artistItems{"ID3v2/TPE1",
+                                   "ID3v1",
+                                   "APE/ARTIST",
+                                   "Xiph/ARTIST",
+                                   "MP4/\xa9"
+                                   "ART",
+                                   "ASF/Author"};
+const QSet<QByteArray> titleItems{"ID3v2/TIT2", "ID3v1", "APE/TITLE", "Xiph/TITLE", "MP4/\xa9nam", "ASF/Title"};
+const QSet<QByteArray> lyricsItems{"ID3v2/USLT", "APE/LYRICS", "Xiph/LYRICS", "MP4/\xa9lyr", "ASF/WM/Lyrics"};
+
+void noteChange(AppliedEdits &applied, const TagLib::Tag &tag, const QSet<QByteArray> &items, const char *frame)
+{
+    applied.isChanged = true;
+    applied.keys += items;
+    if (kindOf(&tag) == TagKind::Id3v2)
+        applied.frames.insert(frame);
+}
+
+bool applyNames(const TagEdits &edits, TagLib::Tag &tag, AppliedEdits &applied)
+{
+    const bool newArtist = !edits.artist.isEmpty() && setName(tag, keys::artist, edits.artist);
+    const bool newTitle = !edits.title.isEmpty() && setName(tag, keys::title, edits.title);
+    if (newArtist)
+        noteChange(applied, tag, artistItems, "TPE1");
+    if (newTitle)
+        noteChange(applied, tag, titleItems, "TIT2");
+    return newArtist || newTitle;
+}
+
+void applyLyrics(const TagEdits &edits, TagLib::Tag &tag, AppliedEdits &applied)
+{
+    if (edits.lyrics && setLyrics(tag, *edits.lyrics))
+        noteChange(applied, tag, lyricsItems, "USLT");
+}
+
+// Only what is missing in it.
+void fill(TagLib::Tag &tag, const TagLib::Tag *source)
+{
+    if (source)
+        TagLib::Tag::duplicate(source, &tag, false);
+}
+
+TagLib::ID3v2::Version versionToSave(bool hadTag, const TagLib::ID3v2::Tag &tag)
+{
+    return hadTag && tag.header()->majorVersion() == 4 ? TagLib::ID3v2::v4 : TagLib::ID3v2::v3;
+}
+
+// A tag that the file does not have yet, and the one that it hides from readers, this program among them.
+struct NewTag
+{
+    TagLib::Tag *tag = nullptr;
+    const TagLib::Tag *hidden = nullptr;
+};
+
+template<typename File>
+NewTag newApeTag(File &file)
+{
+    return file.hasAPETag() || !file.ID3v1Tag() ? NewTag() : NewTag{file.APETag(true), file.ID3v1Tag()};
+}
+
+// Without a tag TagLib makes the right one by itself; beside ID3v1, which holds no lyrics, it has to be asked.
+NewTag newTagOf(TagLib::File &file)
+{
+    if (auto *wav = dynamic_cast<TagLib::RIFF::WAV::File *>(&file))
+        return wav->hasID3v2Tag() ? NewTag() : NewTag{wav->ID3v2Tag(), wav->InfoTag()};
+    if (auto *ape = dynamic_cast<TagLib::APE::File *>(&file))
+        return newApeTag(*ape);
+    if (auto *wavPack = dynamic_cast<TagLib::WavPack::File *>(&file))
+        return newApeTag(*wavPack);
+    if (auto *musepack = dynamic_cast<TagLib::MPC::File *>(&file))
+        return newApeTag(*musepack);
+    auto *trueAudio = dynamic_cast<TagLib::TrueAudio::File *>(&file);
+    if (trueAudio && !trueAudio->hasID3v2Tag() && trueAudio->ID3v1Tag())
+        return {trueAudio->ID3v2Tag(true), trueAudio->ID3v1Tag()};
+    return {};
+}
+
+// The ID3v2 version is kept, 3 for a new tag. ID3v1 and APE are never made, and not a byte of them is touched unless a
+// name changed in them.
+AppliedEdits applyToMpeg(const TagEdits &edits, TagLib::MPEG::File &file)
+{
+    AppliedEdits applied;
+    applied.hadId3v2 = file.hasID3v2Tag();
+    TagLib::ID3v2::Tag &tag = *file.ID3v2Tag(true);
+    applyNames(edits, tag, applied);
+    applyLyrics(edits, tag, applied);
+    applied.newApe = file.hasAPETag() && applyNames(edits, *file.APETag(), applied);
+    applied.newId3v1 = file.hasID3v1Tag() && applyNames(edits, *file.ID3v1Tag(), applied);
+    // A new ID3v2 tag hides the other two from players; APE is asked first, since ID3v1 cuts its texts.
+    if (applied.isChanged && !applied.hadId3v2) {
+        fill(tag, file.APETag());
+        fill(tag, file.ID3v1Tag());
+    }
+    return applied;
+}
+
+AppliedEdits applyToOther(const TagEdits &edits, TagLib::File &file)
+{
+    AppliedEdits applied;
+    const NewTag made = newTagOf(file);
+    const FileTags tags = tagsOf(file);
+    applied.isPossible = std::any_of(tags.members.begin(), tags.members.end(),
+                                     [](const TagLib::Tag *tag) { return tag && canHoldLyrics(*tag); });
+    if (!applied.isPossible)
+        return applied;
+    for (TagLib::Tag *member : tags.members) {
+        if (!member)
+            continue;
+        applyNames(edits, *member, applied);
+        applyLyrics(edits, *member, applied);
+    }
+    if (applied.isChanged && made.tag)
+        fill(*made.tag, made.hidden);
+    return applied;
+}
+
+} // namespace
+
+TagEdits editsOf(TagLib::File &file, const SongTexts &texts)
+{
+    const TagCopy read = TagCopy::ofFile(file);
+    TagEdits edits;
+    if (texts.artist != read.value(keys::artist))
+        edits.artist = texts.artist;
+    if (texts.title != read.value(keys::title))
+        edits.title = texts.title;
+    if (withPlainBreaks(texts.lyrics) != withPlainBreaks(read.value(keys::lyrics)))
+        edits.lyrics = texts.lyrics;
+    return edits;
+}
+
+AppliedEdits apply(const TagEdits &edits, TagLib::File &file)
+{
+    auto *mpeg = dynamic_cast<TagLib::MPEG::File *>(&file);
+    return mpeg ? applyToMpeg(edits, *mpeg) : applyToOther(edits, file);
+}
+
+// Of a WAV file the ID3v2 chunk alone is written: RIFF INFO knows no encoding, and what another program put there
+// may not survive a rewrite.
+bool save(const AppliedEdits &applied, TagLib::File &file)
+{
+    constexpr auto stripNone = TagLib::File::StripNone;
+    if (auto *mpeg = dynamic_cast<TagLib::MPEG::File *>(&file)) {
+        using TagLib::MPEG::File;
+        const int kinds = File::ID3v2 | (applied.newApe ? File::APE : 0) | (applied.newId3v1 ? File::ID3v1 : 0);
+        return mpeg->save(kinds, stripNone, versionToSave(applied.hadId3v2, *mpeg->ID3v2Tag()), File::DoNotDuplicate);
+    }
+    if (auto *wav = dynamic_cast<TagLib::RIFF::WAV::File *>(&file))
+        return wav->save(TagLib::RIFF::WAV::File::ID3v2, stripNone,
+                         versionToSave(wav->hasID3v2Tag(), *wav->ID3v2Tag()));
+    if (auto *aiff = dynamic_cast<TagLib::RIFF::AIFF::File *>(&file))
+        return aiff->save(versionToSave(aiff->hasID3v2Tag(), *aiff->tag()));
+    return file.save();
+}
+
+QByteArray editedFrames(const TagEdits &edits, const AppliedEdits &applied, int version)
+{
+    TagLib::ID3v2::Tag tag;
+    if (applied.frames.contains("TPE1"))
+        setName(tag, keys::artist, edits.artist);
+    if (applied.frames.contains("TIT2"))
+        setName(tag, keys::title, edits.title);
+    if (applied.frames.contains("USLT"))
+        setLyrics(tag, *edits.lyrics);
+    if (tag.isEmpty() && tag.frameList().isEmpty())
+        return {};
+    const TagLib::ByteVector bytes = tag.render(version == 4 ? TagLib::ID3v2::v4 : TagLib::ID3v2::v3);
+    return {bytes.data(), static_cast<int>(bytes.size())};
+}
+
+} // namespace tags

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tags/TagUpdate.h"
+
+#include <QByteArray>
+#include <QSet>
+
+#include <optional>
+
+namespace TagLib {
+class File;
+}
+
+namespace tags {
+
+// What is left to store when all that a file says already is taken away.
+struct TagEdits
+{
+    QString artist; // empty: leave it
+    QString title;  // empty: leave it
+    std::optional<QString> lyrics;
+};
+
+// Everything is compared with the text that was read from the file, since that is what the user saw. So lyrics that
+// were not edited keep their second language and their description. And where lyrics are never read, in APE tags and
+// WAV files, empty lyrics mean that nobody saw the stored ones: deliberately they do not remove them.
+TagEdits editsOf(TagLib::File &file, const SongTexts &texts);
+
+// What was changed in the tags of an open file, in memory.
+struct AppliedEdits
+{
+    bool isPossible = true; // false: no tag of the file can hold lyrics
+    bool isChanged = false;
+    QSet<QByteArray> keys;   // of the items that changed, as SongLayout names them
+    QSet<QByteArray> frames; // of the ID3v2 tag
+    bool hadId3v2 = false;   // these three of MPEG files only
+    bool newApe = false;
+    bool newId3v1 = false;
+};
+
+AppliedEdits apply(const TagEdits &edits, TagLib::File &file);
+
+// Saves what was applied, as the format asks; false when TagLib says that it failed.
+bool save(const AppliedEdits &applied, TagLib::File &file);
+
+// A whole ID3v2 tag of the version with nothing but the edited frames; empty when none was edited.
+QByteArray editedFrames(const TagEdits &edits, const AppliedEdits &applied, int version);
+
+} // namespace tags

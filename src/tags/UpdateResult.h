@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace tags {
+
+// How an update of a file's tags ended. Except for Saved, and for RestoredLater, the file is byte for byte as it was.
+enum class UpdateResult {
+    Unchanged, // the file says all that already; it was not written
+    Saved,
+    Missing,
+    NotRegular,
+    ReadOnly,
+    Unreadable, // no format that is known, or damaged
+    NotAudio,   // nothing in it plays: tags in front of it would only harm it
+    NoLyricsPlace,
+    NoRoom,
+    TooLarge,         // for the file system or for a limit that the user has set
+    DiskError,        // the disk or the network share failed
+    TagsNotKept,      // something that its tags hold would be lost
+    AudioNotKept,     // the audio would not stay as it is
+    ChangedMeanwhile, // by another program
+    RestoredLater,    // a save in place failed and the file could not be restored; the next start tries again
+    SaveFailed,
+};
+
+} // namespace tags
