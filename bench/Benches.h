@@ -10,6 +10,8 @@ void benchAdding();
 // Rows hidden, shown, selected and removed in the list, scattered and all at once, beside a pass over a vector of
 // flags.
 void benchSelecting();
+// Lyrics stored in a song without padding, on a checked copy, beside a bare TagLib save in place and a sync.
+void benchSaving();
 // A tree of folders scanned, beside `find` on the same tree.
 void benchScanning();
 // Pages of 1 MiB that a site with bad intent could send, read for each site client, beside one lower-case copy of them.

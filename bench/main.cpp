@@ -15,6 +15,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
     BenchTable::printHead();
     benchReading();
+    benchSaving();
     benchAdding();
     benchSelecting();
     benchScanning();

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QSettings>
+#include <QStandardPaths>
 
 namespace {
 
@@ -55,6 +56,7 @@ Application::Application(int &argc, char **argv)
     m_settings.setHolder(m_instance.isHolder());
     createSearch();
     connectModels();
+    mendSaves();
     proxyChanged();
     connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
     connect(&m_settings, &Settings::proxyChanged, this, &Application::proxyChanged);
@@ -120,6 +122,16 @@ void Application::connectModels()
             [this](const QList<QUrl> &files) { m_mainModel.add(files, MainModel::IsRegularFile); });
     connect(&m_mainModel, &MainModel::scanFolders, &m_folderScanner, &FolderScanner::addFolders);
     connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
+}
+
+// Before any song is read: one whose save was cut off is made whole first.
+void Application::mendSaves()
+{
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1String("/saves");
+    m_mainModel.setDataFolder(folder);
+    if (m_instance.isHolder())
+        m_mendedSaves = tags::SaveJournal(folder).mend();
 }
 
 void Application::restoreFilesList()

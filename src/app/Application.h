@@ -10,6 +10,7 @@
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
 #include "settings/SettingsStandIn.h"
+#include "tags/SaveJournal.h"
 #include "ui/AppPalette.h"
 
 #include <QApplication>
@@ -35,7 +36,8 @@ public:
     enum OSType { OS_Mac, OS_Windows, OS_Linux, OS_Unknown };
     Q_ENUM(OSType)
 
-    // A damaged settings file is kept aside and mended, where this program holds the lock, and the settings are loaded.
+    // A damaged settings file is kept aside and mended and saves that were cut off are undone, where this program holds
+    // the lock, and the settings are loaded.
     Application(int &argc, char **argv);
     ~Application() override;
 
@@ -48,6 +50,9 @@ public:
     // Whether the settings could be stored when that was last tried; false when this run cannot store any. To be told
     // to the user.
     [[nodiscard]] bool areSettingsStored() const { return m_settingsStored; }
+
+    // What a save that was cut off had left behind at the start; to be told to the user.
+    [[nodiscard]] tags::MendedSaves mendedSaves() const { return m_mendedSaves; }
 
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
     // Lets another instance start while this one ends; nothing may be stored from here on.
@@ -101,6 +106,7 @@ private:
     void readSettings();
     void createSearch();
     void connectModels();
+    void mendSaves();
     void openMakerPage(const QString &path) const;
     [[nodiscard]] QString systemLanguage() const;
     [[nodiscard]] bool hasTranslation(const QString &code) const;
@@ -110,6 +116,7 @@ private:
     SettingsMending m_settingsMending;
     std::unique_ptr<SettingsStandIn> m_standIn; // where the settings file must not be read
     bool m_settingsStored = true;
+    tags::MendedSaves m_mendedSaves;
     MainModel m_mainModel;
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;

@@ -10,6 +10,7 @@
 #include <QThreadPool>
 
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -49,6 +50,8 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
     window.show();
     if (const SettingsMending mending = app.settingsMending(); mending.damaged)
         window.showSettingsDamaged(mending.copy);
+    if (const tags::MendedSaves mended = app.mendedSaves(); !mended.isEmpty())
+        window.showSavesMended(mended.restored, mended.kept);
     return Application::exec();
 }
 
@@ -71,6 +74,7 @@ void finishWrites()
 
 int main(int argc, char **argv)
 {
+    std::signal(SIGXFSZ, SIG_IGN); // a limit on file sizes is an error to report, not the end of the program
     Application app(argc, argv);
     if (app.isOtherInstanceRunning()) {
         std::fputs("Versewell is running already.\n", stderr);

@@ -380,6 +380,7 @@ void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
         m_unread.erase(taken.sequence);
         m_searchable.erase(taken.sequence);
         m_readsInFlight.removeOne(item->id());
+        forgetUnsaved(item->id());
         if (m_currentRead == item->id()) {
             m_currentRead = noRead;
             readAbandoned = true;
@@ -542,12 +543,17 @@ bool MainModel::writeTags(quint16 id)
 void MainModel::startWriting(ModelItem *item)
 {
     const quint16 id = item->id();
-    if (m_settings && m_settings->generateLyricsFileAuto())
-        generateLyricsFile(id);
+    auto *writer = new TagWriter(m_dataFolder);
+    // The export comes first, but like the write not in this thread: it waits for the disk.
+    if (m_settings && m_settings->generateLyricsFileAuto() && canExport(*item)) {
+        const auto exportLyrics = [path = item->url().toLocalFile(), lyrics = item->lyricsTag()] {
+            (void)writeLyricsFile(path, lyrics);
+        };
+        QMetaObject::invokeMethod(writer, exportLyrics, Qt::QueuedConnection);
+    }
     item->setErrorString(QString());
     item->setProcessState(ModelItem::ProcessWritingTags);
     ++m_writes[id];
-    auto *writer = new TagWriter;
     connect(writer, &TagWriter::failed, this, &MainModel::tagsNotWritten);
     connect(writer, &TagWriter::written, this, &MainModel::tagsWritten);
     connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
@@ -556,7 +562,7 @@ void MainModel::startWriting(ModelItem *item)
 
 void MainModel::tagsNotWritten(quint16 id, const QString &reason)
 {
-    m_failedWrites.insert(id);
+    m_failedWrites.insert(id, reason);
     if (ModelItem *item = m_items.find(id))
         item->setErrorString(reason);
 }
@@ -566,22 +572,50 @@ void MainModel::tagsWritten(quint16 id)
     const auto writes = m_writes.find(id);
     if (writes != m_writes.end() && --*writes == 0)
         m_writes.erase(writes);
-    const bool hasFailed = m_failedWrites.remove(id);
+    const QString reason = m_failedWrites.take(id);
     ModelItem *item = m_items.find(id);
-    if (!item || item->processState() != ModelItem::ProcessWritingTags)
+    if (!item)
         return;
-    if (!hasFailed)
+    forgetUnsaved(id);
+    if (!reason.isEmpty())
+        noteUnsaved(item, reason);
+    if (item->processState() != ModelItem::ProcessWritingTags)
+        return;
+    if (reason.isEmpty())
         item->setErrorString(QString()); // of an earlier write of this song that failed
     if (!m_writes.contains(id))
         item->setProcessState(ModelItem::ProcessComplete);
 }
 
+// The lyrics that a failed write would have removed are in the file still.
+void MainModel::noteUnsaved(const ModelItem *item, const QString &reason)
+{
+    if (item->lyricsTag().isEmpty())
+        return;
+    m_unsaved.insert(item->id(), reason);
+    emit writesFailed(reason, ++m_unsavedByReason[reason]);
+}
+
+void MainModel::forgetUnsaved(quint16 id)
+{
+    const auto found = m_unsaved.find(id);
+    if (found == m_unsaved.end())
+        return;
+    if (--m_unsavedByReason[*found] == 0)
+        m_unsavedByReason.remove(*found);
+    m_unsaved.erase(found);
+}
+
+// Without lyrics there is nothing to export, and a text file that is there stays as it is.
+bool MainModel::canExport(const ModelItem &item)
+{
+    return item.url().isLocalFile() && !item.lyricsTag().isEmpty();
+}
+
 bool MainModel::generateLyricsFile(quint16 id)
 {
     const ModelItem *item = m_items.find(id);
-    // Without lyrics there is nothing to export, and a text file that is there stays as it is.
-    return item && item->url().isLocalFile() && !item->lyricsTag().isEmpty() &&
-           writeLyricsFile(item->url().toLocalFile(), item->lyricsTag());
+    return item && canExport(*item) && writeLyricsFile(item->url().toLocalFile(), item->lyricsTag());
 }
 
 void MainModel::locate(int row) const

@@ -59,6 +59,9 @@ public:
     // Lower-case extensions without dots, in the order of the file dialog's filter.
     void setSupportedExtensions(const QStringList &extensions) { m_extensions = extensions; }
     void setSettings(const Settings *settings) { m_settings = settings; }
+    // The program's own folder for saves (tags/TagUpdate.h). Without one, songs that can be saved in place only are
+    // not.
+    void setDataFolder(const QString &folder) { m_dataFolder = folder; }
     // Not owned. Without a coordinator nothing is searched for.
     void setSearch(LyricsSearch *search);
 
@@ -80,6 +83,9 @@ public:
     [[nodiscard]] ModelItem *itemAt(int row) const { return m_items.itemAt(row); }
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
+    // Lyrics that are in the list only, since their last write failed or was refused.
+    [[nodiscard]] int unsavedCount() const { return m_unsaved.size(); }
+    [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const { return m_unsaved.contains(id); }
     // The urls of all rows, in row order, and then of the files that are still to become rows: what is to be kept
     // across runs.
     [[nodiscard]] QList<QUrl> urls() const;
@@ -131,6 +137,9 @@ signals:
     void scanFolders(const QList<QUrl> &folders);
     // A search was handed to the coordinator.
     void searchStarted(const QString &artist, const QString &title);
+    // For so many songs of the list the last write failed for this one reason; again when the number has grown, so that
+    // one message can show it.
+    void writesFailed(const QString &reason, int count);
     // So many files could not be added, because no identifier was free.
     void filesLeftOut(int count);
 
@@ -154,7 +163,10 @@ private:
     void readAgain(quint16 id);
     void feedSearches();
     void startWriting(ModelItem *item);
+    [[nodiscard]] static bool canExport(const ModelItem &item);
     void tagsNotWritten(quint16 id, const QString &reason);
+    void noteUnsaved(const ModelItem *item, const QString &reason);
+    void forgetUnsaved(quint16 id);
 
     ItemStore m_items;
     quint16 m_lastId = 0;
@@ -169,9 +181,12 @@ private:
     int m_activeCount = 0;
     MediaInfoExtractor m_tagReader;
     QVector<quint16> m_readsInFlight;
-    int m_currentRead = noRead;   // id of the newest request while it is unanswered
-    WorkQueue m_unread;           // tags not loaded and no read in flight
-    WorkQueue m_searchable;       // waiting, with tags loaded
-    QHash<quint16, int> m_writes; // id to number of writes under way
-    QSet<quint16> m_failedWrites; // until their end is reported
+    int m_currentRead = noRead;             // id of the newest request while it is unanswered
+    WorkQueue m_unread;                     // tags not loaded and no read in flight
+    WorkQueue m_searchable;                 // waiting, with tags loaded
+    QHash<quint16, int> m_writes;           // id to number of writes under way
+    QHash<quint16, QString> m_failedWrites; // id to reason, until their end is reported
+    QHash<quint16, QString> m_unsaved;      // id to reason
+    QHash<QString, int> m_unsavedByReason;
+    QString m_dataFolder;
 };

@@ -122,6 +122,7 @@ void MainWindow::connectModels()
     onProxyShowFoundChanged(m_parts.proxyModel->showFound());
     connect(m_parts.mainModel, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
     connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
+    connect(m_parts.mainModel, &MainModel::writesFailed, m_status, &StatusLine::showWritesFailed);
     connect(m_export, &LyricsExport::finished, m_status, &StatusLine::showExported);
     connect(m_parts.proxyModel, &ProxyModel::selectedCountChanged, this, &MainWindow::updateActions);
     connect(m_parts.proxyModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateActions);
@@ -166,6 +167,11 @@ void MainWindow::updateStatusLabel()
 void MainWindow::showSettingsDamaged(const QString &copy)
 {
     m_status->showSettingsDamaged(copy);
+}
+
+void MainWindow::showSavesMended(const QStringList &restored, const QStringList &kept)
+{
+    m_status->showSavesMended(restored, kept);
 }
 
 // Adding
@@ -289,7 +295,7 @@ void MainWindow::searchLyricsInBrowser(int itemIndex)
 void MainWindow::searchLyricsInBrowser(const QUrl &itemUrl)
 {
     const int row = m_parts.mainModel->urls().indexOf(itemUrl);
-    if (row >= 0)
+    if (row >= 0 && row < m_parts.mainModel->rowCount()) // behind the rows stand files that are no rows yet
         searchInBrowser(m_parts.mainModel->itemAt(row));
 }
 

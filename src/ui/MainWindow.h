@@ -5,6 +5,7 @@
 #include "ui/SceneWidget.h"
 
 #include <QMainWindow>
+#include <QStringList>
 
 #include <memory>
 
@@ -89,6 +90,8 @@ public slots:
     // Says in the status line that the settings file was damaged. `copy` is the path of the damaged file as it was;
     // empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
+    // Songs whose save was cut off: those that are again as they were, and copies of those that had been replaced.
+    void showSavesMended(const QStringList &restored, const QStringList &kept);
 
 signals:
     // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.

@@ -61,6 +61,24 @@ void StatusLine::addFilesLeftOut(int count)
     showNotice(FilesLeftOut, tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
 }
 
+void StatusLine::showSavesMended(const QStringList &restored, const QStringList &kept)
+{
+    QStringList sentences;
+    if (!restored.isEmpty())
+        sentences.append(
+            tr("The last save was cut off. Songs that are again as they were before it: %1", "%1 is the paths of files")
+                .arg(restored.join(QLatin1String(", "))));
+    if (!kept.isEmpty())
+        sentences.append(tr("Copies from before a save that was cut off: %1", "%1 is the paths of files")
+                             .arg(kept.join(QLatin1String(", "))));
+    showNotice(SavesMended, sentences.join(QLatin1Char(' ')));
+}
+
+void StatusLine::showWritesFailed(const QString &reason, int count)
+{
+    showNotice(WritesFailed, tr("Songs that could not be written: %n (%1)", "%1 is the reason", count).arg(reason));
+}
+
 void StatusLine::showExported(const LyricsExport::Result &result)
 {
     if (result.failed > 1)

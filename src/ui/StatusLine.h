@@ -32,6 +32,10 @@ public:
 public slots:
     // `copy` is the path of the damaged file as it was; empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
+    // Paths of songs that are again as before a save that was cut off, and of copies that were kept.
+    void showSavesMended(const QStringList &restored, const QStringList &kept);
+    // How many songs could not be written for this reason.
+    void showWritesFailed(const QString &reason, int count);
     // The list is full. Counts on until the notice is dismissed.
     void addFilesLeftOut(int count);
     // Success is shown for some seconds only.
@@ -39,7 +43,7 @@ public slots:
 
 private:
     // Each kind has a place of its own, so that none overwrites another one.
-    enum Notice { SettingsDamaged, FilesLeftOut, LyricsExported };
+    enum Notice { SettingsDamaged, FilesLeftOut, SavesMended, WritesFailed, LyricsExported };
 
     void showNotice(Notice notice, const QString &text);
     void showNoticeBriefly(Notice notice, const QString &text);

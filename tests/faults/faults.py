@@ -28,6 +28,9 @@ import subprocess
 import sys
 import tempfile
 
+import mutagen
+from mutagen.id3 import TIT2, TPE1
+
 SAVED = 1  # of UpdateResult
 CHANGING = ("pwrite64", "write", "copy_file_range", "ftruncate", "fallocate", "fsync", "sync_file_range", "fchmod",
             "fchown", "rename", "renameat", "unlink", "unlinkat", "openat")
@@ -68,10 +71,12 @@ def make_song(kind, path, sample):
     source = "aevalsrc=0.4*sin(440*t*(2+t/20))+0.1*random(0)|0.3*sin(300*t)+0.1*random(1):s=44100:d=%d" % seconds
     subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-y", "-f", "lavfi", "-i", source, "-metadata", "title=The Song",
                     "-metadata", "artist=The Artist", *kind.options, str(path)], check=True)
-    import mutagen
     song = mutagen.File(path)
-    if song.tags is not None:
-        song.save(padding=lambda info: 0)
+    if song.tags is None:  # chunks of names, which a new tag would take over
+        song.add_tags()
+        song.tags.add(TIT2(encoding=3, text="The Song"))
+        song.tags.add(TPE1(encoding=3, text="The Artist"))
+    song.save(padding=lambda info: 0)
 
 
 def packets(path):
