@@ -116,11 +116,12 @@ std::optional<Id3v2Frames> Id3v2Frames::parse(const QByteArray &tag)
 
 QByteArray Id3v2Frames::toTag(int size) const
 {
-    QByteArray tag =
-        QByteArray("ID3") + static_cast<char>(version) + '\0' + '\0' + sizeBytes(size - id3v2HeaderBytes, sevenBits);
+    QByteArray body;
     for (const Id3v2Frame &frame : frames)
-        tag += frame.id + sizeBytes(frame.data.size(), version == 4 ? sevenBits : eightBits) + frame.flags + frame.data;
-    return tag.size() > size ? QByteArray() : tag.leftJustified(size, '\0');
+        body +=
+            frame.id + sizeBytes(frame.data.size(), version == 4 ? sevenBits : eightBits) + frame.flags + frame.data;
+    body = body.leftJustified(size - id3v2HeaderBytes, '\0');
+    return QByteArray("ID3") + static_cast<char>(version) + '\0' + '\0' + sizeBytes(body.size(), sevenBits) + body;
 }
 
 } // namespace tags

@@ -26,7 +26,7 @@ struct Id3v2Frames
     // From a whole tag, header and all; nothing when it is damaged.
     static std::optional<Id3v2Frames> parse(const QByteArray &tag);
 
-    // Versions 3 and 4: a whole tag of exactly that size, padded with zeros; empty when it does not fit.
+    // Versions 3 and 4: a whole tag, padded with zeros to at least that size.
     [[nodiscard]] QByteArray toTag(int size) const;
 };
 

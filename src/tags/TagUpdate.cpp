@@ -32,6 +32,8 @@ namespace {
 
 // TagLib leaves up to 1 MB of padding behind a tag.
 constexpr qint64 paddingBytes = 2 * 1024 * 1024;
+// Left behind a tag that had to grow once more, for the next save.
+constexpr int framePaddingBytes = 1024;
 // A character of a text takes at most so much in any encoding.
 constexpr qint64 characterBytes = 4;
 
@@ -83,6 +85,7 @@ private:
     UpdateResult change(int copy);
     UpdateResult writeTags(int copy);
     UpdateResult keepFrames(CheckedFileStream &stream);
+    [[nodiscard]] bool growChunk(TagLib::IOStream &stream, const ByteRange &room, int newLength) const;
     UpdateResult check(int copy);
     [[nodiscard]] OpenSong opened(int descriptor, CheckedFileStream::Access access) const;
 
@@ -162,12 +165,31 @@ UpdateResult Update::keepFrames(CheckedFileStream &stream)
     tag->frames.erase(std::remove_if(tag->frames.begin(), tag->frames.end(), isEdited), tag->frames.end());
     if (const auto edited = Id3v2Frames::parse(editedFrames(m_edits, m_applied, tag->version)))
         tag->frames += edited->frames;
-    const QByteArray bytes = tag->toTag(static_cast<int>(written->id3v2.length));
-    if (bytes.isEmpty())
+    if (written->id3v2.length == 0)
         return tag->frames.isEmpty() ? UpdateResult::Saved : UpdateResult::TagsNotKept;
-    stream.stream()->seek(written->id3v2.offset, TagLib::IOStream::Beginning);
-    stream.stream()->writeBlock(TagLib::ByteVector(bytes.constData(), static_cast<unsigned int>(bytes.size())));
-    return UpdateResult::Saved;
+    const ByteRange room = written->id3v2;
+    QByteArray bytes = tag->toTag(static_cast<int>(room.length));
+    if (bytes.size() > room.length)
+        bytes = tag->toTag(bytes.size() + framePaddingBytes + bytes.size() % 2);
+    const TagLib::ByteVector data(bytes.constData(), static_cast<unsigned int>(bytes.size()));
+    stream.stream()->insert(data, static_cast<unsigned long>(room.offset), static_cast<unsigned long>(room.length));
+    return bytes.size() == room.length || growChunk(*stream.stream(), room, bytes.size()) ? UpdateResult::Saved
+                                                                                          : UpdateResult::TagsNotKept;
+}
+
+// Where the tag is a chunk, the chunk and the file say how long they are.
+bool Update::growChunk(TagLib::IOStream &stream, const ByteRange &room, int newLength) const
+{
+    if (m_layout.format != SongFormat::Riff && m_layout.format != SongFormat::Iff)
+        return true;
+    const auto writeSize = [this, &stream](qint64 place, qint64 size) {
+        const bool isBigEndian = m_layout.format == SongFormat::Iff;
+        stream.seek(place, TagLib::IOStream::Beginning);
+        stream.writeBlock(TagLib::ByteVector::fromUInt(static_cast<unsigned int>(size), isBigEndian));
+    };
+    writeSize(room.offset - 4, newLength);
+    writeSize(4, stream.length() - 8);
+    return room.length % 2 == 0; // else a byte that filled the chunk up is left behind it
 }
 
 // The texts are stored when storing them again would change nothing.

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "tags/MediaFileTags.h"
+#include "tags/SafeSave.h"
+#include "tags/SaveJournal.h"
+#include "tags/SongFiles.h"
+#include "tags/TagUpdate.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include <array>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+using tags::UpdateResult;
+
+// What becomes of the file itself when its tags are saved, and of the files that a save needs.
+class tst_SafeSave : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theFileStaysTheUsers_data();
+    void theFileStaysTheUsers();
+    void oddPlacesAreSavedInPlace_data();
+    void oddPlacesAreSavedInPlace();
+    void aFailedChangeLeavesNothing_data();
+    void aFailedChangeLeavesNothing();
+    void mendingRemovesOnlyOwnCopies();
+    void aSaveThatWasCutOffIsUndone_data();
+    void aSaveThatWasCutOffIsUndone();
+};
+
+namespace {
+
+const tags::SongTexts newLyrics{{}, {}, QStringLiteral("new words\nof a song")};
+
+struct Place
+{
+    SongFiles files;
+    QString song = files.copy(QStringLiteral("plain-v24.mp3"));
+    QByteArray native = QFile::encodeName(song);
+    QString data = files.path(QStringLiteral("data"));
+
+    [[nodiscard]] QStringList entries() const
+    {
+        return QDir(QFileInfo(song).path()).entryList(QDir::Files | QDir::Hidden);
+    }
+};
+
+ino_t inodeOf(const QByteArray &path)
+{
+    struct stat status = {};
+    return ::lstat(path.constData(), &status) == 0 ? status.st_ino : 0;
+}
+
+bool hasNewLyrics(const QString &path)
+{
+    MediaFileTags tags;
+    return tags.read(path) && tags.value(QStringLiteral("lyrics")).startsWith(QLatin1String("new words"));
+}
+
+QByteArray attribute(const QByteArray &path, const char *name)
+{
+    std::array<char, 200> value{};
+    const ssize_t size = ::getxattr(path.constData(), name, value.data(), value.size());
+    return {value.data(), static_cast<int>(size < 0 ? 0 : size)};
+}
+
+} // namespace
+
+void tst_SafeSave::theFileStaysTheUsers_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("link");
+    QTest::newRow("shared with a group, behind a relative link") << 0664 << "plain-v24.mp3";
+    QTest::newRow("private, with an odd bit") << 01600 << QString();
+}
+
+void tst_SafeSave::theFileStaysTheUsers()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, link);
+    const Place place;
+    // An access list that lets one more user read, as the kernel stores it.
+    const QByteArray list =
+        QByteArray::fromHex("0200000001000600ffffffff02000400feff000004000400ffffffff10000600ffffffff"
+                            "20000000ffffffff");
+    const bool withList = mode == 0664 && ::setxattr(place.native.constData(), "system.posix_acl_access",
+                                                     list.constData(), static_cast<std::size_t>(list.size()), 0) == 0;
+    QCOMPARE(::setxattr(place.native.constData(), "user.rating", "five", 4, 0), 0);
+    QCOMPARE(::chmod(place.native.constData(), static_cast<mode_t>(mode)), 0);
+    const bool isRoot = ::geteuid() == 0;
+    if (isRoot)
+        QCOMPARE(::chown(place.native.constData(), 1234, 4321), 0);
+    const QByteArray listBefore = attribute(place.native, "system.posix_acl_access");
+    QVERIFY(!withList || !listBefore.isEmpty());
+    QString path = place.song;
+    if (!link.isEmpty()) {
+        path = place.files.path(QStringLiteral("link.mp3"));
+        QVERIFY(QFile::link(link, path));
+    }
+
+    QCOMPARE(tags::updateTags(path, newLyrics, place.data), UpdateResult::Saved);
+    QVERIFY(hasNewLyrics(place.song));
+    QCOMPARE(QFileInfo(path).isSymLink(), !link.isEmpty());
+    struct stat status = {};
+    QCOMPARE(::stat(place.native.constData(), &status), 0);
+    QCOMPARE(static_cast<int>(status.st_mode & 07777), mode);
+    QVERIFY(!isRoot || (status.st_uid == 1234 && status.st_gid == 4321));
+    QCOMPARE(attribute(place.native, "user.rating"), QByteArray("five"));
+    QCOMPARE(attribute(place.native, "system.posix_acl_access"), listBefore);
+    QCOMPARE(place.entries().size(), link.isEmpty() ? 1 : 2);
+}
+
+void tst_SafeSave::oddPlacesAreSavedInPlace_data()
+{
+    QTest::addColumn<bool>("hardLink");
+    QTest::addColumn<bool>("withFolder");
+    QTest::newRow("hard links stay linked") << true << true;
+    QTest::newRow("a directory that takes no files") << false << true;
+    QTest::newRow("without a net nothing is begun") << true << false;
+}
+
+void tst_SafeSave::oddPlacesAreSavedInPlace()
+{
+    QFETCH(bool, hardLink);
+    QFETCH(bool, withFolder);
+    const Place place;
+    const QString other = place.files.path(QStringLiteral("other.mp3"));
+    const QByteArray directory = QFile::encodeName(QFileInfo(place.song).path());
+    QCOMPARE(::chmod(place.native.constData(), 0666), 0);
+    QVERIFY(QDir().mkpath(place.data) && ::chmod(QFile::encodeName(place.data).constData(), 0777) == 0);
+    if (hardLink)
+        QCOMPARE(::link(place.native.constData(), QFile::encodeName(other).constData()), 0);
+    else
+        QCOMPARE(::chmod(directory.constData(), 0555), 0);
+    const ino_t inode = inodeOf(place.native);
+    const QByteArray before = SongFiles::bytes(place.song);
+    const UpdateResult result = [&] {
+        const AsOrdinaryUser user;
+        return tags::updateTags(place.song, newLyrics, withFolder ? place.data : QString());
+    }();
+    ::chmod(directory.constData(), 0777);
+    QCOMPARE(result, withFolder ? UpdateResult::Saved : UpdateResult::NoRoom);
+    QCOMPARE(hasNewLyrics(place.song), withFolder);
+    QCOMPARE(inodeOf(place.native), inode);
+    if (hardLink)
+        QCOMPARE(SongFiles::bytes(other), SongFiles::bytes(place.song));
+    if (!withFolder)
+        QCOMPARE(SongFiles::bytes(place.song), before);
+    QVERIFY(!withFolder || QDir(place.data + QStringLiteral("/rescue")).isEmpty(QDir::Files | QDir::Hidden));
+}
+
+void tst_SafeSave::aFailedChangeLeavesNothing_data()
+{
+    QTest::addColumn<int>("fault");
+    QTest::newRow("the change fails") << 0;
+    QTest::newRow("the song is edited meanwhile") << 1;
+    QTest::newRow("the song is replaced meanwhile") << 2;
+    QTest::newRow("the song goes meanwhile") << 3;
+}
+
+void tst_SafeSave::aFailedChangeLeavesNothing()
+{
+    QFETCH(int, fault);
+    for (const bool hardLink : {false, true}) {
+        const Place place;
+        const QString other = place.files.path(QStringLiteral("other"));
+        if (hardLink)
+            QCOMPARE(::link(place.native.constData(), QFile::encodeName(other).constData()), 0);
+        const int original = ::open(place.native.constData(), O_RDONLY | O_CLOEXEC);
+        tags::SafeSave save(place.native, original, tags::FileIdentity::of(original), place.data);
+        const auto change = [&](int copy) {
+            const bool isWritten = ::pwrite(copy, "cut off", 7, 0) == 7;
+            QFile song(place.song);
+            if (fault == 1 && song.open(QIODevice::ReadWrite))
+                song.write("foreign edit");
+            else if (fault >= 2)
+                song.remove();
+            if (fault == 2)
+                (void)place.files.write(QFileInfo(place.song).fileName(), "foreign file");
+            return fault == 0 || !isWritten ? UpdateResult::TagsNotKept : UpdateResult::Saved;
+        };
+        QCOMPARE(save.run(change, 1000), fault == 0 ? UpdateResult::TagsNotKept : UpdateResult::ChangedMeanwhile);
+        ::close(original);
+        const int left = (fault == 3 ? 0 : 1) + (hardLink ? 1 : 0);
+        QCOMPARE(place.entries().size(), left);
+        QVERIFY(fault == 3 || !SongFiles::bytes(place.song).startsWith("cut off"));
+        QVERIFY(fault != 1 || SongFiles::bytes(place.song).startsWith("foreign edit"));
+        QVERIFY(QDir(place.data + QStringLiteral("/copies")).isEmpty());
+    }
+}
+
+void tst_SafeSave::mendingRemovesOnlyOwnCopies()
+{
+    const Place place;
+    const QString own = place.files.write(QStringLiteral(".versewell-abc.part"), "left over");
+    const QString alike = place.files.write(QStringLiteral(".versewell-def.part"), "not noted");
+    tags::SaveJournal journal(place.data);
+    journal.noteCopy(QFile::encodeName(own));
+    journal.noteCopy(place.native); // as a damaged journal might say
+    QVERIFY(tags::SaveJournal(place.data).mend().isEmpty());
+    QVERIFY(!QFile::exists(own));
+    QVERIFY(QFile::exists(alike) && QFile::exists(place.song));
+    QVERIFY(QDir(place.data + QStringLiteral("/copies")).isEmpty());
+}
+
+void tst_SafeSave::aSaveThatWasCutOffIsUndone_data()
+{
+    QTest::addColumn<QString>("meanwhile");
+    QTest::newRow("the song is half written") << "half";
+    QTest::newRow("the song was replaced by the user") << "replaced";
+    QTest::newRow("the song is on a stick that is not there") << "away";
+}
+
+void tst_SafeSave::aSaveThatWasCutOffIsUndone()
+{
+    QFETCH(QString, meanwhile);
+    const Place place;
+    const QString away = place.files.path(QStringLiteral("away"));
+    const QByteArray before = SongFiles::bytes(place.song);
+    const int song = ::open(place.native.constData(), O_RDWR | O_CLOEXEC);
+    QCOMPARE(tags::SaveJournal(place.data).rescue(place.native, song, before.size() + 100), 0);
+    QCOMPARE(::pwrite(song, "half written", 12, 0), ssize_t(12));
+    ::close(song);
+    if (meanwhile != QLatin1String("half"))
+        QVERIFY(QFile::rename(place.song, away));
+    if (meanwhile == QLatin1String("replaced"))
+        (void)place.files.write(QFileInfo(place.song).fileName(), "another file");
+
+    const tags::MendedSaves mended = tags::SaveJournal(place.data).mend();
+    if (meanwhile == QLatin1String("half")) {
+        QCOMPARE(mended.restored, QStringList{place.song});
+        QCOMPARE(SongFiles::bytes(place.song), before);
+    } else if (meanwhile == QLatin1String("replaced")) {
+        QCOMPARE(mended.kept.size(), 1);
+        QCOMPARE(SongFiles::bytes(mended.kept.first()), before);
+        QCOMPARE(SongFiles::bytes(place.song), QByteArray("another file"));
+    } else {
+        QVERIFY(mended.isEmpty());
+        QVERIFY(QFile::rename(away, place.song));
+        QCOMPARE(tags::SaveJournal(place.data).mend().restored, QStringList{place.song});
+        QCOMPARE(SongFiles::bytes(place.song), before);
+    }
+    QVERIFY(tags::SaveJournal(place.data).mend().isEmpty()); // said once
+}
+
+QTEST_GUILESS_MAIN(tst_SafeSave)
+#include "tst_safesave.moc"

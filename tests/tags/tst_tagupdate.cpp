@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "tags/SongFiles.h"
+#include "tags/TagUpdate.h"
+
+#include <QJsonArray>
+#include <QTest>
+#include <QtEndian>
+
+using tags::UpdateResult;
+Q_DECLARE_METATYPE(tags::UpdateResult)
+
+// What a save of lyrics does to the other entries of tags that a library does not understand.
+class tst_TagUpdate : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void framesStayAsTheyAreStored_data();
+    void framesStayAsTheyAreStored();
+    void framesInAChunkStay();
+    void whatWouldBeLostIsRefused_data();
+    void whatWouldBeLostIsRefused();
+};
+
+namespace {
+
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes(4, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray synchsafe(int number)
+{
+    return bigEndian(static_cast<quint32>((number & 0x7f) | (number & 0x3f80) << 1 | (number & 0x1fc000) << 2));
+}
+
+QByteArray frame(const char *id, const QByteArray &data, quint16 flags = 0)
+{
+    return id + bigEndian(static_cast<quint32>(data.size())) + bigEndian(flags).right(2) + data;
+}
+
+QByteArray tag(int version, const QByteArray &frames, char flags = 0)
+{
+    return QByteArray("ID3") + static_cast<char>(version) + '\0' + flags + synchsafe(frames.size()) + frames;
+}
+
+UpdateResult storeLyrics(const QString &path, const SongFiles &files)
+{
+    return tags::updateTags(path, {{}, {}, QStringLiteral("new words")}, files.path(QStringLiteral("data")));
+}
+
+} // namespace
+
+void tst_TagUpdate::framesStayAsTheyAreStored_data()
+{
+    QTest::addColumn<QByteArray>("frames");
+    QTest::newRow("a volume in version 3") << frame("RVAD", "\x03\x10 12345678");
+    QTest::newRow("a sort name in version 3") << frame("TSOP", QByteArray("\0Artist, The", 12));
+    QTest::newRow("a date in three frames") << frame("TYER", QByteArray("\0"
+                                                                        "2001",
+                                                                        5)) +
+                                                   frame("TDAT", QByteArray("\0"
+                                                                            "0203",
+                                                                            5)) +
+                                                   frame("TIME", QByteArray("\0"
+                                                                            "1405",
+                                                                            5));
+    QTest::newRow("a size") << frame("TSIZ", QByteArray("\0"
+                                                        "12345",
+                                                        6));
+    QTest::newRow("a grouped frame") << frame("TALB", QByteArray("G\0Album", 7), 0x0020);
+    QTest::newRow("an encrypted frame") << frame("TCOM", "Mno one can read this", 0x0040);
+    QTest::newRow("a compressed frame") << frame("COMM", bigEndian(9) + qCompress(QByteArray("\0eng\0text", 9)).mid(4),
+                                                 0x0080);
+    QTest::newRow("a frame of nobody's") << frame("XYZ9", QByteArray("\0\1\2\xff\xfe", 5));
+    QTest::newRow("UTF-8 where version 3 knows none") << frame("TALB", "\x03"
+                                                                       "Caf\xc3\xa9");
+    QTest::newRow("more than TagLib's padding") << frame("RVAD", QByteArray(900, 'v'));
+}
+
+void tst_TagUpdate::framesStayAsTheyAreStored()
+{
+    QFETCH(QByteArray, frames);
+    const SongFiles files;
+    const QByteArray title = frame("TIT2", QByteArray("\0The Song", 9));
+    const QByteArray audio = SongFiles::bytes(files.copy(QStringLiteral("untagged.mp3")));
+    const QString path = files.write(QStringLiteral("song.mp3"), tag(3, frames + title) + audio);
+    QCOMPARE(storeLyrics(path, files), UpdateResult::Saved);
+    const QByteArray after = SongFiles::bytes(path);
+    QVERIFY(after.contains(frames + title));
+    QVERIFY(after.endsWith(audio));
+    const QJsonObject seen = SongFiles::tagsOf(path);
+    QCOMPARE(seen.value(QStringLiteral("id3")).toString(), QStringLiteral("2.3.0"));
+    QCOMPARE(seen.value(QStringLiteral("lyrics")).toArray(), QJsonArray{QStringLiteral("new words")});
+}
+
+// The tag has to grow, and with it what the chunk and the file say of their length.
+void tst_TagUpdate::framesInAChunkStay()
+{
+    const SongFiles files;
+    QByteArray aiff = SongFiles::bytes(files.copy(QStringLiteral("plain.aiff")));
+    aiff.truncate(aiff.lastIndexOf("ID3 "));
+    const QByteArray frames = frame("RVAD", QByteArray(900, 'v')) + frame("TIT2", QByteArray("\0Song", 5)) + '\0';
+    aiff += "ID3 " + bigEndian(static_cast<quint32>(frames.size() + 10)) + tag(3, frames);
+    qToBigEndian(aiff.size() - 8, aiff.data() + 4);
+    const QString path = files.write(QStringLiteral("song.aiff"), aiff);
+    const QByteArray audio = SongFiles::audioDigest(path);
+    QCOMPARE(storeLyrics(path, files), UpdateResult::Saved);
+    QVERIFY(SongFiles::bytes(path).contains(frames.left(frames.size() - 1)));
+    QCOMPARE(qFromBigEndian<quint32>(SongFiles::bytes(path).constData() + 4) + 8U,
+             static_cast<quint32>(SongFiles::bytes(path).size()));
+    QCOMPARE(SongFiles::audioDigest(path), audio);
+    QCOMPARE(SongFiles::tagsOf(path).value(QStringLiteral("title")).toString(), QStringLiteral("Song"));
+}
+
+void tst_TagUpdate::whatWouldBeLostIsRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<UpdateResult>("result");
+    const QByteArray artist = "artist=The Artist";
+    QTest::newRow("Vorbis comment that is not UTF-8") << "plain.flac" << artist
+                                                      << QByteArray("artist=Caf\xe9"
+                                                                    "Artist")
+                                                      << UpdateResult::TagsNotKept;
+    QTest::newRow("APE item that is not UTF-8")
+        << "plain.ape" << QByteArray("calm") << QByteArray("c\xe9lm") << UpdateResult::TagsNotKept;
+    // A data box of type 0, binary, in an item that no list of names has.
+    QTest::newRow("MP4 item of nobody's") << "plain.m4a"
+                                          << QByteArray("\xa9wrt\0\0\0\x1c"
+                                                        "data\0\0\0\1",
+                                                        16)
+                                          << QByteArray("zzzz\0\0\0\x1c"
+                                                        "data\0\0\0\0",
+                                                        16)
+                                          << UpdateResult::TagsNotKept;
+    QTest::newRow("the same, known") << "plain.m4a" << QByteArray("The Composer") << QByteArray("An Other One")
+                                     << UpdateResult::Saved;
+    const QByteArray upTo = tag(2, QByteArray("TT2\0\0\x05\0Song", 11));
+    QTest::newRow("version 2, all known") << "untagged.mp3" << QByteArray() << upTo << UpdateResult::Saved;
+    QTest::newRow("version 2 with a frame that version 3 has not")
+        << "untagged.mp3" << QByteArray() << tag(2, QByteArray("TT2\0\0\x05\0SongCRM\0\0\3abc", 20))
+        << UpdateResult::TagsNotKept;
+}
+
+void tst_TagUpdate::whatWouldBeLostIsRefused()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    const SongFiles files;
+    QByteArray content = SongFiles::bytes(files.copy(name));
+    QVERIFY(from.isEmpty() || content.contains(from));
+    content = from.isEmpty() ? to + content : content.replace(from, to);
+    const QString path = files.write(name, content);
+    const UpdateResult result = storeLyrics(path, files);
+    QTEST(result, "result");
+    QCOMPARE(SongFiles::bytes(path) == content, result != UpdateResult::Saved);
+}
+
+QTEST_GUILESS_MAIN(tst_TagUpdate)
+#include "tst_tagupdate.moc"
