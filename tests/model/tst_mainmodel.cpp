@@ -235,13 +235,19 @@ private slots:
         QTRY_VERIFY(stage.isLoaded(0));
         QVERIFY(QFile::remove(url.toLocalFile()));
         QSignalSpy states(stage.model.itemAt(0), &ModelItem::processStateChanged);
+        QSignalSpy failures(&stage.model, &MainModel::writesFailed);
         QVERIFY(stage.model.startSearch(1));
         QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete);
+        QCOMPARE(failures.count(), 1);
+        QCOMPARE(failures.first(), (QVariantList{stage.model.itemAt(0)->errorString(), 1}));
+        QVERIFY(stage.model.hasUnsavedLyrics(1));
         QVERIFY(!stage.model.itemAt(0)->errorString().isEmpty());
         QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la"));
         QVERIFY(!QFile::exists(url.toLocalFile()));
         QCOMPARE(states.count(), 4);
         QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
+        stage.model.removeAll();
+        QCOMPARE(stage.model.unsavedCount(), 0);
     }
 
     void theLastOfTwoWritesCounts()
@@ -266,6 +272,7 @@ private slots:
         QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete); // the model hears of both only now
         QCOMPARE(states.count(), 2);
         QCOMPARE(item->errorString(), QString());
+        QCOMPARE(stage.model.unsavedCount(), 0);
         MediaFileTags tags;
         QVERIFY(tags.read(url.toLocalFile()));
         QCOMPARE(tags.value(QStringLiteral("lyrics")), QStringLiteral("second"));

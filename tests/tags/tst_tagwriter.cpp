@@ -53,6 +53,7 @@ private slots:
     void writesAreCountedAndOrdered();
     void aWriterThatDiesIsNotWaitedFor();
     void waitingGivesUpWithoutProgress();
+    void slowWritesAreWaitedFor_data();
     void slowWritesAreWaitedFor();
 
 private:
@@ -682,25 +683,37 @@ void tst_TagWriter::waitingGivesUpWithoutProgress()
     QTRY_VERIFY(writer.isNull());
 }
 
+void tst_TagWriter::slowWritesAreWaitedFor_data()
+{
+    QTest::addColumn<bool>("bytesMove");
+    QTest::newRow("a little is written again and again") << true;
+    QTest::newRow("parts reach the disk one by one") << false;
+}
+
 void tst_TagWriter::slowWritesAreWaitedFor()
 {
+    QFETCH(bool, bytesMove);
     constexpr std::chrono::milliseconds patience = 500ms;
     const SongFiles files;
     const QString path = files.path(QStringLiteral("slow"));
     auto *writer = new TagWriter;
-    // In the place of a file on a slow disk: a little is written again and again, for longer than the patience.
-    auto writeSlowly = [writer, path, patience, ticket = tags::WriterThread::instance().takeTicket()] {
+    // In the place of a file on a slow disk, for longer than the patience.
+    auto writeSlowly = [writer, path, patience, bytesMove, ticket = tags::WriterThread::instance().takeTicket()] {
         QFile file(path);
         const bool open = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
         for (QDeadlineTimer end(patience * 3); open && !end.hasExpired(); QThread::msleep(10)) {
             file.seek(0);
-            file.write("slow");
+            if (bytesMove)
+                file.write("slow");
+            else
+                tags::WriterThread::instance().noteProgress();
         }
         writer->deleteLater();
     };
     QMetaObject::invokeMethod(writer, std::move(writeSlowly), Qt::QueuedConnection);
     QVERIFY(TagWriter::waitForQueued(patience));
-    QCOMPARE(QFileInfo(path).size(), 4);
+    QCOMPARE(TagWriter::pendingWrites(), 0);
+    QCOMPARE(QFileInfo(path).size(), bytesMove ? 4 : 0);
 }
 
 QTEST_GUILESS_MAIN(tst_TagWriter)
