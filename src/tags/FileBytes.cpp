@@ -36,7 +36,7 @@ qint64 FileBytes::readInto(char *target, qint64 offset, qint64 length) const
 
 QByteArray FileBytes::read(qint64 offset, qint64 length) const
 {
-    constexpr qint64 mostBytes = 512 * 1024 * 1024; // more than any tag holds
+    constexpr qint64 mostBytes = qint64{512} * 1024 * 1024; // more than any tag holds
     const qint64 there = std::clamp<qint64>(m_size - offset, 0, std::min(length, mostBytes));
     if (there <= 0 || offset < 0)
         return {};

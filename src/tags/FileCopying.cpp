@@ -18,7 +18,7 @@ namespace tags {
 namespace {
 
 // A slow stick takes a second or so for it.
-constexpr qint64 pieceBytes = 4 * 1024 * 1024;
+constexpr qint64 pieceBytes = qint64{4} * 1024 * 1024;
 
 int writeAll(int descriptor, const QByteArray &bytes, qint64 offset)
 {

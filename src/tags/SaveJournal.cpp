@@ -22,7 +22,7 @@ namespace tags {
 
 namespace {
 
-constexpr qint64 mostEntryBytes = 64 * 1024;
+constexpr qint64 mostEntryBytes = qint64{64} * 1024;
 
 // A descriptor that is closed at the end of its scope.
 class Descriptor

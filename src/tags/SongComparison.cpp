@@ -14,7 +14,7 @@ namespace tags {
 
 namespace {
 
-constexpr qint64 blockBytes = 256 * 1024;
+constexpr qint64 blockBytes = qint64{256} * 1024;
 
 bool isEarlier(const TagItem &one, const TagItem &other)
 {

@@ -31,16 +31,14 @@ QString withPlainBreaks(QString text)
     return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
-// The items in which the formats keep what can be edited, as SongLayout names them.
-const QSet<QByteArray> artistItems{"ID3v2/TPE1",
-                                   "ID3v1",
-                                   "APE/ARTIST",
-                                   "Xiph/ARTIST",
-                                   "MP4/\xa9"
-                                   "ART",
-                                   "ASF/Author"};
-const QSet<QByteArray> titleItems{"ID3v2/TIT2", "ID3v1", "APE/TITLE", "Xiph/TITLE", "MP4/\xa9nam", "ASF/Title"};
-const QSet<QByteArray> lyricsItems{"ID3v2/USLT", "APE/LYRICS", "Xiph/LYRICS", "MP4/\xa9lyr", "ASF/WM/Lyrics"};
+// The items in which the formats keep what can be edited, as SongLayout names them; MP4 in Latin-1.
+const QByteArray mp4Artist = QByteArray::fromHex("a9") + "ART";
+const QByteArray mp4Title = QByteArray::fromHex("a9") + "nam";
+const QByteArray mp4Lyrics = QByteArray::fromHex("a9") + "lyr";
+const QSet<QByteArray> artistItems{"ID3v2/TPE1",       "ID3v1",     "APE/ARTIST", "Xiph/ARTIST",
+                                   "MP4/" + mp4Artist, "ASF/Author"};
+const QSet<QByteArray> titleItems{"ID3v2/TIT2", "ID3v1", "APE/TITLE", "Xiph/TITLE", "MP4/" + mp4Title, "ASF/Title"};
+const QSet<QByteArray> lyricsItems{"ID3v2/USLT", "APE/LYRICS", "Xiph/LYRICS", "MP4/" + mp4Lyrics, "ASF/WM/Lyrics"};
 
 void noteChange(AppliedEdits &applied, const TagLib::Tag &tag, const QSet<QByteArray> &items, const char *frame)
 {

@@ -31,7 +31,7 @@ namespace tags {
 namespace {
 
 // TagLib leaves up to 1 MB of padding behind a tag.
-constexpr qint64 paddingBytes = 2 * 1024 * 1024;
+constexpr qint64 paddingBytes = qint64{2} * 1024 * 1024;
 // Left behind a tag that had to grow once more, for the next save.
 constexpr int framePaddingBytes = 1024;
 // A character of a text takes at most so much in any encoding.
@@ -116,7 +116,7 @@ UpdateResult Update::run(const QString &dataFolder)
         return UpdateResult::Unchanged;
     const auto layout = SongLayout::of(FileBytes(m_original), formatOf(song.file()));
     if (!layout)
-        return UpdateResult::TagsNotKept;
+        return UpdateResult::Unusual;
     m_layout = *layout;
     const qint64 characters = m_texts.artist.size() + m_texts.title.size() + m_texts.lyrics.size();
     return SafeSave(m_path, m_original, identity, dataFolder)

@@ -25,6 +25,8 @@ QString reasonText(tags::UpdateResult result)
         return TagWriter::tr("no audio was found in the file");
     case tags::UpdateResult::NoLyricsPlace:
         return TagWriter::tr("files of this format cannot hold lyrics");
+    case tags::UpdateResult::Unusual:
+        return TagWriter::tr("the file is damaged, or built in an unusual way");
     case tags::UpdateResult::NoRoom:
         return TagWriter::tr("there is not enough room on the disk");
     case tags::UpdateResult::TooLarge:

@@ -13,6 +13,7 @@ enum class UpdateResult {
     Unreadable, // no format that is known, or damaged
     NotAudio,   // nothing in it plays: tags in front of it would only harm it
     NoLyricsPlace,
+    Unusual, // not built as its format asks, so that nobody can say what a save would do to it
     NoRoom,
     TooLarge,         // for the file system or for a limit that the user has set
     DiskError,        // the disk or the network share failed
