@@ -56,6 +56,11 @@ int createFile(const QByteArray &path)
     return ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
 }
 
+bool exists(const QByteArray &path)
+{
+    return ::access(path.constData(), F_OK) == 0 || errno != ENOENT;
+}
+
 // One name a path, and no path of the user's in it.
 QByteArray nameFor(const QByteArray &path)
 {
@@ -157,8 +162,7 @@ int SaveJournal::rescue(const QByteArray &path, int song, qint64 newSize)
     if (m_rescueFolder.isEmpty())
         return ENOENT;
     m_rescued = m_rescueFolder + '/' + nameFor(path);
-    forgetRescue(); // what is there without an entry is of no use
-    m_rescued = m_rescueFolder + '/' + nameFor(path);
+    removeRescueFiles(); // what is there without an entry is of no use
     const Descriptor copy(createFile(m_rescued + ".song"));
     const Descriptor entry(createFile(m_rescued + ".new"));
     const Descriptor folder(::open(m_rescueFolder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -176,6 +180,11 @@ int SaveJournal::rescue(const QByteArray &path, int song, qint64 newSize)
     return error;
 }
 
+bool SaveJournal::awaitsRestoring(const QByteArray &path) const
+{
+    return !m_rescueFolder.isEmpty() && exists(m_rescueFolder + '/' + nameFor(path) + ".entry");
+}
+
 int SaveJournal::restore(int song)
 {
     const Descriptor copy(openRegularFile(m_rescued + ".song", O_RDONLY | O_NOFOLLOW));
@@ -187,10 +196,15 @@ int SaveJournal::restore(int song)
 
 void SaveJournal::forgetRescue()
 {
-    // The entry first: without it the copy means nothing.
+    removeRescueFiles();
+    m_rescued.clear();
+}
+
+// The entry first: without it the copy means nothing.
+void SaveJournal::removeRescueFiles() const
+{
     for (const char *part : {".entry", ".new", ".song"})
         ::unlink((m_rescued + part).constData());
-    m_rescued.clear();
 }
 
 void SaveJournal::removeLeftOverCopies()
@@ -209,10 +223,10 @@ void SaveJournal::removeLeftOverCopies()
 // Gives the copy the song's own name, in a place of its own, and forgets the rest.
 QByteArray SaveJournal::handOver(const QByteArray &path)
 {
-    QByteArray kept = m_rescued + '-' + path.mid(path.lastIndexOf('/') + 1);
-    if (::rename((m_rescued + ".song").constData(), kept.constData()) != 0)
-        kept = m_rescued + ".song"; // the name was too long
-    ::unlink((m_rescued + ".entry").constData());
+    constexpr int nameBytes = 100; // of its end: with what stands before it the longest name would be too long
+    const QByteArray kept = m_rescued + '-' + path.mid(path.lastIndexOf('/') + 1).right(nameBytes);
+    if (::rename((m_rescued + ".song").constData(), kept.constData()) == 0)
+        ::unlink((m_rescued + ".entry").constData());
     return kept;
 }
 
@@ -234,7 +248,7 @@ MendedSaves SaveJournal::mend()
             if (result == Restoring::Done)
                 forgetRescue();
         }
-        if (entry.path.isEmpty() && (name.endsWith(".song") || name.endsWith(".new")))
+        if (!exists(m_rescued + ".entry") && (name.endsWith(".song") || name.endsWith(".new")))
             forgetRescue(); // cut off before anything was written in place
     }
     return mended;

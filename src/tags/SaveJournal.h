@@ -30,9 +30,11 @@ public:
     void noteCopy(const QByteArray &path);
     void forgetCopy(const QByteArray &path);
 
-    // Copies the content of an open song and notes it, both on the disk when this returns 0; else an errno. `path` is
-    // the song's, links resolved; `newSize` the size that it will have.
+    // Copies the content of an open song, which awaits no restoring, and notes it, both on the disk when this returns
+    // 0; else an errno. `path` is the song's, links resolved; `newSize` the size that it will have.
     [[nodiscard]] int rescue(const QByteArray &path, int song, qint64 newSize);
+    // A save in place of this song was cut off and is not undone yet: what the file holds must not be taken for good.
+    [[nodiscard]] bool awaitsRestoring(const QByteArray &path) const;
     // Puts the content back that was rescued last, and forgets it when that succeeds; 0 or an errno.
     [[nodiscard]] int restore(int song);
     // The song is whole.
@@ -47,6 +49,7 @@ public:
 
 private:
     void removeLeftOverCopies();
+    void removeRescueFiles() const;
     QByteArray handOver(const QByteArray &path);
 
     QByteArray m_copiesFolder;

@@ -20,7 +20,7 @@ enum class UpdateResult {
     TagsNotKept,      // something that its tags hold would be lost
     AudioNotKept,     // the audio would not stay as it is
     ChangedMeanwhile, // by another program
-    RestoredLater,    // a save in place failed and the file could not be restored; the next start tries again
+    RestoredLater,    // a save in place failed, now or before, and is not undone yet; the next start tries again
     SaveFailed,
 };
 

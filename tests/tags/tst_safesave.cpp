@@ -245,6 +245,8 @@ void tst_SafeSave::aSaveThatWasCutOffIsUndone()
     } else {
         QVERIFY(mended.isEmpty());
         QVERIFY(QFile::rename(away, place.song));
+        // What is half written must not take the place of what was rescued.
+        QCOMPARE(tags::updateTags(place.song, newLyrics, place.data), UpdateResult::RestoredLater);
         QCOMPARE(tags::SaveJournal(place.data).mend().restored, QStringList{place.song});
         QCOMPARE(SongFiles::bytes(place.song), before);
     }
