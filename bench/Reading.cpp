@@ -40,6 +40,7 @@ void readBare(const QList<QUrl> &urls)
 void readThroughModel(const QList<QUrl> &urls)
 {
     MainModel model;
+    model.setReaderProgram(QCoreApplication::applicationFilePath());
     model.setAutoStart(false);
     model.add(urls);
     while (!model.itemAt(urls.size() - 1)->tagsLoaded())

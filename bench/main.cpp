@@ -2,12 +2,16 @@
 #include "Benches.h"
 #include "Table.h"
 
+#include "tags/TagReaderService.h"
+
 #include <QCoreApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 
 int main(int argc, char **argv)
 {
+    if (tags::isReaderCall(argc, argv))
+        return tags::runReader(argc, argv);
     const QCoreApplication app(argc, argv);
     const QTemporaryDir configuration;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, configuration.path());

@@ -28,10 +28,11 @@ function(versewell_add_library folder)
         PRIVATE versewell_flags ${ARG_PRIVATE_LINK})
 endfunction()
 
-# versewell_add_test(<name> LINK ... [SOURCES ...] [FIXTURES ...] [TIMEOUT seconds]): a QtTest program tests/.../<name>.cpp and
-# its CTest entry. FIXTURES names CTest fixtures that must be set up first ("samples": the generated songs).
+# versewell_add_test(<name> LINK ... [SOURCES ...] [FIXTURES ...] [TIMEOUT seconds] [READER]): a QtTest program tests/.../<name>.cpp and
+# its CTest entry. FIXTURES names CTest fixtures that must be set up first ("samples": the generated songs). With READER it may start the tag
+# reader of tests/support, whose path is VERSEWELL_READER.
 function(versewell_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;FIXTURES" ${ARGN})
+    cmake_parse_arguments(ARG "READER" "TIMEOUT" "SOURCES;LINK;FIXTURES" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
@@ -42,6 +43,10 @@ function(versewell_add_test name)
     target_compile_definitions(${name} PRIVATE
         VERSEWELL_SAMPLES_DIR="${VERSEWELL_SAMPLES_DIR}"
         VERSEWELL_TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data")
+    if(ARG_READER)
+        add_dependencies(${name} versewell_test_reader)
+        target_compile_definitions(${name} PRIVATE VERSEWELL_READER="$<TARGET_FILE:versewell_test_reader>")
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=versewell.*.debug=false"

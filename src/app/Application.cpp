@@ -43,12 +43,13 @@ QUrl savedFileUrl(const QString &text)
 
 } // namespace
 
-Application::Application(int &argc, char **argv)
+Application::Application(int &argc, char **argv, const QString &readerProgram)
     : QApplication(argc, argv)
     , m_instance(lockFile())
 {
     readSettings(); // mended first of all: every look at the settings reads the file
     setAttribute(Qt::AA_UseHighDpiPixmaps);
+    m_mainModel.setReaderProgram(readerProgram);
     m_mainModel.setSupportedExtensions(supportedExtensions());
     m_folderScanner.setTypes(supportedExtensions());
     setNames();

@@ -37,8 +37,8 @@ public:
     Q_ENUM(OSType)
 
     // A damaged settings file is kept aside and mended and saves that were cut off are undone, where this program holds
-    // the lock, and the settings are loaded.
-    Application(int &argc, char **argv);
+    // the lock, and the settings are loaded. `readerProgram` reads the tags of files (tags/MediaInfoExtractor.h).
+    Application(int &argc, char **argv, const QString &readerProgram);
     ~Application() override;
 
     // The settings file of this user; can be asked before there is an application object.

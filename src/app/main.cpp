@@ -3,6 +3,7 @@
 #include "app/GraphicsBackend.h"
 #include "app/Recovery.h"
 #include "app/TerminationSignals.h"
+#include "tags/TagReaderService.h"
 #include "tags/TagWriter.h"
 #include "ui/MainWindow.h"
 
@@ -20,8 +21,8 @@ enum ExitStatus { Done = 0, OtherInstanceRuns = 1, StartedAnew = 2, SceneNotLoad
 
 // A write that makes no progress for so long is given up at the end of the program.
 constexpr std::chrono::seconds writePatience(30);
-// A read that still runs after this is left behind: it changes nothing, and its disk may never answer.
-constexpr std::chrono::milliseconds readPatience(500);
+// A scan that still runs after this is left behind: it changes nothing, and its disk may never answer.
+constexpr std::chrono::milliseconds scanPatience(500);
 
 // Nothing may go on behind a box that says that the program does not work.
 int showSceneError(Application &app, const QString &reason)
@@ -74,8 +75,12 @@ void finishWrites()
 
 int main(int argc, char **argv)
 {
+    // Before anything of the window is made: in this role the program only reads tags.
+    if (tags::isReaderCall(argc, argv))
+        return tags::runReader(argc, argv);
     std::signal(SIGXFSZ, SIG_IGN); // a limit on file sizes is an error to report, not the end of the program
-    Application app(argc, argv);
+    // This very program, also after its file was replaced by another version.
+    Application app(argc, argv, QStringLiteral("/proc/self/exe"));
     if (app.isOtherInstanceRunning()) {
         std::fputs("Versewell is running already.\n", stderr);
         return OtherInstanceRuns;
@@ -93,8 +98,9 @@ int main(int argc, char **argv)
     app.noteStart();
     const int status = runWindow(app, signalsToEnd);
     finishWrites();
-    // The application object would wait for a read without end. All is saved, and the lock ends with the process.
-    if (!QThreadPool::globalInstance()->waitForDone(static_cast<int>(readPatience.count())))
+    app.mainModel()->stopReading();
+    // The application object would wait for a scan without end. All is saved, and the lock ends with the process.
+    if (!QThreadPool::globalInstance()->waitForDone(static_cast<int>(scanPatience.count())))
         std::_Exit(status);
     return status;
 }

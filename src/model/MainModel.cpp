@@ -431,7 +431,19 @@ void MainModel::fileInfoExtracted(const QString &file, const MediaFileTags &tags
     if (found == m_readsInFlight.end())
         return;
     const quint16 id = *found;
-    ModelItem *item = m_items.find(id);
+    useTags(m_items.find(id), tags);
+    m_readsInFlight.removeOne(id);
+    if (m_currentRead == id)
+        m_currentRead = noRead;
+    extractNextFileInfo();
+}
+
+void MainModel::useTags(ModelItem *item, const MediaFileTags &tags)
+{
+    if (tags.readFailure() != tags::ReadFailure::None) {
+        item->setUnreadable(textOf(tags.readFailure()));
+        return;
+    }
     item->setTags(tags);
     const SearchNames names = item->searchArtistTitle();
     if (!item->lyricsTag().isEmpty()) {
@@ -442,10 +454,6 @@ void MainModel::fileInfoExtracted(const QString &file, const MediaFileTags &tags
     } else {
         item->setProcessState(ModelItem::ProcessNotSuitable);
     }
-    m_readsInFlight.removeOne(id);
-    if (m_currentRead == id)
-        m_currentRead = noRead;
-    extractNextFileInfo();
 }
 
 // In flight, but the tag reader has been given a newer request since.
@@ -454,7 +462,7 @@ bool MainModel::isOvertaken(quint16 id) const
     return id != m_currentRead && m_readsInFlight.contains(id);
 }
 
-// Puts an overtaken item back among the unread ones. While a read is under way it waits for its turn, lest that read be
+// Puts an overtaken or unreadable item back among the unread ones. While a read is under way it waits for its turn, lest that read be
 // overtaken as well.
 void MainModel::readAgain(quint16 id)
 {
@@ -471,7 +479,8 @@ bool MainModel::startSearch(quint16 id)
     ModelItem *item = m_items.find(id);
     if (!item)
         return false;
-    if (isOvertaken(id)) {
+    const bool isUnreadable = item->unreadable() && item->processState() != ModelItem::ProcessWaiting;
+    if (isOvertaken(id) || isUnreadable) {
         // Its names are not known yet; whether they are suitable shows when the tags are there.
         item->setProcessState(ModelItem::ProcessWaiting);
         readAgain(id);
@@ -534,7 +543,7 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 bool MainModel::writeTags(quint16 id)
 {
     ModelItem *item = m_items.find(id);
-    if (!item)
+    if (!item || item->unreadable())
         return false;
     startWriting(item);
     return true;

@@ -58,6 +58,10 @@ public:
 
     // Lower-case extensions without dots, in the order of the file dialog's filter.
     void setSupportedExtensions(const QStringList &extensions) { m_extensions = extensions; }
+    // The program that reads tags (tags/MediaInfoExtractor.h). To be set before files are added.
+    void setReaderProgram(const QString &path) { m_tagReader.setReaderProgram(path); }
+    // For the end of the program: a read under way is given up.
+    void stopReading() { m_tagReader.stop(); }
     void setSettings(const Settings *settings) { m_settings = settings; }
     // The program's own folder for saves (tags/TagUpdate.h). Without one, songs that can be saved in place only are
     // not.
@@ -109,7 +113,7 @@ public:
     Q_INVOKABLE bool startSearch(quint16 id);
     // Shows the file of a row in the file manager; returns when that has ended.
     Q_INVOKABLE void locate(int row) const;
-    // Queues a write of the item's names and lyrics into its file; false when there is no such item.
+    // Queues a write of the item's names and lyrics into its file; false when there is no such item or it is unreadable.
     Q_INVOKABLE bool writeTags(quint16 id);
 
 public slots:
@@ -162,6 +166,7 @@ private:
     [[nodiscard]] bool isOvertaken(quint16 id) const;
     void readAgain(quint16 id);
     void feedSearches();
+    void useTags(ModelItem *item, const MediaFileTags &tags);
     void startWriting(ModelItem *item);
     [[nodiscard]] static bool canExport(const ModelItem &item);
     void tagsNotWritten(quint16 id, const QString &reason);

@@ -103,12 +103,12 @@ bool ModelItem::lyricsEmbedded() const
 
 bool ModelItem::bad() const
 {
-    return !valid() || (m_tagsLoaded && m_duration <= 0);
+    return m_unreadable || !valid() || (m_tagsLoaded && m_duration <= 0);
 }
 
 bool ModelItem::editable() const
 {
-    return m_processState == ProcessComplete || m_processState == ProcessNotSuitable;
+    return !m_unreadable && (m_processState == ProcessComplete || m_processState == ProcessNotSuitable);
 }
 
 SearchNames ModelItem::searchArtistTitle() const
@@ -137,6 +137,9 @@ SearchNames ModelItem::searchArtistTitle() const
 
 void ModelItem::setTags(const MediaFileTags &tags)
 {
+    if (m_unreadable)
+        setErrorString(QString()); // of the earlier try
+    m_unreadable = false;
     m_artistTag = tags.value(QStringLiteral("artist"));
     m_titleTag = tags.value(QStringLiteral("title"));
     m_lyricsTag = tags.value(QStringLiteral("lyrics"));
@@ -148,6 +151,14 @@ void ModelItem::setTags(const MediaFileTags &tags)
     emit artistTagChanged(m_artistTag);
     emit lyricsTagChanged(m_lyricsTag);
     emit tagsLoadedChanged(true);
+}
+
+void ModelItem::setUnreadable(const QString &reason)
+{
+    m_unreadable = true;
+    m_tagsLoaded = false;
+    setErrorString(reason);
+    setProcessState(ProcessNotSuitable);
 }
 
 void ModelItem::setThumbnail(const QImage &image)

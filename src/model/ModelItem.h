@@ -89,8 +89,11 @@ public:
     [[nodiscard]] bool lyricsEmbedded() const;
     // Whole seconds; 0 when unknown.
     [[nodiscard]] int duration() const { return m_duration; }
-    // Not a regular local file, or read and found to hold no playable time.
+    // Not a regular local file, or read and found to hold no playable time, or unreadable.
     [[nodiscard]] bool bad() const;
+    // Its tags could not be read, and the error text says why: it must be left alone, since nothing is known of what a
+    // write would replace. Not so for a file that is merely no audio.
+    [[nodiscard]] bool unreadable() const { return m_unreadable; }
     [[nodiscard]] ProcessState processState() const { return m_processState; }
     // Why the last search or write failed; empty when it did not.
     [[nodiscard]] QString errorString() const { return m_errorString; }
@@ -107,6 +110,8 @@ public:
 
     void setId(quint16 id) { m_id = id; }
     void setTags(const MediaFileTags &tags);
+    // Instead of the tags, which then count as not loaded.
+    void setUnreadable(const QString &reason);
     // A larger image is scaled down to the size of a thumbnail.
     void setThumbnail(const QImage &image);
 
@@ -147,6 +152,7 @@ private:
     quint16 m_id = 0;
     QUrl m_url;
     bool m_tagsLoaded = false;
+    bool m_unreadable = false;
     QImage m_thumbnail;
     QString m_titleTag;
     QString m_artistTag;

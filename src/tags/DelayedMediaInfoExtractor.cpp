@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "tags/DelayedMediaInfoExtractor.h"
 
-#include <exception>
+#include "tags/TagReader.h"
 
-DelayedMediaInfoExtractor::DelayedMediaInfoExtractor(const QString &fileName, bool decodeCover)
-    : m_fileName(fileName)
+#include <new>
+#include <utility>
+
+DelayedMediaInfoExtractor::DelayedMediaInfoExtractor(std::shared_ptr<tags::TagReader> reader, const QString &fileName,
+                                                     bool decodeCover)
+    : m_reader(std::move(reader))
+    , m_fileName(fileName)
     , m_decodeCover(decodeCover)
 {
     // It takes no events, and it is deleted on a thread of the pool.
@@ -13,14 +18,15 @@ DelayedMediaInfoExtractor::DelayedMediaInfoExtractor(const QString &fileName, bo
 
 void DelayedMediaInfoExtractor::run()
 {
-    // Decoding a picture, and copying the record for the listener, may run out of memory.
+    tags::TagSummary summary;
     try {
-        MediaFileTags tags;
-        tags.read(m_fileName);
-        if (m_decodeCover)
-            tags.makeThumbnail();
-        emit extracted(m_fileName, tags);
-    } catch (const std::exception &) {
-        emit extracted(m_fileName, MediaFileTags());
+        if (m_reader)
+            summary = m_reader->read(m_fileName, m_decodeCover);
+        else
+            summary.failure = tags::ReadFailure::NoReader;
+    } catch (const std::bad_alloc &) {
+        summary = {};
+        summary.failure = tags::ReadFailure::OutOfMemory;
     }
+    emit extracted(m_fileName, MediaFileTags(std::move(summary)));
 }

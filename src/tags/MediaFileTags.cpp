@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tags/MediaFileTags.h"
 
+#include "tags/CheckedFileStream.h"
 #include "tags/CoverImage.h"
 #include "tags/FileAccess.h"
 #include "tags/NumberPair.h"
@@ -10,64 +11,106 @@
 
 #include <taglib/audioproperties.h>
 #include <taglib/fileref.h>
-#include <taglib/tfilestream.h>
 
 #include <QLoggingCategory>
 
+#include <algorithm>
+#include <cerrno>
 #include <exception>
+#include <utility>
+
+#include <fcntl.h>
 
 Q_LOGGING_CATEGORY(lcTags, "versewell.tags")
+
+namespace {
+
+// A record without tag copy keeps texts for these keys only.
+bool isPlainField(const QString &key)
+{
+    const auto &basic = tags::basicKeys;
+    return key == tags::keys::track || std::find(basic.begin(), basic.end(), key) != basic.end();
+}
+
+} // namespace
+
+MediaFileTags::MediaFileTags(tags::TagSummary summary)
+    : m_plain(std::move(summary.values))
+    , m_thumbnail(std::move(summary.thumbnail))
+    , m_duration(summary.duration)
+    , m_failure(summary.failure)
+{
+}
 
 bool MediaFileTags::read(const QString &fileName)
 {
     *this = MediaFileTags();
-    if (!tags::isRegularFile(fileName))
-        return false;
-    // A hostile file can make the parser throw, most likely for want of memory.
+    // A hostile file can make the parser throw.
     try {
-        return readFrom(fileName);
-    } catch (const std::exception &error) {
+        if (readFrom(fileName))
+            return true;
+    } catch (const tags::ReadBudgetSpent &) {
+        m_failure = tags::ReadFailure::TooMuchRead;
+    } catch (const std::exception &error) { // most likely for want of memory
         qCWarning(lcTags) << "a file could not be read:" << error.what();
+        m_failure = tags::ReadFailure::OutOfMemory;
     }
+    const tags::ReadFailure failure = m_failure;
     *this = MediaFileTags();
+    m_failure = failure;
     return false;
 }
 
 bool MediaFileTags::readFrom(const QString &fileName)
 {
     const QByteArray path = tags::nativePath(fileName);
-    TagLib::FileStream stream(path.constData(), true);
-    if (!stream.isOpen())
+    const int descriptor = tags::openRegularFile(path, O_RDONLY);
+    if (descriptor < 0) {
+        m_failure = errno == EINVAL ? tags::ReadFailure::NotRegular : tags::ReadFailure::None;
         return false;
+    }
+    tags::CheckedFileStream file(descriptor, path, tags::CheckedFileStream::Access::Read);
+    file.setReadBudget(tags::ReadBudget());
     tags::acceptLatin1InRiffInfo();
-    const TagLib::FileRef reference(&stream, true, TagLib::AudioProperties::Average);
-    if (reference.isNull())
-        return false;
-    if (const TagLib::AudioProperties *properties = reference.audioProperties())
-        m_duration = properties->lengthInSeconds();
-    m_pictures = tags::readPictures(*reference.file());
-    m_tag = tags::TagCopy::ofFile(*reference.file());
-    return true;
+    const TagLib::FileRef reference(file.stream(), true, TagLib::AudioProperties::Average);
+    if (!reference.isNull()) {
+        if (const TagLib::AudioProperties *properties = reference.audioProperties())
+            m_duration = properties->lengthInSeconds();
+        m_pictures = tags::readPictures(*reference.file());
+        m_tag = tags::TagCopy::ofFile(*reference.file());
+    }
+    if (file.error() != 0)
+        m_failure = tags::ReadFailure::DiskError;
+    return !reference.isNull() && file.error() == 0;
+}
+
+tags::TagSummary MediaFileTags::summary() const
+{
+    tags::TagSummary summary{m_failure, m_duration, m_plain, m_thumbnail};
+    if (m_tag.isEmpty())
+        return summary;
+    for (std::size_t i = 0; i < tags::allKeys.size(); ++i)
+        summary.values[i] = m_tag.value(tags::allKeys[i]);
+    return summary;
 }
 
 QString MediaFileTags::value(const QString &key) const
 {
     if (!m_tag.isEmpty())
         return m_tag.value(key);
-    const auto field = plainField(key);
-    return field ? m_plain.*field : QString();
+    const QString *text = tags::valueIn(m_plain, key);
+    return text ? *text : QString();
 }
 
 void MediaFileTags::setValue(const QString &key, const QString &value)
 {
     m_tag.setValue(key, value);
-    const auto field = plainField(key);
-    if (!field)
-        return;
-    if (key != tags::keys::track)
-        m_plain.*field = value;
-    else if (const auto pair = tags::parseNumberPair(value))
-        m_plain.track = QString::number(pair->number);
+    if (key == tags::keys::track) {
+        if (const auto pair = tags::parseNumberPair(value))
+            *tags::valueIn(m_plain, key) = QString::number(pair->number);
+    } else if (isPlainField(key)) {
+        *tags::valueIn(m_plain, key) = value;
+    }
 }
 
 QImage MediaFileTags::image(int index) const
@@ -83,29 +126,13 @@ void MediaFileTags::makeThumbnail()
 
 bool MediaFileTags::save(const QString &fileName) const
 {
-    return tags::saveTags(fileName, m_tag.tags(),
-                          {{tags::keys::artist, m_plain.artist},
-                           {tags::keys::title, m_plain.title},
-                           {tags::keys::album, m_plain.album},
-                           {tags::keys::year, m_plain.year.toInt() > 0 ? m_plain.year : QString()},
-                           {tags::keys::genre, m_plain.genre},
-                           {tags::keys::comment, m_plain.comment}},
-                          m_pictures);
-}
-
-QString MediaFileTags::PlainFields::*MediaFileTags::plainField(const QString &key)
-{
-    if (key == tags::keys::artist)
-        return &PlainFields::artist;
-    if (key == tags::keys::title)
-        return &PlainFields::title;
-    if (key == tags::keys::track)
-        return &PlainFields::track;
-    if (key == tags::keys::year)
-        return &PlainFields::year;
-    if (key == tags::keys::album)
-        return &PlainFields::album;
-    if (key == tags::keys::genre)
-        return &PlainFields::genre;
-    return key == tags::keys::comment ? &PlainFields::comment : nullptr;
+    tags::KeyedValues fields;
+    for (const QLatin1String key :
+         {tags::keys::artist, tags::keys::title, tags::keys::album, tags::keys::year, tags::keys::genre,
+          tags::keys::comment}) {
+        const QString &text = *tags::valueIn(m_plain, key);
+        const bool isNoYear = key == tags::keys::year && text.toInt() <= 0;
+        fields.append({key, isNoYear ? QString() : text});
+    }
+    return tags::saveTags(fileName, m_tag.tags(), fields, m_pictures);
 }

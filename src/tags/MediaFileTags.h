@@ -3,6 +3,7 @@
 
 #include "tags/TagCopy.h"
 #include "tags/TagPictures.h"
+#include "tags/TagSummary.h"
 
 #include <QImage>
 #include <QMetaType>
@@ -14,9 +15,20 @@
 class MediaFileTags
 {
 public:
-    // Opens and reads a regular file, which may take long: not for the GUI thread. False, and an empty record, when
-    // the file cannot be opened or read as audio; nothing but regular files is ever opened. Never throws.
+    MediaFileTags() = default;
+    // A record that was read by another process. It has no tag copy, and of its pictures the thumbnail only.
+    explicit MediaFileTags(tags::TagSummary summary);
+
+    // Opens and reads a regular file in this process. Audio files are hostile: what the program shows is read by a
+    // process of its own (tags/TagReader.h), since some files make a parser crash or take all memory. False, and a
+    // record that is empty but for readFailure(), when the file cannot be opened or read as audio; nothing but regular
+    // files is ever opened. Never throws.
     bool read(const QString &fileName);
+    // All but the pictures and the tag copy.
+    [[nodiscard]] tags::TagSummary summary() const;
+
+    // Why the file must be left alone; None also for a file that is gone, cannot be opened or is no audio.
+    [[nodiscard]] tags::ReadFailure readFailure() const { return m_failure; }
 
     // Basic keys: "title", "artist", "album", "year", "genre", "comment". Extended keys: "rating" ("0" to "5" stars),
     // "bpm", "track" and "disc" ("3" or "3/9"), "composer", "albumArtist", "lyrics"; "cuesheet" in Xiph comments.
@@ -42,26 +54,14 @@ public:
     [[nodiscard]] bool save(const QString &fileName) const;
 
 private:
-    // Used only while there is no tag copy.
-    struct PlainFields
-    {
-        QString artist;
-        QString title;
-        QString track;
-        QString year;
-        QString album;
-        QString genre;
-        QString comment;
-    };
-
     bool readFrom(const QString &fileName);
-    static QString PlainFields::*plainField(const QString &key);
 
     tags::TagCopy m_tag;
-    PlainFields m_plain;
+    tags::TagValues m_plain; // used only while there is no tag copy
     QVector<tags::TagPicture> m_pictures;
     QImage m_thumbnail;
     int m_duration = 0;
+    tags::ReadFailure m_failure = tags::ReadFailure::None;
 };
 
 Q_DECLARE_METATYPE(MediaFileTags)

@@ -2,6 +2,7 @@
 #include "tags/MediaInfoExtractor.h"
 
 #include "tags/DelayedMediaInfoExtractor.h"
+#include "tags/TagReader.h"
 
 #include <QThreadPool>
 
@@ -13,6 +14,22 @@ MediaInfoExtractor::MediaInfoExtractor(QObject *parent)
     qRegisterMetaType<MediaFileTags>("MediaFileTags");
 }
 
+MediaInfoExtractor::~MediaInfoExtractor()
+{
+    stop();
+}
+
+void MediaInfoExtractor::stop()
+{
+    if (m_reader)
+        m_reader->stop();
+}
+
+void MediaInfoExtractor::setReaderProgram(const QString &path)
+{
+    m_reader = std::make_shared<tags::TagReader>(path);
+}
+
 void MediaInfoExtractor::request(const QString &fileName)
 {
     m_pendingFile = fileName;
@@ -22,7 +39,7 @@ void MediaInfoExtractor::request(const QString &fileName)
 
 void MediaInfoExtractor::start()
 {
-    auto job = std::make_unique<DelayedMediaInfoExtractor>(m_pendingFile, m_decodeCover);
+    auto job = std::make_unique<DelayedMediaInfoExtractor>(m_reader, m_pendingFile, m_decodeCover);
     connect(job.get(), &DelayedMediaInfoExtractor::extracted, this, &MediaInfoExtractor::extracted,
             Qt::QueuedConnection);
     m_busy = true;

@@ -6,26 +6,38 @@
 #include <QObject>
 #include <QString>
 
-// Reads tags on the global thread pool, one file at a time, and announces only the result for the newest request: the
-// result of a read that a newer request overtook is dropped. Lives on the thread of its caller; may be destroyed while
-// a read is running.
+#include <memory>
+
+namespace tags {
+class TagReader;
+}
+
+// Reads tags, one file at a time, and announces only the result for the newest request: the result of a read that a newer
+// request overtook is dropped. The files are read by a process of its own, which is waited for on the global thread
+// pool; this process never reads one. Lives on the thread of its caller; may be destroyed while a read is running.
 class MediaInfoExtractor : public QObject
 {
     Q_OBJECT
 
 public:
     explicit MediaInfoExtractor(QObject *parent = nullptr);
+    ~MediaInfoExtractor() override;
 
+    // The program that reads: it answers to the argument of tags/TagReaderProcess.h. Until it is set, every record says
+    // that there is no reader. For the requests that follow.
+    void setReaderProgram(const QString &path);
     // Whether records come with their thumbnail decoded; on unless set otherwise. For the requests that follow.
     void setDecodeCover(bool decode) { m_decodeCover = decode; }
+
+    // Gives up the read under way, which is answered as if there was no reader; for the end of the program.
+    void stop();
 
 public slots:
     // Takes a local path.
     void request(const QString &fileName);
 
 signals:
-    // With the path as requested. The record is empty when the file could not be read. It goes to slots in this thread
-    // without a copy, which would copy every frame of a tag.
+    // With the path as requested. The record is empty, but perhaps for its failure, when the file could not be read.
     void infoExtracted(const QString &strFile, const MediaFileTags &tags);
 
 private slots:
@@ -34,6 +46,7 @@ private slots:
 private:
     void start();
 
+    std::shared_ptr<tags::TagReader> m_reader;
     QString m_pendingFile;
     bool m_decodeCover = true;
     bool m_busy = false;

@@ -26,7 +26,7 @@ public:
         if (prepare)
             prepare(*this);
         reloadEndpoints();
-        m_app = std::make_unique<Application>(m_argc, m_argv);
+        m_app = std::make_unique<Application>(m_argc, m_argv, QStringLiteral(VERSEWELL_READER));
     }
 
     Application *operator->() { return m_app.get(); }

@@ -50,6 +50,7 @@ struct Stage
     explicit Stage(const QHash<QString, QString> &songs = {})
     {
         search.addProvider(std::make_unique<ScriptedProvider>(songs));
+        model.setReaderProgram(QStringLiteral(VERSEWELL_READER));
         model.setSupportedExtensions({QStringLiteral("ogg"), QStringLiteral("mp3")});
         model.setSettings(&settings);
         model.setSearch(&search);

@@ -17,6 +17,7 @@ class Stage
 public:
     explicit Stage(int count, const QVector<int> &withLyrics = {})
     {
+        model.setReaderProgram(QStringLiteral(VERSEWELL_READER));
         proxy.setSourceModel(&model);
         add(0, count);
         if (!QTest::qWaitFor([this, count] { return count == 0 || model.itemAt(count - 1)->tagsLoaded(); }, 20000))

@@ -144,6 +144,7 @@ void tst_MainWindow::init()
     m_handler = qInstallMessageHandler(noteWarnings);
     m_settings = std::make_unique<Settings>();
     m_model = std::make_unique<MainModel>();
+    m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
     m_proxy = std::make_unique<ProxyModel>();
     m_proxy->setSourceModel(m_model.get());
     m_scanner = std::make_unique<FolderScanner>();
