@@ -251,6 +251,38 @@ private slots:
         QCOMPARE(stage.model.unsavedCount(), 0);
     }
 
+    void anUnreadableSongIsLeftAloneUntilItIsForced()
+    {
+        Stage stage({{QStringLiteral("crash"), QStringLiteral("la")}, {QStringLiteral("zeros"), QStringLiteral("la")}});
+        const QUrl crashing = stage.song(QStringLiteral("A - crash.mp3")); // the reader of the tests dies on this name
+        QFile zeros(stage.folder.filePath(QStringLiteral("A - zeros.mp3")));
+        QVERIFY(zeros.open(QIODevice::WriteOnly) && zeros.resize(100 << 20));
+        const QUrl endless = QUrl::fromLocalFile(zeros.fileName());
+        QSignalSpy searches(&stage.model, &MainModel::searchStarted);
+        stage.model.add({crashing, endless, stage.song(QStringLiteral("A - whole.mp3"))});
+        QTRY_VERIFY(stage.isLoaded(2));
+        QTRY_COMPARE(stage.model.activeCount(), 0);
+        for (int row = 0; row < 2; ++row) {
+            ModelItem *item = stage.model.itemAt(row);
+            QCOMPARE(item->processState(), ModelItem::ProcessNotSuitable);
+            QVERIFY(item->unreadable() && item->bad() && !item->editable() && !item->errorString().isEmpty());
+            item->setEditedLyricsTag(QStringLiteral("typed"));
+            QVERIFY(!stage.model.writeTags(item->id()));
+        }
+        QCOMPARE(searches.count(), 1);
+        QCOMPARE(zeros.size(), 100 << 20);
+        // The one is mended meanwhile, the other one is not.
+        QVERIFY(zeros.remove());
+        stage.song(QStringLiteral("A - zeros.mp3"));
+        QVERIFY(stage.model.startSearch(1) && stage.model.startSearch(2) && stage.model.startSearch(2));
+        QTRY_COMPARE(stage.model.activeCount(), 0);
+        QTRY_VERIFY(stage.isSettled());
+        QCOMPARE(stage.state(0), ModelItem::ProcessNotSuitable);
+        QTRY_COMPARE(stage.state(1), ModelItem::ProcessComplete);
+        QCOMPARE(stage.model.itemAt(1)->errorString(), QString());
+        QCOMPARE(stage.model.itemAt(1)->lyricsTag(), QStringLiteral("la"));
+    }
+
     void theLastOfTwoWritesCounts()
     {
         Stage stage;

@@ -53,7 +53,7 @@ int main(int argc, char **argv)
 {
     int filesRead = 0;
     return tags::runReader(argc, argv, [&filesRead](const tags::ReadRequest &request) {
-        const QString name = QFileInfo(request.path).completeBaseName();
+        const QString name = QFileInfo(request.path).completeBaseName().section(QLatin1String(" - "), -1);
         misbehave(name);
         if (name == QLatin1String("crash-when-tired") && filesRead > 0)
             std::raise(SIGKILL);
