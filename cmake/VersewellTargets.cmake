@@ -15,6 +15,9 @@ if(VERSEWELL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+if(VERSEWELL_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # versewell_add_library(<folder> SOURCES ... LINK ... [PRIVATE_LINK ...]): the static library of one folder under src/,
 # called versewell_<folder> ("lyrics/providers" gives versewell_lyrics_providers).

@@ -462,8 +462,8 @@ bool MainModel::isOvertaken(quint16 id) const
     return id != m_currentRead && m_readsInFlight.contains(id);
 }
 
-// Puts an overtaken or unreadable item back among the unread ones. While a read is under way it waits for its turn, lest that read be
-// overtaken as well.
+// Puts an overtaken or unreadable item back among the unread ones. While a read is under way it waits for its turn,
+// lest that read be overtaken as well.
 void MainModel::readAgain(quint16 id)
 {
     m_readsInFlight.removeOne(id);

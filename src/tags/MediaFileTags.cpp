@@ -75,7 +75,7 @@ bool MediaFileTags::readFrom(const QString &fileName)
     const TagLib::FileRef reference(file.stream(), true, TagLib::AudioProperties::Average);
     if (!reference.isNull()) {
         if (const TagLib::AudioProperties *properties = reference.audioProperties())
-            m_duration = properties->lengthInSeconds();
+            m_duration = std::max(properties->lengthInSeconds(), 0); // what a file says may overflow
         m_pictures = tags::readPictures(*reference.file());
         m_tag = tags::TagCopy::ofFile(*reference.file());
     }
@@ -127,9 +127,8 @@ void MediaFileTags::makeThumbnail()
 bool MediaFileTags::save(const QString &fileName) const
 {
     tags::KeyedValues fields;
-    for (const QLatin1String key :
-         {tags::keys::artist, tags::keys::title, tags::keys::album, tags::keys::year, tags::keys::genre,
-          tags::keys::comment}) {
+    for (const QLatin1String key : {tags::keys::artist, tags::keys::title, tags::keys::album, tags::keys::year,
+                                    tags::keys::genre, tags::keys::comment}) {
         const QString &text = *tags::valueIn(m_plain, key);
         const bool isNoYear = key == tags::keys::year && text.toInt() <= 0;
         fields.append({key, isNoYear ? QString() : text});

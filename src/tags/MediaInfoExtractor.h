@@ -12,9 +12,10 @@ namespace tags {
 class TagReader;
 }
 
-// Reads tags, one file at a time, and announces only the result for the newest request: the result of a read that a newer
-// request overtook is dropped. The files are read by a process of its own, which is waited for on the global thread
-// pool; this process never reads one. Lives on the thread of its caller; may be destroyed while a read is running.
+// Reads tags, one file at a time, and announces only the result for the newest request: the result of a read that a
+// newer request overtook is dropped. The files are read by a process of its own, which is waited for on the global
+// thread pool; this process never reads one. Lives on the thread of its caller; may be destroyed while a read is
+// running.
 class MediaInfoExtractor : public QObject
 {
     Q_OBJECT

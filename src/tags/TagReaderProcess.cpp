@@ -36,7 +36,9 @@ public:
     void collect()
     {
         const QMutexLocker lock(&m_mutex);
-        const auto isGone = [](pid_t pid) { return ::waitpid(pid, nullptr, WNOHANG) != 0; };
+        const auto isGone = [](pid_t pid) {
+            return ::waitpid(pid, nullptr, WNOHANG) != 0;
+        };
         m_pids.erase(std::remove_if(m_pids.begin(), m_pids.end(), isGone), m_pids.end());
     }
 
@@ -76,8 +78,7 @@ public:
         for (const int signal : {SIGPIPE, SIGALRM, SIGXCPU, SIGTERM, SIGINT, SIGHUP})
             ::sigaddset(&signalSet, signal);
         ::posix_spawnattr_setsigdefault(&attributes, &signalSet);
-        ::posix_spawnattr_setflags(&attributes,
-                                   POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
+        ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
     }
     ~SpawnSetup()
     {
@@ -113,8 +114,8 @@ void TagReaderProcess::start(const QByteArray &program, int childSocket)
     QByteArray name = QByteArrayLiteral("versewell");
     QByteArray word = argument;
     const std::array<char *, 3> arguments{name.data(), word.data(), nullptr};
-    m_startError = ::posix_spawn(&m_pid, program.constData(), &setup.actions, &setup.attributes, arguments.data(),
-                                 environ);
+    m_startError =
+        ::posix_spawn(&m_pid, program.constData(), &setup.actions, &setup.attributes, arguments.data(), environ);
     if (m_startError != 0)
         m_pid = -1;
 }

@@ -58,7 +58,8 @@ QImage readImage(QDataStream &stream)
     stream >> size >> pixels;
     if (size.isEmpty() && pixels.isEmpty())
         return {};
-    if (size.isEmpty() || thumbnailSize(size) != size || pixels.size() != size.width() * size.height() * bytesPerPixel) {
+    if (size.isEmpty() || thumbnailSize(size) != size ||
+        pixels.size() != size.width() * size.height() * bytesPerPixel) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return {};
     }
@@ -95,8 +96,8 @@ QByteArray encoded(const ReadAnswer &answer)
 std::optional<ReadRequest> parseRequest(const QByteArray &message)
 {
     ReadRequest request;
-    const bool whole = taken(
-        message, [&](QDataStream &stream) { stream >> request.number >> request.decodeCover >> request.path; });
+    const bool whole =
+        taken(message, [&](QDataStream &stream) { stream >> request.number >> request.decodeCover >> request.path; });
     return whole ? std::make_optional(request) : std::nullopt;
 }
 

@@ -24,7 +24,8 @@ using TagValues = std::array<QString, allKeys.size()>;
 template<typename Values>
 auto *valueIn(Values &values, const QString &key)
 {
-    const auto found = std::find_if(allKeys.begin(), allKeys.end(), [&key](QLatin1String known) { return key == known; });
+    const auto found =
+        std::find_if(allKeys.begin(), allKeys.end(), [&key](QLatin1String known) { return key == known; });
     return found == allKeys.end() ? nullptr : &values[static_cast<std::size_t>(found - allKeys.begin())];
 }
 

@@ -33,14 +33,35 @@ void misbehave(const QString &name)
     tags::ReadAnswer wrongNumber;
     wrongNumber.number = 4711;
     const QHash<QString, std::function<void()>> manners{
-        {QStringLiteral("crash"), [] { std::raise(SIGKILL); }},
-        {QStringLiteral("crash-by-itself"), [] { std::raise(SIGXCPU); }},
-        {QStringLiteral("stall"), [] { sayAndWait({}); }},
+        {QStringLiteral("crash"),
+         [] {
+             std::raise(SIGKILL);
+         }},
+        {QStringLiteral("crash-by-itself"),
+         [] {
+             std::raise(SIGXCPU);
+         }},
+        {QStringLiteral("stall"),
+         [] {
+             sayAndWait({});
+         }},
         {QStringLiteral("loop"), loop},
-        {QStringLiteral("drip"), [] { sayAndWait(QByteArray(3, '\0')); }},
-        {QStringLiteral("endless"), [] { sayAndWait(QByteArray(8, '\xff')); }},
-        {QStringLiteral("noise"), [] { sayAndWait(QByteArray("\0\0\0\x04noise", 9)); }},
-        {QStringLiteral("wrong-number"), [&] { sayAndWait(encoded(wrongNumber)); }},
+        {QStringLiteral("drip"),
+         [] {
+             sayAndWait(QByteArray(3, '\0'));
+         }},
+        {QStringLiteral("endless"),
+         [] {
+             sayAndWait(QByteArray(8, '\xff'));
+         }},
+        {QStringLiteral("noise"),
+         [] {
+             sayAndWait(QByteArray("\0\0\0\x04noise", 9));
+         }},
+        {QStringLiteral("wrong-number"),
+         [&] {
+             sayAndWait(encoded(wrongNumber));
+         }},
     };
     const auto found = manners.find(name);
     if (found != manners.end())

@@ -79,8 +79,8 @@ void tst_TagReader::misbehaviourCostsOneFile()
 {
     const SongFiles files;
     const QString good = files.copy(QStringLiteral("plain-v23.mp3"));
-    const QString bad =
-        files.copy(QStringLiteral("plain-v23.mp3"), QString::fromLatin1(QTest::currentDataTag()) + QLatin1String(".mp3"));
+    const QString bad = files.copy(QStringLiteral("plain-v23.mp3"),
+                                   QString::fromLatin1(QTest::currentDataTag()) + QLatin1String(".mp3"));
     TagReader tagReader(reader, quickLimits());
     QCOMPARE(titleOf(tagReader.read(good, true)), song);
     const tags::TagSummary summary = tagReader.read(bad, true);
