@@ -22,7 +22,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::size_t blockBytes = 64 * 1024;
+constexpr int blockBytes = 64 * 1024;
 constexpr std::chrono::milliseconds longestRetryStart = 60s;
 
 // How long to wait before a new process when so many in a row were lost on files. A few hostile files cost nothing; a
@@ -58,7 +58,7 @@ TagReader::TagReader(const QString &program, const Limits &limits)
     : m_program(program)
     , m_limits(limits)
     , m_retryStart(limits.retryStart)
-    , m_block(blockBytes)
+    , m_block(std::size_t{blockBytes})
     , m_stopEvent(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
 }
