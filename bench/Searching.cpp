@@ -88,6 +88,7 @@ void searchAll(const QList<QUrl> &songs)
     for (std::unique_ptr<LyricsProvider> &provider : makeProviders(&manager))
         search.addProvider(std::move(provider));
     MainModel model;
+    model.setReaderProgram(QCoreApplication::applicationFilePath());
     model.setSearch(&search);
     model.add(songs);
     while (model.activeCount() > 0)
