@@ -22,7 +22,7 @@ struct SearchNames
 class ModelItem : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(quint16 id READ id)
+    Q_PROPERTY(quint16 id READ id CONSTANT)
     Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged)
     Q_PROPERTY(bool valid READ valid)
     Q_PROPERTY(bool fileExists READ fileExists)
@@ -43,6 +43,7 @@ class ModelItem : public QObject
     Q_PROPERTY(QString processStateText READ processStateText NOTIFY processStateChanged)
     Q_PROPERTY(bool active READ active NOTIFY activeChanged)
     Q_PROPERTY(bool editable READ editable NOTIFY processStateChanged)
+    Q_PROPERTY(bool hasCover READ hasCover NOTIFY tagsLoadedChanged)
     Q_PROPERTY(bool writingTags READ writingTags NOTIFY writingTagsChanged)
 
 public:
@@ -105,6 +106,7 @@ public:
 
     // The cover, at most 50 pixels on its longer side; null when there is none.
     [[nodiscard]] QImage thumbnail() const { return m_thumbnail; }
+    [[nodiscard]] bool hasCover() const { return !m_thumbnail.isNull(); }
     // The trimmed names of the tags; what is missing there is taken from a file name of the form "Artist - Title".
     [[nodiscard]] SearchNames searchArtistTitle() const;
 

@@ -314,13 +314,32 @@ void ProxyModel::keepCurrentSelected()
 
 // The current row and the selection
 
-ModelItem *ProxyModel::currentItem() const
+// For the scene; null when there is no such row.
+ModelItem *ProxyModel::itemAt(int row) const
 {
-    if (!m_model || !isRow(m_currentIndex) || m_rows.at(m_currentIndex) >= m_model->rowCount())
+    if (!m_model || !isRow(row) || m_rows.at(row) >= m_model->rowCount())
         return nullptr;
-    ModelItem *item = m_model->itemAt(m_rows.at(m_currentIndex));
+    ModelItem *item = m_model->itemAt(m_rows.at(row));
     QQmlEngine::setObjectOwnership(item, QQmlEngine::CppOwnership);
     return item;
+}
+
+ModelItem *ProxyModel::currentItem() const
+{
+    return itemAt(m_currentIndex);
+}
+
+ModelItem *ProxyModel::selectedItem() const
+{
+    if (m_selectedCount != 1)
+        return nullptr;
+    if (isSelected(m_currentIndex))
+        return currentItem();
+    const auto isMarked = [this](int sourceRow) {
+        return m_selected.testBit(m_model->itemAt(sourceRow)->id());
+    };
+    const auto selected = std::find_if(m_rows.begin(), m_rows.end(), isMarked);
+    return itemAt(static_cast<int>(selected - m_rows.begin()));
 }
 
 bool ProxyModel::isSelected(int row) const

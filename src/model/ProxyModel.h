@@ -58,6 +58,8 @@ public:
     Q_INVOKABLE bool isSelected(int row) const;
     // Null when no row is current.
     Q_INVOKABLE ModelItem *currentItem() const;
+    // The one selected song; null when none or several are selected.
+    Q_INVOKABLE ModelItem *selectedItem() const;
 
 public slots:
     // Selects this row alone; a negative one empties the selection. Nothing when it is current already.
@@ -87,6 +89,7 @@ private:
     [[nodiscard]] bool accepts(int sourceRow) const;
     [[nodiscard]] QVector<int> acceptedRows(int first, int last) const;
     [[nodiscard]] quint16 idAt(int row) const;
+    [[nodiscard]] ModelItem *itemAt(int row) const;
     // The first row whose source row is not below this one; the row count when there is none.
     [[nodiscard]] int lowerBound(int sourceRow) const;
     // -1 when the song is not shown.
