@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+import QtQuick 2.2
+import QtQuick.Controls.Private 1.0
+import "."
+
+// A picture that can be pressed, by mouse, by Space or by Enter. Its text is the tool tip and what a screen reader says.
+Item {
+    id: button
+
+    property string imageName
+    property string text
+    // Pressed in, as long as what it began goes on.
+    property bool checked: false
+    property alias background: ground.color
+    readonly property bool hovered: mouseArea.containsMouse
+
+    signal clicked()
+
+    implicitWidth: Measures.button
+    implicitHeight: Measures.button
+    activeFocusOnTab: enabled
+    opacity: enabled ? 1 : Measures.disabled
+
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Keys.onSpacePressed: clicked()
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.focusable: enabled
+    Accessible.checked: checked
+    Accessible.onPressAction: clicked()
+
+    Rectangle {
+        id: ground
+
+        anchors.fill: parent
+        radius: Measures.radius
+        color: "transparent"
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Measures.radius
+        color: appPalette.highlight
+        opacity: mouseArea.pressed || button.checked ? 2.5 * Measures.hoverStrength : Measures.hoverStrength
+        visible: button.hovered || button.checked
+    }
+
+    PaletteImage {
+        anchors.centerIn: parent
+        imageName: button.imageName
+    }
+
+    FocusRing {
+        inset: 0
+    }
+
+    MouseArea {
+        id: mouseArea
+
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: button.clicked()
+        onExited: Tooltip.hideText()
+        onCanceled: Tooltip.hideText()
+    }
+
+    Timer {
+        interval: Measures.toolTipDelay
+        running: button.hovered && !mouseArea.pressed && Qt.application.state === Qt.ApplicationActive
+        onTriggered: Tooltip.showText(mouseArea, Qt.point(mouseArea.mouseX, mouseArea.mouseY), button.text)
+    }
+}

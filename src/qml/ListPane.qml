@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+import QtQuick 2.2
+import "."
+
+// The list of songs with the bars around it and its menu.
+Rectangle {
+    id: pane
+
+    property int qtVersion: 0
+
+    signal removeSelectedRequested()
+    signal removeAllRequested()
+    signal removeWithLyricsRequested()
+    signal forceSearchRequested()
+    signal exportLyricsRequested()
+    signal copyPathRequested(int row)
+    signal searchInBrowserRequested(int row)
+    signal addFilesRequested()
+    signal addFolderRequested()
+
+    color: appPalette.listBackground
+
+    InfoBar {
+        id: scanningBar
+
+        property int found: 0
+
+        objectName: "scanningBar"
+        width: parent.width
+        height: implicitHeight
+        shown: folderScanner.processing
+        hairlineAtTop: false
+        color: appPalette.scanningFolderBackground
+        textColor: appPalette.scanningFolderText
+        text: qsTr("Scanning folder(s) for music files (found %n)", "", found)
+
+        LinkButton {
+            text: qsTr("Cancel")
+            onClicked: folderScanner.cancel()
+        }
+
+        Timer {
+            interval: Measures.scanPollInterval
+            repeat: true
+            running: scanningBar.shown
+            triggeredOnStart: true
+            onTriggered: scanningBar.found = folderScanner.lastCount()
+        }
+    }
+
+    SongList {
+        id: songs
+
+        anchors { left: parent.left; right: parent.right; top: scanningBar.bottom; bottom: hiddenBar.top }
+        focus: true
+        onRemoveSelectedRequested: pane.removeSelectedRequested()
+        onMenuRequested: {
+            // A click on another row may have left a draft that has to be asked about first.
+            if (mainWindow.lyricsEdit.modified && !proxyModel.isSelected(row))
+                return;
+            menu.row = row;
+            if (byKey)
+                menu.openAt(x, y);
+            else
+                menu.openAtPointer(x, y);
+        }
+    }
+
+    EmptyList {
+        anchors.centerIn: songs
+        width: parent.width - 4 * Measures.grid
+        visible: songs.count === 0
+        allHidden: proxyModel.hiddenCount > 0
+        onAddFilesRequested: pane.addFilesRequested()
+        onAddFolderRequested: pane.addFolderRequested()
+    }
+
+    InfoBar {
+        id: hiddenBar
+
+        objectName: "hiddenBar"
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: implicitHeight
+        shown: proxyModel.hiddenCount > 0
+        text: qsTr("Hidden %n file(s) with lyrics", "", proxyModel.hiddenCount)
+
+        LinkButton {
+            text: qsTr("Show")
+            Accessible.name: qsTr("Show hidden files")
+            onClicked: proxyModel.showFound = true
+        }
+
+        LinkButton {
+            text: qsTr("Remove")
+            Accessible.name: qsTr("Remove hidden files from the list")
+            onClicked: pane.removeWithLyricsRequested()
+        }
+    }
+
+    SongMenu {
+        id: menu
+
+        qtVersion: pane.qtVersion
+        selectedCount: proxyModel.selectedCount
+        searchProvider: settings.searchProvider || "Google"
+        onForceSearch: pane.forceSearchRequested()
+        onExportLyrics: pane.exportLyricsRequested()
+        onRemoveSelected: pane.removeSelectedRequested()
+        onRemoveAll: pane.removeAllRequested()
+        onCopyPath: pane.copyPathRequested(row)
+        onSearchInBrowser: pane.searchInBrowserRequested(row)
+    }
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+import QtQuick 2.2
+import QtQuick.Window 2.2
+import "."
+
+// A picture of a button. Its address names the palette's colour, so that a change of the palette asks for it anew. Its
+// size has to be said: a picture of twice the resolution would be taken for one of twice the size.
+Image {
+    // The name in the resources, without ".png"; empty shows nothing.
+    property string imageName
+    property color baseColor: appPalette.windowText
+
+    width: Measures.icon
+    height: Measures.icon
+    source: imageName === "" ? "" : "image://btnimage/" + imageName + "/" + Screen.devicePixelRatio + "/" + baseColor
+}

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+import QtQuick 2.2
+import com.quillmarsh 1.0
+
+// How a song stands, in words and as a light: the one place for these words, used by the rows and by the details.
+QtObject {
+    property int processState: ModelItem.ProcessIdle
+    property bool tagsLoaded: false
+    // The file is not one that can be played.
+    property bool badFile: false
+    property bool hasLyrics: false
+    property string errorString
+
+    readonly property bool busy: processState === ModelItem.ProcessWaiting || processState === ModelItem.ProcessWorking
+                                 || processState === ModelItem.ProcessWritingTags
+    readonly property bool settled: processState === ModelItem.ProcessIdle || processState === ModelItem.ProcessComplete
+    readonly property bool unreadable: (tagsLoaded && badFile)
+                                       || (processState === ModelItem.ProcessNotSuitable && errorString !== "")
+    readonly property bool bad: (tagsLoaded && badFile) || processState === ModelItem.ProcessNotSuitable
+
+    // "yellow", "green", "red", or empty for none. A song that is bad is red whatever else it is.
+    readonly property string light: bad ? "red" : busy ? "yellow" : hasLyrics && settled ? "green" : ""
+    readonly property string lightSource: light === "" ? "" : "qrc:/img/" + light + "Light.png"
+
+    // For the row: empty when there is nothing to say that the green light does not say.
+    readonly property string word: unreadable ? qsTr("cannot be read") : wordOf(processState)
+    // For a screen reader, which sees no light.
+    readonly property string spokenWord: word !== "" ? word : light === "green" ? qsTr("has lyrics") : qsTr("no lyrics")
+    // For the details.
+    readonly property string line: unreadable && errorString === "" ? qsTr("This file cannot be read.") : lineOf(processState)
+
+    function wordOf(state) {
+        switch (state) {
+        case ModelItem.ProcessNotSuitable:
+            return qsTr("no names");
+        case ModelItem.ProcessWaiting:
+            return qsTr("queued");
+        case ModelItem.ProcessWorking:
+            return qsTr("searching...");
+        case ModelItem.ProcessWritingTags:
+            return qsTr("saving...");
+        case ModelItem.ProcessFailed:
+            return qsTr("failed");
+        case ModelItem.ProcessComplete:
+            return !hasLyrics ? qsTr("no lyrics found") : errorString !== "" ? qsTr("not saved") : "";
+        }
+        return "";
+    }
+
+    function lineOf(state) {
+        switch (state) {
+        case ModelItem.ProcessWaiting:
+            return qsTr("in queue to search...");
+        case ModelItem.ProcessWorking:
+            return qsTr("searching...");
+        case ModelItem.ProcessWritingTags:
+            return qsTr("saving the lyrics...");
+        case ModelItem.ProcessNotSuitable:
+            return errorString !== "" ? errorString : qsTr("A search needs an artist and a title.");
+        case ModelItem.ProcessFailed:
+            return errorString !== "" ? errorString : qsTr("failed");
+        case ModelItem.ProcessComplete:
+            return errorString !== "" ? errorString : hasLyrics ? "" : qsTr("no lyrics found");
+        }
+        return errorString;
+    }
+}
