@@ -62,6 +62,9 @@ FocusScope {
 
     focus: true
 
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Songs and lyrics")
+
     onListWidthChanged: layOutPanes()
     onWidthChanged: layOutPanes()
     Component.onCompleted: {
