@@ -4,7 +4,9 @@
 #include "model/MainModel.h"
 #include "ui/ButtonImageProvider.h"
 #include "ui/FileImageProvider.h"
+#include "ui/LineSpacing.h"
 #include "ui/Pictures.h"
+#include "ui/SceneAccessibility.h"
 
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -63,7 +65,9 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     engine()->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider);
     engine()->addImageProvider(QStringLiteral("file-cover"), covers);
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
+    LineSpacing::registerType();
     setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    SceneAccessibility::install(this);
     if (rootObject())
         rootObject()->setProperty("qtVersion", qtVersion);
 }
