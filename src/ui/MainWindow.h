@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lyrics/SearchProvider.h"
+#include "ui/LyricsEdit.h"
 #include "ui/SceneWidget.h"
 
 #include <QMainWindow>
@@ -12,7 +13,6 @@
 class AppPalette;
 class ExitWidget;
 class FolderScanner;
-class LyricsEdit;
 class LyricsEditGuard;
 class LyricsExport;
 class MainModel;
