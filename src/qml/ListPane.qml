@@ -18,6 +18,10 @@ Rectangle {
     signal addFilesRequested()
     signal addFolderRequested()
 
+    function takeFocus() {
+        songs.takeFocus();
+    }
+
     color: appPalette.listBackground
 
     InfoBar {

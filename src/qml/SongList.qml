@@ -13,6 +13,10 @@ ScrollView {
     // row: -1 beside all rows; x and y: where, in the scene's coordinates.
     signal menuRequested(int row, real x, real y, bool byKey)
 
+    function takeFocus() {
+        list.forceActiveFocus();
+    }
+
     function follow() {
         list.currentIndex = proxyModel.currentIndex;
     }
@@ -40,6 +44,7 @@ ScrollView {
         readonly property int rowsInView: Math.max(1, Math.floor(height / Measures.rowHeight))
         property real keptY: 0
         property var shownSong: null
+        property int countBefore: 0
 
         objectName: "songList"
         focus: true
@@ -54,6 +59,12 @@ ScrollView {
         Component.onCompleted: {
             songList.follow();
             shownSong = proxyModel.currentItem();
+        }
+        // The first songs of an empty list make the first of them current.
+        onCountChanged: {
+            if (countBefore === 0 && count > 0 && proxyModel.currentIndex < 0)
+                proxyModel.currentIndex = 0;
+            countBefore = count;
         }
         onCurrentIndexChanged: {
             if (currentIndex !== proxyModel.currentIndex)

@@ -70,6 +70,7 @@ FocusScope {
     Component.onCompleted: {
         layOutPanes();
         showSelectedSong();
+        list.takeFocus();
     }
 
     Connections {
@@ -124,7 +125,6 @@ FocusScope {
             id: list
 
             Layout.minimumWidth: Measures.listMinimumWidth
-            focus: true
             qtVersion: root.qtVersion
             onWidthChanged: {
                 if (panes.resizing)
