@@ -105,6 +105,7 @@ Rectangle {
     SongMenu {
         id: menu
 
+        objectName: "songMenu"
         qtVersion: pane.qtVersion
         selectedCount: proxyModel.selectedCount
         searchProvider: settings.searchProvider || "Google"

@@ -46,6 +46,10 @@ ScrollView {
         property var shownSong: null
         property int countBefore: 0
 
+        function restorePlace() {
+            contentY = Math.max(0, Math.min(keptY, count * Measures.rowHeight - height));
+        }
+
         objectName: "songList"
         focus: true
         activeFocusOnTab: true
@@ -151,7 +155,7 @@ ScrollView {
 
             function onModelReset() {
                 songList.follow();
-                list.contentY = Math.max(0, Math.min(list.keptY, list.count * Measures.rowHeight - list.height));
+                Qt.callLater(list.restorePlace); // the view hears of the reset after this, and begins at its top
             }
         }
     }

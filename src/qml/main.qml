@@ -6,7 +6,7 @@ import "."
 
 // The whole of the window's content: the list of songs at the left, the selected song at the right. It talks to the
 // program through the context properties and through the signals below.
-FocusScope {
+Rectangle {
     id: root
 
     // Wanted width of the list in pixels; stored by the window when it goes.
@@ -60,7 +60,7 @@ FocusScope {
         shownSong = proxyModel.selectedItem();
     }
 
-    focus: true
+    color: appPalette.window
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Songs and lyrics")

@@ -14,8 +14,8 @@ class QQuickWidget;
 class SceneAccessibility : public QAccessibleWidget
 {
 public:
-    // After the scene was loaded: what Qt Quick brings itself comes with its first import, and the last one that comes is
-    // asked first. The widget lies in a window already and stays in it.
+    // After the scene was loaded: what Qt Quick brings itself comes with its first import, and the last one that comes
+    // is asked first. The widget lies in a window already and stays in it.
     static void install(QQuickWidget *scene);
 
     explicit SceneAccessibility(QQuickWidget *scene);

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+import QtQuick 2.2
+import QtTest 1.2
+import com.quillmarsh 1.0
+import "qrc:/qml"
+
+Item {
+    width: 600
+    height: 400
+
+    LyricsItem {
+        id: sheet
+
+        anchors.fill: parent
+        edit: mainWindow.lyricsEdit
+    }
+
+    SignalSpy {
+        id: searches
+
+        target: sheet
+        signalName: "forceSearchRequested"
+    }
+
+    TestCase {
+        id: testCase
+
+        readonly property var song: sheet.song
+        readonly property var edit: mainWindow.lyricsEdit
+
+        name: "LyricsItem"
+        when: windowShown
+
+        function init() {
+            sheet.song = null;
+            mainModel.autoStart = false;
+            mainWindow.showSongs(["plain.flac"]);
+            sheet.song = mainWindow.song(0);
+            tryCompare(song, "tagsLoaded", true);
+            tryVerify(function() { return song.processState !== ModelItem.ProcessIdle || song.tagsLoaded; });
+            song.setFoundLyricsTag("A", "B", "first\nsecond");
+            song.processState = ModelItem.ProcessComplete;
+            searches.clear();
+        }
+
+        function cleanup() {
+            edit.cancel();
+        }
+
+        function words() {
+            return findChild(sheet, "lyricsText");
+        }
+
+        function press(name) {
+            var button = findChild(sheet, name);
+            verify(button.visible && button.enabled, name);
+            button.forceActiveFocus();
+            keyClick(Qt.Key_Space);
+        }
+
+        function test_found_lyrics_are_shown_with_their_names() {
+            compare(words().text, "first\nsecond");
+            compare(findChild(sheet, "foundNames").text, "“A” – “B”");
+            verify(words().readOnly);
+            words().forceActiveFocus();
+            keyClick(Qt.Key_X);
+            compare(words().text, "first\nsecond");
+        }
+
+        function test_an_edit_is_saved_into_the_song() {
+            press("editButton");
+            verify(words().activeFocus && !words().readOnly);
+            keyClick(Qt.Key_X);
+            verify(edit.modified);
+            verify(!findChild(sheet, "editButton").enabled);
+            press("saveButton");
+            compare(song.lyricsTag, "xfirst\nsecond");
+            verify(!sheet.found);
+            tryCompare(song, "processState", ModelItem.ProcessComplete);
+        }
+
+        function test_cancel_and_search_discard() {
+            press("editButton");
+            keyClick(Qt.Key_X);
+            press("cancelButton");
+            verify(!edit.active);
+            compare(words().text, "first\nsecond");
+            press("searchButton");
+            compare(searches.count, 1);
+        }
+
+        function test_a_result_leaves_the_draft_alone() {
+            press("editButton");
+            keyClick(Qt.Key_X);
+            song.setFoundLyricsTag("A", "B", "other");
+            compare(words().text, "xfirst\nsecond");
+            edit.cancel();
+            compare(words().text, "other");
+        }
+
+        function test_looking_at_lyrics_never_changes_them() {
+            song.setEditedLyricsTag("a\u00a0b\r\nc\u2028d");
+            press("editButton");
+            verify(!edit.modified);
+        }
+
+        function test_only_settled_songs_can_be_edited() {
+            song.processState = ModelItem.ProcessWorking;
+            verify(!findChild(sheet, "editButton").enabled);
+            sheet.beginEdit();
+            verify(!edit.active);
+        }
+
+        function test_very_long_lyrics_are_cut_and_not_edited() {
+            song.setEditedLyricsTag(new Array(1 << 20).join("la "));
+            compare(words().text.length, Measures.lyricsLimit);
+            sheet.beginEdit();
+            verify(!edit.active);
+        }
+    }
+}
