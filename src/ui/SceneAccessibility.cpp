@@ -1,32 +1,84 @@
 // SPDX-License-Identifier: MIT
 #include "ui/SceneAccessibility.h"
 
+#include "ui/SceneItemAccessibility.h"
+
 #include <QApplication>
 #include <QEvent>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
 
 namespace {
 
-QQuickWidget *sceneOf(const QQuickWindow *window)
+template<typename Test>
+QQuickWidget *findScene(Test isIt)
 {
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget *widget : widgets) {
         auto *scene = qobject_cast<QQuickWidget *>(widget);
-        if (scene && scene->quickWindow() == window)
+        if (scene && isIt(scene))
             return scene;
     }
     return nullptr;
 }
 
+QQuickWidget *sceneOf(QQuickWindow *window)
+{
+    return findScene([window](const QQuickWidget *scene) { return scene->quickWindow() == window; });
+}
+
+// By the engine: items are asked for before they lie in a window.
+QQuickWidget *sceneOf(QQuickItem *item)
+{
+    return findScene([item](const QQuickWidget *scene) { return scene->engine() == qmlEngine(item); });
+}
+
+// The invisible window itself: nothing to see, nothing in it.
+class HiddenWindow : public QAccessibleObject
+{
+public:
+    using QAccessibleObject::QAccessibleObject;
+
+    [[nodiscard]] QAccessibleInterface *parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
+    [[nodiscard]] int childCount() const override { return 0; }
+    [[nodiscard]] QAccessibleInterface *child(int) const override { return nullptr; }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+    [[nodiscard]] QString text(QAccessible::Text) const override { return {}; }
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Client; }
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.invisible = true;
+        return state;
+    }
+};
+
+// Qt's own interface of an item, which is found when this factory has none; it is the last one that comes into Qt's
+// cache for an item that is found there.
+QAccessibleInterface *itemInterface(QQuickWidget *scene, QQuickItem *item)
+{
+    static bool isAskingQt = false;
+    if (isAskingQt)
+        return nullptr;
+    isAskingQt = true;
+    QAccessibleInterface *inner = QAccessible::queryAccessibleInterface(item);
+    isAskingQt = false;
+    return inner ? new SceneItemAccessibility(scene, inner) : nullptr;
+}
+
+// What it returns is owned by Qt's cache of interfaces.
 QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
     if (auto *scene = qobject_cast<QQuickWidget *>(object))
-        return new SceneAccessibility(scene); // owned by Qt's cache of interfaces, as is the other
-    const auto *window = qobject_cast<QQuickWindow *>(object);
-    QQuickWidget *scene = window ? sceneOf(window) : nullptr;
-    return scene ? new SceneWindowAccessibility(scene) : nullptr;
+        return new SceneAccessibility(scene);
+    if (auto *window = qobject_cast<QQuickWindow *>(object))
+        return sceneOf(window) ? new HiddenWindow(window) : nullptr;
+    auto *item = qobject_cast<QQuickItem *>(object);
+    QQuickWidget *scene = item ? sceneOf(item) : nullptr;
+    return scene ? itemInterface(scene, item) : nullptr;
 }
 
 // Keeps the invisible window where the scene is seen when the window around it moves, which the widget is not told:
@@ -52,16 +104,12 @@ private:
     QQuickWidget *m_scene;
 };
 
-QAccessibleInterface *focusedItem(const QQuickWidget *scene)
-{
-    QQuickItem *item = scene->hasFocus() ? scene->quickWindow()->activeFocusItem() : nullptr;
-    return item ? QAccessible::queryAccessibleInterface(item) : nullptr;
-}
-
 } // namespace
 
 void SceneAccessibility::install(QQuickWidget *scene)
 {
+    // Qt Quick's own interfaces come with its first import, and what comes last is asked first.
+    QQmlComponent(scene->engine()).setData("import QtQuick 2.2; Item {}", QUrl());
     QAccessible::installFactory(makeInterface); // once, however often it is called
     new PlaceKeeper(scene);                     // owned by the scene
 }
@@ -76,9 +124,15 @@ QQuickWidget *SceneAccessibility::scene() const
     return static_cast<QQuickWidget *>(widget());
 }
 
+int SceneAccessibility::childCount() const
+{
+    return child(0) ? 1 : 0;
+}
+
 QAccessibleInterface *SceneAccessibility::child(int index) const
 {
-    return index == 0 ? QAccessible::queryAccessibleInterface(scene()->quickWindow()) : nullptr;
+    QQuickItem *root = index == 0 ? scene()->rootObject() : nullptr;
+    return root ? QAccessible::queryAccessibleInterface(root) : nullptr;
 }
 
 int SceneAccessibility::indexOfChild(const QAccessibleInterface *child) const
@@ -93,70 +147,6 @@ QAccessibleInterface *SceneAccessibility::childAt(int x, int y) const
 
 QAccessibleInterface *SceneAccessibility::focusChild() const
 {
-    return focusedItem(scene());
-}
-
-SceneWindowAccessibility::SceneWindowAccessibility(QQuickWidget *scene)
-    : QAccessibleObject(scene->quickWindow())
-{
-}
-
-QQuickWidget *SceneWindowAccessibility::scene() const
-{
-    const auto *window = qobject_cast<QQuickWindow *>(QAccessibleObject::object());
-    return window ? sceneOf(window) : nullptr;
-}
-
-QAccessibleInterface *SceneWindowAccessibility::sceneRoot() const
-{
-    QQuickItem *root = scene() ? scene()->rootObject() : nullptr;
-    return root ? QAccessible::queryAccessibleInterface(root) : nullptr;
-}
-
-QAccessibleInterface *SceneWindowAccessibility::parent() const
-{
-    return scene() ? QAccessible::queryAccessibleInterface(scene()) : nullptr;
-}
-
-int SceneWindowAccessibility::childCount() const
-{
-    return sceneRoot() ? 1 : 0;
-}
-
-QAccessibleInterface *SceneWindowAccessibility::child(int index) const
-{
-    return index == 0 ? sceneRoot() : nullptr;
-}
-
-int SceneWindowAccessibility::indexOfChild(const QAccessibleInterface *child) const
-{
-    return child && child == sceneRoot() ? 0 : -1;
-}
-
-QAccessibleInterface *SceneWindowAccessibility::childAt(int x, int y) const
-{
-    return rect().contains(x, y) ? sceneRoot() : nullptr;
-}
-
-QAccessibleInterface *SceneWindowAccessibility::focusChild() const
-{
-    return scene() ? focusedItem(scene()) : nullptr;
-}
-
-QString SceneWindowAccessibility::text(QAccessible::Text) const
-{
-    return {};
-}
-
-QRect SceneWindowAccessibility::rect() const
-{
-    return scene() ? QRect(scene()->mapToGlobal({0, 0}), scene()->size()) : QRect();
-}
-
-QAccessible::State SceneWindowAccessibility::state() const
-{
-    QAccessible::State state;
-    state.invisible = !scene() || !scene()->isVisible();
-    state.active = scene() && scene()->isActiveWindow();
-    return state;
+    QQuickItem *item = scene()->hasFocus() ? scene()->quickWindow()->activeFocusItem() : nullptr;
+    return item ? QAccessible::queryAccessibleInterface(item) : nullptr;
 }

@@ -66,8 +66,8 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     engine()->addImageProvider(QStringLiteral("file-cover"), covers);
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
     LineSpacing::registerType();
-    setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     SceneAccessibility::install(this);
+    setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     if (rootObject())
         rootObject()->setProperty("qtVersion", qtVersion);
 }
