@@ -57,15 +57,6 @@ FocusScope {
         }
     }
 
-    MouseArea {
-        id: mouseArea
-
-        anchors.fill: parent
-        hoverEnabled: true
-        cursorShape: Qt.IBeamCursor
-        onPressed: input.forceActiveFocus()
-    }
-
     TextInput {
         id: input
 
@@ -83,7 +74,8 @@ FocusScope {
         selectedTextColor: appPalette.highlightedText
         font.pixelSize: Measures.fieldFont
 
-        onActiveFocusChanged: activeFocus ? selectAll() : deselect()
+        // The Tab key selects the whole text, a click puts the cursor where it went.
+        onActiveFocusChanged: activeFocus && !mouseArea.pressing ? selectAll() : deselect()
         Keys.onReturnPressed: field.confirm()
         Keys.onEnterPressed: field.confirm()
         Keys.onEscapePressed: {
@@ -120,6 +112,22 @@ FocusScope {
         font { pixelSize: Measures.smallFont; italic: true }
         color: appPalette.text
         opacity: Measures.quieter
+    }
+
+    MouseArea {
+        id: mouseArea
+
+        property bool pressing: false
+
+        anchors.fill: parent
+        hoverEnabled: true
+        cursorShape: Qt.IBeamCursor
+        onPressed: {
+            pressing = true;
+            input.forceActiveFocus();
+            pressing = false;
+            mouse.accepted = false; // the rest is the input's
+        }
     }
 
     FocusRing {

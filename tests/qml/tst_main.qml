@@ -170,7 +170,7 @@ Item {
             tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
             root.editLyrics();
             mainWindow.lyricsEdit.text = "draft";
-            mouseClick(findChild(root, "artistField"));
+            findChild(root, "artistField").forceActiveFocus();
             keyClick(Qt.Key_Z);
             root.forceSearch();
             verify(!mainWindow.lyricsEdit.active);
