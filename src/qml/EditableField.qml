@@ -78,6 +78,8 @@ FocusScope {
         onActiveFocusChanged: activeFocus && !mouseArea.pressing ? selectAll() : deselect()
         Keys.onReturnPressed: field.confirm()
         Keys.onEnterPressed: field.confirm()
+        // Before the window's own use of Escape.
+        Keys.onShortcutOverride: event.accepted = field.pending && event.key === Qt.Key_Escape
         Keys.onEscapePressed: {
             event.accepted = field.pending;
             field.restore();

@@ -158,7 +158,7 @@ Item {
     Text {
         id: word
 
-        anchors { right: light.left; rightMargin: 6; verticalCenter: light.verticalCenter }
+        anchors { right: light.left; rightMargin: light.width > 0 ? 6 : 0; verticalCenter: light.verticalCenter }
         width: Math.min(implicitWidth, (row.width - Measures.textColumn) / 2)
         text: state.word
         textFormat: Text.PlainText

@@ -22,7 +22,9 @@ Rectangle {
         songs.takeFocus();
     }
 
-    color: appPalette.listBackground
+    // Another colour node, to the eye the same, whenever the scroll bar goes: the software renderer does not paint over
+    // what is left of it by itself.
+    color: songs.hasScrollBar ? appPalette.listBackground : Qt.tint(appPalette.listBackground, "#01808080")
 
     InfoBar {
         id: scanningBar

@@ -39,7 +39,8 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Measures.radius + 2
-        color: appPalette.base
+        // For the reason that the list's background has.
+        color: words.hasScrollBar ? appPalette.base : Qt.tint(appPalette.base, "#01808080")
     }
 
     Item {

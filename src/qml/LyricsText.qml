@@ -14,6 +14,7 @@ ScrollView {
     property int fontSize: 12
     property string label: qsTr("Lyrics")
     readonly property alias area: area
+    readonly property bool hasScrollBar: __verticalScrollBar.visible
 
     // The user changed the text.
     signal edited(string text)

@@ -25,8 +25,8 @@ ScrollViewStyle {
         Rectangle {
             anchors { fill: parent; margins: 2 }
             radius: width / 2
-            color: handleColor
-            opacity: (styleData.hovered || styleData.pressed ? 3 : 1.5) * Measures.hairlineStrength
+            color: Qt.rgba(handleColor.r, handleColor.g, handleColor.b,
+                           (styleData.hovered || styleData.pressed ? 3 : 1.5) * Measures.hairlineStrength)
         }
     }
 }

@@ -8,6 +8,7 @@ ScrollView {
     id: songList
 
     readonly property alias count: list.count
+    readonly property bool hasScrollBar: __verticalScrollBar.visible
 
     signal removeSelectedRequested()
     // row: -1 beside all rows; x and y: where, in the scene's coordinates.

@@ -77,6 +77,7 @@ private slots:
     void cleanup();
     void theSceneShowsTheSongs();
     void theKeyboardReachesListAndLyrics();
+    void keysOfTheEditWorkFromTheList();
     void theStatusBarSaysWhatIsGoingOn();
     void noticesStandSideBySide();
     void geometryAndPaneComeBack_data();
@@ -232,6 +233,24 @@ void tst_MainWindow::theKeyboardReachesListAndLyrics()
     QTest::keyClick(scene, Qt::Key_Down);
     QCOMPARE(list->property("currentIndex").toInt(), 1);
     QCOMPARE(top(), atBeginning); // another song begins at its beginning
+}
+
+void tst_MainWindow::keysOfTheEditWorkFromTheList()
+{
+    m_model->add({sample("lyrics.mp3")});
+    QTRY_COMPARE(m_model->itemAt(0)->processState(), ModelItem::ProcessComplete);
+    const LyricsEdit *edit = m_window->lyricsEdit();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_F2);
+    QTRY_VERIFY(edit->active());
+    QQuickItem *field = sceneItem(QStringLiteral("titleField"));
+    field->forceActiveFocus();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_X);
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    QVERIFY(edit->active()); // the first Escape was the field's
+    QVERIFY(!field->property("pending").toBool());
+    sceneItem(QStringLiteral("songList"))->forceActiveFocus();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    QVERIFY(!edit->active());
 }
 
 void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
