@@ -30,9 +30,12 @@ class RecoveryTest(unittest.TestCase):
         self.xdotool("keyup", "shift")
         return program
 
+    def visible(self, title):
+        return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+
     def window(self, title):
         """Waits for the window with this title and gives it the keyboard."""
-        shown = rig.wait_until(lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"), STARTED_SECONDS)
+        shown = rig.wait_until(lambda: self.visible(title), STARTED_SECONDS)
         self.assertTrue(shown, f'no window "{title}"' + self.session.messages())
         self.xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowfocus", "--sync")
 
@@ -41,6 +44,7 @@ class RecoveryTest(unittest.TestCase):
         self.xdotool("key", "space")
         self.window("Clear settings")
         self.xdotool("key", "alt+y")
+        self.assertTrue(rig.wait_until(lambda: not self.visible("Clear settings"), STARTED_SECONDS), "Yes was not taken")
         self.window("OpenGL settings")
         self.xdotool("key", "Return")
         self.assertEqual(first.wait(STARTED_SECONDS), 2, self.session.messages())
