@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+Q_DECLARE_METATYPE(ProxyConfiguration)
+
 class tst_ProxyConfiguration : public QObject
 {
     Q_OBJECT
@@ -49,8 +51,6 @@ private slots:
         QCOMPARE(made.password(), expected.password());
     }
 };
-
-Q_DECLARE_METATYPE(ProxyConfiguration)
 
 QTEST_GUILESS_MAIN(tst_ProxyConfiguration)
 #include "tst_proxyconfiguration.moc"

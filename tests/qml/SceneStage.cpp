@@ -21,6 +21,7 @@ static void initSceneResources()
 SceneStage::SceneStage()
     : m_edit(&m_model)
 {
+    m_model.setReaderProgram(QStringLiteral(VERSEWELL_READER));
     m_proxy.setSourceModel(&m_model);
     m_scanner.setTypes({QStringLiteral("mp3")});
 }

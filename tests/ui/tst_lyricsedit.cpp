@@ -34,6 +34,7 @@ void tst_LyricsEdit::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_model = std::make_unique<MainModel>();
+    m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
     QList<QUrl> urls;
     for (const QString &name : {QStringLiteral("a.mp3"), QStringLiteral("b.mp3")}) {
         QVERIFY(QFile::copy(QStringLiteral(VERSEWELL_SAMPLES_DIR "/untagged.mp3"), m_folder->filePath(name)));
@@ -127,6 +128,7 @@ void tst_LyricsEdit::aSavedDraftReachesTheFile()
     QCOMPARE(song(0)->processState(), ModelItem::ProcessWritingTags);
     QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
     MainModel again;
+    again.setReaderProgram(QStringLiteral(VERSEWELL_READER));
     again.add({song(0)->url()});
     QTRY_COMPARE(again.itemAt(0)->lyricsTag(), QStringLiteral("words of my own"));
 }
