@@ -51,6 +51,8 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
     window.show();
     if (const SettingsMending mending = app.settingsMending(); mending.damaged)
         window.showSettingsDamaged(mending.copy);
+    else if (mending.unreadable || !app.areSettingsStored())
+        window.showSettingsUnreadable();
     if (const tags::MendedSaves mended = app.mendedSaves(); !mended.isEmpty())
         window.showSavesMended(mended.restored, mended.kept);
     return Application::exec();

@@ -520,7 +520,7 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
                                      const QString &errorString)
 {
     ModelItem *item = m_items.find(id);
-    if (!item) {
+    if (m_overruled.remove(id) || !item) {
         feedSearches();
         return;
     }
@@ -545,6 +545,8 @@ bool MainModel::writeTags(quint16 id)
     ModelItem *item = m_items.find(id);
     if (!item || item->unreadable())
         return false;
+    if (item->processState() == ModelItem::ProcessWorking)
+        m_overruled.insert(id);
     startWriting(item);
     return true;
 }

@@ -187,9 +187,11 @@ private:
     int m_activeCount = 0;
     MediaInfoExtractor m_tagReader;
     QVector<quint16> m_readsInFlight;
-    int m_currentRead = noRead;             // id of the newest request while it is unanswered
-    WorkQueue m_unread;                     // tags not loaded and no read in flight
-    WorkQueue m_searchable;                 // waiting, with tags loaded
+    int m_currentRead = noRead; // id of the newest request while it is unanswered
+    WorkQueue m_unread;         // tags not loaded and no read in flight
+    WorkQueue m_searchable;     // waiting, with tags loaded
+    // Searched for while the user's own lyrics were written: what the search finds must not replace those.
+    QSet<quint16> m_overruled;
     QHash<quint16, int> m_writes;           // id to number of writes under way
     QHash<quint16, QString> m_failedWrites; // id to reason, until their end is reported
     QHash<quint16, QString> m_unsaved;      // id to reason

@@ -15,6 +15,7 @@
 #include "ui/LyricsEditGuard.h"
 #include "ui/LyricsExport.h"
 #include "ui/MakerSite.h"
+#include "ui/SettingsDialog.h"
 #include "ui/StatusLine.h"
 #include "ui/WindowActions.h"
 
@@ -25,11 +26,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMessageBox>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 
+#include <algorithm>
 #include <limits>
+#include <optional>
 
 static bool isId(int number)
 {
@@ -56,7 +60,6 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     setWindowTitle(QStringLiteral("Versewell"));
     setMinimumSize(480, 320);
     resize(1040, 680);
-    m_actions->settings->setEnabled(false); // there is no dialog of preferences yet
     setUpLinks();
     setCentralWidget(m_scene.get());
     m_scene->setFocus();
@@ -122,6 +125,7 @@ void MainWindow::connectModels()
     onProxyShowFoundChanged(m_parts.proxyModel->showFound());
     connect(m_parts.mainModel, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
     connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
+    connect(m_parts.folderScanner, &FolderScanner::filesLeftOut, m_status, &StatusLine::addUnusableNames);
     connect(m_parts.mainModel, &MainModel::writesFailed, m_status, &StatusLine::showWritesFailed);
     connect(m_export, &LyricsExport::finished, m_status, &StatusLine::showExported);
     connect(m_parts.proxyModel, &ProxyModel::selectedCountChanged, this, &MainWindow::updateActions);
@@ -167,6 +171,11 @@ void MainWindow::updateStatusLabel()
 void MainWindow::showSettingsDamaged(const QString &copy)
 {
     m_status->showSettingsDamaged(copy);
+}
+
+void MainWindow::showSettingsUnreadable()
+{
+    m_status->showSettingsUnreadable();
 }
 
 void MainWindow::showSavesMended(const QStringList &restored, const QStringList &kept)
@@ -229,21 +238,61 @@ void MainWindow::onProxyShowFoundChanged(bool showFound)
 
 void MainWindow::removeSelected()
 {
-    const auto remove = [this] {
-        m_parts.proxyModel->removeSelected();
+    const QVector<quint16> ids = m_parts.proxyModel->selectedIds();
+    const auto remove = [this, ids] {
+        beforeLosing(unsavedAmong(ids), [this] {
+            m_parts.proxyModel->removeSelected();
+            selectCurrent();
+        });
     };
-    m_parts.proxyModel->selectedIds().contains(m_lyricsEdit->songId()) ? m_editGuard->before(remove) : remove();
+    ids.contains(m_lyricsEdit->songId()) ? m_editGuard->before(remove) : remove();
+}
+
+// The song that takes the place of the removed ones is shown, so that the next Del goes on with it.
+void MainWindow::selectCurrent()
+{
+    const int row = m_parts.proxyModel->currentIndex();
+    m_parts.proxyModel->setCurrentIndex(-1); // a row that is current already would not be selected
+    m_parts.proxyModel->setCurrentIndex(row);
+}
+
+int MainWindow::unsavedAmong(const QVector<quint16> &ids) const
+{
+    return static_cast<int>(
+        std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_parts.mainModel->hasUnsavedLyrics(id); }));
+}
+
+// Lyrics that could not be written stand in the list only; they are given up after a question.
+void MainWindow::beforeLosing(int unsaved, const std::function<void()> &action)
+{
+    if (unsaved == 0) {
+        action();
+        return;
+    }
+    auto *box = new QMessageBox(
+        QMessageBox::Warning, QString(),
+        tr("The lyrics of %n song(s) could not be written and stand in the list only.", nullptr, unsaved),
+        QMessageBox::Discard | QMessageBox::Cancel, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(tr("Do you want to give them up?"));
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(box, &QMessageBox::finished, this, [action](int answer) {
+        if (answer == QMessageBox::Discard)
+            action();
+    });
+    box->open();
 }
 
 void MainWindow::clearList()
 {
-    m_editGuard->before([this] { m_parts.proxyModel->removeAll(); });
+    m_editGuard->before(
+        [this] { beforeLosing(m_parts.mainModel->unsavedCount(), [this] { m_parts.proxyModel->removeAll(); }); });
 }
 
 void MainWindow::on_actionRemoveWithLyrics_triggered()
 {
     const auto remove = [this] {
-        m_parts.mainModel->removeWithLyrics();
+        beforeLosing(m_parts.mainModel->unsavedCount(), [this] { m_parts.mainModel->removeWithLyrics(); });
     };
     const ModelItem *edited = m_lyricsEdit->song();
     edited && !edited->lyricsTag().isEmpty() ? m_editGuard->before(remove) : remove();
@@ -339,6 +388,13 @@ void MainWindow::on_actionAbout_triggered()
     dialog->open();
 }
 
+void MainWindow::on_actionSettings_triggered()
+{
+    auto *dialog = new SettingsDialog(m_parts.settings, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
 // Quitting
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -351,7 +407,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::quit_app()
 {
     if (!m_quitting)
-        m_editGuard->before([this] { askToQuit(); });
+        m_editGuard->before([this] { beforeLosing(m_parts.mainModel->unsavedCount(), [this] { askToQuit(); }); });
 }
 
 void MainWindow::askToQuit()
@@ -389,7 +445,8 @@ void MainWindow::onRestoreGeometry()
 {
     const QSettings store;
     restoreGeometry(storedValue(store, SettingsKey::Geometry).toByteArray());
-    m_scene->setListWidth(storedValue(store, SettingsKey::ListWidth).toInt());
+    if (const std::optional<int> width = storedListWidth(store))
+        m_scene->setListWidth(*width);
 }
 
 QStringList MainWindow::fileUrls() const
@@ -402,12 +459,12 @@ QStringList MainWindow::fileUrls() const
 
 void MainWindow::saveState() const
 {
-    m_parts.settings->save();
     SettingsChange change;
+    m_parts.settings->addTo(&change);
     change.set(SettingsKey::Geometry, saveGeometry());
     if (m_scene->listWidth() > 0)
         change.set(SettingsKey::ListWidth, m_scene->listWidth());
-    if (m_parts.settings->saveFilesList())
+    if (m_parts.settings->keepsFilesList())
         change.set(SettingsKey::FilesList, fileUrls());
     change.commit();
 }

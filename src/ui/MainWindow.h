@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class AppPalette;
@@ -87,9 +88,12 @@ public slots:
     void quit_app_force();
     void on_actionAbout_triggered();
     void on_actionWebsite_triggered();
+    void on_actionSettings_triggered();
     // Says in the status line that the settings file was damaged. `copy` is the path of the damaged file as it was;
     // empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
+    // Says that no settings can be read or stored.
+    void showSettingsUnreadable();
     // Songs whose save was cut off: those that are again as they were, and copies of those that had been replaced.
     void showSavesMended(const QStringList &restored, const QStringList &kept);
 
@@ -109,6 +113,9 @@ private:
     void updateActions();
     void searchInBrowser(const ModelItem *item);
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
+    void selectCurrent();
+    [[nodiscard]] int unsavedAmong(const QVector<quint16> &ids) const;
+    void beforeLosing(int unsaved, const std::function<void()> &action);
     void askToQuit();
     [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;

@@ -55,6 +55,18 @@ void StatusLine::showSettingsDamaged(const QString &copy)
     showNotice(SettingsDamaged, text);
 }
 
+void StatusLine::showSettingsUnreadable()
+{
+    showNotice(SettingsUnreadable, tr("The settings cannot be read or stored; changes last for this run only."));
+}
+
+void StatusLine::addUnusableNames(int count)
+{
+    m_unusableNames += count;
+    showNotice(UnusableNames,
+               tr("Files left out, since their names are damaged or too long: %n", nullptr, m_unusableNames));
+}
+
 void StatusLine::addFilesLeftOut(int count)
 {
     m_filesLeftOut += count;
@@ -141,6 +153,8 @@ void StatusLine::dismiss(Notice notice)
     remove(notice);
     if (notice == FilesLeftOut)
         m_filesLeftOut = 0;
+    else if (notice == UnusableNames)
+        m_unusableNames = 0;
 }
 
 void StatusLine::addButton(QAction *action)

@@ -32,6 +32,9 @@ public:
 public slots:
     // `copy` is the path of the damaged file as it was; empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
+    void showSettingsUnreadable();
+    // Files that a scan left out because of their names. Counts on until the notice is dismissed.
+    void addUnusableNames(int count);
     // Paths of songs that are again as before a save that was cut off, and of copies that were kept.
     void showSavesMended(const QStringList &restored, const QStringList &kept);
     // How many songs could not be written for this reason.
@@ -43,7 +46,15 @@ public slots:
 
 private:
     // Each kind has a place of its own, so that none overwrites another one.
-    enum Notice { SettingsDamaged, FilesLeftOut, SavesMended, WritesFailed, LyricsExported };
+    enum Notice {
+        SettingsDamaged,
+        SettingsUnreadable,
+        FilesLeftOut,
+        UnusableNames,
+        SavesMended,
+        WritesFailed,
+        LyricsExported
+    };
 
     void showNotice(Notice notice, const QString &text);
     void showNoticeBriefly(Notice notice, const QString &text);
@@ -57,5 +68,6 @@ private:
     int m_left = 0;
     int m_done = 0; // since no search was left
     int m_filesLeftOut = 0;
+    int m_unusableNames = 0;
     QMap<Notice, QWidget *> m_notices;
 };

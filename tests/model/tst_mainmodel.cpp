@@ -283,6 +283,22 @@ private slots:
         QCOMPARE(stage.model.itemAt(1)->lyricsTag(), QStringLiteral("la"));
     }
 
+    void wordsTypedDuringASearchStay()
+    {
+        Stage stage({{QStringLiteral("Song"), QStringLiteral("found")}});
+        stage.model.setAutoStart(false);
+        stage.model.add({stage.song(QStringLiteral("A - Song.mp3"))});
+        QTRY_VERIFY(stage.isLoaded(0));
+        QVERIFY(stage.model.startSearch(1));
+        QCOMPARE(stage.state(0), ModelItem::ProcessWorking);
+        stage.model.itemAt(0)->setEditedLyricsTag(QStringLiteral("typed"));
+        QVERIFY(stage.model.writeTags(1));
+        QTRY_VERIFY(stage.search.searchCount() == 0 && stage.isSettled());
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("typed"));
+        QVERIFY(stage.model.startSearch(1)); // what is searched for later counts again
+        QTRY_COMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("found"));
+    }
+
     void theLastOfTwoWritesCounts()
     {
         Stage stage;

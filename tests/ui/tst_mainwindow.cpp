@@ -608,6 +608,7 @@ void tst_MainWindow::aDraftIsAskedAbout()
     answer(QMessageBox::Save);
     QTRY_COMPARE(m_model->itemAt(1)->processState(), ModelItem::ProcessComplete);
     MainModel again;
+    again.setReaderProgram(QStringLiteral(VERSEWELL_READER));
     again.add({url});
     QTRY_COMPARE(again.itemAt(0)->lyricsTag(), QStringLiteral("new"));
 }

@@ -76,7 +76,7 @@ private:
     void press(const char *name) const;
     void finish(QDialogButtonBox::StandardButton button) const;
     void showTab(int index) const { find<QTabWidget>("tabWidget")->setCurrentIndex(index); }
-    // "First, Second off, Third"
+    // "LyricsFreak, Genius off, ..."
     QString sites() const;
 
     QTemporaryDir m_settingsFolder;
@@ -102,7 +102,8 @@ void tst_SettingsDialog::init()
         return slow;
     });
     m_settings = std::make_unique<Settings>();
-    m_settings->setProvidersOrder(QStringLiteral("LyricsFreak;;Second::0;;Third"));
+    m_settings->setProvidersOrder(
+        QStringLiteral("LyricsFreak;;Genius::0;;Megalyrics;;AZLyrics;;DarkLyrics;;MusixMatch"));
 }
 
 void tst_SettingsDialog::cleanup()
@@ -181,7 +182,7 @@ void tst_SettingsDialog::whatIsTypedIsStored()
     expected.setProxyAuthentication(true);
     expected.setProxyUsername(QStringLiteral("nora"));
     expected.setProxyPassword(QStringLiteral(" p:%41;@ "));
-    expected.setProvidersOrder(QStringLiteral("LyricsFreak;;Second::0;;Third"));
+    expected.setProvidersOrder(QStringLiteral("LyricsFreak;;Genius::0;;Megalyrics;;AZLyrics;;DarkLyrics;;MusixMatch"));
     QCOMPARE(valuesOf(*m_settings), valuesOf(expected));
     QCOMPARE(proxyChanges.size(), 6);
 }
@@ -251,15 +252,20 @@ void tst_SettingsDialog::sitesAreMovedAndSwitched()
     press("btnDown");
     press("btnDown");
     QCOMPARE(list->currentRow(), 2);
+    list->setCurrentRow(5);
     QVERIFY(find<QPushButton>("btnUp")->isEnabled() && !find<QPushButton>("btnDown")->isEnabled());
+    list->setCurrentRow(2);
     press("btnUp");
     press("btnEnable");
-    QCOMPARE(sites(), QStringLiteral("Second off, LyricsFreak off, Third"));
+    QCOMPARE(sites(), QStringLiteral("Genius off, LyricsFreak off, Megalyrics, AZLyrics, DarkLyrics, MusixMatch"));
     QCOMPARE(find<QPushButton>("btnEnable")->text(), QStringLiteral("Enable"));
     QCOMPARE(changes.size(), 4);
     QCOMPARE(warning->text(), QString());
-    list->setCurrentRow(2);
-    QTest::keyClick(list, Qt::Key_Space);
+    for (int row = 2; row < 6; ++row) {
+        QCOMPARE(warning->text(), QString());
+        list->setCurrentRow(row);
+        QTest::keyClick(list, Qt::Key_Space);
+    }
     QCOMPARE(warning->text(), QStringLiteral("Warning!!! You have disabled all sources."));
     QCOMPARE(warning->styleSheet(), QStringLiteral("color: red"));
     press("btnEnable");
@@ -269,7 +275,8 @@ void tst_SettingsDialog::sitesAreMovedAndSwitched()
         QVERIFY(!find<QPushButton>(name)->isEnabled());
     press("btnUp");
     finish(QDialogButtonBox::Ok);
-    QCOMPARE(m_settings->providersOrder(), QStringLiteral("Second::0;;LyricsFreak::0;;Third"));
+    QCOMPARE(m_settings->providersOrder(),
+             QStringLiteral("Genius::0;;LyricsFreak::0;;Megalyrics::0;;AZLyrics::0;;DarkLyrics::0;;MusixMatch"));
 }
 
 void tst_SettingsDialog::sitesAreDragged()
@@ -296,21 +303,22 @@ void tst_SettingsDialog::sitesAreDragged()
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(from));
     for (int y = 5; y < 40; y += 5)
         QTest::mouseMove(window, inWindow(from + QPoint(0, y)));
-    QTRY_COMPARE(sites(), QStringLiteral("Second off, Third, LyricsFreak"));
+    QTRY_COMPARE(sites(), QStringLiteral("Genius off, Megalyrics, AZLyrics, LyricsFreak, DarkLyrics, MusixMatch"));
     QVERIFY(changes.size() > 0);
-    QCOMPARE(list->count(), 3);
+    QCOMPARE(list->count(), 6);
 }
 
 void tst_SettingsDialog::ordersAreReadAndCompleted_data()
 {
     QTest::addColumn<QString>("order");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("empty") << ""
-                           << "LyricsFreak";
-    QTest::newRow("a site that is not mentioned") << "Third::0"
-                                                  << "Third off, LyricsFreak";
-    QTest::newRow("spelled otherwise") << " lyricsfreak ::0;;;;Third::1"
-                                       << "lyricsfreak off, Third";
+    QTest::newRow("empty") << QString() << "LyricsFreak, Genius, Megalyrics, AZLyrics, DarkLyrics, MusixMatch";
+    QTest::newRow("sites that are not mentioned")
+        << "Third::0;;Genius"
+        << "Third off, Genius, LyricsFreak, Megalyrics, AZLyrics, DarkLyrics, MusixMatch";
+    QTest::newRow("spelled otherwise")
+        << " lyricsfreak ::0;;;;Third::1"
+        << "lyricsfreak off, Third, Genius, Megalyrics, AZLyrics, DarkLyrics, MusixMatch";
 }
 
 void tst_SettingsDialog::ordersAreReadAndCompleted()

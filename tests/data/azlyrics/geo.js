@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // form helper, generated
 (function () {
   var forms = document.querySelectorAll("form.search");
