@@ -3,8 +3,11 @@
 #include "Table.h"
 
 #include "lyrics/providers/AZLyricsProvider.h"
+#include "lyrics/providers/DarkLyricsProvider.h"
+#include "lyrics/providers/GeniusProvider.h"
 #include "lyrics/providers/LyricsFreakProvider.h"
 #include "lyrics/providers/MegaLyricsProvider.h"
+#include "lyrics/providers/MusixMatchProvider.h"
 
 #include <algorithm>
 #include <vector>
@@ -88,6 +91,65 @@ std::vector<HostilePage> azLyricsPages()
     };
 }
 
+std::vector<HostilePage> geniusPages()
+{
+    const auto search = [](const Page &page) {
+        return GeniusProvider::songPath(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
+    };
+    const auto song = [](const Page &page) {
+        return hasLyrics(GeniusProvider::lyricsRequestFinished(page));
+    };
+    const QString answer = QStringLiteral(R"({"meta":{"status":200},"response":{"sections":[{"type":"song","hits":[)");
+    const QString container = QStringLiteral("<div class=\"Lyrics__Container\">");
+    return {
+        {"Genius, hits without an address", answer, QStringLiteral(R"({"type":"song","result":{"_type":"song"}},)"),
+         QStringLiteral("0]}]}}"), search},
+        {"Genius, older blocks not closed", {}, QStringLiteral("<div class=\"lyrics\">"), {}, song},
+        {"Genius, containers not closed", {}, container, {}, song},
+        {"Genius, empty containers", {}, container + QStringLiteral("</div>"), {}, song},
+    };
+}
+
+std::vector<HostilePage> darkLyricsPages()
+{
+    const auto search = [](const Page &page) {
+        return DarkLyricsProvider::songLink(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
+    };
+    const auto song = [](const Page &page) {
+        return hasLyrics(DarkLyricsProvider::lyricsRequestFinished(page));
+    };
+    const QString content = QStringLiteral("<div class='cntwrap'><h3>Songs:</h3>");
+    const QString end = QStringLiteral("</div>");
+    return {
+        {"DarkLyrics, links to other songs", content, QStringLiteral("<h2><a x href=\"x\" x>x</a>"), end, search},
+        {"DarkLyrics, addresses without an end", content, QStringLiteral("<h2><a x href=\"x"), end, search},
+        {"DarkLyrics, headings", content, QStringLiteral("<h3>x</h3>"), end, song},
+        {"DarkLyrics, wrappers not closed", {}, QStringLiteral("<div class='cntwrap'>"), {}, song},
+    };
+}
+
+std::vector<HostilePage> musixMatchPages()
+{
+    const auto search = [](const Page &page) {
+        return MusixMatchProvider::trackLink(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
+    };
+    const auto song = [](const Page &page) {
+        const auto step = MusixMatchProvider::lyricsOfBlock(MusixMatchProvider::lyricsBlock(page.text));
+        return step && hasLyrics(*step);
+    };
+    const QString list = QStringLiteral("<ul class=\"tracks list thumb-list\">");
+    const QString block = QStringLiteral("<div class=\"mxm-lyrics\">");
+    const QString span = QStringLiteral("<span class=\"lyrics__content__ok\">");
+    return {
+        {"MusixMatch, other songs", list, QStringLiteral("<li x><a class=\"title\" href=\"/\">x</a></li>"),
+         QStringLiteral("</ul>"), search},
+        {"MusixMatch, anchors of one item", list + QStringLiteral("<li x>"),
+         QStringLiteral("<a class=\"title\" href=\"/\">"), QStringLiteral("</li></ul>"), search},
+        {"MusixMatch, parts not closed", block, span, QStringLiteral("</div>"), song},
+        {"MusixMatch, blocks not closed", {}, block, {}, song},
+    };
+}
+
 Page pageOf(const HostilePage &hostile, int size)
 {
     return {hostile.opening + hostile.piece.repeated(size / hostile.piece.size()) + hostile.closing, {}};
@@ -122,6 +184,7 @@ void printPage(const HostilePage &hostile)
 
 void benchPages()
 {
-    for (const auto &pages : {lyricsFreakPages(), megalyricsPages(), azLyricsPages()})
+    for (const auto &pages :
+         {lyricsFreakPages(), geniusPages(), megalyricsPages(), azLyricsPages(), darkLyricsPages(), musixMatchPages()})
         std::for_each(pages.begin(), pages.end(), printPage);
 }

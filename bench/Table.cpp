@@ -41,6 +41,11 @@ void BenchTable::printRow(const QString &name, int size, double seconds, double 
               QString::number(seconds / reference, 'f', 2), growth);
 }
 
+void BenchTable::printNote(const QString &note)
+{
+    out() << QStringLiteral("  ") << note << Qt::endl;
+}
+
 double secondsOf(const std::function<void()> &work)
 {
     QElapsedTimer timer;

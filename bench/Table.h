@@ -12,6 +12,8 @@ namespace BenchTable {
 void printHead();
 // `smaller` is the time of the same row with a `less`-th of the work; 0 when there is none.
 void printRow(const QString &name, int size, double seconds, double reference, double smaller = 0, double less = 0);
+// A line below the last row.
+void printNote(const QString &note);
 
 } // namespace BenchTable
 

@@ -86,3 +86,16 @@ the dotted line is where we were near,
 the blue is for water, the grey is for doubt,
 and the fold in the middle is where we fell out.""",
 }
+
+# The site that has a song; those that are not named are on LyricsFreak.
+SITE_OF = {
+    "Paper Boats": "Genius",
+    "Слово за слово": "Megalyrics",
+    "Seventh Street": "AZLyrics",
+    "Glass Mountain": "DarkLyrics",
+    "Undertow": "Genius",
+    "Second Kettle": "MusixMatch",
+    "Legend and Scale": "Megalyrics",
+}
+# Names as they stand in somebody's tags, and the right ones.
+CORRECTIONS = {("The Kartografers", "Legend and Scale"): [("The Cartographers", "Legend and Scale")]}

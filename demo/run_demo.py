@@ -16,8 +16,9 @@ import sys
 import songs
 import stage
 import tags
-from catalogue import LYRICS
-from sites import LyricsFreakSite, Sites
+from catalogue import CORRECTIONS, LYRICS, SITE_OF
+from server import Sites
+from sites import LYRICS_SITES, LastfmService
 
 TOP = pathlib.Path(__file__).resolve().parent.parent
 TIME_LIMIT_SECONDS = 90
@@ -32,6 +33,13 @@ def arguments():
     parser.add_argument("--keep", metavar="DIR", type=pathlib.Path, help="make the songs in DIR and leave them there")
     parser.add_argument("--screenshot", metavar="FILE", type=pathlib.Path, default=TOP / "build/demo.png")
     return parser.parse_args()
+
+
+def all_sites():
+    """Every site with its own songs, so that each has something to find, and the name service."""
+    def songs_on(site):
+        return {names: words for names, words in LYRICS.items() if SITE_OF.get(names[1], "LyricsFreak") == site}
+    return [*(site(songs_on(site.endpoints[0])) for site in LYRICS_SITES), LastfmService(CORRECTIONS)]
 
 
 def same_words(found, expected):
@@ -80,11 +88,11 @@ def verdict(song, found):
 
 
 def report(paths):
-    print(f"\n{'file':36} {'another reader finds':21} first line")
+    print(f"\n{'file':36} {'another reader finds':21} {'from':12} first line")
     for path, song in zip(paths, songs.SONGS):
         found = tags.lyrics_of(path)
         first = found.strip().splitlines()[0] if found else ""
-        print(f"{song.name:36} {verdict(song, found):21} {first}")
+        print(f"{song.name:36} {verdict(song, found):21} {song.site:12} {first}")
 
 
 def main():
@@ -100,7 +108,7 @@ def main():
     with contextlib.ExitStack() as stack:
         virtual = not (os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY"))
         screen = stack.enter_context(stage.Screen(SCREEN_SIZE)) if virtual else None
-        sites = stack.enter_context(Sites(LyricsFreakSite(LYRICS)))
+        sites = stack.enter_context(Sites(*all_sites()))
         place = stack.enter_context(stage.Stage(options.program, screen.display if screen else None))
         print("Making the songs...", flush=True)
         paths = songs.make_songs((options.keep or place.home / "Music").resolve())

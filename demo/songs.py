@@ -6,7 +6,7 @@ import tempfile
 
 import audio
 import tags
-from catalogue import LYRICS
+from catalogue import CORRECTIONS, LYRICS, SITE_OF
 
 ORANGE, BLUE, GREEN, VIOLET = "C8704A", "4A80C8", "5CA57C", "8A62BC"
 
@@ -27,7 +27,15 @@ class Song:
     @property
     def expected(self):
         """The lyrics that its tag holds in the end, None when there are none to find."""
-        return self.own_lyrics or LYRICS.get((self.artist, self.title)) if self.is_audio else None
+        if not self.is_audio or self.own_lyrics:
+            return self.own_lyrics or None
+        names = self.artist, self.title
+        return LYRICS.get(CORRECTIONS.get(names, [names])[0])
+
+    @property
+    def site(self):
+        """The site that has its lyrics; empty when none has or nobody asks."""
+        return SITE_OF.get(self.title, "LyricsFreak") if self.expected and not self.own_lyrics else ""
 
 
 SONGS = [
@@ -40,7 +48,7 @@ SONGS = [
     Song("Marl - Undertow.wma", "Marl", "Undertow", "Undertow", VIOLET),
     Song("café d'hiver.aiff", "Agnès Rivière", "Café d'hiver", "Comptoir", BLUE),
     Song("Nora Vale - Second Kettle.mp3", "Nora Vale", "Second Kettle", tagged=False),
-    Song("legend and scale.wav", "The Cartographers", "Legend and Scale", "Legend and Scale", GREEN),
+    Song("legend and scale.wav", "The Kartografers", "Legend and Scale", "Legend and Scale", GREEN),
     Song("03 - Windowsill.mp3", "Nora Vale", "Windowsill", "Paper Fleet", ORANGE,
          own_lyrics="A jar of pebbles, a jar of rain,\nI had these words before the train."),
     Song("Nobody Yet - Never Written.mp3", "Nobody Yet", "Never Written"),

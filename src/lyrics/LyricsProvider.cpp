@@ -2,6 +2,7 @@
 #include "lyrics/LyricsProvider.h"
 
 #include "lyrics/JunkCheck.h"
+#include "lyrics/LyricsLog.h"
 #include "lyrics/LyricsText.h"
 #include "network/AccessManager.h"
 #include "network/Redirects.h"
@@ -15,6 +16,19 @@ bool isFollowedRedirect(const QNetworkReply &reply)
 {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     return status == 301 || status == 307;
+}
+
+// For the log, and apart from each other there: whoever wonders why songs are not found must be able to tell a site
+// that has changed its pages from one that is down and from one that has no such song.
+const char *outcome(const ProviderStep &result, bool junk)
+{
+    if (junk)
+        return "gave a page that holds no lyrics";
+    if (!result.errorString().isEmpty())
+        return "did not answer";
+    if (!result.isUnderstood())
+        return "gave a page that was not understood";
+    return result.lyrics().isEmpty() ? "has no such song" : "has the lyrics";
 }
 
 } // namespace
@@ -142,7 +156,9 @@ void LyricsProvider::finish(const ProviderStep &result)
     m_errorString = result.errorString();
     m_busy = false;
     QString text = withoutBrokenCharacters(result.lyrics());
-    if (isJunk(text, result.markup())) {
+    const bool junk = isJunk(text, result.markup());
+    qCInfo(lyricsLog, "%s %s", qUtf8Printable(name()), outcome(result, junk));
+    if (junk) {
         m_errorString = tr("%1 gave a page that holds no lyrics.").arg(name());
         text.clear();
     }

@@ -22,9 +22,21 @@ ProviderStep ProviderStep::lyrics(const QString &text, const QString &markup)
     return step;
 }
 
-ProviderStep ProviderStep::cleanedLyrics(const QString &markup)
+ProviderStep ProviderStep::cleanedLyrics(const std::optional<QString> &markup)
 {
-    return lyrics(cleanLyrics(markup), markup);
+    return markup ? lyrics(cleanLyrics(*markup), *markup) : notUnderstood();
+}
+
+ProviderStep ProviderStep::notUnderstood()
+{
+    ProviderStep step;
+    step.m_understood = false;
+    return step;
+}
+
+ProviderStep ProviderStep::nothingOn(const Page &page, QLatin1String mark)
+{
+    return page.text.contains(mark) ? nothing() : notUnderstood();
 }
 
 ProviderStep ProviderStep::failure(const QString &reason)

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <optional>
 
 // A page as a site client reads it: the decoded text, up to the first NUL, and the address it came from, behind all
 // redirects and with the fragment that was asked for.
@@ -28,10 +29,15 @@ public:
     // Ends the search; an empty text means that nothing was found. `markup` is what a clean-up that strips tags made
     // the text of; it tells a script in the middle of the lyrics from words.
     static ProviderStep lyrics(const QString &text, const QString &markup = {});
-    // Ends the search with what cleanLyrics() makes of a fragment of HTML.
-    static ProviderStep cleanedLyrics(const QString &markup);
+    // Ends the search with what cleanLyrics() makes of a fragment of HTML; without one, as notUnderstood().
+    static ProviderStep cleanedLyrics(const std::optional<QString> &markup);
     // Ends the search: the site does not have the song.
     static ProviderStep nothing() { return lyrics({}); }
+    // Ends the search like nothing(); the log tells the two apart, since a site that has changed its pages looks as if
+    // it had no songs.
+    static ProviderStep notUnderstood();
+    // nothing() on a page that holds `mark`, as every page with results of this site does; else notUnderstood().
+    static ProviderStep nothingOn(const Page &page, QLatin1String mark);
     // Ends the search for a reason that people are told.
     static ProviderStep failure(const QString &reason);
 
@@ -41,6 +47,7 @@ public:
     [[nodiscard]] const QString &lyrics() const { return m_lyrics; }
     [[nodiscard]] const QString &markup() const { return m_markup; }
     [[nodiscard]] const QString &errorString() const { return m_errorString; }
+    [[nodiscard]] bool isUnderstood() const { return m_understood; }
 
 private:
     ProviderStep() = default;
@@ -50,4 +57,5 @@ private:
     QString m_lyrics;
     QString m_markup;
     QString m_errorString;
+    bool m_understood = true;
 };

@@ -16,7 +16,8 @@ READER = TOP / "tests" / "support" / "read-tags.py"
 
 import audio  # noqa: E402
 import tags  # noqa: E402
-from sites import LyricsFreakSite, Sites  # noqa: E402
+from server import Sites  # noqa: E402
+from sites import LyricsFreakSite  # noqa: E402
 from stage import Screen, Stage, end, wait_until  # noqa: E402
 
 PROGRAM = pathlib.Path(os.environ.get("VERSEWELL_PROGRAM", TOP / "build/release/bin/versewell"))
@@ -32,17 +33,18 @@ def words_for(title, plain=False):
 class Session:
     """One stage with a virtual screen and a lyrics site, and the program running on it now and then."""
 
-    def __init__(self, lyrics, site=LyricsFreakSite):
-        """lyrics: title -> words, or (artist, title) -> words."""
+    def __init__(self, lyrics, site=LyricsFreakSite, others=()):
+        """lyrics: title -> words, or (artist, title) -> words. `others`: more sites and services, ready made."""
         self.lyrics = {key if isinstance(key, tuple) else (ARTIST, key): text for key, text in lyrics.items()}
         self.site = site(self.lyrics)
+        self.others = others
 
     def __enter__(self):
         if not PROGRAM.is_file():
             raise FileNotFoundError(f"{PROGRAM} is not built")
         with contextlib.ExitStack() as stack:
             self.screen = stack.enter_context(Screen())
-            self.sites = stack.enter_context(Sites(self.site))
+            self.sites = stack.enter_context(Sites(self.site, *self.others))
             self.stage = stack.enter_context(Stage(PROGRAM, self.screen.display))
             self.music = self.stage.home / "music"
             self.music.mkdir()

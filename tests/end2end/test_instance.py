@@ -20,10 +20,10 @@ class PatientSite(rig.LyricsFreakSite):
         self.released = threading.Event()
         self.held = 0
 
-    def lyrics_page(self, names, words):
+    def song_page(self, number, names, words):
         self.held += 1
         self.released.wait(rig.TIME_LIMIT_SECONDS)
-        return super().lyrics_page(names, words)
+        return super().song_page(number, names, words)
 
 
 class InstanceTest(unittest.TestCase):

@@ -10,7 +10,7 @@ import urllib.parse
 import zlib
 
 import rig
-from sites import Answer
+from server import Answer
 
 SENTINEL = "Willow Fence"
 # Far above what the program needs, far below what inflating the bomb would take.

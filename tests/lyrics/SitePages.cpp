@@ -17,9 +17,9 @@ QString furniture()
 
 } // namespace
 
-QString sitePage(const QString &site, const QString &name)
+QString sitePage(const char *site, const char *name)
 {
-    QFile file(QStringLiteral(VERSEWELL_TEST_DATA_DIR "/%1/%2").arg(site, name));
+    QFile file(QStringLiteral(VERSEWELL_TEST_DATA_DIR "/%1/%2").arg(QLatin1String(site), QLatin1String(name)));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QString::fromUtf8(file.readAll()).replace(QStringLiteral("@FURNITURE@"), furniture());
@@ -35,4 +35,9 @@ QString harbourLights()
 QString repeated(const QString &piece, int size)
 {
     return piece.repeated(size / piece.size());
+}
+
+QString repeated(const char *piece, int size)
+{
+    return repeated(QString::fromUtf8(piece), size);
 }

@@ -7,14 +7,15 @@
 
 // tests/data/<site>/<name>, with menus, scripts and comments in place of "@FURNITURE@", as much as surrounds the lyrics
 // of a real page. Empty when there is no such file.
-[[nodiscard]] QString sitePage(const QString &site, const QString &name);
+[[nodiscard]] QString sitePage(const char *site, const char *name);
 
 // The lyrics of the song "Harbour Lights" by "Tin Lanterns", which the fixture pages of every site hold: entities,
 // several scripts, an emoji.
 [[nodiscard]] QString harbourLights();
 
-// `piece` again and again, up to `size` characters: a page that a site with bad intent could send.
-[[nodiscard]] QString repeated(const QString &piece, int size);
-
 // As many characters as the largest page that is read.
 constexpr int hostileSize = 1024 * 1024;
+
+// `piece` again and again, up to `size` characters: a page that a site with bad intent could send.
+[[nodiscard]] QString repeated(const QString &piece, int size = hostileSize);
+[[nodiscard]] QString repeated(const char *piece, int size = hostileSize);

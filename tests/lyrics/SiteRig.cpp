@@ -17,9 +17,9 @@ SiteRig::SiteRig(std::initializer_list<Endpoint> endpoints)
     reloadEndpoints();
 }
 
-void SiteRig::page(const QString &path, const QString &html)
+void SiteRig::page(const char *path, const QString &html)
 {
-    m_server.route(path, LoopbackResponse::page(html.toUtf8()));
+    m_server.route(QString::fromUtf8(path), LoopbackResponse::page(html.toUtf8()));
 }
 
 QList<QByteArray> SiteRig::targets() const

@@ -29,16 +29,16 @@ public:
     [[nodiscard]] AccessManager *manager() { return &m_manager; }
 
     // Answers `path` with this text.
-    void page(const QString &path, const QString &html);
+    void page(const char *path, const QString &html);
     // The requests so far as they were sent: path and query.
     [[nodiscard]] QList<QByteArray> targets() const;
 
     // Searches with a new client of the site and waits for its answer.
     template<typename Provider>
-    SiteAnswer search(const QString &artist, const QString &title)
+    SiteAnswer search(const char *artist, const char *title)
     {
         Provider site(manager());
-        return search(site, artist, title);
+        return search(site, QString::fromUtf8(artist), QString::fromUtf8(title));
     }
 
 private:

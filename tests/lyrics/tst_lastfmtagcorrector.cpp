@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SiteRig.h"
 #include "lyrics/LastfmTagCorrector.h"
+#include "support/TestTable.h"
 
 #include <QTest>
 
@@ -66,144 +67,129 @@ class tst_LastfmTagCorrector : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void givesPairsInTheirOrder_data();
-    void givesPairsInTheirOrder();
-    void asksWithTheNamesAsTheyWere();
-    void asksForTheArtistAlone();
-    void boundsWhatItBelieves();
-    void refusesWhatItCannotCorrect();
-    void abortsTheRequest();
+    void init() { m_rig = std::make_unique<SiteRig>(std::initializer_list<Endpoint>{Endpoint::Lastfm}); }
+
+    void givesPairsInTheirOrder_data()
+    {
+        addTextColumns("getCorrection", "search");
+        QTest::addColumn<QStringList>("expected");
+        QTest::addColumn<bool>("failed");
+        const auto row = [](const char *name, const QString &getCorrection, const QString &search,
+                            const QStringList &expected, bool failed = false) {
+            addRow(name, getCorrection, search, expected, failed);
+        };
+        const QString tin = QStringLiteral("Tin &amp; Lanterns");
+        const QString one = corrections(correction(tin, QStringLiteral("Огни 🎵")));
+        const QString two = searchAnswer(found(QStringLiteral("A"), QStringLiteral("1")) +
+                                         found(QStringLiteral("B"), QStringLiteral("2")));
+        const QStringList corrected{QStringLiteral("Tin & Lanterns/Огни 🎵")};
+        const QStringList both{QStringLiteral("A/1"), QStringLiteral("B/2")};
+        row("corrections before what the search found", one, two, corrected + both);
+        row("a second correction, and one without a track's name",
+            corrections(correction(tin, QString()) + correction(QStringLiteral("C"), QStringLiteral("3"))), two,
+            QStringList{QStringLiteral("C/3")} + both);
+        row("nothing to correct, nothing found", corrections(QString()), searchAnswer(QString()), {});
+        row("the service reports an error", errorDocument(), errorDocument(), {});
+        row("the service fails at once", QString(), two, {}, true);
+        row("the search fails", one, QString(), corrected, true);
+        row("a correction that is cut off", one.left(one.size() - 9), two, both);
+        row("an answer that is a page", QStringLiteral("<html><body>Busy<br></body></html>"), two, both);
+        row("an entity of its own", QStringLiteral("<!DOCTYPE lfm [<!ENTITY e \"x\">]>") + one, two, both);
+    }
+
+    void givesPairsInTheirOrder()
+    {
+        QFETCH(QString, getCorrection);
+        QFETCH(QString, search);
+        QFETCH(bool, failed);
+        answer(getCorrection, search);
+        LastfmTagCorrector corrector(m_rig->manager());
+        QTEST(correct(corrector, QStringLiteral("tin lantern"), QStringLiteral("ogni")), "expected");
+        QCOMPARE(!corrector.errorString().isEmpty(), failed);
+        QVERIFY(!corrector.isBusy());
+    }
+
+    void asksWithTheNamesAsTheyWere()
+    {
+        answer(corrections(correction(QStringLiteral("X"), QStringLiteral("Y"))), searchAnswer(QString()));
+        LastfmTagCorrector corrector(m_rig->manager());
+        const std::unique_ptr<TagCorrector> copy(corrector.clone(nullptr));
+        correct(*copy, QStringLiteral(" C&A + #1 "), QStringLiteral("50% да\n"));
+        const QByteArray names = "&api_key=4c1e9a7b30d2f58e6a0b7c3d9e2f1a85&artist=C%26A%20%2B%20%231"
+                                 "&track=50%25%20%D0%B4%D0%B0";
+        QCOMPARE(m_rig->targets(), (QList<QByteArray>{"/2.0/?method=track.getCorrection" + names,
+                                                      "/2.0/?method=track.search" + names + "&limit=2"}));
+    }
+
+    void asksForTheArtistAlone()
+    {
+        answer(corrections(QStringLiteral("<correction><artist><name>Tin Lanterns</name></artist></correction>")), {});
+        LastfmTagCorrector corrector(m_rig->manager());
+        QCOMPARE(correct(corrector, QStringLiteral("tin"), QStringLiteral(" ")),
+                 QStringList{QStringLiteral("Tin Lanterns/none")});
+        QCOMPARE(m_rig->targets(), (QList<QByteArray>{"/2.0/?method=artist.getCorrection"
+                                                      "&api_key=4c1e9a7b30d2f58e6a0b7c3d9e2f1a85&artist=tin"}));
+    }
+
+    void boundsWhatItBelieves()
+    {
+        const QString many = found(QStringLiteral("A"), QStringLiteral("1")).repeated(5000);
+        QCOMPARE(LastfmTagCorrector::foundTracks(searchAnswer(many).toUtf8()).artists.size(), 10);
+        const QString longName = QString(1001, QLatin1Char('x'));
+        QVERIFY(LastfmTagCorrector::trackCorrections(corrections(correction(QStringLiteral("A"), longName)).toUtf8())
+                    .titles.isEmpty());
+    }
+
+    void refusesWhatItCannotCorrect()
+    {
+        answer(corrections(QString()), searchAnswer(QString()));
+        LastfmTagCorrector corrector(m_rig->manager());
+        QVERIFY(!corrector.correct(QStringLiteral(" \t"), QStringLiteral("Song")));
+        QVERIFY(!corrector.isBusy());
+        QVERIFY(corrector.correct(QStringLiteral("a"), QStringLiteral("b")));
+        QVERIFY2(!corrector.correct(QStringLiteral("c"), QStringLiteral("d")), "it is busy");
+        QSignalSpy finished(&corrector, &TagCorrector::finished);
+        QVERIFY(finished.wait());
+        QCOMPARE(m_rig->server().requests().size(), 2);
+    }
+
+    void abortsTheRequest()
+    {
+        LoopbackResponse hang;
+        hang.hang = true;
+        m_rig->server().route(QStringLiteral("/2.0/"), hang);
+        LastfmTagCorrector corrector(nullptr);
+        QSignalSpy finished(&corrector, &TagCorrector::finished);
+        QVERIFY2(!corrector.abort(), "nothing is in flight");
+        QVERIFY(corrector.correct(QStringLiteral("a"), QStringLiteral("b")));
+        QTRY_COMPARE(m_rig->server().requests().size(), 1);
+        QVERIFY(corrector.abort() && !corrector.isBusy());
+        QTRY_COMPARE(m_rig->server().openConnections(), 0);
+        QVERIFY(finished.isEmpty());
+    }
 
 private:
-    QStringList correct(TagCorrector &corrector, const QString &artist, const QString &title);
+    QStringList correct(TagCorrector &corrector, const QString &artist, const QString &title)
+    {
+        QSignalSpy finished(&corrector, &TagCorrector::finished);
+        if (!corrector.correct(artist, title) || !finished.isEmpty() || !finished.wait())
+            return {QStringLiteral("no answer")};
+        return pairs(finished.first().at(0).toStringList(), finished.first().at(1).toStringList());
+    }
+
     // Answers by method; an empty answer is an error.
-    void answer(const QString &getCorrection, const QString &search);
+    void answer(const QString &getCorrection, const QString &search)
+    {
+        m_rig->server().route(QStringLiteral("/2.0/"), [=](const LoopbackRequest &request) {
+            const bool isSearch =
+                request.query.queryItemValue(QStringLiteral("method")) == QLatin1String("track.search");
+            const QString &text = isSearch ? search : getCorrection;
+            return text.isEmpty() ? LoopbackResponse::error(500) : LoopbackResponse::page(text.toUtf8());
+        });
+    }
 
     std::unique_ptr<SiteRig> m_rig;
 };
-
-void tst_LastfmTagCorrector::init()
-{
-    m_rig = std::make_unique<SiteRig>(std::initializer_list<Endpoint>{Endpoint::Lastfm});
-}
-
-QStringList tst_LastfmTagCorrector::correct(TagCorrector &corrector, const QString &artist, const QString &title)
-{
-    QSignalSpy finished(&corrector, &TagCorrector::finished);
-    if (!corrector.correct(artist, title) || !finished.isEmpty() || !finished.wait())
-        return {QStringLiteral("no answer")};
-    return pairs(finished.first().at(0).toStringList(), finished.first().at(1).toStringList());
-}
-
-void tst_LastfmTagCorrector::answer(const QString &getCorrection, const QString &search)
-{
-    m_rig->server().route(QStringLiteral("/2.0/"), [=](const LoopbackRequest &request) {
-        const bool isSearch = request.query.queryItemValue(QStringLiteral("method")) == QLatin1String("track.search");
-        const QString &text = isSearch ? search : getCorrection;
-        return text.isEmpty() ? LoopbackResponse::error(500) : LoopbackResponse::page(text.toUtf8());
-    });
-}
-
-void tst_LastfmTagCorrector::givesPairsInTheirOrder_data()
-{
-    QTest::addColumn<QString>("getCorrection");
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<bool>("failed");
-    const auto row = [](const char *name, const QString &getCorrection, const QString &search,
-                        const QStringList &expected, bool failed = false) {
-        QTest::newRow(name) << getCorrection << search << expected << failed;
-    };
-    const QString tin = QStringLiteral("Tin &amp; Lanterns");
-    const QString one = corrections(correction(tin, QStringLiteral("Огни 🎵")));
-    const QString two =
-        searchAnswer(found(QStringLiteral("A"), QStringLiteral("1")) + found(QStringLiteral("B"), QStringLiteral("2")));
-    const QStringList corrected{QStringLiteral("Tin & Lanterns/Огни 🎵")};
-    const QStringList both{QStringLiteral("A/1"), QStringLiteral("B/2")};
-    row("corrections before what the search found", one, two, corrected + both);
-    row("a second correction, and one without a track's name",
-        corrections(correction(tin, QString()) + correction(QStringLiteral("C"), QStringLiteral("3"))), two,
-        QStringList{QStringLiteral("C/3")} + both);
-    row("nothing to correct, nothing found", corrections(QString()), searchAnswer(QString()), {});
-    row("the service reports an error", errorDocument(), errorDocument(), {});
-    row("the service fails at once", QString(), two, {}, true);
-    row("the search fails", one, QString(), corrected, true);
-    row("a correction that is cut off", one.left(one.size() - 9), two, both);
-    row("an answer that is a page", QStringLiteral("<html><body>Busy<br></body></html>"), two, both);
-    row("an entity of its own", QStringLiteral("<!DOCTYPE lfm [<!ENTITY e \"x\">]>") + one, two, both);
-}
-
-void tst_LastfmTagCorrector::givesPairsInTheirOrder()
-{
-    QFETCH(QString, getCorrection);
-    QFETCH(QString, search);
-    QFETCH(bool, failed);
-    answer(getCorrection, search);
-    LastfmTagCorrector corrector(m_rig->manager());
-    QTEST(correct(corrector, QStringLiteral("tin lantern"), QStringLiteral("ogni")), "expected");
-    QCOMPARE(!corrector.errorString().isEmpty(), failed);
-    QVERIFY(!corrector.isBusy());
-}
-
-void tst_LastfmTagCorrector::asksWithTheNamesAsTheyWere()
-{
-    answer(corrections(correction(QStringLiteral("X"), QStringLiteral("Y"))), searchAnswer(QString()));
-    LastfmTagCorrector corrector(m_rig->manager());
-    const std::unique_ptr<TagCorrector> copy(corrector.clone(nullptr));
-    correct(*copy, QStringLiteral(" C&A + #1 "), QStringLiteral("50% да\n"));
-    const QByteArray names = "&api_key=4c1e9a7b30d2f58e6a0b7c3d9e2f1a85&artist=C%26A%20%2B%20%231"
-                             "&track=50%25%20%D0%B4%D0%B0";
-    QCOMPARE(m_rig->targets(), (QList<QByteArray>{"/2.0/?method=track.getCorrection" + names,
-                                                  "/2.0/?method=track.search" + names + "&limit=2"}));
-}
-
-void tst_LastfmTagCorrector::asksForTheArtistAlone()
-{
-    answer(corrections(QStringLiteral("<correction><artist><name>Tin Lanterns</name></artist></correction>")), {});
-    LastfmTagCorrector corrector(m_rig->manager());
-    QCOMPARE(correct(corrector, QStringLiteral("tin"), QStringLiteral(" ")),
-             QStringList{QStringLiteral("Tin Lanterns/none")});
-    QCOMPARE(m_rig->targets(), (QList<QByteArray>{"/2.0/?method=artist.getCorrection"
-                                                  "&api_key=4c1e9a7b30d2f58e6a0b7c3d9e2f1a85&artist=tin"}));
-}
-
-void tst_LastfmTagCorrector::boundsWhatItBelieves()
-{
-    const QString many = found(QStringLiteral("A"), QStringLiteral("1")).repeated(5000);
-    QCOMPARE(LastfmTagCorrector::foundTracks(searchAnswer(many).toUtf8()).artists.size(), 10);
-    const QString longName = QString(1001, QLatin1Char('x'));
-    QVERIFY(LastfmTagCorrector::trackCorrections(corrections(correction(QStringLiteral("A"), longName)).toUtf8())
-                .titles.isEmpty());
-}
-
-void tst_LastfmTagCorrector::refusesWhatItCannotCorrect()
-{
-    answer(corrections(QString()), searchAnswer(QString()));
-    LastfmTagCorrector corrector(m_rig->manager());
-    QVERIFY(!corrector.correct(QStringLiteral(" \t"), QStringLiteral("Song")));
-    QVERIFY(!corrector.isBusy());
-    QVERIFY(corrector.correct(QStringLiteral("a"), QStringLiteral("b")));
-    QVERIFY2(!corrector.correct(QStringLiteral("c"), QStringLiteral("d")), "it is busy");
-    QSignalSpy finished(&corrector, &TagCorrector::finished);
-    QVERIFY(finished.wait());
-    QCOMPARE(m_rig->server().requests().size(), 2);
-}
-
-void tst_LastfmTagCorrector::abortsTheRequest()
-{
-    LoopbackResponse hang;
-    hang.hang = true;
-    m_rig->server().route(QStringLiteral("/2.0/"), hang);
-    LastfmTagCorrector corrector(nullptr);
-    QSignalSpy finished(&corrector, &TagCorrector::finished);
-    QVERIFY2(!corrector.abort(), "nothing is in flight");
-    QVERIFY(corrector.correct(QStringLiteral("a"), QStringLiteral("b")));
-    QTRY_COMPARE(m_rig->server().requests().size(), 1);
-    QVERIFY(corrector.abort() && !corrector.isBusy());
-    QTRY_COMPARE(m_rig->server().openConnections(), 0);
-    QVERIFY(finished.isEmpty());
-}
 
 QTEST_GUILESS_MAIN(tst_LastfmTagCorrector)
 #include "tst_lastfmtagcorrector.moc"

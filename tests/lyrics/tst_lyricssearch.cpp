@@ -2,6 +2,7 @@
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/LyricsSearch.h"
 #include "lyrics/TagCorrector.h"
+#include "support/TestTable.h"
 
 #include <QMap>
 #include <QPointer>
@@ -111,267 +112,183 @@ class tst_LyricsSearch : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void appliesOrders_data();
-    void appliesOrders();
-    void triesSitesAndNamesInOrder_data();
-    void triesSitesAndNamesInOrder();
-    void acceptsEachIdOnce();
-    void refusesBlankNames();
-    void reportsFromTheEventLoopAndCounts();
-    void startsTheNextSearchFromASlot();
-    void ignoresLateAnswers();
-    void keepsConcurrentSearchesApart();
-    void endsQuietlyWhenDestroyed();
+    void init()
+    {
+        m_script = Script();
+        m_search = std::make_unique<LyricsSearch>();
+    }
+
+    void appliesOrders_data()
+    {
+        addTextColumns("order", "applied");
+        addRow("nothing keeps the order", "", "Freak;;Genius;;Mega");
+        addRow("the ones not named follow", "Mega", "Mega;;Freak;;Genius");
+        addRow("disabled", "Mega::0;;Genius", "Mega::0;;Genius;;Freak");
+        addRow("duplicates, any case, unknown ones", "genius;;GENIUS::0;;Foo", "Genius;;Freak;;Mega");
+        addRow("a mark needs the exact name", "genius::0", "Genius;;Freak;;Mega");
+        addRow("blank ends", " Mega ;;\tGenius", "Mega;;Genius;;Freak");
+        addRow("a blank behind the mark", "Mega::0 ", "Mega;;Freak;;Genius");
+        addRow("another mark makes another name", "Mega::1", "Freak;;Genius;;Mega");
+    }
+
+    void appliesOrders()
+    {
+        QFETCH(QString, order);
+        m_search->addProvider(nullptr);
+        makeSites(QStringLiteral("Freak Genius Mega"));
+        m_search->setProvidersOrder(order);
+        QTEST(m_search->providersOrder(), "applied");
+    }
+
+    void triesSitesAndNamesInOrder_data()
+    {
+        QTest::addColumn<QString>("sites"); // the order to apply
+        QTest::addColumn<QString>(
+            "corrections"); // per corrector, separated by "|"; "none" is a corrector without an answer
+        QTest::addColumn<QString>("answers"); // "Site:Artist/Title=answer"
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QString>("result"); // artist, title, lyrics, error
+
+        const QString none;
+        addRow("the first site has it", "A;;B", none, "A:a/t=la", "A:a/t", "a|t|la|");
+        addRow("a disabled site is not asked", "A::0;;B", none, "A:a/t=la", "B:a/t", "a|t||");
+        addRow("nobody has it", "A;;B", none, none, "A:a/t B:a/t", "a|t||");
+        addRow("the last failure is told", "A;;B", none, "A:a/t=!one B:a/t=!two", "A:a/t B:a/t", "a|t||two");
+        addRow("a failure before a plain miss is told", "A;;B", none, "A:a/t=!one", "A:a/t B:a/t", "a|t||one");
+        addRow("withdrawn lyrics are none", "A;;B", none, "A:a/t=x_gracenote_takedown_x B:a/t=la", "A:a/t B:a/t",
+               "a|t|la|");
+        addRow("corrected names, every site", "A;;B", "c/u", "B:c/u=la", "A:a/t B:a/t correct:a/t A:c/u B:c/u",
+               "c|u|la|");
+        addRow("a second pair goes to the first site, then on", "A;;B", "c/u d/v", none,
+               "A:a/t B:a/t correct:a/t A:c/u B:c/u A:d/v B:d/v", "a|t||");
+        addRow("own names, blanks and doubles are left out", "A;;B", "a/t /u c/ c/u c/u C/u", none,
+               "A:a/t B:a/t correct:a/t A:c/u B:c/u A:C/u B:C/u", "a|t||");
+        addRow("a corrector without an answer", "A;;B", "none", none, "A:a/t B:a/t correct:a/t", "a|t||");
+        addRow("two correctors before any of their names", "A;;B", "c/u|d/v", "A:d/v=la",
+               "A:a/t B:a/t correct:a/t correct:a/t A:c/u B:c/u A:d/v", "d|v|la|");
+        addRow("all disabled, one pair: used up untried", "A::0;;B::0", "c/u", none, "correct:a/t", "a|t||");
+        addRow("all disabled, the next pairs go to the first site", "B::0;;A::0", "c/u d/v e/w", "B:e/w=la",
+               "correct:a/t B:d/v B:e/w", "e|w|la|");
+        addRow("the first site disabled, second pair starts with it", "A::0;;B", "c/u d/v", none,
+               "B:a/t correct:a/t B:c/u A:d/v B:d/v", "a|t||");
+    }
+
+    void triesSitesAndNamesInOrder()
+    {
+        QFETCH(QString, sites);
+        QFETCH(QString, corrections);
+        QFETCH(QString, answers);
+        QFETCH(QString, asked);
+        makeSites(QStringLiteral("A B"));
+        m_search->setProvidersOrder(sites);
+        for (const QString &answer : words(answers))
+            m_script.answers.insert(answer.section(QLatin1Char('='), 0, 0), answer.section(QLatin1Char('='), 1));
+        for (const QString &pairs : words(corrections, QLatin1Char('|')))
+            m_search->addCorrector(std::make_unique<ScriptedCorrector>(
+                pairs == QLatin1String("none") ? QStringList() : words(pairs), &m_script));
+
+        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+        QVERIFY(m_search->search(7, QStringLiteral("a"), QStringLiteral("t")));
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(m_script.asked, words(asked));
+        QStringList result;
+        for (const QVariant &argument : finished.first().mid(1))
+            result.append(argument.toString());
+        QCOMPARE(finished.first().first().toInt(), 7);
+        QTEST(result.join(QLatin1Char('|')), "result");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY2(m_search->children().isEmpty(), "clones are released");
+    }
+
+    void acceptsEachIdOnce()
+    {
+        QVERIFY2(m_search->canSearch({}, {}), "there is nobody to refuse");
+        makeSites(QStringLiteral("A B"));
+        m_search->setProvidersOrder(QStringLiteral("A;;B::0"));
+        QVERIFY2(!m_search->search(1, QStringLiteral("a"), QStringLiteral(" \t")), "a disabled site refuses as well");
+        QCOMPARE(m_search->searchCount(), 0);
+        m_script.answers.insert(QStringLiteral("A:a/t"), QStringLiteral("la"));
+        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+        QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
+        bool isFreeAtOnce = false;
+        connect(m_search.get(), &LyricsSearch::searchFinished, this,
+                [&] { isFreeAtOnce = isFreeAtOnce || m_search->search(1, QStringLiteral("a"), QStringLiteral("t")); });
+        QVERIFY(!m_search->search(1, QStringLiteral("b"), QStringLiteral("t")));
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
+        QVERIFY2(isFreeAtOnce, "a slot may start the next search");
+    }
+
+    void reportsFromTheEventLoopAndCounts()
+    {
+        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+        QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
+        QVERIFY2(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")), "without any provider");
+        makeSites(QStringLiteral("A B"));
+        m_script.refusing = QStringList{QStringLiteral("A")};
+        m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
+        QVERIFY2(m_search->search(2, QStringLiteral("a"), QStringLiteral("t")), "the first clone refuses");
+        QVERIFY(finished.isEmpty());
+        QTRY_COMPARE(finished.size(), 2);
+        QTest::qWait(0);
+        QCOMPARE(finished.size(), 2);
+        QCOMPARE(finished.at(0).mid(0, 4),
+                 (QVariantList{quint16(1), QStringLiteral("a"), QStringLiteral("t"), QString()}));
+        QCOMPARE(finished.at(1).at(3).toString(), QStringLiteral("la"));
+        QCOMPARE(counts, (QList<QVariantList>{{1}, {2}, {1}, {0}}));
+    }
+
+    void ignoresLateAnswers()
+    {
+        makeSites(QStringLiteral("A B"));
+        m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
+        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+        QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
+        LyricsProvider *first = m_script.clones.first();
+        emit first->finished(QString());
+        QVERIFY(finished.isEmpty());
+        emit first->finished(QStringLiteral("too late"));
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
+    }
+
+    void keepsConcurrentSearchesApart()
+    {
+        makeSites(QStringLiteral("A B"));
+        QMap<int, QString> found;
+        connect(m_search.get(), &LyricsSearch::searchFinished, this,
+                [&](quint16 id, const QString &, const QString &, const QString &lyrics) { found.insert(id, lyrics); });
+        for (quint16 id = 0; id < 40; ++id) {
+            const QString title = QString::number(id);
+            m_script.answers.insert((id % 2 ? QStringLiteral("A:a/") : QStringLiteral("B:a/")) + title, title);
+            QVERIFY(m_search->search(id, QStringLiteral("a"), title));
+        }
+        QTRY_COMPARE(found.size(), 40);
+        for (auto result = found.cbegin(); result != found.cend(); ++result)
+            QCOMPARE(result.value(), QString::number(result.key()));
+    }
+
+    void endsQuietlyWhenDestroyed()
+    {
+        makeSites(QStringLiteral("A"));
+        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
+        QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
+        m_search.reset();
+        QCoreApplication::processEvents();
+        QVERIFY(finished.isEmpty());
+        QVERIFY(m_script.clones.first().isNull());
+    }
 
 private:
-    void makeSites(const QString &names);
+    void makeSites(const QString &names)
+    {
+        for (const QString &name : words(names))
+            m_search->addProvider(std::make_unique<ScriptedSite>(name, &m_script));
+    }
 
     Script m_script;
     std::unique_ptr<LyricsSearch> m_search;
 };
-
-void tst_LyricsSearch::init()
-{
-    m_script = Script();
-    m_search = std::make_unique<LyricsSearch>();
-}
-
-void tst_LyricsSearch::makeSites(const QString &names)
-{
-    for (const QString &name : words(names))
-        m_search->addProvider(std::make_unique<ScriptedSite>(name, &m_script));
-}
-
-void tst_LyricsSearch::appliesOrders_data()
-{
-    QTest::addColumn<QString>("order");
-    QTest::addColumn<QString>("applied");
-    QTest::newRow("nothing keeps the order") << ""
-                                             << "Freak;;Genius;;Mega";
-    QTest::newRow("the ones not named follow") << "Mega"
-                                               << "Mega;;Freak;;Genius";
-    QTest::newRow("disabled") << "Mega::0;;Genius"
-                              << "Mega::0;;Genius;;Freak";
-    QTest::newRow("duplicates, any case, unknown ones") << "genius;;GENIUS::0;;Foo"
-                                                        << "Genius;;Freak;;Mega";
-    QTest::newRow("a mark needs the exact name") << "genius::0"
-                                                 << "Genius;;Freak;;Mega";
-    QTest::newRow("blank ends") << " Mega ;;\tGenius"
-                                << "Mega;;Genius;;Freak";
-    QTest::newRow("a blank behind the mark") << "Mega::0 "
-                                             << "Mega;;Freak;;Genius";
-    QTest::newRow("another mark makes another name") << "Mega::1"
-                                                     << "Freak;;Genius;;Mega";
-    QTest::newRow("separators only") << ";;;;::0;;"
-                                     << "Freak;;Genius;;Mega";
-}
-
-void tst_LyricsSearch::appliesOrders()
-{
-    QFETCH(QString, order);
-    m_search->addProvider(nullptr);
-    makeSites(QStringLiteral("Freak Genius Mega"));
-    m_search->setProvidersOrder(order);
-    QTEST(m_search->providersOrder(), "applied");
-}
-
-void tst_LyricsSearch::triesSitesAndNamesInOrder_data()
-{
-    QTest::addColumn<QString>("sites"); // the order to apply
-    QTest::addColumn<QString>(
-        "corrections");                   // per corrector, separated by "|"; "none" is a corrector without an answer
-    QTest::addColumn<QString>("answers"); // "Site:Artist/Title=answer"
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("result"); // artist, title, lyrics, error
-
-    const QString none;
-    QTest::newRow("the first site has it") << "A;;B" << none << "A:a/t=la"
-                                           << "A:a/t"
-                                           << "a|t|la|";
-    QTest::newRow("the second site has it") << "B;;A" << none << "A:a/t=la"
-                                            << "B:a/t A:a/t"
-                                            << "a|t|la|";
-    QTest::newRow("a disabled site is not asked") << "A::0;;B" << none << "A:a/t=la"
-                                                  << "B:a/t"
-                                                  << "a|t||";
-    QTest::newRow("nobody has it") << "A;;B" << none << none << "A:a/t B:a/t"
-                                   << "a|t||";
-    QTest::newRow("the last failure is told") << "A;;B" << none << "A:a/t=!one B:a/t=!two"
-                                              << "A:a/t B:a/t"
-                                              << "a|t||two";
-    QTest::newRow("a failure before a plain miss is told") << "A;;B" << none << "A:a/t=!one"
-                                                           << "A:a/t B:a/t"
-                                                           << "a|t||one";
-    QTest::newRow("a failure before a hit is not") << "A;;B" << none << "A:a/t=!one B:a/t=la"
-                                                   << "A:a/t B:a/t"
-                                                   << "a|t|la|";
-    QTest::newRow("withdrawn lyrics are none") << "A;;B" << none << "A:a/t=x_gracenote_takedown_x B:a/t=la"
-                                               << "A:a/t B:a/t"
-                                               << "a|t|la|";
-    QTest::newRow("corrected names, every site") << "A;;B"
-                                                 << "c/u"
-                                                 << "B:c/u=la"
-                                                 << "A:a/t B:a/t correct:a/t A:c/u B:c/u"
-                                                 << "c|u|la|";
-    QTest::newRow("a second pair goes to the first site, then on")
-        << "A;;B"
-        << "c/u d/v" << none << "A:a/t B:a/t correct:a/t A:c/u B:c/u A:d/v B:d/v"
-        << "a|t||";
-    QTest::newRow("own names, blanks and doubles are left out")
-        << "A;;B"
-        << "a/t /u c/ c/u c/u C/u" << none << "A:a/t B:a/t correct:a/t A:c/u B:c/u A:C/u B:C/u"
-        << "a|t||";
-    QTest::newRow("a corrector without an answer") << "A;;B"
-                                                   << "none" << none << "A:a/t B:a/t correct:a/t"
-                                                   << "a|t||";
-    QTest::newRow("a corrector that refuses") << "A;;B"
-                                              << "refuse" << none << "A:a/t B:a/t correct:a/t"
-                                              << "a|t||";
-    QTest::newRow("two correctors before any of their names") << "A;;B"
-                                                              << "c/u|d/v"
-                                                              << "A:d/v=la"
-                                                              << "A:a/t B:a/t correct:a/t correct:a/t A:c/u B:c/u A:d/v"
-                                                              << "d|v|la|";
-    QTest::newRow("all disabled, one pair: used up untried") << "A::0;;B::0"
-                                                             << "c/u" << none << "correct:a/t"
-                                                             << "a|t||";
-    QTest::newRow("all disabled, the next pairs go to the first site") << "B::0;;A::0"
-                                                                       << "c/u d/v e/w"
-                                                                       << "B:e/w=la"
-                                                                       << "correct:a/t B:d/v B:e/w"
-                                                                       << "e|w|la|";
-    QTest::newRow("all disabled, no corrector") << "A::0;;B::0" << none << none << none << "a|t||";
-    QTest::newRow("the first site disabled, second pair starts with it")
-        << "A::0;;B"
-        << "c/u d/v" << none << "B:a/t correct:a/t B:c/u A:d/v B:d/v"
-        << "a|t||";
-}
-
-void tst_LyricsSearch::triesSitesAndNamesInOrder()
-{
-    QFETCH(QString, sites);
-    QFETCH(QString, corrections);
-    QFETCH(QString, answers);
-    QFETCH(QString, asked);
-    makeSites(QStringLiteral("A B"));
-    m_search->setProvidersOrder(sites);
-    for (const QString &answer : words(answers))
-        m_script.answers.insert(answer.section(QLatin1Char('='), 0, 0), answer.section(QLatin1Char('='), 1));
-    for (const QString &pairs : words(corrections, QLatin1Char('|')))
-        m_search->addCorrector(std::make_unique<ScriptedCorrector>(
-            pairs == QLatin1String("none") ? QStringList() : words(pairs), &m_script));
-
-    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-    QVERIFY(m_search->search(7, QStringLiteral("a"), QStringLiteral("t")));
-    QTRY_COMPARE(finished.size(), 1);
-    QCOMPARE(m_script.asked, words(asked));
-    QStringList result;
-    for (const QVariant &argument : finished.first().mid(1))
-        result.append(argument.toString());
-    QCOMPARE(finished.first().first().toInt(), 7);
-    QTEST(result.join(QLatin1Char('|')), "result");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY2(m_search->children().isEmpty(), "clones are released");
-}
-
-void tst_LyricsSearch::acceptsEachIdOnce()
-{
-    makeSites(QStringLiteral("A"));
-    m_script.answers.insert(QStringLiteral("A:a/t"), QStringLiteral("la"));
-    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-    QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
-    QVERIFY(m_search->isSearching(1));
-    QVERIFY(!m_search->search(1, QStringLiteral("b"), QStringLiteral("t")));
-    QTRY_COMPARE(finished.size(), 1);
-    QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
-    QVERIFY(!m_search->isSearching(1));
-    QVERIFY(m_search->search(1, QStringLiteral("b"), QStringLiteral("t")));
-}
-
-void tst_LyricsSearch::refusesBlankNames()
-{
-    QVERIFY2(m_search->canSearch({}, {}), "there is nobody to refuse");
-    makeSites(QStringLiteral("A"));
-    m_search->setProvidersOrder(QStringLiteral("A::0"));
-    QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
-    QVERIFY2(!m_search->search(1, QStringLiteral("a"), QStringLiteral(" \t")), "a disabled site refuses as well");
-    QCOMPARE(m_search->searchCount(), 0);
-    QVERIFY(counts.isEmpty());
-}
-
-void tst_LyricsSearch::reportsFromTheEventLoopAndCounts()
-{
-    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-    QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
-    QVERIFY2(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")), "without any provider");
-    makeSites(QStringLiteral("A B"));
-    m_script.refusing = QStringList{QStringLiteral("A")};
-    m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
-    QVERIFY2(m_search->search(2, QStringLiteral("a"), QStringLiteral("t")), "the first clone refuses");
-    QVERIFY(finished.isEmpty());
-    QTRY_COMPARE(finished.size(), 2);
-    QTest::qWait(0);
-    QCOMPARE(finished.size(), 2);
-    QCOMPARE(finished.at(0).mid(0, 4), (QVariantList{quint16(1), QStringLiteral("a"), QStringLiteral("t"), QString()}));
-    QCOMPARE(finished.at(1).at(3).toString(), QStringLiteral("la"));
-    QCOMPARE(counts, (QList<QVariantList>{{1}, {2}, {1}, {0}}));
-}
-
-void tst_LyricsSearch::startsTheNextSearchFromASlot()
-{
-    makeSites(QStringLiteral("A"));
-    QList<int> ids;
-    connect(m_search.get(), &LyricsSearch::searchFinished, this, [&](quint16 id) {
-        ids.append(id);
-        if (ids.size() < 3)
-            QVERIFY2(m_search->search(id, QStringLiteral("a"), QStringLiteral("t")), "the id is free at once");
-    });
-    QVERIFY(m_search->search(9, QStringLiteral("a"), QStringLiteral("t")));
-    QTRY_COMPARE(ids, (QList<int>{9, 9, 9}));
-    QCOMPARE(m_search->searchCount(), 0);
-}
-
-void tst_LyricsSearch::ignoresLateAnswers()
-{
-    makeSites(QStringLiteral("A B"));
-    m_script.answers.insert(QStringLiteral("B:a/t"), QStringLiteral("la"));
-    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-    QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
-    LyricsProvider *first = m_script.clones.first();
-    emit first->finished(QString());
-    QVERIFY(finished.isEmpty());
-    emit first->finished(QStringLiteral("too late"));
-    QTRY_COMPARE(finished.size(), 1);
-    QCOMPARE(finished.first().at(3).toString(), QStringLiteral("la"));
-}
-
-void tst_LyricsSearch::keepsConcurrentSearchesApart()
-{
-    makeSites(QStringLiteral("A B"));
-    QMap<int, QString> found;
-    connect(m_search.get(), &LyricsSearch::searchFinished, this,
-            [&](quint16 id, const QString &, const QString &, const QString &lyrics) { found.insert(id, lyrics); });
-    for (quint16 id = 0; id < 40; ++id) {
-        const QString title = QString::number(id);
-        m_script.answers.insert((id % 2 ? QStringLiteral("A:a/") : QStringLiteral("B:a/")) + title, title);
-        QVERIFY(m_search->search(id, QStringLiteral("a"), title));
-    }
-    QTRY_COMPARE(found.size(), 40);
-    for (auto result = found.cbegin(); result != found.cend(); ++result)
-        QCOMPARE(result.value(), QString::number(result.key()));
-}
-
-void tst_LyricsSearch::endsQuietlyWhenDestroyed()
-{
-    makeSites(QStringLiteral("A"));
-    QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-    QVERIFY(m_search->search(1, QStringLiteral("a"), QStringLiteral("t")));
-    m_search.reset();
-    QCoreApplication::processEvents();
-    QVERIFY(finished.isEmpty());
-    QVERIFY(m_script.clones.first().isNull());
-}
 
 QTEST_GUILESS_MAIN(tst_LyricsSearch)
 #include "tst_lyricssearch.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RandomText.h"
 #include "lyrics/LyricsText.h"
+#include "support/TestTable.h"
 
 #include <QRegExp>
 #include <QRegularExpression>
@@ -81,162 +82,106 @@ class tst_LyricsText : public QObject
     Q_OBJECT
 
 private slots:
-    void cleansFragments_data();
-    void cleansFragments();
-    void cleansLikeThePlainExpressions();
-    void decodesEntities_data();
-    void decodesEntities();
-    void decodesLikeThePlainExpressions();
-    void decodesDecimalReferences_data();
-    void decodesDecimalReferences();
-    void decodesPercentEscapes_data();
-    void decodesPercentEscapes();
-    void removesBrokenCharacters_data();
-    void removesBrokenCharacters();
+    void cleansFragments_data()
+    {
+        addTextColumns("html", "lyrics");
+        addRow("breaks, one newline behind each goes", "<p>a<br/>\nb<br>c</p>\r\n", "a\nb\nc");
+        addRow("comments go from first to last", "x<!-- 1 -->y<!-- 2 -->z", "xz");
+        addRow("a tag swallows an opening bracket", "<<b>i</b>>", "i>");
+        addRow("blank ends go, inner space stays", " \n\t<i> a  b </i>\u00a0\n", "a  b");
+    }
+
+    void cleansFragments()
+    {
+        QFETCH(QString, html);
+        QTEST(cleanLyrics(html), "lyrics");
+    }
+
+    void cleansLikeThePlainExpressions()
+    {
+        const QString pieces =
+            QStringLiteral("<!-- --> -- <br br > /> </ < / \r\n \n \t \u00a0 \u0085 \u200b x &amp; &#60; b>");
+        compareOnRandomTexts(pieces, cleanLyrics, plain::cleanLyrics);
+        compareOnRandomTexts(pieces, stripTags, plain::stripTags);
+    }
+
+    void decodesEntities_data()
+    {
+        addTextColumns("text", "decoded");
+        addRow("hexadecimal, decimal, one digit only", "&#x41;&#66;&#9;", "AB&#9;");
+        addRow("an ampersand uncovers a name", "&amp;lt;&amp;#39;&amp;#039;", "<''");
+        addRow("an ampersand uncovers no number", "&amp;#8217;", "&#8217;");
+        addRow("a pair written as halves", "&#xD83C;&#xDFB5;", "🎵");
+        addRow("NUL is kept for whoever removes it", "a&#00;b", QStringLiteral("a%1b").arg(QChar(0)));
+    }
+
+    void decodesEntities()
+    {
+        QFETCH(QString, text);
+        QTEST(decodeHtmlEntities(text), "decoded");
+    }
+
+    // Halves of surrogate pairs are left out: a regular expression gives up on a text that holds one.
+    void decodesLikeThePlainExpressions()
+    {
+        compareOnRandomTexts(
+            QStringLiteral(
+                "&#38; &#35; &#x3b; &#59; &#x78; &#48; & # x 1 0 ; amp; &amp; lt; &quot; &#039; 39; &#00; 🎵"),
+            decodeHtmlEntities, plain::decodeHtmlEntities);
+        compareOnRandomTexts(QStringLiteral("&#38; &#35; &#59; &#0049; &#48; & # 1 0 5 ; x &#0; 🎵"),
+                             decodeDecimalReferences, plain::decodeDecimalReferences);
+    }
+
+    void decodesDecimalReferences_data()
+    {
+        addTextColumns("text", "decoded");
+        addRow("any number of digits", "&#9;&#1040;&#127925;&#0000000065;", "\tА🎵A");
+        addRow("nothing else", "&amp;&#x41;&#;&#6 5;#65;", "&amp;&#x41;&#;&#6 5;#65;");
+        addRow("beyond Unicode", "&#1114112;&#99999999999999999999;", "\ufffd\ufffd");
+    }
+
+    void decodesDecimalReferences()
+    {
+        QFETCH(QString, text);
+        QTEST(decodeDecimalReferences(text), "decoded");
+    }
+
+    void decodesPercentEscapes_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QByteArray>("decoded");
+        addRow("well formed, either case", QByteArray("a%20b%C3%a9"), QByteArray("a b\xC3\xA9"));
+        addRow("100% sure", QByteArray("100% sure, 5%!"), QByteArray("100% sure, 5%!"));
+        addRow("cut off", QByteArray("%4 %4"), QByteArray("%4 %4"));
+        addRow("decoded once", QByteArray("%2541%%41"), QByteArray("%41%A"));
+        addRow("at the very end", QByteArray("x%41%"), QByteArray("xA%"));
+        addRow("NUL", QByteArray("a%00b"), QByteArray("a\0b", 3));
+    }
+
+    void decodesPercentEscapes()
+    {
+        QFETCH(QByteArray, bytes);
+        QTEST(decodePercentEscapes(bytes), "decoded");
+    }
+
+    void removesBrokenCharacters_data()
+    {
+        const QChar high(0xD83C);
+        const QChar low(0xDFB5);
+        addTextColumns("text", "whole");
+        addRow("nothing to do", "la 🎵\n\tla", "la 🎵\n\tla");
+        addRow("NUL", QStringLiteral("a%1b").arg(QChar(0)), "ab");
+        addRow("a high half at the end", QStringLiteral("a") + high, "a\ufffd");
+        addRow("halves in the wrong order", QString(low) + high, "\ufffd\ufffd");
+        addRow("a high half before a pair", QString(high) + high + low, "\ufffd🎵");
+    }
+
+    void removesBrokenCharacters()
+    {
+        QFETCH(QString, text);
+        QTEST(withoutBrokenCharacters(text), "whole");
+    }
 };
-
-void tst_LyricsText::cleansFragments_data()
-{
-    QTest::addColumn<QString>("html");
-    QTest::addColumn<QString>("lyrics");
-    QTest::newRow("nothing") << ""
-                             << "";
-    QTest::newRow("breaks, one newline behind each goes") << "<p>a<br/>\nb<br>c</p>\r\n"
-                                                          << "a\nb\nc";
-    QTest::newRow("two newlines behind a break") << "a<br >\n\nb"
-                                                 << "a\n\nb";
-    QTest::newRow("upper-case breaks are tags") << "a<BR>b"
-                                                << "ab";
-    QTest::newRow("comments go from first to last") << "x<!-- 1 -->y<!-- 2 -->z"
-                                                    << "xz";
-    QTest::newRow("a comment mark cannot share its dashes") << "a<!-->b"
-                                                            << "ab";
-    QTest::newRow("a tag swallows an opening bracket") << "<<b>i</b>>"
-                                                       << "i>";
-    QTest::newRow("an empty pair of brackets is no tag") << "a <> b"
-                                                         << "a <> b";
-    QTest::newRow("a bracket that is never closed stays") << "I <3 you"
-                                                          << "I <3 you";
-    QTest::newRow("blank ends go, inner space stays") << " \n\t<i> a  b </i>\u00a0\n"
-                                                      << "a  b";
-    QTest::newRow("entities come last and make no tags") << "&lt;b&gt;a&lt;/b&gt;"
-                                                         << "<b>a</b>";
-    QTest::newRow("other scripts") << "<p>Привет<br>שלום 🎵</p>"
-                                   << "Привет\nשלום 🎵";
-}
-
-void tst_LyricsText::cleansFragments()
-{
-    QFETCH(QString, html);
-    QTEST(cleanLyrics(html), "lyrics");
-}
-
-void tst_LyricsText::cleansLikeThePlainExpressions()
-{
-    const QString pieces =
-        QStringLiteral("<!-- --> -- <br br > /> </ < / \r\n \n \t \u00a0 \u0085 \u200b x &amp; &#60; b>");
-    compareOnRandomTexts(pieces, cleanLyrics, plain::cleanLyrics);
-    compareOnRandomTexts(pieces, stripTags, plain::stripTags);
-}
-
-void tst_LyricsText::decodesEntities_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("decoded");
-    QTest::newRow("hexadecimal, decimal, one digit only") << "&#x41;&#66;&#9;"
-                                                          << "AB&#9;";
-    QTest::newRow("too many digits") << "&#x1F3B50;&#0000065;"
-                                     << "&#x1F3B50;&#0000065;";
-    QTest::newRow("upper-case X") << "&#X41;"
-                                  << "&#X41;";
-    QTest::newRow("an ampersand uncovers a name") << "&amp;lt;&amp;#39;&amp;#039;"
-                                                  << "<''";
-    QTest::newRow("an ampersand uncovers no number") << "&amp;#8217;"
-                                                     << "&#8217;";
-    QTest::newRow("a number uncovers another") << "&#38;#65;&#3&#56;;"
-                                               << "A&";
-    QTest::newRow("beyond the basic plane")
-        << "&#x1F3B5;&#127925;&#xFFFFF;" << QStringLiteral("🎵🎵") + QStringLiteral("\U000FFFFF");
-    QTest::newRow("a pair written as halves") << "&#xD83C;&#xDFB5;"
-                                              << "🎵";
-    QTest::newRow("NUL is kept for whoever removes it") << "a&#00;b" << QStringLiteral("a%1b").arg(QChar(0));
-    QTest::newRow("names are case-sensitive, others stay") << "&AMP;&nbsp;&apos;"
-                                                           << "&AMP;&nbsp;&apos;";
-    QTest::newRow("no end") << "&#65"
-                            << "&#65";
-}
-
-void tst_LyricsText::decodesEntities()
-{
-    QFETCH(QString, text);
-    QTEST(decodeHtmlEntities(text), "decoded");
-}
-
-// Halves of surrogate pairs are left out: a regular expression gives up on a text that holds one.
-void tst_LyricsText::decodesLikeThePlainExpressions()
-{
-    compareOnRandomTexts(
-        QStringLiteral("&#38; &#35; &#x3b; &#59; &#x78; &#48; & # x 1 0 ; amp; &amp; lt; &quot; &#039; 39; &#00; 🎵"),
-        decodeHtmlEntities, plain::decodeHtmlEntities);
-    compareOnRandomTexts(QStringLiteral("&#38; &#35; &#59; &#0049; &#48; & # 1 0 5 ; x &#0; 🎵"),
-                         decodeDecimalReferences, plain::decodeDecimalReferences);
-}
-
-void tst_LyricsText::decodesDecimalReferences_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("decoded");
-    QTest::newRow("any number of digits") << "&#9;&#1040;&#127925;&#0000000065;"
-                                          << "\tА🎵A";
-    QTest::newRow("nothing else") << "&amp;&#x41;&#;&#6 5;#65;"
-                                  << "&amp;&#x41;&#;&#6 5;#65;";
-    QTest::newRow("beyond Unicode") << "&#1114112;&#99999999999999999999;"
-                                    << "\ufffd\ufffd";
-}
-
-void tst_LyricsText::decodesDecimalReferences()
-{
-    QFETCH(QString, text);
-    QTEST(decodeDecimalReferences(text), "decoded");
-}
-
-void tst_LyricsText::decodesPercentEscapes_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("decoded");
-    QTest::newRow("well formed, either case") << QByteArray("a%20b%C3%a9") << QByteArray("a b\xC3\xA9");
-    QTest::newRow("100% sure") << QByteArray("100% sure, 5%!") << QByteArray("100% sure, 5%!");
-    QTest::newRow("cut off") << QByteArray("%4 %4") << QByteArray("%4 %4");
-    QTest::newRow("decoded once") << QByteArray("%2541%%41") << QByteArray("%41%A");
-    QTest::newRow("at the very end") << QByteArray("x%41%") << QByteArray("xA%");
-    QTest::newRow("NUL") << QByteArray("a%00b") << QByteArray("a\0b", 3);
-}
-
-void tst_LyricsText::decodesPercentEscapes()
-{
-    QFETCH(QByteArray, bytes);
-    QTEST(decodePercentEscapes(bytes), "decoded");
-}
-
-void tst_LyricsText::removesBrokenCharacters_data()
-{
-    const QChar high(0xD83C);
-    const QChar low(0xDFB5);
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("whole");
-    QTest::newRow("nothing to do") << "la 🎵\n\tla"
-                                   << "la 🎵\n\tla";
-    QTest::newRow("NUL") << QStringLiteral("a%1b").arg(QChar(0)) << "ab";
-    QTest::newRow("a high half at the end") << QStringLiteral("a") + high << "a\ufffd";
-    QTest::newRow("halves in the wrong order") << QString(low) + high << "\ufffd\ufffd";
-    QTest::newRow("a high half before a pair") << QString(high) + high + low << "\ufffd🎵";
-}
-
-void tst_LyricsText::removesBrokenCharacters()
-{
-    QFETCH(QString, text);
-    QTEST(withoutBrokenCharacters(text), "whole");
-}
 
 QTEST_APPLESS_MAIN(tst_LyricsText)
 #include "tst_lyricstext.moc"

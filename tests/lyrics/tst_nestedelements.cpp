@@ -10,19 +10,17 @@ class tst_NestedElements : public QObject
     Q_OBJECT
 
 private slots:
-    void countsLikeThePlainExpression();
-};
-
-void tst_NestedElements::countsLikeThePlainExpression()
-{
-    RandomText pages(QStringLiteral("<div </div < > </ <DIV </span> x").split(QLatin1Char(' ')));
-    for (int i = 0; i < 3000; ++i) {
-        const QString page = pages.next(30);
-        const NestedElements divs(page, QStringLiteral("div"));
-        for (int at = 0; at < page.size(); ++at)
-            QVERIFY2(divs.closingTag(at) == countedClosingTag(page, QStringLiteral("div"), at), qPrintable(page));
+    void countsLikeThePlainExpression()
+    {
+        RandomText pages(QStringLiteral("<div </div < > </ <DIV </span> x").split(QLatin1Char(' ')));
+        for (int i = 0; i < 3000; ++i) {
+            const QString page = pages.next(30);
+            const NestedElements divs(page, QStringLiteral("div"));
+            for (int at = 0; at < page.size(); ++at)
+                QVERIFY2(divs.closingTag(at) == countedClosingTag(page, QStringLiteral("div"), at), qPrintable(page));
+        }
     }
-}
+};
 
 QTEST_APPLESS_MAIN(tst_NestedElements)
 #include "tst_nestedelements.moc"

@@ -1,41 +1,96 @@
 // SPDX-License-Identifier: MIT
 #include "SiteRig.h"
+#include "lyrics/JunkCheck.h"
+#include "lyrics/providers/AZLyricsProvider.h"
+#include "lyrics/providers/DarkLyricsProvider.h"
+#include "lyrics/providers/GeniusProvider.h"
+#include "lyrics/providers/LyricsFreakProvider.h"
+#include "lyrics/providers/MegaLyricsProvider.h"
+#include "lyrics/providers/MusixMatchProvider.h"
 #include "lyrics/providers/ProviderCatalogue.h"
+#include "support/TestTable.h"
 
 #include <QTest>
+
+#include <functional>
+
+using ReadPage = std::function<ProviderStep(const Page &)>;
+Q_DECLARE_METATYPE(ReadPage)
+
+namespace {
+
+ProviderStep readMusixMatch(const Page &page)
+{
+    return MusixMatchProvider::lyricsOfBlock(MusixMatchProvider::lyricsBlock(page.text))
+        .value_or(ProviderStep::notUnderstood());
+}
+
+} // namespace
 
 class tst_ProviderCatalogue : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void listsTheSitesInTheirOrder();
-    void copiesEachSite();
+    void listsTheSitesInTheirOrder()
+    {
+        SiteRig rig({Endpoint::LyricsFreak, Endpoint::Genius, Endpoint::Megalyrics, Endpoint::AZLyrics,
+                     Endpoint::DarkLyrics, Endpoint::MusixMatch});
+        QStringList names;
+        for (const auto &provider : makeProviders(rig.manager())) {
+            names.append(provider->name());
+            QVERIFY(provider->siteUrl().startsWith(rig.server().base()));
+        }
+        QCOMPARE(names.join(QLatin1Char(' ')),
+                 QStringLiteral("LyricsFreak Genius Megalyrics AZLyrics DarkLyrics MusixMatch"));
+    }
+
+    void copiesEachSite()
+    {
+        const SiteRig rig({});
+        for (const auto &provider : makeProviders(nullptr)) {
+            QObject owner;
+            const LyricsProvider *copy = provider->clone(&owner);
+            QCOMPARE(copy->parent(), &owner);
+            QCOMPARE(copy->metaObject(), provider->metaObject());
+        }
+    }
+
+    // "@" is where the lyrics stand.
+    void tellsJunkFromLyricsOnSongPages_data()
+    {
+        QTest::addColumn<ReadPage>("read");
+        QTest::addColumn<QString>("page");
+        addRow("LyricsFreak", ReadPage(LyricsFreakProvider::lyricsRequestFinished), "<div id=\"content\">@</div>");
+        addRow("Genius, older", ReadPage(GeniusProvider::lyricsRequestFinished), "<div class=\"lyrics\">@</div>");
+        addRow("Genius, newer", ReadPage(GeniusProvider::lyricsRequestFinished),
+               "<div class=\"Lyrics__Container\">@</div>");
+        addRow("Megalyrics, older", ReadPage(MegaLyricsProvider::lyricsRequestFinished),
+               "<div class=\"text_inner\">@</div>");
+        addRow("Megalyrics, newer", ReadPage(MegaLyricsProvider::lyricsRequestFinished),
+               "<div id=\"song_text\"><div class=\"text\">@</div></div><div class=\"switch-block\">");
+        addRow("AZLyrics", ReadPage(AZLyricsProvider::lyricsRequestFinished), "<div>@</div>");
+        addRow("DarkLyrics", ReadPage(DarkLyricsProvider::lyricsRequestFinished),
+               "<div class=\"cntwrap\"><h3><a name=\"7\">x</a></h3>@</div>");
+        addRow("MusixMatch", ReadPage(readMusixMatch),
+               "<div class=\"mxm-lyrics\"><script>ad()</script><span class=\"lyrics__content__ok\">@</span></div>");
+    }
+
+    void tellsJunkFromLyricsOnSongPages()
+    {
+        QFETCH(ReadPage, read);
+        QFETCH(QString, page);
+        const auto junkWith = [&](const char *lyrics) {
+            const QString text = QString(page).replace(QLatin1Char('@'), QLatin1String(lyrics));
+            const ProviderStep step = read({text, QUrl(QStringLiteral("http://127.0.0.1/album#7"))});
+            return isJunk(step.lyrics(), step.markup());
+        };
+        QVERIFY(!junkWith("I sign in, I log in<br>blocked"));
+        QVERIFY2(junkWith("la\n<script>ad(1)</script>\nli"), "a script within the lyrics");
+        QVERIFY2(junkWith("You must be logged in to read on."), "a notice");
+        QVERIFY2(!read({QStringLiteral("<html><p>la</p></html>"), {}}).isUnderstood(), "another page");
+    }
 };
-
-void tst_ProviderCatalogue::listsTheSitesInTheirOrder()
-{
-    SiteRig rig({Endpoint::LyricsFreak, Endpoint::Genius, Endpoint::Megalyrics, Endpoint::AZLyrics,
-                 Endpoint::DarkLyrics, Endpoint::MusixMatch});
-    QStringList names;
-    for (const auto &provider : makeProviders(rig.manager())) {
-        names.append(provider->name());
-        QVERIFY(provider->siteUrl().startsWith(rig.server().base()));
-    }
-    QCOMPARE(names.join(QLatin1Char(' ')),
-             QStringLiteral("LyricsFreak Genius Megalyrics AZLyrics DarkLyrics MusixMatch"));
-}
-
-void tst_ProviderCatalogue::copiesEachSite()
-{
-    const SiteRig rig({});
-    for (const auto &provider : makeProviders(nullptr)) {
-        QObject owner;
-        const LyricsProvider *copy = provider->clone(&owner);
-        QCOMPARE(copy->parent(), &owner);
-        QCOMPARE(copy->metaObject(), provider->metaObject());
-    }
-}
 
 QTEST_GUILESS_MAIN(tst_ProviderCatalogue)
 #include "tst_providercatalogue.moc"

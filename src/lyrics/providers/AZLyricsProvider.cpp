@@ -84,14 +84,14 @@ ProviderStep AZLyricsProvider::infoRequestFinished(const Page &page) const
 {
     const std::optional<QString> link = songLink(page.text, m_artist);
     if (!link)
-        return ProviderStep::nothing();
+        return ProviderStep::nothingOn(page, QLatin1String("<table"));
     return ProviderStep::ask(browserRequest(QUrl(*link), searchPageUrl()), &AZLyricsProvider::lyricsRequestFinished);
 }
 
 ProviderStep AZLyricsProvider::lyricsRequestFinished(const Page &page)
 {
     static const ChainPattern block(QStringLiteral("<div>(.*)</div>"));
-    return ProviderStep::cleanedLyrics(firstCapture(block, page.text).value_or(QString()));
+    return ProviderStep::cleanedLyrics(firstCapture(block, page.text));
 }
 
 QPair<QString, QString> AZLyricsProvider::searchParameter(const QString &script)

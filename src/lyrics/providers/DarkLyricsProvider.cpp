@@ -111,7 +111,7 @@ ProviderStep DarkLyricsProvider::infoRequestFinished(const Page &page) const
 {
     const std::optional<QString> link = songLink(page.text, m_artist, m_title);
     if (!link)
-        return ProviderStep::nothing();
+        return ProviderStep::nothingOn(page, QLatin1String("cntwrap"));
     // The fragment, which names the song's anchor, stays in the address.
     return ProviderStep::ask(siteRequest(page.url.resolved(QUrl(*link)), browserUserAgent()),
                              &DarkLyricsProvider::lyricsRequestFinished);
@@ -119,7 +119,7 @@ ProviderStep DarkLyricsProvider::infoRequestFinished(const Page &page) const
 
 ProviderStep DarkLyricsProvider::lyricsRequestFinished(const Page &page)
 {
-    return ProviderStep::lyrics(cleanLyrics(songUnderAnchor(page.text, page.url.fragment(QUrl::FullyDecoded))));
+    return ProviderStep::cleanedLyrics(songUnderAnchor(page.text, page.url.fragment(QUrl::FullyDecoded)));
 }
 
 QMap<QString, QString> DarkLyricsProvider::sections(const QString &page)
@@ -156,12 +156,12 @@ std::optional<QString> DarkLyricsProvider::songLink(const QString &searchPage, c
     return std::nullopt;
 }
 
-QString DarkLyricsProvider::songUnderAnchor(const QString &albumPage, const QString &anchor)
+std::optional<QString> DarkLyricsProvider::songUnderAnchor(const QString &albumPage, const QString &anchor)
 {
     // The headings of an album's page are the titles with their anchors, so a key holds the anchor of its section.
     const QString named = QStringLiteral("name=\"%1\"").arg(anchor).toLower();
     const QMap<QString, QString> songs = sections(albumPage);
     const auto song = std::find_if(songs.keyBegin(), songs.keyEnd(),
                                    [&named](const QString &heading) { return holdsText(heading, named); });
-    return song == songs.keyEnd() ? QString() : *song.base();
+    return song == songs.keyEnd() ? std::nullopt : std::make_optional(*song.base());
 }

@@ -30,8 +30,10 @@ public:
     // nothing when there is none.
     [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist,
                                                          const QString &title);
-    // The HTML of the song under the anchor of this name, in any letter case; empty when there is none.
-    [[nodiscard]] static QString songUnderAnchor(const QString &albumPage, const QString &anchor);
+    // The HTML of the song under the anchor of this name, in any letter case; nothing when there is none.
+    [[nodiscard]] static std::optional<QString> songUnderAnchor(const QString &albumPage, const QString &anchor);
+    // Reads an album's page, whose address names the song's anchor.
+    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
 protected:
     ProviderStep firstStep(const QString &artist, const QString &title) override;
@@ -40,7 +42,6 @@ protected:
 private:
     [[nodiscard]] ProviderStep processSearch();
     [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
-    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
     QString m_artist; // both normalised
     QString m_title;

@@ -106,50 +106,10 @@ QString withoutBlocksOnOneLine(const QString &html)
     return text.append(QStringView(html).mid(copied));
 }
 
-bool isDecimalDigit(QChar c)
+// `markup` is the container without blocks on one line.
+QString lyricsOfContainer(const QString &markup)
 {
-    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-}
-
-// The character of "&#65" at the end of the text, which is taken off; nothing when no such reference stands there.
-// A number beyond Unicode gives U+FFFD.
-QString takeReferenceAtEnd(QString &text)
-{
-    int digits = text.size();
-    while (digits > 0 && isDecimalDigit(text.at(digits - 1)))
-        --digits;
-    if (digits == text.size() || !QStringView(text).left(digits).endsWith(QLatin1String("&#")))
-        return {};
-    bool fits = false;
-    const uint number = text.midRef(digits).toUInt(&fits);
-    const bool exists = fits && number <= QChar::LastValidCodePoint;
-    const uint codePoint = exists ? number : static_cast<uint>(QChar::ReplacementCharacter);
-    text.truncate(digits - 2);
-    return QString::fromUcs4(&codePoint, 1);
-}
-
-// Decimal references of any number of digits. Looking back from each ";" finds those as well that come into being
-// through a decoded character.
-QString withDecimalReferencesDecoded(const QString &text)
-{
-    QString decoded;
-    for (const QChar c : text) {
-        decoded += c;
-        while (decoded.endsWith(QLatin1Char(';'))) {
-            decoded.chop(1);
-            const QString character = takeReferenceAtEnd(decoded);
-            decoded += character.isEmpty() ? QStringLiteral(";") : character;
-            if (character.isEmpty())
-                break;
-        }
-    }
-    return decoded;
-}
-
-QString lyricsOfContainer(const QString &container)
-{
-    const QString text = withoutBlocksOnOneLine(withPlainBreaksAsNewlines(container));
-    const QString decoded = decodeHtmlEntities(withDecimalReferencesDecoded(stripTags(text).trimmed()));
+    const QString decoded = decodeHtmlEntities(decodeDecimalReferences(stripTags(markup).trimmed()));
     // The container's own closing tag has lost its ">", so that it is no tag and stays until here.
     return decoded.split(QStringLiteral("</div")).join(QString());
 }
@@ -162,21 +122,24 @@ QString withPlainBreaksAsNewlines(const QString &html)
     return html.split(QStringLiteral("<br>")).join(newline).split(QStringLiteral("<br/>")).join(newline);
 }
 
-QString lyricsOfGeniusContainers(const QString &songPage)
+ProviderStep readGeniusContainers(const QString &songPage)
 {
     static const ChainPattern openingTag(QStringLiteral("<div[^>]*class=\"Lyrics__Container.*>"));
     const ChainScan containers(openingTag, songPage);
     QString lyrics;
+    QString markup;
     int searched = 0;
     while (const auto container = containers.next(searched)) {
         const QString element = elementAt(songPage, container->position);
         if (element.isEmpty())
             break;
-        const QString text = lyricsOfContainer(element);
+        const QString fragment = withoutBlocksOnOneLine(withPlainBreaksAsNewlines(element));
+        const QString text = lyricsOfContainer(fragment);
         if (!text.isEmpty() && !lyrics.isEmpty())
             lyrics += QLatin1String("\r\n");
         lyrics += text;
+        markup += fragment;
         searched = container->position + element.size();
     }
-    return lyrics;
+    return searched > 0 ? ProviderStep::lyrics(lyrics, markup) : ProviderStep::notUnderstood();
 }

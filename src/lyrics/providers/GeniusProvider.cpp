@@ -100,7 +100,7 @@ ProviderStep GeniusProvider::infoRequestFinished(const Page &page) const
 {
     const std::optional<QString> path = songPath(page.text, m_artist, m_title);
     if (!path)
-        return ProviderStep::nothing();
+        return ProviderStep::nothingOn(page, QLatin1String("\"sections\""));
     const QString base = endpointBase(Endpoint::Genius).toString(QUrl::FullyEncoded);
     return ProviderStep::ask(QNetworkRequest(QUrl::fromUserInput(base + *path)),
                              &GeniusProvider::lyricsRequestFinished);
@@ -108,7 +108,10 @@ ProviderStep GeniusProvider::infoRequestFinished(const Page &page) const
 
 ProviderStep GeniusProvider::lyricsRequestFinished(const Page &page)
 {
-    return ProviderStep::lyrics(lyricsOfPage(page.text));
+    // The "*" makes the quotation mark optional and repeatable; it is meant.
+    static const ChainPattern olderBlock(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
+    const std::optional<QString> block = firstCapture(olderBlock, page.text);
+    return block ? ProviderStep::lyrics(olderLyrics(*block), *block) : readGeniusContainers(page.text);
 }
 
 std::optional<QString> GeniusProvider::songPath(const QString &searchAnswer, const QString &artist,
@@ -126,12 +129,4 @@ std::optional<QString> GeniusProvider::songPath(const QString &searchAnswer, con
             return path;
     }
     return std::nullopt;
-}
-
-QString GeniusProvider::lyricsOfPage(const QString &songPage)
-{
-    // The "*" makes the quotation mark optional and repeatable; it is meant.
-    static const ChainPattern olderBlock(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
-    const std::optional<QString> block = firstCapture(olderBlock, songPage);
-    return block ? olderLyrics(*block) : lyricsOfGeniusContainers(songPage);
 }

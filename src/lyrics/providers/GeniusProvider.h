@@ -23,8 +23,8 @@ public:
     // nothing when there is none.
     [[nodiscard]] static std::optional<QString> songPath(const QString &searchAnswer, const QString &artist,
                                                          const QString &title);
-    // The lyrics of a song's page; empty when there are none.
-    [[nodiscard]] static QString lyricsOfPage(const QString &songPage);
+    // Reads a song's page.
+    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
 protected:
     ProviderStep firstStep(const QString &artist, const QString &title) override;
@@ -33,7 +33,6 @@ protected:
 
 private:
     [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
-    [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
     QString m_artist; // both normalised
     QString m_title;

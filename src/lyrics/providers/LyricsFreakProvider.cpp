@@ -82,7 +82,7 @@ ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const
 {
     const std::optional<QString> link = songLink(page.text, m_artist, m_title);
     if (!link)
-        return ProviderStep::nothing();
+        return ProviderStep::nothingOn(page, QLatin1String("data-sorting-artist="));
     const bool onSite = link->startsWith(QLatin1Char('/'));
     const QUrl url = onSite ? endpointUrl(Endpoint::LyricsFreak, *link) : QUrl(*link);
     return ProviderStep::ask(QNetworkRequest(url), &LyricsFreakProvider::lyricsRequestFinished);
@@ -115,5 +115,5 @@ std::optional<QString> LyricsFreakProvider::songLink(const QString &searchPage, 
 ProviderStep LyricsFreakProvider::lyricsRequestFinished(const Page &page)
 {
     static const ChainPattern content(QStringLiteral("<div[^>]*id=[\"']content[\"'].*>(.*)</div>"));
-    return ProviderStep::cleanedLyrics(firstCapture(content, page.text).value_or(QString()));
+    return ProviderStep::cleanedLyrics(firstCapture(content, page.text));
 }

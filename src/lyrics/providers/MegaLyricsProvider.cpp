@@ -73,7 +73,7 @@ ProviderStep MegaLyricsProvider::infoRequestFinished(const Page &page) const
 {
     const std::optional<QString> link = songLink(page.text, m_artist, m_title);
     if (!link)
-        return ProviderStep::nothing();
+        return ProviderStep::nothingOn(page, QLatin1String("songs-table"));
     return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, *link)),
                              &MegaLyricsProvider::lyricsRequestFinished);
 }
@@ -103,5 +103,6 @@ ProviderStep MegaLyricsProvider::lyricsRequestFinished(const Page &page)
     const QString text = withMatchesReplaced(page.text, advert, QString());
     if (const std::optional<QString> songText = firstCapture(song, text))
         return ProviderStep::lyrics(joinedTexts(*songText));
-    return ProviderStep::lyrics(withoutBreakTags(firstCapture(inner, text).value_or(QString())));
+    const std::optional<QString> textInner = firstCapture(inner, text);
+    return textInner ? ProviderStep::lyrics(withoutBreakTags(*textInner)) : ProviderStep::notUnderstood();
 }

@@ -102,13 +102,12 @@ ProviderStep MusixMatchProvider::requestFinished(const Page &page)
 {
     const QString block = lyricsBlock(page.text);
     if (!block.isEmpty()) {
-        const std::optional<QString> lyrics = lyricsOfBlock(block);
         //: %1 is the name of a lyrics site.
-        return lyrics ? ProviderStep::lyrics(*lyrics)
-                      : ProviderStep::failure(tr("%1 gave a page that is too intricate to read.").arg(name()));
+        const QString tooIntricate = tr("%1 gave a page that is too intricate to read.").arg(name());
+        return lyricsOfBlock(block).value_or(ProviderStep::failure(tooIntricate));
     }
     const std::optional<QString> link = trackLink(page.text, m_artist, m_title);
-    return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::nothing();
+    return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::nothingOn(page, QLatin1String("thumb-list"));
 }
 
 QString MusixMatchProvider::lyricsBlock(const QString &page)
@@ -116,15 +115,17 @@ QString MusixMatchProvider::lyricsBlock(const QString &page)
     return findElement(page, QStringLiteral("div"), {QStringLiteral("mxm-lyrics")}, false);
 }
 
-std::optional<QString> MusixMatchProvider::lyricsOfBlock(const QString &block)
+std::optional<ProviderStep> MusixMatchProvider::lyricsOfBlock(const QString &block)
 {
     QString lyrics;
+    QString markup;
     QString rest = block;
     for (qint64 searched = rest.size(); searched <= mostSearched; searched += rest.size()) {
         const QString span = findElement(rest, QStringLiteral("span"), {QStringLiteral("lyrics__content__ok")}, true);
         if (span.isEmpty())
-            return lyrics;
+            return ProviderStep::lyrics(lyrics, markup);
         lyrics += stripTags(span);
+        markup += span;
         // Wherever it stands: a part that comes again, word for word, is taken once. This is deliberate.
         rest = withoutText(rest, span);
     }

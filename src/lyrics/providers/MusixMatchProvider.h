@@ -20,9 +20,9 @@ public:
 
     // The HTML of the lyrics on a track's page; empty when it is another page.
     [[nodiscard]] static QString lyricsBlock(const QString &page);
-    // The text of all lyrics in such a block, one behind the other without a separator; nothing when the block is too
-    // intricate to be one.
-    [[nodiscard]] static std::optional<QString> lyricsOfBlock(const QString &block);
+    // Reads such a block: the texts of all its lyrics, one behind the other without a separator; nothing when the block
+    // is too intricate to be one.
+    [[nodiscard]] static std::optional<ProviderStep> lyricsOfBlock(const QString &block);
     // The link, as it stands in the page, of the first track in a list that resembles these normalised names; nothing
     // when there is none. Tracks without a link do not count.
     [[nodiscard]] static std::optional<QString> trackLink(const QString &searchPage, const QString &artist,
