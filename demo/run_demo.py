@@ -113,7 +113,9 @@ def main():
         print("Making the songs...", flush=True)
         paths = songs.make_songs((options.keep or place.home / "Music").resolve())
         place.write_settings(paths, sites.endpoints())
-        program = place.start()
+        # What each site answered would hide the table in the end.
+        rules = os.environ.get("QT_LOGGING_RULES", "versewell.lyrics.info=false")
+        program = place.start(QT_LOGGING_RULES=rules)
         if screen:
             good = run_on_virtual_screen(program, screen, sites, paths, options.screenshot)
         else:

@@ -140,8 +140,9 @@ class MegalyricsSite(Site):
         if number % 2 == 0:
             content = f'{advert}<div class="text_inner" data-id="1">{with_breaks(words, "<br>")}</div>'
         else:
-            parts = "".join(f'<div class="part"><div class="text">{html.escape(part)}\n</div></div>{advert}'
-                            for part in words.split("\n\n"))
+            # The blocks come to stand on lines of their own; each but the first begins with an empty one.
+            parts = "".join(f'<div class="part"><div class="text">{html.escape(part)}</div></div>{advert}'
+                            for part in words.replace("\n\n", "\n\n\n").split("\n\n"))
             content = f'<div id="song_text" lang="ru">{parts}</div><div class="switch-block">Перевод</div>'
         return page(" - ".join(names), content)
 

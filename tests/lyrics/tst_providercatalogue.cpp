@@ -21,8 +21,9 @@ namespace {
 
 ProviderStep readMusixMatch(const Page &page)
 {
-    return MusixMatchProvider::lyricsOfBlock(MusixMatchProvider::lyricsBlock(page.text))
-        .value_or(ProviderStep::notUnderstood());
+    const QString block = MusixMatchProvider::lyricsBlock(page.text);
+    return block.isEmpty() ? ProviderStep::notUnderstood()
+                           : MusixMatchProvider::lyricsOfBlock(block).value_or(ProviderStep::nothing());
 }
 
 } // namespace
