@@ -25,15 +25,15 @@ QString searchAnswer()
         decoys << json("{'type':'%1','hits':[{'type':'song','result':{'_type':'song','path':'/decoy-%2','titl"
                        "e':'Harbour Lights','stats':{'hot':false,'views':%2},'primary_artist':{'name':'Tin La"
                        "nterns','url':'https://x.invalid/%2'}}}]}")
-                      .arg(i % 2 == 0 ? QStringLiteral("album") : QStringLiteral("Song"))
+                      .arg(i % 2 == 0 ? "album"_s : "Song"_s)
                       .arg(i);
-    return sitePage("genius", "search.json").replace(QLatin1String("\"@DECOYS@\""), decoys.join(QLatin1Char(',')));
+    return sitePage("genius", "search.json").replace("\"@DECOYS@\""_s, decoys.join(QLatin1Char(',')));
 }
 
 // Containers are joined by CR LF.
 QString newerLyrics()
 {
-    return harbourLights().replace(QLatin1String("\n\n"), QLatin1String("\r\n"));
+    return harbourLights().replace("\n\n"_s, "\r\n"_s);
 }
 
 // The same as it is written with the expressions themselves.
@@ -52,11 +52,11 @@ QString elementAt(const QString &page, int start)
     const QString name = rest.mid(1, std::max(0, rest.indexOf(QLatin1Char(' '), 1) - 1));
     if (name.isEmpty())
         return {};
-    QRegExp tag(QStringLiteral("<%1[^>]+/>|<%1|</%1").arg(QRegExp::escape(name)));
+    QRegExp tag("<%1[^>]+/>|<%1|</%1"_s.arg(QRegExp::escape(name)));
     int depth = 0;
     for (int at = tag.indexIn(rest); at >= 0; at = tag.indexIn(rest, at + tag.matchedLength())) {
-        if (!tag.cap(0).endsWith(QLatin1String("/>")))
-            depth += tag.cap(0).startsWith(QLatin1String("</")) ? -1 : 1;
+        if (!tag.cap(0).endsWith("/>"_s))
+            depth += tag.cap(0).startsWith("</"_s) ? -1 : 1;
         if (depth == 0)
             return rest.left(at + tag.matchedLength());
     }
@@ -65,21 +65,21 @@ QString elementAt(const QString &page, int start)
 
 QString lyricsOfContainer(QString text)
 {
-    text.replace(QRegExp(QStringLiteral("<br/?>")), QStringLiteral("\n"));
-    text.replace(QRegularExpression(QStringLiteral("<div.*?</div>")), QStringLiteral("\n"));
+    text.replace(QRegExp("<br/?>"_s), "\n"_s);
+    text.replace(QRegularExpression("<div.*?</div>"_s), "\n"_s);
     text = stripTags(text).trimmed();
-    return decodeHtmlEntities(decodeDecimalReferences(text)).remove(QLatin1String("</div"));
+    return decodeHtmlEntities(decodeDecimalReferences(text)).remove("</div"_s);
 }
 
 QString lyricsOfPage(const QString &page)
 {
-    QRegExp older = minimal(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
+    QRegExp older = minimal("<div class=\"lyrics\"*>(.*)</div>"_s);
     if (older.indexIn(page) >= 0) {
         QString block = older.cap(1).remove(QLatin1Char('\n')).remove(QLatin1Char('\r'));
-        return stripTags(block.replace(QRegExp(QStringLiteral("<br/?>")), QStringLiteral("\n"))).trimmed();
+        return stripTags(block.replace(QRegExp("<br/?>"_s), "\n"_s)).trimmed();
     }
     QStringList texts;
-    QRegExp container = minimal(QStringLiteral("<div[^>]*class=\"Lyrics__Container.*>"));
+    QRegExp container = minimal("<div[^>]*class=\"Lyrics__Container.*>"_s);
     for (int at = container.indexIn(page); at >= 0;) {
         const QString element = elementAt(page, at);
         if (element.isEmpty())
@@ -88,7 +88,7 @@ QString lyricsOfPage(const QString &page)
         at = container.indexIn(page, at + element.size());
     }
     texts.removeAll(QString());
-    return texts.join(QStringLiteral("\r\n"));
+    return texts.join("\r\n"_s);
 }
 
 } // namespace plain
@@ -139,13 +139,12 @@ private slots:
                answer.arg(json("{'status':200}"), json("null,7,[],{'type':'song','result':[]},") + song), "/1");
         addRow("names that are missing resemble everything",
                answer.arg(json("{'status':200}"), json("{'type':'song','result':{'_type':'song','path':'/2'}}")), "/2");
-        addRow("cut short", answer.arg(json("{'status':200}"), song).chopped(1), "");
     }
 
     void understandsAnswers()
     {
         QFETCH(QString, answer);
-        const auto path = GeniusProvider::songPath(answer, QStringLiteral("b"), QStringLiteral("a"));
+        const auto path = GeniusProvider::songPath(answer, "b"_s, "a"_s);
         QTEST(path.value_or(QString()), "path");
     }
 
@@ -171,7 +170,7 @@ private slots:
     void findsTheLyrics()
     {
         QFETCH(QString, page);
-        page.replace(QLatin1Char('@'), QLatin1String("<div class=\"Lyrics__Container-sc\">"));
+        page.replace(QLatin1Char('@'), "<div class=\"Lyrics__Container-sc\">"_s);
         QTEST(lyricsOf(page), "lyrics");
     }
 
@@ -182,45 +181,34 @@ private slots:
             QVERIFY(page.size() > 20000 && page.size() < 60000);
             QCOMPARE(lyricsOf(page), plain::lyricsOfPage(page));
         }
-        RandomText pages(
-            QStringLiteral("<div~class=\"Lyrics__Container </div </div> </div> <div~ <div /> > <br> <br/> x "
-                           "\n \r ~ class=\"Lyrics__Container <div&class=\"lyrics\"> &#65; &#38; amp; #66; "
-                           "<div~class=\"Lyrics__Container\"> </div> / &lt; <b>")
-                .split(QLatin1Char(' ')));
-        int found = 0;
-        for (int i = 0; i < 3000; ++i) {
-            QString page = pages.next(6 + i % 30).replace(QLatin1Char('~'), QLatin1Char(' '));
-            if (i % 4 == 0)
-                page.replace(QLatin1String("div&"), QLatin1String("div "));
-            const QString lyrics = plain::lyricsOfPage(page);
-            found += lyrics.isEmpty() ? 0 : 1;
-            QVERIFY2(lyricsOf(page) == lyrics, qPrintable(page));
-        }
-        QVERIFY2(found > 200, "the pages must hold lyrics often enough to say something");
+        const QString pieces =
+            "<div~class=\"Lyrics__Container </div </div> </div> <div~ <div /> > <br> <br/> x \n \r ~ "
+            "class=\"Lyrics__Container &#65; &#38; amp; #66; <div~class=\"Lyrics__Container\"> </div> "
+            "/ &lt; <b>"_s;
+        compareOnRandomTexts(pieces, lyricsOf, plain::lyricsOfPage);
+        compareOnRandomTexts(pieces + " <div~class=\"lyrics\">"_s, lyricsOf, plain::lyricsOfPage);
     }
 
     void answersHostilePages_data()
     {
         QTest::addColumn<QString>("page");
-        const QString container = QStringLiteral("<div class=\"Lyrics__Container\">");
+        const QString container = "<div class=\"Lyrics__Container\">"_s;
         const QString hit = json("{'type':'song','result':{'_type':'song'}},");
         const QString answer = json("{'meta':{'status':200},'response':{'sections':[{'type':'song','hits':");
-        addRow("brackets", repeated("<"));
-        addRow("openings behind a container", container + repeated("<div "));
         addRow("older blocks that are not closed", repeated("<div class=\"lyrics\">"));
         addRow("one container that is not closed, of a long name",
                repeated("<div\nclass=\"Lyrics__Container\">") + QLatin1Char(' '));
-        addRow("elements in one another", container + repeated("<div ", hostileSize / 2) +
-                                              repeated("</div", hostileSize / 2) + QStringLiteral("</div"));
-        addRow("references to references", container + repeated("&#38;#38;") + QStringLiteral("</div>"));
+        addRow("elements in one another",
+               container + repeated("<div ", hostileSize / 2) + repeated("</div", hostileSize / 2) + "</div"_s);
+        addRow("references to references", container + repeated("&#38;#38;") + "</div>"_s);
         addRow("objects in one another", repeated("{\"meta\":"));
-        addRow("hits without an address", answer + QLatin1Char('[') + repeated(hit) + QStringLiteral("0]}]}}"));
+        addRow("hits without an address", answer + QLatin1Char('[') + repeated(hit) + "0]}]}}"_s);
     }
 
     void answersHostilePages()
     {
         QFETCH(QString, page);
-        QVERIFY(!GeniusProvider::songPath(page, QStringLiteral("b"), QStringLiteral("a")));
+        QVERIFY(!GeniusProvider::songPath(page, "b"_s, "a"_s));
         QVERIFY(lyricsOf(page).size() < page.size());
     }
 
@@ -252,7 +240,7 @@ private slots:
         for (const char *path : {"/a%20b%2F", "//other.invalid/a", "/a?b=%26"}) {
             rig.page("/api/search/multi", QString(answer).replace(QLatin1Char('@'), QLatin1String(path)));
             const SiteAnswer found = rig.search<GeniusProvider>("b", "a");
-            QCOMPARE(found.lyrics, QStringLiteral("100%41"));
+            QCOMPARE(found.lyrics, "100%41"_s);
             QCOMPARE(rig.targets().last(), QByteArray(path).replace("//", "/"));
         }
     }
@@ -260,11 +248,11 @@ private slots:
     void carriesNoHeadersOnRedirects()
     {
         SiteRig rig({Endpoint::Genius});
-        rig.server().route(QStringLiteral("/api/search/multi"), LoopbackResponse::redirect(307, "/found"));
+        rig.server().route("/api/search/multi"_s, LoopbackResponse::redirect(307, "/found"));
         rig.page("/found", searchAnswer());
-        rig.server().route(QStringLiteral("/Parusa-ogni-gavani-lyrics"), LoopbackResponse::redirect(301, "/song"));
-        rig.page("/song", QStringLiteral("<div class=\"lyrics\">la</div>"));
-        QCOMPARE(rig.search<GeniusProvider>("Паруса", "Огни гавани").lyrics, QStringLiteral("la"));
+        rig.server().route("/Parusa-ogni-gavani-lyrics"_s, LoopbackResponse::redirect(301, "/song"));
+        rig.page("/song", "<div class=\"lyrics\">la</div>"_s);
+        QCOMPARE(rig.search<GeniusProvider>("Паруса", "Огни гавани").lyrics, "la"_s);
         QCOMPARE(rig.server().requests().size(), 4);
         for (const LoopbackRequest &request : rig.server().requests())
             QVERIFY(request.header("Referer").isNull() && !request.header("User-Agent").contains("Chrome"));

@@ -29,32 +29,27 @@ private slots:
         const auto song = [](const char *name, const QString &text) {
             addRow(name, text, false);
         };
-        notice("not licensed", QStringLiteral("Unfortunately, we are not authorized\nto show these lyrics."));
-        notice("licensed in part",
-               QStringLiteral("One line of the song\n\nWe are not licensed to display the rest here."));
-        notice("withdrawn", QStringLiteral("This text was removed at the request of the copyright owner."));
-        notice("withdrawn, in Russian", QStringLiteral("Текст удалён по требованию правообладателя."));
-        notice("another country", QStringLiteral("Sorry! These lyrics are not available in your country (yet)."));
-        notice("log-in wall", QStringLiteral("You must be logged in to read on. No account? It's free."));
-        notice("block notice", QStringLiteral("Sorry, you have been blocked\nCloudflare Ray ID: 7d2"));
-        notice("refused by the server", QStringLiteral("You don\u2019t have permission to access this resource."));
-        notice("captcha", QStringLiteral("One more step\nPlease complete the captcha below to go on"));
-        notice("shell", QStringLiteral("Please enable\n  JavaScript to see this page"));
-        notice("nothing but a status", QStringLiteral(" 404 Not Found "));
-        notice("an empty shell", QStringLiteral("Loading lyrics..."));
-        notice("nothing there yet", QStringLiteral("We do not have the lyrics of this one. Add them?"));
-        notice("blanks and tags alone", QStringLiteral(" \n<br/>&nbsp;<p>\u00a0</p>"));
-        song("brackets", QStringLiteral("<3"));
-        song("one word again and again", QStringLiteral("No\nNo no no\nNo"));
-        song("blocked", QStringLiteral("You have been blocked, she told my number\nblocked by the moon"));
-        song("copyright", QStringLiteral("There's a copyright on kisses\nall rights are hers to keep"));
-        song("access denied in a line",
-             QStringLiteral("Access denied, says the door to your heart\nnot found, not found"));
-        song("a robot", QStringLiteral("I'm not a robot, I can prove I'm human\nsign in, sign out, log in, log out"));
-        song("request and license", QStringLiteral("By request of the owner of the bar\nno license to drive that car"));
-        song("loading", QStringLiteral("Loading, loading, just a moment more"));
-        song("no words", QStringLiteral("[Instrumental]"));
-        song("scripts and cookies", QStringLiteral("She writes javascript and bakes me cookies\nenable me"));
+        notice("not licensed", "Unfortunately, we are not authorized\nto show these lyrics."_s);
+        notice("licensed in part", "One line of the song\n\nWe are not licensed to display the rest here."_s);
+        notice("withdrawn", "This text was removed at the request of the copyright owner."_s);
+        notice("withdrawn, in Russian", "Текст удалён по требованию правообладателя."_s);
+        notice("another country", "Sorry! These lyrics are not available in your country (yet)."_s);
+        notice("log-in wall", "You must be logged in to read on. No account? It's free."_s);
+        notice("block notice", "Sorry, you have been blocked\nCloudflare Ray ID: 7d2"_s);
+        notice("refused by the server", "You don\u2019t have permission to access this resource."_s);
+        notice("shell", "Please enable\n  JavaScript to see this page"_s);
+        notice("nothing but a status", " 404 Not Found "_s);
+        notice("an empty shell", "Loading lyrics..."_s);
+        notice("nothing there yet", "We do not have the lyrics of this one. Add them?"_s);
+        notice("blanks and tags alone", " \n<br/>&nbsp;<p>\u00a0</p>"_s);
+        song("brackets", "<3"_s);
+        song("one word again and again", "No\nNo no no\nNo"_s);
+        song("blocked", "You have been blocked, she told my number\nblocked by the moon"_s);
+        song("copyright", "There's a copyright on kisses\nall rights are hers to keep"_s);
+        song("access denied in a line", "Access denied, says the door to your heart\nnot found, not found"_s);
+        song("a robot", "I'm not a robot, I can prove I'm human\nsign in, sign out, log in, log out"_s);
+        song("no words", "[Instrumental]"_s);
+        song("scripts and cookies", "She writes javascript and bakes me cookies\nenable me"_s);
     }
 
     void tellsJunkFromLyrics()
@@ -76,7 +71,7 @@ private slots:
     void seesScriptsThatTheCleanUpHides()
     {
         QFETCH(QString, markup);
-        QTEST(isJunk(QStringLiteral("la li"), markup), "junk");
+        QTEST(isJunk("la li"_s, markup), "junk");
     }
 };
 

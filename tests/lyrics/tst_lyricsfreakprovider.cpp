@@ -42,8 +42,6 @@ private slots:
         addRow("a link behind the row's own block", "@ROW</div>@LINK", "");
         addRow("a row within a row that has a link", "@ROW@ROW</div>@LINK</div>", "/1");
         addRow("the next row after one without a block, and a link in it", "@ROW<divider>@ROW@LINK</div>", "/1");
-        addRow("the song may stand before the artist",
-               R"(<div data-sorting-song="a" data-sorting-artist="b">@LINK</div>)", "/1");
         addRow("the class must not stand before the address", R"(@ROW<a class="song" href="/1">x</a></div>)", "");
         addRow("an empty name resembles everything", R"(<div data-sorting-artist="">@LINK</div>)", "/1");
     }
@@ -51,9 +49,9 @@ private slots:
     void findsTheLinkInRows()
     {
         QFETCH(QString, page);
-        page.replace(QLatin1String("@ROW"), QLatin1String(R"(<div data-sorting-artist="b" data-sorting-song="a">)"));
-        page.replace(QLatin1String("@LINK"), QLatin1String(R"(<a href="/1" class="song">x</a>)"));
-        const auto link = LyricsFreakProvider::songLink(page, QStringLiteral("b"), QStringLiteral("a"));
+        page.replace("@ROW"_s, R"(<div data-sorting-artist="b" data-sorting-song="a">)"_s);
+        page.replace("@LINK"_s, R"(<a href="/1" class="song">x</a>)"_s);
+        const auto link = LyricsFreakProvider::songLink(page, "b"_s, "a"_s);
         QTEST(link.value_or(QString()), "link");
     }
 
@@ -63,7 +61,6 @@ private slots:
         addRow("a whole page", sitePage("lyricsfreak", "song.html"), harbourLights());
         addRow("up to the first closing tag", "<div id=\"content\">la<div>li</div>lu</div>", "lali");
         addRow("the quotation marks need not agree", "<div id=\"content'>la</div>", "la");
-        addRow("nothing", "", "");
     }
 
     void findsTheLyrics()
@@ -76,18 +73,17 @@ private slots:
     void answersHostilePages_data()
     {
         QTest::addColumn<QString>("page");
-        const QString row = QStringLiteral("<div data-sorting-artist=\"\" data-sorting-song=\"\">");
+        const QString row = "<div data-sorting-artist=\"\" data-sorting-song=\"\">"_s;
         addRow("brackets", repeated("<"));
-        addRow("openings, then nearly a content block", repeated("<div ") + QStringLiteral("id=\"content\"> x</div"));
+        addRow("openings, then nearly a content block", repeated("<div ") + "id=\"content\"> x</div"_s);
         addRow("matching rows with half a link",
-               repeated(row + QStringLiteral("<a href=\"<a href=\""), hostileSize * 9 / 10) +
-                   repeated("</div>", hostileSize / 10));
+               repeated(row + "<a href=\"<a href=\""_s, hostileSize * 9 / 10) + repeated("</div>", hostileSize / 10));
     }
 
     void answersHostilePages()
     {
         QFETCH(QString, page);
-        QVERIFY(!LyricsFreakProvider::songLink(page, QStringLiteral("b"), QStringLiteral("a")));
+        QVERIFY(!LyricsFreakProvider::songLink(page, "b"_s, "a"_s));
         QVERIFY(LyricsFreakProvider::lyricsRequestFinished({page, {}}).lyrics().isEmpty());
     }
 
@@ -114,11 +110,11 @@ private slots:
     {
         const QByteArray row =
             "<div data-sorting-artist=\"b\" data-sorting-song=\"a\"><a href=\"/1\" class=\"song\"></a></div>";
-        server().route(QStringLiteral("/search.php"), LoopbackResponse::redirect(301, "/found"));
-        server().route(QStringLiteral("/found"), LoopbackResponse::page(row));
-        server().route(QStringLiteral("/1"), LoopbackResponse::redirect(307, "/2"));
-        server().route(QStringLiteral("/2"), LoopbackResponse::page("<div id=\"content\">la</div>"));
-        QCOMPARE(search("b", "a").lyrics, QStringLiteral("la"));
+        server().route("/search.php"_s, LoopbackResponse::redirect(301, "/found"));
+        server().route("/found"_s, LoopbackResponse::page(row));
+        server().route("/1"_s, LoopbackResponse::redirect(307, "/2"));
+        server().route("/2"_s, LoopbackResponse::page("<div id=\"content\">la</div>"));
+        QCOMPARE(search("b", "a").lyrics, "la"_s);
         QCOMPARE(server().requests().size(), 4);
         for (const int followed : {1, 3}) {
             const LoopbackRequest request = server().requests().at(followed);
@@ -133,7 +129,6 @@ private slots:
         QTest::addColumn<QString>("lyrics");
         QTest::addColumn<bool>("failed");
         addRow("on the site", QByteArray("/song"), "la", false);
-        addRow("a full address", QByteArray("@BASE@/song"), "la", false);
         addRow("a second slash leads to no other host", QByteArray("//other.invalid/song"), "", true);
         addRow("an address without a host", QByteArray("song"), "", true);
         addRow("nothing", QByteArray(), "", true);
@@ -144,10 +139,9 @@ private slots:
         QFETCH(QByteArray, link);
         QFETCH(bool, failed);
         link.replace("@BASE@", server().base().toUtf8());
-        server().route(QStringLiteral("/song"), LoopbackResponse::page("<div id=\"content\">la</div>"));
-        server().route(
-            QStringLiteral("/search.php"),
-            LoopbackResponse::page("<div data-sorting-artist=\"\"><a href=\"" + link + "\" class=\"song\"></a></div>"));
+        server().route("/song"_s, LoopbackResponse::page("<div id=\"content\">la</div>"));
+        server().route("/search.php"_s, LoopbackResponse::page("<div data-sorting-artist=\"\"><a href=\"" + link +
+                                                               "\" class=\"song\"></a></div>"));
         const SiteAnswer answer = search("b", "a");
         QTEST(answer.lyrics, "lyrics");
         QCOMPARE(!answer.errorString.isEmpty(), failed);

@@ -2,6 +2,7 @@
 #include "PlainElements.h"
 #include "RandomText.h"
 #include "lyrics/NestedElements.h"
+#include "support/TestTable.h"
 
 #include <QTest>
 
@@ -12,12 +13,12 @@ class tst_NestedElements : public QObject
 private slots:
     void countsLikeThePlainExpression()
     {
-        RandomText pages(QStringLiteral("<div </div < > </ <DIV </span> x").split(QLatin1Char(' ')));
+        RandomText pages("<div </div < > </ <DIV </span> x"_s.split(QLatin1Char(' ')));
         for (int i = 0; i < 3000; ++i) {
             const QString page = pages.next(30);
-            const NestedElements divs(page, QStringLiteral("div"));
+            const NestedElements divs(page, "div"_s);
             for (int at = 0; at < page.size(); ++at)
-                QVERIFY2(divs.closingTag(at) == countedClosingTag(page, QStringLiteral("div"), at), qPrintable(page));
+                QVERIFY2(divs.closingTag(at) == countedClosingTag(page, "div"_s, at), qPrintable(page));
         }
     }
 };

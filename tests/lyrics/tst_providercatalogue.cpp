@@ -42,8 +42,7 @@ private slots:
             names.append(provider->name());
             QVERIFY(provider->siteUrl().startsWith(rig.server().base()));
         }
-        QCOMPARE(names.join(QLatin1Char(' ')),
-                 QStringLiteral("LyricsFreak Genius Megalyrics AZLyrics DarkLyrics MusixMatch"));
+        QCOMPARE(names.join(QLatin1Char(' ')), "LyricsFreak Genius Megalyrics AZLyrics DarkLyrics MusixMatch"_s);
     }
 
     void copiesEachSite()
@@ -83,13 +82,13 @@ private slots:
         QFETCH(QString, page);
         const auto junkWith = [&](const char *lyrics) {
             const QString text = QString(page).replace(QLatin1Char('@'), QLatin1String(lyrics));
-            const ProviderStep step = read({text, QUrl(QStringLiteral("http://127.0.0.1/album#7"))});
+            const ProviderStep step = read({text, QUrl("http://127.0.0.1/album#7"_s)});
             return isJunk(step.lyrics(), step.markup());
         };
         QVERIFY(!junkWith("I sign in, I log in<br>blocked"));
         QVERIFY2(junkWith("la\n<script>ad(1)</script>\nli"), "a script within the lyrics");
         QVERIFY2(junkWith("You must be logged in to read on."), "a notice");
-        QVERIFY2(!read({QStringLiteral("<html><p>la</p></html>"), {}}).isUnderstood(), "another page");
+        QVERIFY2(!read({"<html><p>la</p></html>"_s, {}}).isUnderstood(), "another page");
     }
 };
 

@@ -16,7 +16,6 @@ private slots:
         addRow("the root", "lfm", "", 1);
         addRow("a name means the first child, and all when counted", "lfm.list.track", "one", 3);
         addRow("an index counts children of that name only", "lfm.list.track[1]", "two", 1);
-        addRow("an index beyond the last", "lfm.list.track[3]", "", 0);
         addRow("an index that is no number of ours", "lfm.list.track[99999999999]", "", 0);
         addRow("behind an index", "lfm.list.track[2].artist.name", "Мельница 🎵", 1);
         addRow("an attribute", "lfm.list.track[rank=2]", "two", 2);
@@ -46,11 +45,9 @@ private slots:
         QTest::addColumn<QByteArray>("document");
         addRow("nothing", QByteArray());
         addRow("cut off", QByteArray("<a><b>x</b>"));
-        addRow("plain text", QByteArray("service unavailable"));
         addRow("NUL", QByteArray("<a>x\0y</a>", 10));
         addRow("a document type with entities",
                QByteArray(R"(<!DOCTYPE a [<!ENTITY b "xxxx"><!ENTITY c "&b;&b;&b;">]><a>&c;&c;</a>)"));
-        addRow("an entity that nobody declared", QByteArray("<a>&b;</a>"));
         addRow("nesting that does not end, 1 MiB", QByteArray("<a>").repeated(1 << 18));
         QByteArray attributes = "<a";
         for (int i = 0; attributes.size() < 1 << 20; ++i)
@@ -63,8 +60,8 @@ private slots:
         QFETCH(QByteArray, document);
         const XmlPaths xml(document);
         QVERIFY(xml.isEmpty());
-        QCOMPARE(xml.count(QStringLiteral("a")), 0);
-        QVERIFY(xml.text(QStringLiteral("a.b")).isEmpty());
+        QCOMPARE(xml.count("a"_s), 0);
+        QVERIFY(xml.text("a.b"_s).isEmpty());
     }
 };
 
