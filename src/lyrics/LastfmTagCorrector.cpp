@@ -135,6 +135,8 @@ void LastfmTagCorrector::ask(const QUrlQuery &query, AnswerSlot slot)
         reply->deleteLater();
         m_reply.clear();
         m_errorString = reply->error() == QNetworkReply::NoError ? QString() : reply->errorString();
+        if (!m_errorString.isEmpty())
+            qCInfo(lyricsLog, "Last.fm did not answer");
         (this->*slot)(*reply);
         if (!isBusy())
             emit finished(m_names.artists, m_names.titles);

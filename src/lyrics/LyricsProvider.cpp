@@ -24,10 +24,10 @@ const char *outcome(const ProviderStep &result, bool junk)
 {
     if (junk)
         return "gave a page that holds no lyrics";
-    if (!result.errorString().isEmpty())
-        return "did not answer";
     if (!result.isUnderstood())
         return "gave a page that was not understood";
+    if (!result.errorString().isEmpty())
+        return "did not answer";
     return result.lyrics().isEmpty() ? "has no such song" : "has the lyrics";
 }
 

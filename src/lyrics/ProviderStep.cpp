@@ -27,9 +27,9 @@ ProviderStep ProviderStep::cleanedLyrics(const std::optional<QString> &markup)
     return markup ? lyrics(cleanLyrics(*markup), *markup) : notUnderstood();
 }
 
-ProviderStep ProviderStep::notUnderstood()
+ProviderStep ProviderStep::notUnderstood(const QString &reason)
 {
-    ProviderStep step;
+    ProviderStep step = failure(reason);
     step.m_understood = false;
     return step;
 }

@@ -33,9 +33,9 @@ public:
     static ProviderStep cleanedLyrics(const std::optional<QString> &markup);
     // Ends the search: the site does not have the song.
     static ProviderStep nothing() { return lyrics({}); }
-    // Ends the search like nothing(); the log tells the two apart, since a site that has changed its pages looks as if
-    // it had no songs.
-    static ProviderStep notUnderstood();
+    // Ends the search like nothing(), or like failure() when people are told a reason. The log tells them apart, since
+    // a site that has changed its pages looks as if it had no songs.
+    static ProviderStep notUnderstood(const QString &reason = {});
     // nothing() on a page that holds `mark`, as every page with results of this site does; else notUnderstood().
     static ProviderStep nothingOn(const Page &page, QLatin1String mark);
     // Ends the search for a reason that people are told.

@@ -94,7 +94,7 @@ ProviderStep MusixMatchProvider::askFor(const QUrl &url)
 {
     if (++m_requests > mostRequests)
         //: %1 is the name of a lyrics site.
-        return ProviderStep::failure(tr("%1 leads from one list of songs to the next.").arg(name()));
+        return ProviderStep::notUnderstood(tr("%1 leads from one list of songs to the next.").arg(name()));
     return ProviderStep::ask(redirectedRequest(url), [this](const Page &page) { return requestFinished(page); });
 }
 
@@ -104,7 +104,7 @@ ProviderStep MusixMatchProvider::requestFinished(const Page &page)
     if (!block.isEmpty()) {
         //: %1 is the name of a lyrics site.
         const QString tooIntricate = tr("%1 gave a page that is too intricate to read.").arg(name());
-        return lyricsOfBlock(block).value_or(ProviderStep::failure(tooIntricate));
+        return lyricsOfBlock(block).value_or(ProviderStep::notUnderstood(tooIntricate));
     }
     const std::optional<QString> link = trackLink(page.text, m_artist, m_title);
     return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::nothingOn(page, QLatin1String("thumb-list"));
