@@ -32,36 +32,14 @@ QString foundArtist(QString cell)
 
 } // namespace
 
-AZLyricsProvider::AZLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent)
-    : LyricsProvider(networkManager, parent)
-{
-}
-
-QString AZLyricsProvider::name() const
-{
-    return QStringLiteral("AZLyrics");
-}
-
-QString AZLyricsProvider::siteUrl() const
-{
-    return endpointBase(Endpoint::AZLyrics).toString();
-}
-
-LyricsProvider *AZLyricsProvider::clone(QObject *parent) const
-{
-    return new AZLyricsProvider(sharedNetworkManager(), parent);
-}
-
 // All requests look the same.
 QNetworkRequest AZLyricsProvider::redirectedRequest(const QUrl &target) const
 {
     return browserRequest(target, searchPageUrl());
 }
 
-ProviderStep AZLyricsProvider::firstStep(const QString &artist, const QString &title)
+ProviderStep AZLyricsProvider::processSearch()
 {
-    m_artist = normalisedArtist(artist);
-    m_title = normalisedTitle(title);
     const QUrl script = endpointUrl(Endpoint::AZLyrics, QStringLiteral("/geo.js"));
     return ProviderStep::ask(browserRequest(script, searchPageUrl()),
                              [this](const Page &page) { return scriptRequestFinished(page); });
@@ -70,7 +48,7 @@ ProviderStep AZLyricsProvider::firstStep(const QString &artist, const QString &t
 ProviderStep AZLyricsProvider::scriptRequestFinished(const Page &page)
 {
     QUrlQuery query;
-    query.addQueryItem(QStringLiteral("q"), queryValue(m_artist + QLatin1Char(' ') + m_title));
+    query.addQueryItem(QStringLiteral("q"), artistAndTitle());
     const auto [name, value] = searchParameter(page.text);
     if (!name.isEmpty() && !value.isEmpty())
         query.addQueryItem(queryValue(name), queryValue(value));
@@ -82,7 +60,7 @@ ProviderStep AZLyricsProvider::scriptRequestFinished(const Page &page)
 
 ProviderStep AZLyricsProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, m_artist);
+    const std::optional<QString> link = songLink(page.text, artist());
     if (!link)
         return ProviderStep::nothingOn(page, QLatin1String("<table"));
     return ProviderStep::ask(browserRequest(QUrl(*link), searchPageUrl()), &AZLyricsProvider::lyricsRequestFinished);

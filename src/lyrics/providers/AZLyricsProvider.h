@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "lyrics/LyricsProvider.h"
+#include "lyrics/providers/SiteClient.h"
 
 #include <QPair>
 
@@ -9,16 +9,12 @@
 
 // AZLyrics: a small script that hands out a parameter for the search, the search for artist and title, then the page of
 // the first song in the answer whose artist resembles the wanted one.
-class AZLyricsProvider final : public LyricsProvider
+class AZLyricsProvider final : public SiteClient<AZLyricsProvider, Endpoint::AZLyrics>
 {
     Q_OBJECT
 
 public:
-    explicit AZLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
-
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString siteUrl() const override;
-    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+    using SiteClient::SiteClient;
 
     // The name and the value of the parameter that the script hands out; each empty when it does not name it.
     [[nodiscard]] static QPair<QString, QString> searchParameter(const QString &script);
@@ -29,13 +25,10 @@ public:
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
 protected:
-    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] ProviderStep processSearch() override;
     [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
 
 private:
     [[nodiscard]] ProviderStep scriptRequestFinished(const Page &page);
     [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
-
-    QString m_artist; // both normalised
-    QString m_title;
 };

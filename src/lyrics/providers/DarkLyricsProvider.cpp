@@ -65,33 +65,6 @@ QString contentOf(const QString &page)
 
 } // namespace
 
-DarkLyricsProvider::DarkLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent)
-    : LyricsProvider(networkManager, parent)
-{
-}
-
-QString DarkLyricsProvider::name() const
-{
-    return QStringLiteral("DarkLyrics");
-}
-
-QString DarkLyricsProvider::siteUrl() const
-{
-    return endpointBase(Endpoint::DarkLyrics).toString();
-}
-
-LyricsProvider *DarkLyricsProvider::clone(QObject *parent) const
-{
-    return new DarkLyricsProvider(sharedNetworkManager(), parent);
-}
-
-ProviderStep DarkLyricsProvider::firstStep(const QString &artist, const QString &title)
-{
-    m_artist = normalisedArtist(artist);
-    m_title = normalisedTitle(title);
-    return processSearch();
-}
-
 QNetworkRequest DarkLyricsProvider::redirectedRequest(const QUrl &target) const
 {
     return siteRequest(target, browserUserAgent());
@@ -100,7 +73,7 @@ QNetworkRequest DarkLyricsProvider::redirectedRequest(const QUrl &target) const
 ProviderStep DarkLyricsProvider::processSearch()
 {
     QUrlQuery query;
-    query.addQueryItem(QStringLiteral("q"), queryValue(m_artist + QLatin1Char(' ') + m_title));
+    query.addQueryItem(QStringLiteral("q"), artistAndTitle());
     QUrl url = endpointUrl(Endpoint::DarkLyrics, QStringLiteral("/search"));
     url.setQuery(query);
     return ProviderStep::ask(siteRequest(url, browserUserAgent()),
@@ -109,7 +82,7 @@ ProviderStep DarkLyricsProvider::processSearch()
 
 ProviderStep DarkLyricsProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, m_artist, m_title);
+    const std::optional<QString> link = songLink(page.text, artist(), title());
     if (!link)
         return ProviderStep::nothingOn(page, QLatin1String("cntwrap"));
     // The fragment, which names the song's anchor, stays in the address.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "lyrics/LyricsProvider.h"
+#include "lyrics/providers/SiteClient.h"
 
 #include <QMap>
 
@@ -12,16 +12,12 @@
 //
 // The site wants a cookie that its pages compute in a script. The client runs that script, which is a fixed text of
 // its own: nothing of a page ever reaches the script engine.
-class DarkLyricsProvider final : public LyricsProvider
+class DarkLyricsProvider final : public SiteClient<DarkLyricsProvider, Endpoint::DarkLyrics>
 {
     Q_OBJECT
 
 public:
-    explicit DarkLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
-
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString siteUrl() const override;
-    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+    using SiteClient::SiteClient;
 
     // The parts of the content of a page by their headings: the HTML in each heading up to a colon, in lower case. What
     // stands before the first heading has an empty key. Of several parts with one key the last one stays.
@@ -36,13 +32,9 @@ public:
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
 protected:
-    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] ProviderStep processSearch() override;
     [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
 
 private:
-    [[nodiscard]] ProviderStep processSearch();
     [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
-
-    QString m_artist; // both normalised
-    QString m_title;
 };

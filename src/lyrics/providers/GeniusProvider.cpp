@@ -64,33 +64,16 @@ QString olderLyrics(QString block)
 
 } // namespace
 
-GeniusProvider::GeniusProvider(QNetworkAccessManager *networkManager, QObject *parent)
-    : LyricsProvider(networkManager, parent)
-{
-}
-
-QString GeniusProvider::name() const
-{
-    return QStringLiteral("Genius");
-}
-
 QString GeniusProvider::siteUrl() const
 {
     return endpointUrl(Endpoint::Genius, QStringLiteral("/")).toString();
 }
 
-LyricsProvider *GeniusProvider::clone(QObject *parent) const
+ProviderStep GeniusProvider::processSearch()
 {
-    return new GeniusProvider(sharedNetworkManager(), parent);
-}
-
-ProviderStep GeniusProvider::firstStep(const QString &artist, const QString &title)
-{
-    m_artist = normalisedArtist(artist);
-    m_title = normalisedTitle(title);
     QUrlQuery query;
     query.addQueryItem(QStringLiteral("per_page"), QString::number(hitsPerSection));
-    query.addQueryItem(QStringLiteral("q"), queryValue(m_artist + QLatin1Char(' ') + m_title));
+    query.addQueryItem(QStringLiteral("q"), artistAndTitle());
     QUrl url = endpointUrl(Endpoint::Genius, QStringLiteral("/api/search/multi"));
     url.setQuery(query);
     return ProviderStep::ask(QNetworkRequest(url), [this](const Page &page) { return infoRequestFinished(page); });
@@ -98,7 +81,7 @@ ProviderStep GeniusProvider::firstStep(const QString &artist, const QString &tit
 
 ProviderStep GeniusProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> path = songPath(page.text, m_artist, m_title);
+    const std::optional<QString> path = songPath(page.text, artist(), title());
     if (!path)
         return ProviderStep::nothingOn(page, QLatin1String("\"sections\""));
     const QString base = endpointBase(Endpoint::Genius).toString(QUrl::FullyEncoded);

@@ -38,34 +38,12 @@ std::optional<QString> linkInBlock(const QString &block)
 
 } // namespace
 
-LyricsFreakProvider::LyricsFreakProvider(QNetworkAccessManager *networkManager, QObject *parent)
-    : LyricsProvider(networkManager, parent)
+ProviderStep LyricsFreakProvider::processSearch()
 {
-}
-
-QString LyricsFreakProvider::name() const
-{
-    return QStringLiteral("LyricsFreak");
-}
-
-QString LyricsFreakProvider::siteUrl() const
-{
-    return endpointBase(Endpoint::LyricsFreak).toString();
-}
-
-LyricsProvider *LyricsFreakProvider::clone(QObject *parent) const
-{
-    return new LyricsFreakProvider(sharedNetworkManager(), parent);
-}
-
-ProviderStep LyricsFreakProvider::firstStep(const QString &artist, const QString &title)
-{
-    m_artist = normalisedArtist(artist);
-    m_title = normalisedTitle(title);
     QUrlQuery query;
     query.addQueryItem(QStringLiteral("a"), QStringLiteral("search"));
     query.addQueryItem(QStringLiteral("type"), QStringLiteral("song"));
-    query.addQueryItem(QStringLiteral("q"), queryValue(m_title));
+    query.addQueryItem(QStringLiteral("q"), queryValue(title()));
     QUrl url = searchPageUrl();
     url.setQuery(query);
     QNetworkRequest request(url);
@@ -80,7 +58,7 @@ QNetworkRequest LyricsFreakProvider::redirectedRequest(const QUrl &target) const
 
 ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, m_artist, m_title);
+    const std::optional<QString> link = songLink(page.text, artist(), title());
     if (!link)
         return ProviderStep::nothingOn(page, QLatin1String("data-sorting-artist="));
     const bool onSite = link->startsWith(QLatin1Char('/'));

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "lyrics/LyricsProvider.h"
+#include "lyrics/providers/SiteClient.h"
 
 #include <optional>
 
 // LyricsFreak: its song search for the title, then the page of the first song in the answer whose artist and title
 // both resemble the wanted ones.
-class LyricsFreakProvider final : public LyricsProvider
+class LyricsFreakProvider final : public SiteClient<LyricsFreakProvider, Endpoint::LyricsFreak>
 {
     Q_OBJECT
 
 public:
-    explicit LyricsFreakProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
-
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString siteUrl() const override;
-    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+    using SiteClient::SiteClient;
 
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
     // nothing when there is none.
@@ -26,12 +22,9 @@ public:
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
 protected:
-    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] ProviderStep processSearch() override;
     [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
 
 private:
     [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
-
-    QString m_artist; // both normalised
-    QString m_title;
 };

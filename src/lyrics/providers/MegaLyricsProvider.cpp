@@ -36,34 +36,12 @@ QString withoutBreakTags(const QString &textInner)
 
 } // namespace
 
-MegaLyricsProvider::MegaLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent)
-    : LyricsProvider(networkManager, parent)
+ProviderStep MegaLyricsProvider::processSearch()
 {
-}
-
-QString MegaLyricsProvider::name() const
-{
-    return QStringLiteral("Megalyrics");
-}
-
-QString MegaLyricsProvider::siteUrl() const
-{
-    return endpointBase(Endpoint::Megalyrics).toString();
-}
-
-LyricsProvider *MegaLyricsProvider::clone(QObject *parent) const
-{
-    return new MegaLyricsProvider(sharedNetworkManager(), parent);
-}
-
-ProviderStep MegaLyricsProvider::firstStep(const QString &artist, const QString &title)
-{
-    m_artist = normalisedArtist(artist);
-    m_title = normalisedTitle(title);
     QUrlQuery query;
     // The check mark that the site's own form sends, encoded already.
     query.addQueryItem(QStringLiteral("utf8"), QStringLiteral("%E2%9C%93"));
-    query.addQueryItem(QStringLiteral("search"), queryValue(m_artist + QLatin1Char(' ') + m_title));
+    query.addQueryItem(QStringLiteral("search"), artistAndTitle());
     QUrl url = endpointUrl(Endpoint::Megalyrics, QStringLiteral("/search"));
     url.setQuery(query);
     return ProviderStep::ask(QNetworkRequest(url), [this](const Page &page) { return infoRequestFinished(page); });
@@ -71,7 +49,7 @@ ProviderStep MegaLyricsProvider::firstStep(const QString &artist, const QString 
 
 ProviderStep MegaLyricsProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, m_artist, m_title);
+    const std::optional<QString> link = songLink(page.text, artist(), title());
     if (!link)
         return ProviderStep::nothingOn(page, QLatin1String("songs-table"));
     return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, *link)),

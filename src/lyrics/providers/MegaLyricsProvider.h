@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "lyrics/LyricsProvider.h"
+#include "lyrics/providers/SiteClient.h"
 
 #include <optional>
 
 // Megalyrics, a Russian site: its search for artist and title, then the page of the first song in the table of the
 // answer whose names both resemble the wanted ones. Its texts have a decoder of their own (MegaLyricsText).
-class MegaLyricsProvider final : public LyricsProvider
+class MegaLyricsProvider final : public SiteClient<MegaLyricsProvider, Endpoint::Megalyrics>
 {
     Q_OBJECT
 
 public:
-    explicit MegaLyricsProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
-
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString siteUrl() const override;
-    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+    using SiteClient::SiteClient;
 
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
     // nothing when there is none.
@@ -26,11 +22,8 @@ public:
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 
 protected:
-    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] ProviderStep processSearch() override;
 
 private:
     [[nodiscard]] ProviderStep infoRequestFinished(const Page &page) const;
-
-    QString m_artist; // both normalised
-    QString m_title;
 };

@@ -49,34 +49,6 @@ QString linkOfItem(const QString &item, const QString &artist, const QString &ti
 
 } // namespace
 
-MusixMatchProvider::MusixMatchProvider(QNetworkAccessManager *networkManager, QObject *parent)
-    : LyricsProvider(networkManager, parent)
-{
-}
-
-QString MusixMatchProvider::name() const
-{
-    return QStringLiteral("MusixMatch");
-}
-
-QString MusixMatchProvider::siteUrl() const
-{
-    return endpointBase(Endpoint::MusixMatch).toString();
-}
-
-LyricsProvider *MusixMatchProvider::clone(QObject *parent) const
-{
-    return new MusixMatchProvider(sharedNetworkManager(), parent);
-}
-
-ProviderStep MusixMatchProvider::firstStep(const QString &artist, const QString &title)
-{
-    m_artist = normalisedArtist(artist);
-    m_title = normalisedTitle(title);
-    m_requests = 0;
-    return processSearch();
-}
-
 QNetworkRequest MusixMatchProvider::redirectedRequest(const QUrl &target) const
 {
     QNetworkRequest request(target);
@@ -86,7 +58,8 @@ QNetworkRequest MusixMatchProvider::redirectedRequest(const QUrl &target) const
 
 ProviderStep MusixMatchProvider::processSearch()
 {
-    const QString names = queryValue(m_artist + QLatin1Char(' ') + m_title);
+    m_requests = 0;
+    const QString names = artistAndTitle();
     return askFor(endpointUrl(Endpoint::MusixMatch, QStringLiteral("/search/%1/tracks").arg(names)));
 }
 
@@ -106,7 +79,7 @@ ProviderStep MusixMatchProvider::requestFinished(const Page &page)
         const QString tooIntricate = tr("%1 gave a page that is too intricate to read.").arg(name());
         return lyricsOfBlock(block).value_or(ProviderStep::notUnderstood(tooIntricate));
     }
-    const std::optional<QString> link = trackLink(page.text, m_artist, m_title);
+    const std::optional<QString> link = trackLink(page.text, artist(), title());
     return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::nothingOn(page, QLatin1String("thumb-list"));
 }
 

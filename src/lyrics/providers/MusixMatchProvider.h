@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "lyrics/LyricsProvider.h"
+#include "lyrics/providers/SiteClient.h"
 
 #include <optional>
 
 // MusixMatch: its list of tracks for the artist and the title, then the page of the first track in the list whose
 // artist and title both resemble the wanted ones. What a page is shows in its content alone.
-class MusixMatchProvider final : public LyricsProvider
+class MusixMatchProvider final : public SiteClient<MusixMatchProvider, Endpoint::MusixMatch>
 {
     Q_OBJECT
 
 public:
-    explicit MusixMatchProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
-
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString siteUrl() const override;
-    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override;
+    using SiteClient::SiteClient;
 
     // The HTML of the lyrics on a track's page; empty when it is another page.
     [[nodiscard]] static QString lyricsBlock(const QString &page);
@@ -29,15 +25,12 @@ public:
                                                           const QString &title);
 
 protected:
-    ProviderStep firstStep(const QString &artist, const QString &title) override;
+    [[nodiscard]] ProviderStep processSearch() override;
     [[nodiscard]] QNetworkRequest redirectedRequest(const QUrl &target) const override;
 
 private:
-    [[nodiscard]] ProviderStep processSearch();
     [[nodiscard]] ProviderStep askFor(const QUrl &url);
     [[nodiscard]] ProviderStep requestFinished(const Page &page);
 
-    QString m_artist; // both normalised
-    QString m_title;
     int m_requests = 0;
 };
