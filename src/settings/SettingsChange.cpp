@@ -10,6 +10,7 @@
 #include <QSettings>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <cstdio>
 
 #include <unistd.h>
@@ -42,11 +43,23 @@ bool copyInto(QTemporaryFile *copy, const QString &path)
     return copy->setPermissions(old.permissions()) && copy->write(content) == content.size() && copy->flush();
 }
 
+// Whether the store says that already; it gives numbers and flags back as texts.
+bool isStored(const QVariant &stored, const QVariant &value)
+{
+    if (!stored.isValid())
+        return false;
+    if (value.type() == QVariant::StringList)
+        return stored.toStringList() == value.toStringList();
+    if (value.type() == QVariant::ByteArray)
+        return stored.type() == QVariant::ByteArray && stored.toByteArray() == value.toByteArray();
+    return stored.toString() == value.toString();
+}
+
 // Whether everything arrived: what is missing on a full disk is missing at the end.
 bool isWhole(const QByteArray &content, int entries)
 {
     const SettingsFileCheck check = checkSettingsFile(content);
-    return check.clean && check.entries == entries;
+    return check.clean && check.entries == entries && content.size() <= largestSettingsFileBytes;
 }
 
 void clearAllBut(const QVector<SettingsKey> &keys, QSettings *store)
@@ -73,14 +86,25 @@ bool SettingsChange::commit() const
 {
     const QString path = storePath();
     QDir().mkpath(QFileInfo(path).absolutePath());
-    if (isWritable(QFileInfo(path)) && writeNewFile(path))
+    if (isWritable(QFileInfo(path)) && (changesNothing() || writeNewFile(path)))
         return true;
     qCWarning(settingsLog, "The settings cannot be stored: their file cannot be written.");
     return false;
 }
 
+bool SettingsChange::changesNothing() const
+{
+    const QSettings store;
+    return !m_kept && std::all_of(m_values.begin(), m_values.end(), [&store](const auto &entry) {
+        return isStored(store.value(keyName(entry.first)), entry.second);
+    });
+}
+
 bool SettingsChange::writeNewFile(const QString &path) const
 {
+    // Somebody else may have written there since the start.
+    if (mendSettingsFile(path, SettingsFileAccess::Mend).standIn)
+        return false;
     // A name that was never used: the store remembers what it could not write under a name, and would add it later.
     QTemporaryFile copy(path + QLatin1String(".XXXXXX"));
     if (!copyInto(&copy, path))

@@ -20,11 +20,12 @@ public:
     // Everything goes that is stored now, but for these keys and what is set here.
     void keepOnly(const QVector<SettingsKey> &keys) { m_kept = keys; }
 
-    // Writes to the default store. False, after a warning in the log, when that fails; the file is then as it was. A
-    // file that is read-only stays as it is, also for root.
+    // Writes to the default store; what is stored already costs nothing. False, after a warning in the log, when that
+    // fails; the file is then as it was. A file that is read-only stays as it is, also for root.
     bool commit() const;
 
 private:
+    [[nodiscard]] bool changesNothing() const;
     [[nodiscard]] bool writeNewFile(const QString &path) const;
 
     QVector<QPair<SettingsKey, QVariant>> m_values;

@@ -14,8 +14,6 @@
 
 namespace {
 
-// A list of all 65,535 songs with long paths takes a quarter of that.
-constexpr qint64 largestFileBytes = 64LL * 1024 * 1024;
 constexpr int mostCopies = 99;
 
 enum class LineKind { Skipped, Dropped, Group, Entry, Damaged };
@@ -42,6 +40,12 @@ bool isGroup(const QByteArray &line)
     const int end = line.indexOf(']');
     const QByteArray rest = line.mid(end + 1).trimmed();
     return end > 0 && isKey(line.mid(1, end - 1)) && (rest.isEmpty() || rest.startsWith(';'));
+}
+
+QByteArray groupName(const QByteArray &line)
+{
+    const QByteArray text = line.trimmed();
+    return text.mid(1, text.indexOf(']') - 1);
 }
 
 // The digits from `position` on, as the number that QSettings takes for a character: without an end, in 16 bits.
@@ -96,7 +100,8 @@ bool isValue(const QByteArray &value)
             return false;
         if (c == '"')
             inQuotes = !inQuotes;
-        atItemStart = (c == ',' && !inQuotes) || (atItemStart && (c == ' ' || c == '\t' || c == '"'));
+        const bool isSkipped = c == '"' || (!inQuotes && (c == ' ' || c == '\t'));
+        atItemStart = (c == ',' && !inQuotes) || (atItemStart && isSkipped);
     }
     return !inQuotes;
 }
@@ -105,6 +110,14 @@ bool isEntry(const QByteArray &line)
 {
     const int equals = line.indexOf('=');
     return equals > 0 && isKey(line.left(equals).trimmed()) && isValue(line.mid(equals + 1));
+}
+
+// An entry that may have lost its end and would still be believed: requests, and the log-in for a proxy, would go to
+// another machine. What is cut elsewhere is a word without a meaning, a number in bounds or a file that is not there.
+bool isRiskyWhenCut(const QByteArray &group, const QByteArray &line)
+{
+    const QByteArray key = line.left(line.indexOf('=')).trimmed();
+    return group == "endpoints" || (group == "proxy" && (key == "address" || key == "port"));
 }
 
 LineKind kindOf(const QByteArray &rawLine)
@@ -198,16 +211,20 @@ SettingsFileCheck checkSettingsFile(const QByteArray &content)
     static const QByteArray byteOrderMark("\xef\xbb\xbf");
     SettingsFileCheck check;
     bool isGroupReadable = true;
+    QByteArray group;
     int start = content.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
     while (start < content.size()) {
         const int lineFeed = content.indexOf('\n', start);
         const int end = lineFeed < 0 ? content.size() : lineFeed;
         const QByteArray line = content.mid(start, end - start);
         start = end + 1;
-        const LineKind kind = kindOf(line);
-        if (kind == LineKind::Group)
+        LineKind kind = kindOf(line);
+        if (kind == LineKind::Entry && lineFeed < 0 && isRiskyWhenCut(group, line))
+            kind = LineKind::Damaged;
+        if (kind == LineKind::Group) {
             isGroupReadable = true;
-        else if (kind == LineKind::Damaged && line.trimmed().startsWith('['))
+            group = groupName(line);
+        } else if (kind == LineKind::Damaged && line.trimmed().startsWith('['))
             isGroupReadable = false;
         if (kind == LineKind::Damaged || (kind == LineKind::Entry && !isGroupReadable))
             check.damaged = true;
@@ -232,7 +249,7 @@ SettingsMending mendSettingsFile(const QString &path, SettingsFileAccess access)
         qCWarning(settingsLog, "The settings file cannot be read.");
         mending.unreadable = true;
         mending.standIn = QByteArray();
-    } else if (file.size() > largestFileBytes) {
+    } else if (file.size() > largestSettingsFileBytes) {
         qCWarning(settingsLog, "The settings file is too large to be one.");
         mending.damaged = true;
         mending.copy = access == SettingsFileAccess::Mend ? moveAside(path) : QString();

@@ -12,6 +12,9 @@
 // QSettings reads damaged files as well, but often silently and wrongly: an open quote swallows the rest of the file, a
 // NUL passes as text, a broken group line gives its entries to another group.
 
+// No larger file is read, and none is written. A list of all 65,535 songs takes it with paths of four thousand bytes.
+constexpr qint64 largestSettingsFileBytes = 256LL * 1024 * 1024;
+
 struct SettingsFileCheck
 {
     bool damaged = false; // something was lost
@@ -23,7 +26,8 @@ struct SettingsFileCheck
 // Damage is: a line that is neither a group, an entry, a blank nor a comment; control characters; a quote or an escape
 // that does not end; entries under a broken group line; and values of types that the program never stores, as Qt builds
 // some of them ("@Variant") without bounds: a few bytes are enough to end the program. A byte order mark, a comment
-// after "#" and a last line without its end are no damage, but the store cannot do with them: they are not clean.
+// after "#" and a last line without its end are no damage, but the store cannot do with them: they are not clean. Only
+// an address or a port without its line end counts as lost, since it may be a piece of another one.
 [[nodiscard]] SettingsFileCheck checkSettingsFile(const QByteArray &content);
 
 enum class SettingsFileAccess {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include "settings/SettingsChange.h"
 #include "settings/SettingsKeys.h"
 #include "support/TestFolder.h"
 
@@ -205,6 +206,38 @@ private slots:
         QVERIFY(settings.save());
         QCOMPARE(QSettings().value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
         QCOMPARE(QSettings().value(QStringLiteral("filesList")).toString().size(), 500);
+    }
+
+    void whatOthersWroteMeanwhileStopsNoSave()
+    {
+        Settings settings;
+        QVERIFY(settings.save());
+        const QByteArray before = m_folder.read(m_path);
+        m_folder.write(m_path, before + "\n[other]\nname=x\nsize=@Size(1 2)\n");
+        settings.setLyricsFontSize(21);
+        QVERIFY(settings.save());
+        QCOMPARE(QSettings().value(QStringLiteral("lyricsFontSize")).toInt(), 21);
+        QCOMPARE(QSettings().value(QStringLiteral("other/name")).toString(), QStringLiteral("x"));
+        QVERIFY(m_folder.read(m_path + QLatin1String(".bad")).contains("@Size"));
+        QVERIFY(QFile::remove(m_path + QLatin1String(".bad")));
+    }
+
+    void whatIsStoredAlreadyIsNotWritten()
+    {
+        SettingsChange change;
+        change.set(SettingsKey::FirstStart, QStringLiteral("1.5.6"));
+        change.set(SettingsKey::PrependNewLine, true);
+        change.set(SettingsKey::ListWidth, 300);
+        change.set(SettingsKey::FilesList, QStringList{QStringLiteral("file:///a"), QStringLiteral("file:///b")});
+        QVERIFY(change.commit());
+        // A comment, which no write would keep, tells whether there was one.
+        const QByteArray padded = m_folder.read(m_path) + "; a note\n";
+        m_folder.write(m_path, padded);
+        QVERIFY(change.commit());
+        QCOMPARE(m_folder.read(m_path), padded);
+        change.set(SettingsKey::PrependNewLine, false);
+        QVERIFY(change.commit());
+        QVERIFY(m_folder.read(m_path).contains("prependNewLine=false"));
     }
 
     // Settings of people who keep them elsewhere stay there, with their permissions.

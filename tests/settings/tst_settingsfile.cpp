@@ -54,6 +54,8 @@ private slots:
         untidyRow("a comment of another kind", general + "# hello\n#language=fr\n" + size, general + size);
         untidyRow("a byte order mark", "\xef\xbb\xbf" + general + size, general + size);
 
+        untidyRow("a cut word", "[proxy]\nusername=ab", "[proxy]\nusername=ab\n");
+        row("a cut address", general + size + "[proxy]\naddress=10.0.0.1", general + size + "[proxy]\n");
         row("cut in a quote", general + size + "filesList=\"file:///a", general + size);
         row("cut in an escape", general + size + "language=a\\", general + size);
         row("entries of a broken group", general + size + "[pro\ntype=1\n[updater]\nperiod=5\n",
@@ -107,6 +109,7 @@ private slots:
             store.setValue(QStringLiteral("letters"), letters);
             store.setValue(QStringLiteral("list"), list);
             store.setValue(QStringLiteral("empty list"), QStringList());
+            store.setValue(QStringLiteral("blank"), QStringLiteral(" @proxy.example"));
             store.setValue(QStringLiteral("signs"), QStringLiteral("@Variant(x), @Invalid() \"@DateTime("));
             store.setValue(letters.mid(1) + QStringLiteral("/[x]=;ключ"), QStringLiteral("\\ "));
         }
