@@ -543,7 +543,7 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 bool MainModel::writeTags(quint16 id)
 {
     ModelItem *item = m_items.find(id);
-    if (!item || item->unreadable())
+    if (!item || !item->tagsLoaded())
         return false;
     if (item->processState() == ModelItem::ProcessWorking)
         m_overruled.insert(id);

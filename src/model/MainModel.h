@@ -113,8 +113,8 @@ public:
     Q_INVOKABLE bool startSearch(quint16 id);
     // Shows the file of a row in the file manager; returns when that has ended.
     Q_INVOKABLE void locate(int row) const;
-    // Queues a write of the item's names and lyrics into its file; false when there is no such item or it is
-    // unreadable.
+    // Queues a write of the item's names and lyrics into its file; false when there is no such item or its tags are
+    // not loaded, since the write would replace what nobody has seen.
     Q_INVOKABLE bool writeTags(quint16 id);
 
 public slots:

@@ -88,7 +88,7 @@ Item {
             y: header.buttonsTop
             editing: sheet.editing
             modified: sheet.editing && sheet.edit.modified
-            editable: sheet.song !== null && sheet.song.editable && !sheet.tooLong
+            editable: sheet.song !== null && sheet.song.tagsLoaded && sheet.song.editable && !sheet.tooLong
             hasLyrics: sheet.lyrics !== ""
             fontSize: settings.lyricsFontSize
             searchProvider: settings.searchProvider || "Google"

@@ -29,7 +29,7 @@ ModelItem *LyricsEdit::song() const
 
 void LyricsEdit::begin(ModelItem *song)
 {
-    if (!song || !song->editable() || modified() || song == m_song)
+    if (!song || !song->tagsLoaded() || !song->editable() || modified() || song == m_song)
         return;
     const QString text = editorText(song->lyricsTag());
     change(song, text, text);
@@ -40,8 +40,11 @@ void LyricsEdit::save()
     ModelItem *song = m_song;
     // What nobody changed goes back as the song has it, down to the kind of its line breaks.
     const QString lyrics = song && editorText(song->lyricsTag()) == m_text ? song->lyricsTag() : m_text;
+    const bool isListed = song && m_model->item(song->id()) == song;
+    if (isListed && !song->tagsLoaded())
+        return;
     cancel();
-    if (!song)
+    if (!isListed)
         return;
     song->setEditedLyricsTag(lyrics);
     m_model->writeTags(song->id());

@@ -36,10 +36,11 @@ public:
     // The draft, with "\n" for every line break; empty when nothing is edited.
     [[nodiscard]] QString text() const { return m_text; }
 
-    // Begins with the lyrics that the song has. Nothing when the song is null or not editable, or while a modified
-    // draft is there: it has to be saved or cancelled first.
+    // Begins with the lyrics that the song has. Nothing when the song is null, not editable or its tags are not loaded,
+    // or while a modified draft is there: it has to be saved or cancelled first.
     Q_INVOKABLE void begin(ModelItem *song);
-    // Ends the edit, gives the draft to the song and has it written into the file.
+    // Ends the edit, gives the draft to the song and has it written into the file. A draft whose song cannot be written,
+    // because its tags are not loaded any more, stays and is still edited.
     Q_INVOKABLE void save();
     // Ends the edit and forgets the draft.
     Q_INVOKABLE void cancel();

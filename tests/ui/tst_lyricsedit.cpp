@@ -20,6 +20,7 @@ private slots:
     void theDraftIsTheUsersOwn();
     void lineBreaksOfAnEditorAreNoChange_data();
     void lineBreaksOfAnEditorAreNoChange();
+    void aDraftIsKeptWhileItCannotBeWritten();
     void aSavedDraftReachesTheFile();
     void theEditOfADeletedSongEnds();
 
@@ -116,6 +117,26 @@ void tst_LyricsEdit::lineBreaksOfAnEditorAreNoChange()
     edit.save();
     QCOMPARE(song(0)->lyricsTag(), lyrics);
     QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+}
+
+void tst_LyricsEdit::aDraftIsKeptWhileItCannotBeWritten()
+{
+    LyricsEdit edit(m_model.get());
+    edit.begin(song(0));
+    edit.setText(QStringLiteral("words of my own"));
+    song(0)->setUnreadable(QStringLiteral("the disk is gone"));
+    QVERIFY(!m_model->writeTags(song(0)->id()));
+    edit.save();
+    QCOMPARE(edit.text(), QStringLiteral("words of my own"));
+    edit.cancel();
+    m_model->setAutoStart(false);
+    QVERIFY(QFile::copy(song(1)->url().toLocalFile(), m_folder->filePath(QStringLiteral("c.mp3"))));
+    m_model->add({QUrl::fromLocalFile(m_folder->filePath(QStringLiteral("c.mp3")))});
+    QVERIFY(!m_model->startSearch(song(2)->id()));
+    QVERIFY(song(2)->editable() && !song(2)->tagsLoaded());
+    edit.begin(song(2));
+    QVERIFY(!edit.active());
+    QVERIFY(!m_model->writeTags(song(2)->id()));
 }
 
 void tst_LyricsEdit::aSavedDraftReachesTheFile()
