@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "lyrics/JunkCheck.h"
 
-#include "lyrics/LyricsText.h"
-
 #include <QStringList>
+#include <QStringView>
 
 #include <algorithm>
 #include <array>
@@ -12,8 +11,15 @@ namespace {
 
 constexpr int mostBytes = 100 * 1000;
 
-const std::array<QLatin1String, 4> leftOvers{QLatin1String("<script"), QLatin1String("<style"), QLatin1String("<html"),
-                                             QLatin1String("<!DOCTYPE")};
+// Longer texts hold more than a notice.
+constexpr int longestNotice = 600;
+
+// A closing tag alone is the end of a script whose beginning was cut off.
+const std::array<QLatin1String, 6> leftOvers{QLatin1String("<script"), QLatin1String("</script"),
+                                             QLatin1String("<style"),  QLatin1String("</style"),
+                                             QLatin1String("<html"),   QLatin1String("<!DOCTYPE")};
+const std::array<QLatin1String, 4> layoutTags{QLatin1String("br"), QLatin1String("p"), QLatin1String("div"),
+                                              QLatin1String("span")};
 
 bool holdsLeftOvers(const QString &text)
 {
@@ -21,9 +27,8 @@ bool holdsLeftOvers(const QString &text)
                        [&text](QLatin1String leftOver) { return text.contains(leftOver, Qt::CaseInsensitive); });
 }
 
-// Wordings that sites and the shields before them use and songs do not, folded. Each is long enough that a line of a
-// song does not hold it by chance: "you have been blocked" and "I'm not a robot" are sung, so they are not here.
-const QStringList &noticePhrases()
+// Wordings that sites and the shields before them use and no song does, folded.
+const QStringList &sureNotices()
 {
     static const QStringList phrases{
         // Not licensed, withdrawn
@@ -31,27 +36,43 @@ const QStringList &noticePhrases()
         QStringLiteral("not authorized to display these lyrics"),
         QStringLiteral("not authorised to display these lyrics"),
         QStringLiteral("not licensed to display"),
-        QStringLiteral("due to licensing restrictions"),
         QStringLiteral("at the request of the copyright"),
         QStringLiteral("at the request of the rights holder"),
-        QStringLiteral("following a copyright complaint"),
         QStringLiteral("lyrics are not available in your country"),
-        QStringLiteral("content is not available in your country"),
         QStringLiteral("по требованию правообладател"),
         QStringLiteral("по просьбе правообладател"),
         // Nothing there yet
         QStringLiteral("lyrics for this song have yet to be released"),
-        QStringLiteral("we do not have the lyrics"),
-        QStringLiteral("we don't have the lyrics for"),
         QStringLiteral("be the first to add the lyrics"),
-        QStringLiteral("текст песни отсутствует"),
         // An account is needed
-        QStringLiteral("you must be logged in to"),
-        QStringLiteral("you need to be logged in to"),
         QStringLiteral("log in to view the lyrics"),
         QStringLiteral("log in to see the lyrics"),
         QStringLiteral("sign in to view the lyrics"),
         QStringLiteral("sign in to see the lyrics"),
+        // Blocked
+        QStringLiteral("using a security service to protect itself"),
+        QStringLiteral("cloudflare ray id"),
+    };
+    return phrases;
+}
+
+// Wordings that hardly any song holds, folded: they tell a notice only where there is no song around them. Each is long
+// enough that a short song does not hold it by chance: "you have been blocked" and "I'm not a robot" are sung, so they
+// are not here.
+const QStringList &likelyNotices()
+{
+    static const QStringList phrases{
+        // Not licensed, withdrawn
+        QStringLiteral("due to licensing restrictions"),
+        QStringLiteral("following a copyright complaint"),
+        QStringLiteral("content is not available in your country"),
+        // Nothing there yet
+        QStringLiteral("we do not have the lyrics"),
+        QStringLiteral("we don't have the lyrics for"),
+        QStringLiteral("текст песни отсутствует"),
+        // An account is needed
+        QStringLiteral("you must be logged in to"),
+        QStringLiteral("you need to be logged in to"),
         QStringLiteral("log in or sign up to"),
         QStringLiteral("sign up or log in to"),
         // Blocked
@@ -60,8 +81,6 @@ const QStringList &noticePhrases()
         QStringLiteral("unusual traffic from your"),
         QStringLiteral("unusual activity from your"),
         QStringLiteral("blocked by the site owner"),
-        QStringLiteral("using a security service to protect itself"),
-        QStringLiteral("cloudflare ray id"),
         QStringLiteral("you don't have permission to access this resource"),
         QStringLiteral("not found on this server"),
         // Prove to be human
@@ -98,10 +117,36 @@ const QStringList &wholeNotices()
     return notices;
 }
 
+// The position behind a tag of layout that stands here; -1 when none does.
+int behindLayoutTag(const QString &text, int position)
+{
+    if (text.at(position) != QLatin1Char('<'))
+        return -1;
+    const bool closing = QStringView(text).mid(position + 1).startsWith(QLatin1Char('/'));
+    const QStringView name = QStringView(text).mid(position + (closing ? 2 : 1));
+    const bool known = std::any_of(layoutTags.begin(), layoutTags.end(), [name](QLatin1String tag) {
+        const bool longer = name.size() > tag.size() && name.at(tag.size()).isLetterOrNumber();
+        return name.startsWith(tag, Qt::CaseInsensitive) && !longer;
+    });
+    return known ? text.indexOf(QLatin1Char('>'), position) + 1 : -1;
+}
+
 // Something, but no words: the page was to be filled later.
 bool isShell(const QString &lyrics)
 {
-    return !lyrics.isEmpty() && stripTags(lyrics).remove(QLatin1String("&nbsp;")).trimmed().isEmpty();
+    const QLatin1String blank("&nbsp;");
+    int at = 0;
+    while (at < lyrics.size()) {
+        if (lyrics.at(at).isSpace())
+            ++at;
+        else if (QStringView(lyrics).mid(at).startsWith(blank))
+            at += blank.size();
+        else if (const int end = behindLayoutTag(lyrics, at); end > 0)
+            at = end;
+        else
+            return false;
+    }
+    return true;
 }
 
 QString folded(const QString &lyrics)
@@ -116,18 +161,25 @@ QString withoutFinalDots(QString text)
     return text;
 }
 
+bool holdsOneOf(const QString &text, const QStringList &phrases)
+{
+    return std::any_of(phrases.begin(), phrases.end(),
+                       [&text](const QString &phrase) { return text.contains(phrase); });
+}
+
 bool isNotice(const QString &lyrics)
 {
     const QString text = folded(lyrics);
-    return wholeNotices().contains(withoutFinalDots(text)) ||
-           std::any_of(noticePhrases().begin(), noticePhrases().end(),
-                       [&text](const QString &phrase) { return text.contains(phrase); });
+    return wholeNotices().contains(withoutFinalDots(text)) || holdsOneOf(text, sureNotices()) ||
+           (text.size() <= longestNotice && holdsOneOf(text, likelyNotices()));
 }
 
 } // namespace
 
 bool isJunk(const QString &lyrics, const QString &markup)
 {
-    return lyrics.toUtf8().size() > mostBytes || holdsLeftOvers(lyrics) || holdsLeftOvers(withoutComments(markup)) ||
-           isShell(lyrics) || isNotice(lyrics);
+    if (lyrics.isEmpty())
+        return false;
+    return lyrics.toUtf8().size() > mostBytes || holdsLeftOvers(lyrics) || holdsLeftOvers(markup) || isShell(lyrics) ||
+           isNotice(lyrics);
 }

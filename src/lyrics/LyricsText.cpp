@@ -100,6 +100,23 @@ QString decodeReferences(const QString &text, TakeReference takeReference)
     return decoded;
 }
 
+// Whether a tag of this name stands at `position`, which is behind the "<" or "</".
+bool isTagName(const QString &html, int position, QLatin1String name)
+{
+    const QStringView rest = QStringView(html).mid(position);
+    const bool longer = rest.size() > name.size() && rest.at(name.size()).isLetterOrNumber();
+    return rest.startsWith(name, Qt::CaseInsensitive) && !longer;
+}
+
+// The position behind the next closing tag of this name; -1 when there is none.
+int behindClosingTag(const QString &html, int from, QLatin1String name)
+{
+    int at = html.indexOf(QLatin1String("</"), from);
+    while (at >= 0 && !isTagName(html, at + 2, name))
+        at = html.indexOf(QLatin1String("</"), at + 2);
+    return at < 0 ? -1 : html.indexOf(QLatin1Char('>'), at) + 1;
+}
+
 // The position behind a break tag that starts at `position` and behind one newline after it; -1 when none starts
 // there.
 int endOfBreak(const QString &html, int position)
@@ -180,6 +197,26 @@ QString withoutComments(const QString &html)
     if (first >= 0 && last >= first + opening.size())
         return QString(html).remove(first, last + 3 - first);
     return html;
+}
+
+QString withoutScriptsAndStyles(const QString &html)
+{
+    QString rest;
+    int copied = 0;
+    int at = html.indexOf(QLatin1Char('<'));
+    while (at >= 0) {
+        const bool script = isTagName(html, at + 1, QLatin1String("script"));
+        if (script || isTagName(html, at + 1, QLatin1String("style"))) {
+            const int end = behindClosingTag(html, at, QLatin1String(script ? "script" : "style"));
+            if (end <= 0)
+                break;
+            rest.append(QStringView(html).mid(copied, at - copied));
+            copied = end;
+            at = end - 1;
+        }
+        at = html.indexOf(QLatin1Char('<'), at + 1);
+    }
+    return rest.append(QStringView(html).mid(copied));
 }
 
 // One pass is enough: a "<" that stays is followed by a ">" that stays too, or by no ">" at all, so no removal can make

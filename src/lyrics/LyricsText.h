@@ -23,6 +23,10 @@
 // Removes everything from the first "<!--" to the last "-->", also what stands between several comments.
 [[nodiscard]] QString withoutComments(const QString &html);
 
+// Removes "<script" and "<style" elements with all that stands in them, in any letter case. One that is not closed
+// stays, and so does all that comes behind it.
+[[nodiscard]] QString withoutScriptsAndStyles(const QString &html);
+
 // Removes everything from a "<" that is not directly followed by ">" up to the next ">".
 [[nodiscard]] QString stripTags(const QString &html);
 

@@ -24,7 +24,10 @@ ProviderStep ProviderStep::lyrics(const QString &text, const QString &markup)
 
 ProviderStep ProviderStep::cleanedLyrics(const std::optional<QString> &markup)
 {
-    return markup ? lyrics(cleanLyrics(*markup), *markup) : notUnderstood();
+    if (!markup)
+        return notUnderstood();
+    const QString rest = withoutComments(withoutScriptsAndStyles(*markup));
+    return lyrics(cleanLyrics(rest), rest);
 }
 
 ProviderStep ProviderStep::notUnderstood(const QString &reason)

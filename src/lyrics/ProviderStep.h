@@ -29,7 +29,8 @@ public:
     // Ends the search; an empty text means that nothing was found. `markup` is what a clean-up that strips tags made
     // the text of; it tells a script in the middle of the lyrics from words.
     static ProviderStep lyrics(const QString &text, const QString &markup = {});
-    // Ends the search with what cleanLyrics() makes of a fragment of HTML; without one, as notUnderstood().
+    // Ends the search with what cleanLyrics() makes of a fragment of HTML without its scripts and style sheets; without
+    // a fragment, as notUnderstood().
     static ProviderStep cleanedLyrics(const std::optional<QString> &markup);
     // Ends the search: the site does not have the song.
     static ProviderStep nothing() { return lyrics({}); }

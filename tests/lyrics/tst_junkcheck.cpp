@@ -49,6 +49,15 @@ private slots:
         song("access denied in a line", "Access denied, says the door to your heart\nnot found, not found"_s);
         song("a robot", "I'm not a robot, I can prove I'm human\nsign in, sign out, log in, log out"_s);
         song("no words", "[Instrumental]"_s);
+        const auto longSong = [](const char *name, const QString &line) {
+            addRow(name, "Ten lines and ten more\n"_s.repeated(30) + line, false);
+        };
+        longSong("a captcha in a song", "Solve the captcha of my heart\nand enable javascript"_s);
+        longSong("a lost love", "You're not found on this server, we do not have the lyrics"_s);
+        longSong("licences", "Gone due to licensing restrictions, you must be logged in to my love"_s);
+        addRow("an unmistakable notice below a song", "La la la\n"_s.repeated(100) + "Cloudflare Ray ID: 7d2"_s, true);
+        song("brackets around the only word", "<Instrumental>"_s);
+        song("a heart that opens, and nothing closes it", "<3 you and me>"_s);
         song("scripts and cookies", "She writes javascript and bakes me cookies\nenable me"_s);
     }
 
@@ -56,6 +65,7 @@ private slots:
     {
         QFETCH(QString, text);
         QTEST(isJunk(text), "junk");
+        QVERIFY2(!isJunk(QString(), text), "no text, no junk");
     }
 
     void seesScriptsThatTheCleanUpHides_data()
@@ -64,7 +74,8 @@ private slots:
         QTest::addColumn<bool>("junk");
         addRow("a script amid the words", "la<Script>ad(1)</script>li", true);
         addRow("a style sheet", "<style>b{}</style>li", true);
-        addRow("a script between two comments goes with them", "la<!-- --><script>x</script><!-- -->li", false);
+        addRow("a script between two comments", "la<!-- --><script>x</script><!-- -->li", true);
+        addRow("the end of a script", "ad(1)</script>la", true);
         addRow("other tags", "<div class=\"script\">la</div>", false);
     }
 

@@ -78,6 +78,12 @@ private slots:
         addTextColumns("text", "converted");
         addRow("breaks, one newline behind each goes", cleanLyrics, "<p>a<br/>\nb<br>c</p>\r\n", "a\nb\nc");
         addRow("comments go from first to last", cleanLyrics, "x<!-- 1 -->y<!-- 2 -->z", "xz");
+        const auto withoutScripts = withoutScriptsAndStyles;
+        addRow("scripts and style sheets go whole", withoutScripts,
+               "a<Script x>1<style></SCRIPT >b<style>2</style>c<scripture>d</script>", "abc<scripture>d</script>");
+        addRow("a longer name does not end a script", withoutScripts, "a<script>1</scripts>2</script>b", "ab");
+        addRow("a script that is not closed stays", withoutScripts, "<style></style><script>1<style></style>",
+               "<script>1<style></style>");
         addRow("a tag swallows an opening bracket", cleanLyrics, "<<b>i</b>>", "i>");
         addRow("hexadecimal, decimal, one digit only", decodeHtmlEntities, "&#x41;&#66;&#9;", "AB&#9;");
         addRow("an ampersand uncovers a name", decodeHtmlEntities, "&amp;lt;&amp;#39;&amp;#039;", "<''");

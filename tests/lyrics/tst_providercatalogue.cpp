@@ -80,13 +80,20 @@ private slots:
     {
         QFETCH(ReadPage, read);
         QFETCH(QString, page);
-        const auto junkWith = [&](const char *lyrics) {
+        const auto stepWith = [&](const char *lyrics) {
             const QString text = QString(page).replace(QLatin1Char('@'), QLatin1String(lyrics));
-            const ProviderStep step = read({text, QUrl("http://127.0.0.1/album#7"_s)});
+            return read({text, QUrl("http://127.0.0.1/album#7"_s)});
+        };
+        const auto junkWith = [&](const char *lyrics) {
+            const ProviderStep step = stepWith(lyrics);
             return isJunk(step.lyrics(), step.markup());
         };
+        const QString kept = stepWith("la\n<script>ad(1)</script>\n<STYLE a=b>ad(2)</Style >li").lyrics();
+        QVERIFY2(kept.contains("la"_s) && kept.contains("li"_s) && !kept.contains("ad("_s), qPrintable(kept));
+        const ProviderStep hidden = stepWith("la<!-- --><script>ad(1)<!-- -->li");
+        QVERIFY2(!hidden.lyrics().contains("ad("_s) || isJunk(hidden.lyrics(), hidden.markup()), "between comments");
         QVERIFY(!junkWith("I sign in, I log in<br>blocked"));
-        QVERIFY2(junkWith("la\n<script>ad(1)</script>\nli"), "a script within the lyrics");
+        QVERIFY2(junkWith("la\n<script>ad(1)\nli"), "a script that is not closed");
         QVERIFY2(junkWith("You must be logged in to read on."), "a notice");
         QVERIFY2(!read({"<html><p>la</p></html>"_s, {}}).isUnderstood(), "another page");
     }

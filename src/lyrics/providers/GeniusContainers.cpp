@@ -133,7 +133,7 @@ ProviderStep readGeniusContainers(const QString &songPage)
         const QString element = elementAt(songPage, container->position);
         if (element.isEmpty())
             break;
-        const QString fragment = withoutBlocksOnOneLine(withPlainBreaksAsNewlines(element));
+        const QString fragment = withoutBlocksOnOneLine(withPlainBreaksAsNewlines(withoutScriptsAndStyles(element)));
         const QString text = lyricsOfContainer(fragment);
         if (!text.isEmpty() && !lyrics.isEmpty())
             lyrics += QLatin1String("\r\n");

@@ -94,7 +94,10 @@ ProviderStep GeniusProvider::lyricsRequestFinished(const Page &page)
     // The "*" makes the quotation mark optional and repeatable; it is meant.
     static const ChainPattern olderBlock(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
     const std::optional<QString> block = firstCapture(olderBlock, page.text);
-    return block ? ProviderStep::lyrics(olderLyrics(*block), *block) : readGeniusContainers(page.text);
+    if (!block)
+        return readGeniusContainers(page.text);
+    const QString markup = withoutScriptsAndStyles(*block);
+    return ProviderStep::lyrics(olderLyrics(markup), markup);
 }
 
 std::optional<QString> GeniusProvider::songPath(const QString &searchAnswer, const QString &artist,

@@ -23,7 +23,7 @@ QString joinedTexts(const QString &songText)
     const ChainScan blocks(block, songText);
     QStringList texts;
     for (auto text = blocks.next(); text; text = blocks.next(text->end()))
-        texts.append(decodeMegaLyricsText(text->captures.at(0)));
+        texts.append(decodeMegaLyricsText(withoutScriptsAndStyles(text->captures.at(0))));
     return texts.join(QLatin1Char('\n'));
 }
 
@@ -31,7 +31,8 @@ QString joinedTexts(const QString &songText)
 QString withoutBreakTags(const QString &textInner)
 {
     static const ChainPattern breakTag(QStringLiteral("<br.*>"));
-    return withMatchesReplaced(decodeMegaLyricsText(textInner), breakTag, QStringLiteral("\n"));
+    const QString text = decodeMegaLyricsText(withoutScriptsAndStyles(textInner));
+    return withMatchesReplaced(text, breakTag, QStringLiteral("\n"));
 }
 
 } // namespace

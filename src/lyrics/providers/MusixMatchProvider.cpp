@@ -97,8 +97,9 @@ std::optional<ProviderStep> MusixMatchProvider::lyricsOfBlock(const QString &blo
         const QString span = findElement(rest, QStringLiteral("span"), {QStringLiteral("lyrics__content__ok")}, true);
         if (span.isEmpty())
             return ProviderStep::lyrics(lyrics, markup);
-        lyrics += stripTags(span);
-        markup += span;
+        const QString part = withoutScriptsAndStyles(span);
+        lyrics += stripTags(part);
+        markup += part;
         // Wherever it stands: a part that comes again, word for word, is taken once. This is deliberate.
         rest = withoutText(rest, span);
     }
