@@ -19,7 +19,7 @@ QUrl searchPageUrl()
 QString firstTable(const QString &page)
 {
     const int begin = page.indexOf(QLatin1String("<table"));
-    const int end = begin > 0 ? page.indexOf(QLatin1String("</table>"), begin) : -1;
+    const int end = begin > 0 ? page.indexOf(QLatin1String("</table"), begin) : -1;
     return end > 0 ? page.mid(begin, end - begin) : QString();
 }
 
