@@ -113,25 +113,27 @@ UpdateResult SafeSave::writeInPlace(const Change &change, qint64 growthBytes)
     const int error = copy.make(m_journal.rescueFolder(), m_original, 2 * growthBytes + m_identity.size);
     UpdateResult result = error == 0 ? change(copy.descriptor()) : resultOfError(error);
     if (result == UpdateResult::Saved)
-        result = FileIdentity::of(song) == m_identity && isUnchanged() ? overwrite(copy.descriptor(), song)
-                                                                       : UpdateResult::ChangedMeanwhile;
+        result = overwrite(copy.descriptor(), song);
     ::close(song);
     return result;
 }
 
-// After the rescue copy nothing may end without either the new content or the old.
+// Whether another program was there is asked last, since the rescue copy of a large song takes its time. Once the first
+// byte is written nothing may end without either the new content or the old.
 UpdateResult SafeSave::overwrite(int copy, int song)
 {
     const FileBytes wanted(copy);
-    if (const int error = m_journal.rescue(m_path, song, wanted.size()))
+    if (const int error = m_journal.rescue(m_path, song, copy))
         return resultOfError(error);
+    if (FileIdentity::of(song) != m_identity || !isUnchanged()) {
+        (void)m_journal.forgetRescue(); // the song was not touched
+        return UpdateResult::ChangedMeanwhile;
+    }
     int error = overwriteContent(copy, song);
     if (error == 0 && !areBytesEqual(wanted, {0, wanted.size()}, FileBytes(song), 0))
         error = EIO;
-    if (error == 0) {
-        m_journal.forgetRescue();
-        return UpdateResult::Saved;
-    }
+    if (error == 0)
+        return m_journal.forgetRescue() == 0 ? UpdateResult::Saved : UpdateResult::RestoredLater;
     return m_journal.restore(song) == 0 ? resultOfError(error) : UpdateResult::RestoredLater;
 }
 

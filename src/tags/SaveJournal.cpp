@@ -4,11 +4,11 @@
 #include "tags/FileAccess.h"
 #include "tags/FileBytes.h"
 #include "tags/FileCopying.h"
-#include "tags/FileIdentity.h"
 
 #include <QCryptographicHash>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <cerrno>
 
 #include <dirent.h>
@@ -56,6 +56,11 @@ int createFile(const QByteArray &path)
     return ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
 }
 
+int openFolder(const QByteArray &path)
+{
+    return ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
 bool exists(const QByteArray &path)
 {
     return ::access(path.constData(), F_OK) == 0 || errno != ENOENT;
@@ -91,44 +96,76 @@ QList<QByteArray> namesIn(const QByteArray &folder)
     return names;
 }
 
-// Four parts with a space between them; the path is the last, since it may hold spaces.
-struct Entry
+// What a path stands for is gone for good: not when the directory itself is away, as on a stick that was pulled.
+bool removed(const QByteArray &path)
 {
-    quint64 inode = 0;
-    qint64 oldSize = 0;
-    qint64 newSize = 0;
-    QByteArray path;
+    if (::unlink(path.constData()) == 0)
+        return true;
+    return errno == ENOENT && ::access(path.left(path.lastIndexOf('/') + 1).constData(), F_OK) == 0;
+}
 
-    static Entry parse(const QByteArray &text)
-    {
-        const QList<QByteArray> parts = text.split(' ');
-        if (parts.size() < 4)
-            return {};
-        return {parts[0].toULongLong(), parts[1].toLongLong(), parts[2].toLongLong(), parts.mid(3).join(' ')};
-    }
-    [[nodiscard]] QByteArray text() const
-    {
-        return QByteArray::number(inode) + ' ' + QByteArray::number(oldSize) + ' ' + QByteArray::number(newSize) + ' ' +
-               path;
-    }
-    // Some file systems number their files anew at each mount; then the size tells a song that was cut off.
-    [[nodiscard]] bool isAbout(const FileIdentity &song) const
-    {
-        return song.inode == inode || song.size == oldSize || song.size == newSize;
-    }
-};
+enum class Tear { None, Torn, Foreign };
 
-enum class Restoring { Done, Later, Replaced };
-
-Restoring restoreSong(const Entry &entry, const QByteArray &copyName)
+// Which of two contents a song holds. What a disk writes at once, a sector, is of the one or the other; where a content
+// has ended, zeros follow.
+Tear tearOf(const FileBytes &song, const FileBytes &before, const FileBytes &changed)
 {
-    const Descriptor copy(openRegularFile(copyName, O_RDONLY | O_NOFOLLOW));
-    const Descriptor song(openRegularFile(entry.path, O_RDWR | O_NOFOLLOW));
-    if (copy < 0 || song < 0)
+    constexpr int sectorBytes = 512;
+    constexpr qint64 pieceBytes = qint64{1024} * 1024;
+    bool isOld = song.size() == before.size();
+    bool isNew = song.size() == changed.size();
+    if (song.size() < std::min(before.size(), changed.size()) || song.size() > std::max(before.size(), changed.size()))
+        return Tear::Foreign;
+    for (qint64 offset = 0; offset < song.size(); offset += pieceBytes) {
+        const QByteArray held = song.read(offset, pieceBytes);
+        const QByteArray one = before.read(offset, pieceBytes).leftJustified(held.size(), '\0', true);
+        const QByteArray other = changed.read(offset, pieceBytes).leftJustified(held.size(), '\0', true);
+        if (held.size() != std::min(pieceBytes, song.size() - offset))
+            return Tear::Foreign; // it cannot be read
+        isOld = isOld && held == one;
+        isNew = isNew && held == other;
+        for (int place = 0; held != one && held != other && place < held.size(); place += sectorBytes) {
+            const QByteArray sector = held.mid(place, sectorBytes);
+            if (sector != one.mid(place, sectorBytes) && sector != other.mid(place, sectorBytes))
+                return Tear::Foreign;
+        }
+    }
+    return isOld || isNew ? Tear::None : Tear::Torn;
+}
+
+enum class Restoring { Whole, Done, Later, Foreign };
+
+Restoring restoreSong(const QByteArray &path, const QByteArray &rescued)
+{
+    const Descriptor before(openRegularFile(rescued + ".song", O_RDONLY | O_NOFOLLOW));
+    const Descriptor changed(openRegularFile(rescued + ".changed", O_RDONLY | O_NOFOLLOW));
+    if (changed < 0 && errno == ENOENT)
+        return Restoring::Foreign; // nothing tells what is the song's own
+    const Descriptor song(openRegularFile(path, O_RDWR | O_NOFOLLOW));
+    if (before < 0 || changed < 0 || song < 0)
         return Restoring::Later;
-    if (!entry.isAbout(FileIdentity::of(song)))
-        return Restoring::Replaced;
-    return overwriteContent(copy, song) == 0 ? Restoring::Done : Restoring::Later;
+    switch (tearOf(FileBytes(song), FileBytes(before), FileBytes(changed))) {
+    case Tear::None: // perhaps not on the disk yet
+        return syncContent(song) == 0 ? Restoring::Whole : Restoring::Later;
+    case Tear::Torn:
+        return overwriteContent(before, song) == 0 ? Restoring::Done : Restoring::Later;
+    case Tear::Foreign:
+        break;
+    }
+    return Restoring::Foreign;
+}
+
+// A second name for an open file, or where that cannot be a copy of it.
+int linkOrCopy(int file, const QByteArray &path)
+{
+    const QByteArray source = "/proc/self/fd/" + QByteArray::number(file);
+    if (::linkat(AT_FDCWD, source.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0)
+        return syncContent(file);
+    const Descriptor copy(createFile(path));
+    if (copy < 0)
+        return errno;
+    const int error = copyContent(file, copy);
+    return error == 0 ? syncContent(copy) : error;
 }
 
 } // namespace
@@ -157,26 +194,27 @@ void SaveJournal::forgetCopy(const QByteArray &path)
         ::unlink((m_copiesFolder + '/' + nameFor(path)).constData());
 }
 
-int SaveJournal::rescue(const QByteArray &path, int song, qint64 newSize)
+int SaveJournal::rescue(const QByteArray &path, int song, int changed)
 {
     if (m_rescueFolder.isEmpty())
         return ENOENT;
     m_rescued = m_rescueFolder + '/' + nameFor(path);
-    removeRescueFiles(); // what is there without an entry is of no use
+    if (const int error = removeRescueFiles()) // what is there without an entry is of no use
+        return error;
     const Descriptor copy(createFile(m_rescued + ".song"));
     const Descriptor entry(createFile(m_rescued + ".new"));
-    const Descriptor folder(::open(m_rescueFolder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    const FileIdentity identity = FileIdentity::of(song);
-    const Entry noted{identity.inode, identity.size, newSize, path};
+    const Descriptor folder(openFolder(m_rescueFolder));
     int error = copy < 0 || entry < 0 || folder < 0 ? errno : copyContent(song, copy);
     if (error == 0)
         error = syncContent(copy);
+    if (error == 0)
+        error = linkOrCopy(changed, m_rescued + ".changed");
     if (error == 0 &&
-        !(writeContent(entry, noted.text()) && ::fsync(entry) == 0 &&
+        !(writeContent(entry, path) && ::fsync(entry) == 0 && ::fsync(folder) == 0 &&
           ::rename((m_rescued + ".new").constData(), (m_rescued + ".entry").constData()) == 0 && ::fsync(folder) == 0))
         error = errno;
     if (error != 0)
-        forgetRescue();
+        (void)forgetRescue(); // the song was not touched
     return error;
 }
 
@@ -189,22 +227,25 @@ int SaveJournal::restore(int song)
 {
     const Descriptor copy(openRegularFile(m_rescued + ".song", O_RDONLY | O_NOFOLLOW));
     const int error = copy < 0 ? errno : overwriteContent(copy, song);
-    if (error == 0)
-        forgetRescue();
+    return error == 0 ? forgetRescue() : error;
+}
+
+int SaveJournal::forgetRescue()
+{
+    const int error = removeRescueFiles();
+    m_rescued.clear();
     return error;
 }
 
-void SaveJournal::forgetRescue()
+// The entry first, and for good: without it the others mean nothing, but it means nothing without them.
+int SaveJournal::removeRescueFiles() const
 {
-    removeRescueFiles();
-    m_rescued.clear();
-}
-
-// The entry first: without it the copy means nothing.
-void SaveJournal::removeRescueFiles() const
-{
-    for (const char *part : {".entry", ".new", ".song"})
+    const Descriptor folder(openFolder(m_rescueFolder));
+    if (folder < 0 || !removed(m_rescued + ".entry") || ::fsync(folder) != 0)
+        return errno;
+    for (const char *part : {".new", ".changed", ".song"})
         ::unlink((m_rescued + part).constData());
+    return 0;
 }
 
 void SaveJournal::removeLeftOverCopies()
@@ -214,20 +255,46 @@ void SaveJournal::removeLeftOverCopies()
         const QByteArray path = contentOf(m_copiesFolder + '/' + name);
         const QByteArray fileName = path.mid(path.lastIndexOf('/') + 1);
         // The note is a file like any other: what it names is removed only if it is called as a copy is.
-        if (nameFor(path) == name && fileName.startsWith(".versewell-") && fileName.endsWith(".part"))
-            ::unlink(path.constData());
-        ::unlink((m_copiesFolder + '/' + name).constData());
+        const bool isOwn = nameFor(path) == name && fileName.startsWith(".versewell-") && fileName.endsWith(".part");
+        if (!isOwn || removed(path))
+            ::unlink((m_copiesFolder + '/' + name).constData());
     }
 }
 
-// Gives the copy the song's own name, in a place of its own, and forgets the rest.
+// Gives the copy the song's own name, in a place of its own, and forgets the rest; empty when that fails.
 QByteArray SaveJournal::handOver(const QByteArray &path)
 {
     constexpr int nameBytes = 100; // of its end: with what stands before it the longest name would be too long
-    const QByteArray kept = m_rescued + '-' + path.mid(path.lastIndexOf('/') + 1).right(nameBytes);
-    if (::rename((m_rescued + ".song").constData(), kept.constData()) == 0)
-        ::unlink((m_rescued + ".entry").constData());
+    const QByteArray name = path.mid(path.lastIndexOf('/') + 1).right(nameBytes);
+    QByteArray kept = m_rescued + '-' + name;
+    for (int number = 2; exists(kept); ++number)
+        kept = m_rescued + '-' + QByteArray::number(number) + '-' + name;
+    // A second name first: the copy must not be lost between the two.
+    if (::link((m_rescued + ".song").constData(), kept.constData()) != 0 &&
+        ::rename((m_rescued + ".song").constData(), kept.constData()) != 0)
+        return {};
+    (void)removeRescueFiles();
     return kept;
+}
+
+// Of the song whose entry it is.
+void SaveJournal::mendSong(MendedSaves &mended)
+{
+    const QByteArray path = contentOf(m_rescued + ".entry");
+    Restoring result = restoreSong(path, m_rescued);
+    if (result == Restoring::Foreign) {
+        const QByteArray kept = handOver(path);
+        if (kept.isEmpty())
+            result = Restoring::Later;
+        else
+            mended.kept.append(QString::fromUtf8(kept));
+    }
+    if ((result == Restoring::Done || result == Restoring::Whole) && forgetRescue() != 0)
+        result = Restoring::Later;
+    if (result == Restoring::Done)
+        mended.restored.append(QString::fromUtf8(path));
+    else if (result == Restoring::Later)
+        mended.waiting.append(QString::fromUtf8(path));
 }
 
 MendedSaves SaveJournal::mend()
@@ -238,18 +305,11 @@ MendedSaves SaveJournal::mend()
     const QList<QByteArray> names = m_rescueFolder.isEmpty() ? QList<QByteArray>() : namesIn(m_rescueFolder);
     for (const QByteArray &name : names) {
         m_rescued = m_rescueFolder + '/' + name.left(name.lastIndexOf('.'));
-        const Entry entry = Entry::parse(contentOf(m_rescued + ".entry"));
-        if (name.endsWith(".entry")) {
-            const Restoring result = restoreSong(entry, m_rescued + ".song");
-            if (result == Restoring::Replaced)
-                mended.kept.append(QString::fromUtf8(handOver(entry.path)));
-            else if (result == Restoring::Done)
-                mended.restored.append(QString::fromUtf8(entry.path));
-            if (result == Restoring::Done)
-                forgetRescue();
-        }
-        if (!exists(m_rescued + ".entry") && (name.endsWith(".song") || name.endsWith(".new")))
-            forgetRescue(); // cut off before anything was written in place
+        if (name.endsWith(".entry"))
+            mendSong(mended);
+        else if ((name.endsWith(".song") || name.endsWith(".changed") || name.endsWith(".new")) &&
+                 !exists(m_rescued + ".entry"))
+            (void)forgetRescue(); // cut off before anything was written in place
     }
     return mended;
 }

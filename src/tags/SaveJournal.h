@@ -11,15 +11,17 @@ namespace tags {
 struct MendedSaves
 {
     QStringList restored; // songs whose save in place was cut off: they are again as they were before it
-    QStringList kept;     // copies of such songs, where another file stands now: left for the user
+    QStringList kept;     // copies of such songs, where something else stands now: left for the user
+    QStringList waiting;  // songs that could not be reached or restored: tried again at each start
+    // Nothing was done; songs may be waiting all the same.
     [[nodiscard]] bool isEmpty() const { return restored.isEmpty() && kept.isEmpty(); }
 };
 
 // What a killed run leaves behind, noted beforehand in a folder of the program's own:
 //   copies/<name>        the path of a working copy that may exist; it is removed at the next start
-//   rescue/<name>.song   the full content of a song that is being saved in place
-//   rescue/<name>.entry  inode, size before and after, and path of that song, once its copy is whole; an entry means:
-//                        restore
+//   rescue/<name>.song     the full content of a song that is being saved in place
+//   rescue/<name>.changed  the full content that it is to have
+//   rescue/<name>.entry    the path of that song, once both are whole; an entry means: the song may be torn between
 // For one program at a time, which holds the lock of the running instance.
 class SaveJournal
 {
@@ -30,27 +32,30 @@ public:
     void noteCopy(const QByteArray &path);
     void forgetCopy(const QByteArray &path);
 
-    // Copies the content of an open song, which awaits no restoring, and notes it, both on the disk when this returns
-    // 0; else an errno. `path` is the song's, links resolved; `newSize` the size that it will have.
-    [[nodiscard]] int rescue(const QByteArray &path, int song, qint64 newSize);
+    // Copies the content of an open song, which awaits no restoring, and notes it and the content that it is to have;
+    // all on the disk when this returns 0; else an errno. `path` is the song's, links resolved; `changed` an open file
+    // that nobody writes any more, best in rescueFolder().
+    [[nodiscard]] int rescue(const QByteArray &path, int song, int changed);
     // A save in place of this song was cut off and is not undone yet: what the file holds must not be taken for good.
     [[nodiscard]] bool awaitsRestoring(const QByteArray &path) const;
     // Puts the content back that was rescued last, and forgets it when that succeeds; 0 or an errno.
     [[nodiscard]] int restore(int song);
-    // The song is whole.
-    void forgetRescue();
+    // The song is whole. 0, or an errno when a power cut may bring the rescue back.
+    [[nodiscard]] int forgetRescue();
 
     // Where the copies of songs lie; empty when there is no such folder.
     [[nodiscard]] QByteArray rescueFolder() const { return m_rescueFolder; }
 
-    // Removes left-over copies and restores songs; those that are not there, on a stick perhaps, wait for a later
-    // start. To be called at the start, before any song is read. Blocks.
+    // Removes left-over copies and restores songs that are torn between the old content and the new; what anybody else
+    // wrote into one is never overwritten. Songs that are not there, on a stick perhaps, wait for a later start. To be
+    // called at the start, before any song is read. Blocks.
     MendedSaves mend();
 
 private:
     void removeLeftOverCopies();
-    void removeRescueFiles() const;
-    QByteArray handOver(const QByteArray &path);
+    [[nodiscard]] int removeRescueFiles() const;
+    [[nodiscard]] QByteArray handOver(const QByteArray &path);
+    void mendSong(MendedSaves &mended);
 
     QByteArray m_copiesFolder;
     QByteArray m_rescueFolder;

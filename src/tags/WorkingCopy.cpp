@@ -35,10 +35,9 @@ WorkingCopy::~WorkingCopy()
 {
     if (m_descriptor >= 0)
         ::close(m_descriptor);
-    if (!m_name.isEmpty()) {
-        ::unlinkat(m_directory, m_name.constData(), 0);
+    // On a stick that was pulled it stays, and so does the note of it.
+    if (!m_name.isEmpty() && (::unlinkat(m_directory, m_name.constData(), 0) == 0 || errno == ENOENT))
         m_journal.forgetCopy(m_path);
-    }
     if (m_directory >= 0)
         ::close(m_directory);
 }

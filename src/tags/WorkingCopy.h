@@ -9,7 +9,8 @@ class SaveJournal;
 
 // A private copy of a file, in a directory of the caller's choice, for a change that must come whole or not at all. It
 // is made exclusively, readable by the user alone, follows no link, and is removed when it goes out of scope without
-// having taken the place of a file. Its name stands in the journal as long as it exists.
+// having taken the place of a file. Its name stands in the journal as long as it exists, also when it could not be
+// removed.
 class WorkingCopy
 {
 public:

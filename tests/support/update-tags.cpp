@@ -13,7 +13,7 @@ namespace {
 
 constexpr int wrongUsage = 100;
 
-// As at the start of the program: one line for each song that was restored.
+// As at the start of the program: one line for each song that a save was cut off in.
 int mend(const QString &dataFolder)
 {
     const tags::MendedSaves mended = tags::SaveJournal(dataFolder).mend();
@@ -21,6 +21,8 @@ int mend(const QString &dataFolder)
         std::printf("restored %s\n", qUtf8Printable(path));
     for (const QString &path : mended.kept)
         std::printf("kept %s\n", qUtf8Printable(path));
+    for (const QString &path : mended.waiting)
+        std::printf("waiting %s\n", qUtf8Printable(path));
     return 0;
 }
 

@@ -34,6 +34,7 @@ private slots:
     void mendingRemovesOnlyOwnCopies();
     void aSaveThatWasCutOffIsUndone_data();
     void aSaveThatWasCutOffIsUndone();
+    void aSongOnAStickWaits();
 };
 
 namespace {
@@ -63,6 +64,16 @@ bool hasNewLyrics(const QString &path)
 {
     MediaFileTags tags;
     return tags.read(path) && tags.value(QStringLiteral("lyrics")).startsWith(QLatin1String("new words"));
+}
+
+// As before a save in place.
+void rescue(const QString &song, const QString &changed, const QString &data)
+{
+    const int from = ::open(QFile::encodeName(song).constData(), O_RDWR | O_CLOEXEC);
+    const int to = ::open(QFile::encodeName(changed).constData(), O_RDONLY | O_CLOEXEC);
+    QCOMPARE(tags::SaveJournal(data).rescue(QFile::encodeName(song), from, to), 0);
+    ::close(from);
+    ::close(to);
 }
 
 QByteArray attribute(const QByteArray &path, const char *name)
@@ -205,52 +216,76 @@ void tst_SafeSave::mendingRemovesOnlyOwnCopies()
     tags::SaveJournal journal(place.data);
     journal.noteCopy(QFile::encodeName(own));
     journal.noteCopy(place.native); // as a damaged journal might say
+    const QString stick = place.files.path(QStringLiteral("stick"));
+    const QString onStick = stick + QStringLiteral("/.versewell-ghi.part");
+    journal.noteCopy(QFile::encodeName(onStick));
     QVERIFY(tags::SaveJournal(place.data).mend().isEmpty());
     QVERIFY(!QFile::exists(own));
+    QVERIFY(QDir().mkdir(stick)); // it is plugged in again
+    (void)place.files.write(QStringLiteral("stick/.versewell-ghi.part"), "left over");
+    QVERIFY(tags::SaveJournal(place.data).mend().isEmpty());
+    QVERIFY(!QFile::exists(onStick));
     QVERIFY(QFile::exists(alike) && QFile::exists(place.song));
     QVERIFY(QDir(place.data + QStringLiteral("/copies")).isEmpty());
 }
 
 void tst_SafeSave::aSaveThatWasCutOffIsUndone_data()
 {
-    QTest::addColumn<QString>("meanwhile");
-    QTest::newRow("the song is half written") << "half";
-    QTest::newRow("the song was replaced by the user") << "replaced";
-    QTest::newRow("the song is on a stick that is not there") << "away";
+    QTest::addColumn<QByteArray>("found");
+    QTest::addColumn<QString>("outcome");
+    const QByteArray half = QByteArray(512, 'n') + QByteArray(1488, 'o');
+    QTest::newRow("half written") << half << "restored";
+    QTest::newRow("half written, with room for the rest") << half + QByteArray(500, '\0') << "restored";
+    QTest::newRow("wholly written") << QByteArray(2500, 'n') << "whole";
+    QTest::newRow("not begun") << QByteArray(2000, 'o') << "whole";
+    QTest::newRow("retagged by another program, equally long")
+        << QByteArray("A tagger's") + QByteArray(1990, 'o') << "kept";
+    QTest::newRow("retagged, a byte in what is new") << QByteArray(2499, 'n') + 'x' << "kept";
+    QTest::newRow("another file") << QByteArray("another file") << "kept";
 }
 
 void tst_SafeSave::aSaveThatWasCutOffIsUndone()
 {
-    QFETCH(QString, meanwhile);
+    QFETCH(QByteArray, found);
+    QFETCH(QString, outcome);
+    const SongFiles files;
+    const QString data = files.path(QStringLiteral("data"));
+    const QByteArray before(2000, 'o');
+    const QString song = files.write(QStringLiteral("song.mp3"), before);
+    const QString changed = files.write(QStringLiteral("changed"), QByteArray(2500, 'n'));
+    rescue(song, changed, data);
+    QVERIFY(QFile::remove(changed)); // as the working copy
+    (void)files.write(QStringLiteral("song.mp3"), found);
+
+    const tags::MendedSaves mended = tags::SaveJournal(data).mend();
+    QCOMPARE(mended.restored, outcome == QLatin1String("restored") ? QStringList{song} : QStringList());
+    QCOMPARE(SongFiles::bytes(song), outcome == QLatin1String("restored") ? before : found);
+    QCOMPARE(mended.kept.size(), outcome == QLatin1String("kept") ? 1 : 0);
+    for (const QString &kept : mended.kept)
+        QCOMPARE(SongFiles::bytes(kept), before);
+    QVERIFY(mended.waiting.isEmpty());
+    QVERIFY(tags::SaveJournal(data).mend().isEmpty()); // said once
+    QCOMPARE(QDir(data + QStringLiteral("/rescue")).entryList(QDir::Files).size(), mended.kept.size());
+}
+
+void tst_SafeSave::aSongOnAStickWaits()
+{
     const Place place;
     const QString away = place.files.path(QStringLiteral("away"));
     const QByteArray before = SongFiles::bytes(place.song);
-    const int song = ::open(place.native.constData(), O_RDWR | O_CLOEXEC);
-    QCOMPARE(tags::SaveJournal(place.data).rescue(place.native, song, before.size() + 100), 0);
-    QCOMPARE(::pwrite(song, "half written", 12, 0), ssize_t(12));
-    ::close(song);
-    if (meanwhile != QLatin1String("half"))
-        QVERIFY(QFile::rename(place.song, away));
-    if (meanwhile == QLatin1String("replaced"))
-        (void)place.files.write(QFileInfo(place.song).fileName(), "another file");
+    const QString changed = place.files.write(QStringLiteral("changed"), "new" + before);
+    rescue(place.song, changed, place.data);
+    (void)place.files.write(QFileInfo(place.song).fileName(), ("new" + before).left(512) + before.mid(512));
+    QVERIFY(QFile::rename(place.song, away));
 
     const tags::MendedSaves mended = tags::SaveJournal(place.data).mend();
-    if (meanwhile == QLatin1String("half")) {
-        QCOMPARE(mended.restored, QStringList{place.song});
-        QCOMPARE(SongFiles::bytes(place.song), before);
-    } else if (meanwhile == QLatin1String("replaced")) {
-        QCOMPARE(mended.kept.size(), 1);
-        QCOMPARE(SongFiles::bytes(mended.kept.first()), before);
-        QCOMPARE(SongFiles::bytes(place.song), QByteArray("another file"));
-    } else {
-        QVERIFY(mended.isEmpty());
-        QVERIFY(QFile::rename(away, place.song));
-        // What is half written must not take the place of what was rescued.
-        QCOMPARE(tags::updateTags(place.song, newLyrics, place.data), UpdateResult::RestoredLater);
-        QCOMPARE(tags::SaveJournal(place.data).mend().restored, QStringList{place.song});
-        QCOMPARE(SongFiles::bytes(place.song), before);
-    }
-    QVERIFY(tags::SaveJournal(place.data).mend().isEmpty()); // said once
+    QVERIFY(mended.isEmpty());
+    QCOMPARE(mended.waiting, QStringList{place.song});
+    QVERIFY(QFile::rename(away, place.song));
+    // What is half written must not take the place of what was rescued.
+    QCOMPARE(tags::updateTags(place.song, newLyrics, place.data), UpdateResult::RestoredLater);
+    QCOMPARE(tags::SaveJournal(place.data).mend().restored, QStringList{place.song});
+    QCOMPARE(SongFiles::bytes(place.song), before);
 }
 
 QTEST_GUILESS_MAIN(tst_SafeSave)
