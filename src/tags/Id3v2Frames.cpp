@@ -97,6 +97,7 @@ std::optional<Id3v2Frames> Id3v2Frames::parse(const QByteArray &tag)
     if (id3v2TagSize(tag) == 0 || id3v2TagSize(tag) > tag.size() || parsed.version < 2 || parsed.version > 4)
         return std::nullopt;
     QByteArray body = tag.mid(id3v2HeaderBytes, static_cast<int>(numberAt(tag, 6, 4, sevenBits)));
+    parsed.isUnsynchronised = parsed.version == 4 && (flags & unsynchronised) != 0;
     if (parsed.version < 4 && (flags & unsynchronised) != 0)
         body = synchronised(body);
     const int headerBytes = parsed.version == 2 ? 6 : id3v2HeaderBytes;
@@ -121,7 +122,9 @@ QByteArray Id3v2Frames::toTag(int size) const
         body +=
             frame.id + sizeBytes(frame.data.size(), version == 4 ? sevenBits : eightBits) + frame.flags + frame.data;
     body = body.leftJustified(size - id3v2HeaderBytes, '\0');
-    return QByteArray("ID3") + static_cast<char>(version) + '\0' + '\0' + sizeBytes(body.size(), sevenBits) + body;
+    const int flags = isUnsynchronised ? unsynchronised : 0;
+    return QByteArray("ID3") + static_cast<char>(version) + '\0' + static_cast<char>(flags) +
+           sizeBytes(body.size(), sevenBits) + body;
 }
 
 } // namespace tags

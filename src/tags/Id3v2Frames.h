@@ -21,6 +21,9 @@ struct Id3v2Frame
 struct Id3v2Frames
 {
     int version = 0;
+    // Version 4 only: the header says that zeros were put into every frame, with a flag of its own or without. Frames
+    // that hold no byte 0xff are alike with it and without.
+    bool isUnsynchronised = false;
     QVector<Id3v2Frame> frames;
 
     // From a whole tag, header and all; nothing when it is damaged.

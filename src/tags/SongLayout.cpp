@@ -173,7 +173,7 @@ bool readId3v2Items(const FileBytes &file, SongLayout &layout)
         layout.id3v2View = Id3v2View::AsRead;
     if (layout.id3v2View == Id3v2View::AsRead)
         return readFramesByLibrary(bytes, *tag, layout);
-    layout.items.append({"ID3v2", QByteArray::number(tag->version)});
+    layout.items.append({"ID3v2", QByteArray::number(tag->version) + (tag->isUnsynchronised ? " unsynchronised" : "")});
     for (const Id3v2Frame &frame : tag->frames)
         layout.items.append({"ID3v2/" + frame.id, frame.flags + frame.data});
     return true;

@@ -56,8 +56,9 @@ UpdateResult storeLyrics(const QString &path, const SongFiles &files)
 void tst_TagUpdate::framesStayAsTheyAreStored_data()
 {
     QTest::addColumn<QByteArray>("frames");
-    QTest::newRow("a volume in version 3") << frame("RVAD", "\x03\x10 12345678");
-    QTest::newRow("a sort name in version 3") << frame("TSOP", QByteArray("\0Artist, The", 12));
+    QTest::addColumn<int>("version");
+    QTest::newRow("a volume in version 3") << frame("RVAD", "\x03\x10 12345678") << 3;
+    QTest::newRow("a sort name in version 3") << frame("TSOP", QByteArray("\0Artist, The", 12)) << 3;
     QTest::newRow("a date in three frames") << frame("TYER", QByteArray("\0"
                                                                         "2001",
                                                                         5)) +
@@ -66,33 +67,48 @@ void tst_TagUpdate::framesStayAsTheyAreStored_data()
                                                                             5)) +
                                                    frame("TIME", QByteArray("\0"
                                                                             "1405",
-                                                                            5));
+                                                                            5))
+                                            << 3;
     QTest::newRow("a size") << frame("TSIZ", QByteArray("\0"
                                                         "12345",
-                                                        6));
-    QTest::newRow("a grouped frame") << frame("TALB", QByteArray("G\0Album", 7), 0x0020);
-    QTest::newRow("an encrypted frame") << frame("TCOM", "Mno one can read this", 0x0040);
+                                                        6))
+                            << 3;
+    QTest::newRow("a grouped frame") << frame("TALB", QByteArray("G\0Album", 7), 0x0020) << 3;
+    QTest::newRow("an encrypted frame") << frame("TCOM", "Mno one can read this", 0x0040) << 3;
     QTest::newRow("a compressed frame") << frame("COMM", bigEndian(9) + qCompress(QByteArray("\0eng\0text", 9)).mid(4),
-                                                 0x0080);
-    QTest::newRow("a frame of nobody's") << frame("XYZ9", QByteArray("\0\1\2\xff\xfe", 5));
+                                                 0x0080)
+                                        << 3;
+    QTest::newRow("a frame of nobody's") << frame("XYZ9", QByteArray("\0\1\2\xff\xfe", 5)) << 3;
     QTest::newRow("UTF-8 where version 3 knows none") << frame("TALB", "\x03"
-                                                                       "Caf\xc3\xa9");
-    QTest::newRow("more than TagLib's padding") << frame("RVAD", QByteArray(900, 'v'));
+                                                                       "Caf\xc3\xa9")
+                                                      << 3;
+    QTest::newRow("more than TagLib's padding") << frame("RVAD", QByteArray(900, 'v')) << 3;
+    // Its zeros are told of in the header of the tag alone.
+    const QByteArray utf16("\x01\xff\0\xfe"
+                           "S\0o\0n\0g\0",
+                           12);
+    const QByteArray jpeg("\0image/jpeg\0\3\0\xff\0\xd8\xff\0\xe0 picture \xff\0\0 end", 36);
+    QTest::newRow("zeros put in, in version 4") << frame("TALB", utf16) + frame("APIC", jpeg) << 4;
 }
 
 void tst_TagUpdate::framesStayAsTheyAreStored()
 {
     QFETCH(QByteArray, frames);
+    QFETCH(int, version);
+    const char flags = version == 4 ? '\x80' : '\0';
     const SongFiles files;
     const QByteArray title = frame("TIT2", QByteArray("\0The Song", 9));
     const QByteArray audio = SongFiles::bytes(files.copy(QStringLiteral("untagged.mp3")));
-    const QString path = files.write(QStringLiteral("song.mp3"), tag(3, frames + title) + audio);
+    const QString path = files.write(QStringLiteral("song.mp3"), tag(version, frames + title, flags) + audio);
+    const QJsonObject seenBefore = SongFiles::tagsOf(path);
     QCOMPARE(storeLyrics(path, files), UpdateResult::Saved);
     const QByteArray after = SongFiles::bytes(path);
     QVERIFY(after.contains(frames + title));
+    QCOMPARE(after.at(5), flags);
     QVERIFY(after.endsWith(audio));
     const QJsonObject seen = SongFiles::tagsOf(path);
-    QCOMPARE(seen.value(QStringLiteral("id3")).toString(), QStringLiteral("2.3.0"));
+    QCOMPARE(seen.value(QStringLiteral("id3")).toString(), QStringLiteral("2.%1.0").arg(version));
+    QCOMPARE(seen.value(QStringLiteral("pictures")), seenBefore.value(QStringLiteral("pictures")));
     QCOMPARE(seen.value(QStringLiteral("lyrics")).toArray(), QJsonArray{QStringLiteral("new words")});
 }
 
