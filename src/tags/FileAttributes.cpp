@@ -16,18 +16,20 @@ namespace {
 
 constexpr mode_t allBits = 07777;
 
-// Names end with a NUL each. Empty also where the file system has no such attributes.
-QList<QByteArray> attributeNames(int descriptor)
+// Names end with a NUL each. 0 or an errno; none, and 0, also where the file system has no such attributes.
+int readAttributeNames(int descriptor, QList<QByteArray> &list)
 {
     const ssize_t size = ::flistxattr(descriptor, nullptr, 0);
     if (size <= 0)
-        return {};
+        return size == 0 || errno == ENOTSUP ? 0 : errno;
     QByteArray names(static_cast<int>(size), '\0');
     const ssize_t filled = ::flistxattr(descriptor, names.data(), static_cast<std::size_t>(names.size()));
-    names.truncate(static_cast<int>(filled < 0 ? 0 : filled));
-    QList<QByteArray> list = names.split('\0');
+    if (filled < 0)
+        return errno;
+    names.truncate(static_cast<int>(filled));
+    list = names.split('\0');
     list.removeAll({});
-    return list;
+    return 0;
 }
 
 bool mustBeKept(const QByteArray &name)
@@ -47,6 +49,19 @@ int carryAttribute(const QByteArray &name, int from, int to)
     return carried || !mustBeKept(name) ? 0 : errno;
 }
 
+// A new file gets some from its directory: an access list above all, which may let more people in.
+int removeOtherAttributes(const QList<QByteArray> &wanted, int from)
+{
+    QList<QByteArray> names;
+    if (const int error = readAttributeNames(from, names))
+        return error;
+    for (const QByteArray &name : qAsConst(names)) {
+        if (!wanted.contains(name) && ::fremovexattr(from, name.constData()) != 0 && mustBeKept(name))
+            return errno;
+    }
+    return 0;
+}
+
 } // namespace
 
 int carryAttributes(int from, int to)
@@ -59,8 +74,12 @@ int carryAttributes(int from, int to)
     const bool otherOwner = source.st_uid != target.st_uid || source.st_gid != target.st_gid;
     if (otherOwner && ::fchown(to, source.st_uid, source.st_gid) != 0)
         return errno;
-    const QList<QByteArray> names = attributeNames(from);
-    for (const QByteArray &name : names) {
+    QList<QByteArray> names;
+    if (const int error = readAttributeNames(from, names))
+        return error;
+    if (const int error = removeOtherAttributes(names, to))
+        return error;
+    for (const QByteArray &name : qAsConst(names)) {
         if (const int error = carryAttribute(name, from, to))
             return error;
     }

@@ -92,8 +92,8 @@ UpdateResult SafeSave::replaceFile(const Change &change, qint64 growthBytes, boo
     const UpdateResult changed = change(copy.descriptor());
     if (changed != UpdateResult::Saved)
         return changed;
-    if (const int error = carryAttributes(m_original, copy.descriptor()))
-        return failed(error == ENOTSUP ? EPERM : error);
+    if (carryAttributes(m_original, copy.descriptor()) != 0)
+        return failed(EPERM);
     if (const int error = syncContent(copy.descriptor()))
         return resultOfError(error);
     if (!isUnchanged())

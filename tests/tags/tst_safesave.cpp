@@ -90,7 +90,7 @@ void tst_SafeSave::theFileStaysTheUsers_data()
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("link");
     QTest::newRow("shared with a group, behind a relative link") << 0664 << "plain-v24.mp3";
-    QTest::newRow("private, with an odd bit") << 01600 << QString();
+    QTest::newRow("private, with an odd bit, where new files are shared") << 01600 << QString();
 }
 
 void tst_SafeSave::theFileStaysTheUsers()
@@ -104,6 +104,11 @@ void tst_SafeSave::theFileStaysTheUsers()
                             "20000000ffffffff");
     const bool withList = mode == 0664 && ::setxattr(place.native.constData(), "system.posix_acl_access",
                                                      list.constData(), static_cast<std::size_t>(list.size()), 0) == 0;
+    // And one that the directory gives to new files.
+    const QByteArray directory = QFile::encodeName(QFileInfo(place.song).path());
+    if (mode == 01600)
+        (void)::setxattr(directory.constData(), "system.posix_acl_default", list.constData(),
+                         static_cast<std::size_t>(list.size()), 0);
     QCOMPARE(::setxattr(place.native.constData(), "user.rating", "five", 4, 0), 0);
     QCOMPARE(::chmod(place.native.constData(), static_cast<mode_t>(mode)), 0);
     const bool isRoot = ::geteuid() == 0;
