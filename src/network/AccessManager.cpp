@@ -15,26 +15,55 @@ namespace {
 constexpr auto loginRefused = QNetworkReply::ProxyAuthenticationRequiredError;
 constexpr int shownAddressCharacters = 120; // a data: address can be as long as a page
 
-// Left to itself, Qt 5.15 gives the proxy's user name and password to an http site that asks for some under the name
-// under which the proxy did. So it is kept from logging in anywhere, and an http page is asked for with the log-in for
-// the proxy, which does not pass it on. For https Qt gives it to the proxy alone.
-void addProxyLogin(const QNetworkProxy &proxy, QNetworkRequest *sent)
+// A name that is reserved for never existing (RFC 2606): whatever comes of it was said by the proxy.
+const QUrl nowhere(QStringLiteral("http://login.invalid/"));
+
+// Qt writes user names and passwords in Latin-1, where a proxy that follows RFC 7617 expects UTF-8. Given UTF-8 byte by
+// byte, it sends that.
+QNetworkProxy withLoginInUtf8(QNetworkProxy proxy)
 {
-    sent->setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    const bool plain = sent->url().scheme() == QLatin1String("http");
-    if (!plain || proxy.type() != QNetworkProxy::HttpProxy || proxy.user().isEmpty())
-        return;
-    const QString login = proxy.user() + QLatin1Char(':') + proxy.password();
-    sent->setRawHeader("Proxy-Authorization", "Basic " + login.toUtf8().toBase64()); // RFC 7617
+    proxy.setUser(QString::fromLatin1(proxy.user().toUtf8()));
+    proxy.setPassword(QString::fromLatin1(proxy.password().toUtf8()));
+    return proxy;
+}
+
+bool hasHttpLogin(const QNetworkProxy &proxy)
+{
+    return proxy.type() == QNetworkProxy::HttpProxy && !proxy.user().isEmpty();
+}
+
+bool isPlain(const QUrl &url)
+{
+    return url.scheme() == QLatin1String("http");
+}
+
+// The log-in that is made up here is of this kind; it would give the password away to any other.
+bool asksForBasicLogin(const QNetworkReply &reply)
+{
+    return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 407 &&
+           reply.rawHeader("Proxy-Authenticate").toLower().contains("basic");
+}
+
+bool canBeSentAgain(QIODevice *data)
+{
+    return !data || (!data->isSequential() && data->seek(0));
 }
 
 // Naming the codings ourselves keeps Qt from inflating, which it does without any bound.
-QNetworkRequest asSent(const LimitedReply &reply, const QNetworkProxy &proxy)
+//
+// Left to itself, Qt 5.15 gives the proxy's user name and password to an http site that asks for some under the name
+// under which the proxy did. So it is kept from logging in anywhere, and an http page is asked for with the log-in for
+// the proxy. For https Qt gives it to the proxy alone.
+QNetworkRequest asSent(const LimitedReply &reply, const QNetworkProxy &proxy, bool withLogin)
 {
     QNetworkRequest sent = reply.request();
     sent.setRawHeader("Accept-Encoding", reply.kind() == RequestKind::Page ? "gzip, deflate" : "identity");
     sent.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    addProxyLogin(proxy, &sent);
+    sent.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    if (withLogin) {
+        const QString login = proxy.user() + QLatin1Char(':') + proxy.password(); // bytes, see withLoginInUtf8()
+        sent.setRawHeader("Proxy-Authorization", "Basic " + login.toLatin1().toBase64()); // RFC 7617
+    }
     return sent;
 }
 
@@ -53,9 +82,19 @@ void AccessManager::setLimits(const RequestLimits &limits)
 
 void AccessManager::useProxy(const QNetworkProxy &proxy)
 {
-    setProxy(proxy);
+    const QNetworkProxy used = withLoginInUtf8(proxy);
+    if (used != this->proxy())
+        forgetPauses();
+    setProxy(used);
     m_refusingProxy.reset();
-    m_proxyHasAnswered = false;
+    m_login = Login::Unknown;
+    if (m_check)
+        m_check->abort(); // which releases what is held, for the new proxy
+}
+
+void AccessManager::forgetPauses()
+{
+    m_restingHosts.clear();
 }
 
 QNetworkReply *AccessManager::createRequest(Operation operation, const QNetworkRequest &request,
@@ -114,40 +153,127 @@ QNetworkReply *AccessManager::send(LimitedReply *reply, QIODevice *outgoingData)
         reply->fail(hindered->error, hindered->text);
         return nullptr;
     }
+    const bool maybeRefused = hasHttpLogin(proxy()) && m_login == Login::Unknown && !isPlain(reply->url());
+    if (m_check || maybeRefused) {
+        hold(reply, outgoingData);
+        return nullptr;
+    }
+    return sendNow(reply, outgoingData);
+}
+
+QNetworkReply *AccessManager::sendNow(LimitedReply *reply, QIODevice *outgoingData)
+{
+    const QNetworkProxy used = proxy();
+    const bool withLogin = m_login == Login::Works && hasHttpLogin(used) && isPlain(reply->url());
     QNetworkReply *source =
-        QNetworkAccessManager::createRequest(reply->operation(), asSent(*reply, proxy()), outgoingData);
+        QNetworkAccessManager::createRequest(reply->operation(), asSent(*reply, used, withLogin), outgoingData);
+    const QPointer<LimitedReply> waiting(reply);
+    // Before the reply that is handed out sees anything of it.
+    if (hasHttpLogin(used) && isPlain(reply->url()) && !withLogin)
+        connect(source, &QNetworkReply::metaDataChanged, this,
+                [this, source, used, waiting, data = QPointer(outgoingData), uploads = outgoingData != nullptr] {
+                    if (waiting && (data || !uploads))
+                        repeatWithLogin(*source, used, waiting, data);
+                });
     // Here and not where the outcome is handed out, so that it is known before the next one in the queue is sent.
     connect(source, &QNetworkReply::finished, this,
-            [this, source, used = proxy(), waiting = QPointer(reply)] { noteProxy(*source, used, waiting); });
+            [this, source, used, waiting, withLogin] { noteProxy(*source, used, waiting, withLogin); });
     reply->start(source);
     return source;
 }
 
-void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply)
+void AccessManager::repeatWithLogin(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply,
+                                    QIODevice *outgoingData)
 {
-    const bool refused = isLoginRefused(source, proxy);
-    const QNetworkReply::NetworkError error = refused ? loginRefused : proxyError(source, proxy);
-    if (proxy == this->proxy()) {
-        if (refused && !m_refusingProxy)
-            qCWarning(networkLog, "The proxy refuses the log-in.");
-        if (refused)
-            m_refusingProxy = proxy;
-        else if (error == QNetworkReply::NoError)
-            m_proxyHasAnswered |= source.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-    }
-    if (error != QNetworkReply::NoError && reply)
-        reply->fail(error, proxyErrorText(error));
+    const bool wanted = proxy == this->proxy() && m_login != Login::NotWanted && !m_refusingProxy;
+    if (!wanted || !asksForBasicLogin(source) || !canBeSentAgain(outgoingData))
+        return;
+    reply->takeBack();
+    if (m_login == Login::Works)
+        enqueue(reply, outgoingData);
+    else
+        hold(reply, outgoingData);
 }
 
-bool AccessManager::isLoginRefused(const QNetworkReply &source, const QNetworkProxy &proxy) const
+// Checking the log-in
+
+void AccessManager::hold(LimitedReply *reply, QIODevice *outgoingData)
 {
-    if (source.error() == QNetworkReply::ProxyAuthenticationRequiredError)
-        return true;
-    // There are proxies that answer a wrong password as if the site had been asked for one. Once a page has come
-    // through, the password is right and it is the site that asks.
-    return source.error() == QNetworkReply::AuthenticationRequiredError && proxy.type() == QNetworkProxy::HttpProxy &&
-           !proxy.user().isEmpty() && !m_proxyHasAnswered &&
-           !source.attribute(QNetworkRequest::ConnectionEncryptedAttribute).toBool();
+    m_held.append({reply, outgoingData, outgoingData != nullptr});
+    if (!m_check)
+        checkLogin(false);
+}
+
+void AccessManager::checkLogin(bool withLogin)
+{
+    const QNetworkProxy used = proxy();
+    m_check = new LimitedReply(GetOperation, QNetworkRequest(nowhere), RequestKind::Page, m_limits, this);
+    connect(m_check, &QNetworkReply::finished, this,
+            [this, used, withLogin, check = m_check.data()] { loginChecked(check, used, withLogin); });
+    QNetworkReply *source =
+        QNetworkAccessManager::createRequest(GetOperation, asSent(*m_check, used, withLogin), nullptr);
+    connect(source, &QNetworkReply::finished, m_check, [source, used, check = m_check.data()] {
+        const QNetworkReply::NetworkError error = proxyError(*source, used);
+        if (error != QNetworkReply::NoError)
+            check->fail(error, proxyErrorText(error));
+    });
+    m_check->start(source);
+}
+
+void AccessManager::loginChecked(LimitedReply *check, const QNetworkProxy &proxy, bool withLogin)
+{
+    check->deleteLater();
+    m_check = nullptr;
+    const int status = check->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const bool current = proxy == this->proxy() && check->error() != QNetworkReply::OperationCanceledError;
+    if (current && !withLogin && asksForBasicLogin(*check)) {
+        checkLogin(true);
+        return;
+    }
+    // There are proxies that answer a wrong password as if a site had been asked for one.
+    if (current && withLogin && (status == 401 || status == 407))
+        refuse(proxy);
+    else if (current && status != 0)
+        m_login = withLogin ? Login::Works : Login::NotWanted;
+    release(current && status == 0 ? check : nullptr);
+}
+
+void AccessManager::release(const QNetworkReply *failedCheck)
+{
+    for (const Held &held : std::exchange(m_held, {})) {
+        if (!held.reply)
+            continue;
+        if (failedCheck)
+            held.reply->fail(failedCheck->error(), proxyErrorText(failedCheck->error()));
+        else if (held.uploads && !held.data)
+            held.reply->abort(); // rather than send half of it
+        else
+            enqueue(held.reply, held.data);
+    }
+}
+
+void AccessManager::refuse(const QNetworkProxy &proxy)
+{
+    if (!m_refusingProxy)
+        qCWarning(networkLog, "The proxy refuses the log-in.");
+    m_refusingProxy = proxy;
+}
+
+void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply,
+                              bool withLogin)
+{
+    const QNetworkReply::NetworkError error = proxyError(source, proxy);
+    if (error == QNetworkReply::NoError || !reply || reply->isSettled())
+        return;
+    // What a proxy says about a log-in that it was never given is no refusal, and a site may say so as well.
+    const bool unasked = hasHttpLogin(proxy) && isPlain(source.url()) && !withLogin;
+    if (error == loginRefused && unasked) {
+        reply->fail(error, tr("The proxy wants a log-in of a kind that is not known here."));
+        return;
+    }
+    if (error == loginRefused && proxy == this->proxy())
+        refuse(proxy);
+    reply->fail(error, proxyErrorText(error));
 }
 
 void AccessManager::noteWish(const QNetworkReply &reply)
@@ -160,4 +286,7 @@ void AccessManager::noteWish(const QNetworkReply &reply)
         return;
     qCInfo(networkLog) << reply.url().host() << "asked for a pause of" << pause->count() << "s";
     m_restingHosts.rest(reply.url(), *pause);
+    const QUrl chainStart = reply.request().attribute(ChainStartAttribute).toUrl();
+    if (isWebAddress(chainStart))
+        m_restingHosts.rest(chainStart, *pause);
 }

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "network/LimitedReply.h"
 #include "network/RequestLimits.h"
 #include "network/RequestQueue.h"
 #include "network/RestingHosts.h"
 
+#include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QPointer>
+#include <QVector>
 
 #include <optional>
-
-class LimitedReply;
 
 // The access manager of every connection that the program opens. It keeps hostile and broken servers from doing harm:
 //
@@ -23,6 +25,9 @@ class LimitedReply;
 // - A server that answers 429 or 503 with "Retry-After" gets no request for that time; they fail instead, at once or,
 //   when they wait already, as soon as it would be their turn.
 // - A server gets a few requests at a time; the others wait here and cost no time of their limits (RequestQueue).
+// - An HTTP proxy gets the user name and the password only after it asked for them, and is asked first for an address
+//   that does not exist, so that no site sees a log-in and a wrong one is tried once. What is asked for meanwhile
+//   waits.
 // - After a proxy refused a log-in, requests fail with that error and are not sent, until the proxy changes: somebody
 //   who tries over and over gets the account locked.
 //
@@ -42,13 +47,21 @@ public:
     // time. It is read on readyRead().
     static constexpr auto DownloadAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 1);
 
+    // A request attribute (QUrl): the address that led to this one, by redirects or links. When the server of this one
+    // asks for a pause, that one's server is left alone as well.
+    static constexpr auto ChainStartAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 2);
+
     explicit AccessManager(QObject *parent = nullptr, RestingHosts::Clock clock = &std::chrono::steady_clock::now);
 
     // For the requests that are made from now on.
     void setLimits(const RequestLimits &limits);
 
-    // Sets the proxy for what is sent from now on, and forgets that one refused a log-in.
+    // Sets the proxy for what is sent from now on, and forgets that one refused a log-in. With another proxy, the
+    // pauses that were asked for are forgotten too.
     void useProxy(const QNetworkProxy &proxy);
+
+    // Every server may be asked again.
+    void forgetPauses();
 
 protected:
     QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request, QIODevice *outgoingData) override;
@@ -59,6 +72,16 @@ private:
         QNetworkReply::NetworkError error;
         QString text; // for users
     };
+    // A request that is to be sent once the log-in is checked.
+    struct Held
+    {
+        QPointer<LimitedReply> reply;
+        QPointer<QIODevice> data;
+        bool uploads;
+    };
+    // What is known of the log-in at an HTTP proxy that is in use. NotWanted: it asks for none, or for none of the kind
+    // that is made up here.
+    enum class Login { Unknown, NotWanted, Works };
 
     // An error reply when this request must not even wait, else null.
     QNetworkReply *refusal(Operation operation, const QNetworkRequest &request);
@@ -68,13 +91,25 @@ private:
     // Sends what the reply stands for, or ends it. Null when there was nothing to send.
     QNetworkReply *send(LimitedReply *reply, QIODevice *outgoingData);
     void noteWish(const QNetworkReply &reply);
+    QNetworkReply *sendNow(LimitedReply *reply, QIODevice *outgoingData);
+    // After an answer that asks for the log-in, the reply is taken back and waits to be sent again.
+    void repeatWithLogin(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply,
+                         QIODevice *outgoingData);
+    // Keeps what is to be sent until the log-in is checked, and sees to that.
+    void hold(LimitedReply *reply, QIODevice *outgoingData);
+    void checkLogin(bool withLogin);
+    void loginChecked(LimitedReply *check, const QNetworkProxy &proxy, bool withLogin);
+    // Sends what was held, or lets it fail as the check did.
+    void release(const QNetworkReply *failedCheck);
+    void refuse(const QNetworkProxy &proxy);
     // Looks at an answer that came through `proxy`; the reply that stands before it fails when the proxy did.
-    void noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply);
-    [[nodiscard]] bool isLoginRefused(const QNetworkReply &source, const QNetworkProxy &proxy) const;
+    void noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply, bool withLogin);
 
     RequestLimits m_limits;
     RestingHosts m_restingHosts;
     RequestQueue m_queue;
     std::optional<QNetworkProxy> m_refusingProxy; // with the user name and the password that it refused
-    bool m_proxyHasAnswered = false;              // something came through the proxy since it is in use
+    Login m_login = Login::Unknown;
+    QPointer<LimitedReply> m_check; // while the log-in is checked
+    QVector<Held> m_held;
 };

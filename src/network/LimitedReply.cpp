@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -89,6 +90,18 @@ void LimitedReply::start(QNetworkReply *source)
     source->ignoreSslErrors(m_ignoredSslErrors);
     forwardSignals();
     startTimers();
+}
+
+void LimitedReply::takeBack()
+{
+    m_idleTimer.stop();
+    m_totalTimer.stop();
+    QNetworkReply *source = std::exchange(m_source, nullptr).data();
+    if (!source)
+        return;
+    source->disconnect(this);
+    source->abort();
+    source->deleteLater();
 }
 
 void LimitedReply::abort()

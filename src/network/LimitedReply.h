@@ -39,10 +39,13 @@ public:
     [[nodiscard]] bool isSequential() const override { return true; }
     [[nodiscard]] qint64 bytesAvailable() const override;
 
-    // The request was sent: `source` is Qt's reply to it, and the limits of time count from now. Once only, and not
-    // after the outcome is known. The source stays with its owner, the manager, until this reply is deleted, which then
-    // releases it; the children of this reply go with it, as they may hold the data that is uploaded.
+    // The request was sent: `source` is Qt's reply to it, and the limits of time count from now. Once only, unless
+    // taken back, and not after the outcome is known. The source stays with its owner, the manager, until this reply is
+    // deleted, which then releases it; the children of this reply go with it, as they may hold the data that is
+    // uploaded.
     void start(QNetworkReply *source);
+    // Ends what was started, as if the request had not been sent yet.
+    void takeBack();
     // Ends the request, sent or not, with this error. Does nothing once it has finished.
     void fail(NetworkError error, const QString &text);
 

@@ -20,11 +20,39 @@ QNetworkReply::NetworkError asProxyError(QNetworkReply::NetworkError error)
     }
 }
 
+// Qt 5.15 gives one number to all that a proxy can do wrong before it passes anything on, and tells it apart in words.
+QNetworkReply::NetworkError fromWords(const QString &words)
+{
+    const auto isOneOf = [&words](const char *socks, const char *http) {
+        return words == QCoreApplication::translate("QSocks5SocketEngine", socks) ||
+               words == QCoreApplication::translate("QHttpSocketEngine", http);
+    };
+    if (isOneOf("Connection to proxy refused", "Proxy connection refused"))
+        return QNetworkReply::ProxyConnectionRefusedError;
+    if (isOneOf("Connection to proxy closed prematurely", "Proxy connection closed prematurely"))
+        return QNetworkReply::ProxyConnectionClosedError;
+    if (isOneOf("Proxy host not found", "Proxy server not found"))
+        return QNetworkReply::ProxyNotFoundError;
+    if (isOneOf("Connection to proxy timed out", "Proxy server connection timed out"))
+        return QNetworkReply::ProxyTimeoutError;
+    return QNetworkReply::UnknownProxyError;
+}
+
+bool isSet(const QNetworkProxy &proxy)
+{
+    return proxy.type() != QNetworkProxy::NoProxy && proxy.type() != QNetworkProxy::DefaultProxy;
+}
+
 } // namespace
 
 QNetworkReply::NetworkError proxyError(const QNetworkReply &reply, const QNetworkProxy &proxy)
 {
     const QNetworkReply::NetworkError error = reply.error();
+    if (!isSet(proxy))
+        return QNetworkReply::NoError;
+    const bool answered = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    if (error == QNetworkReply::UnknownNetworkError && !answered)
+        return fromWords(reply.errorString());
     if (error >= QNetworkReply::ProxyConnectionRefusedError && error <= QNetworkReply::ProxyAuthenticationRequiredError)
         return error;
     const bool plain = reply.url().scheme() == QLatin1String("http");

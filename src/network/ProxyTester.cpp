@@ -26,6 +26,7 @@ bool ProxyTester::start(const QNetworkProxy &proxy)
         return false;
     m_proxy = proxy;
     m_manager->useProxy(m_proxy);
+    m_manager->forgetPauses(); // nobody tests often enough to do harm, and an old answer says nothing of this proxy
     m_reply = m_manager->get(QNetworkRequest(m_url));
     connect(m_reply, &QNetworkReply::finished, this, &ProxyTester::finished);
     m_timer->start(std::chrono::seconds(m_timeoutSeconds));

@@ -43,9 +43,9 @@ private slots:
     // The page wants to know who asks: that counts as a failure.
     void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     void onTimeout();
+    void setState(State state);
 
 private:
-    void setState(State state);
     void endReply();
     void settle();
 

@@ -23,6 +23,9 @@ public:
     // A pause that ends earlier than the one that holds already changes nothing.
     void rest(const QUrl &url, std::chrono::seconds pause);
 
+    // No server rests any more.
+    void clear() { m_until.clear(); }
+
 private:
     Clock m_clock;
     QHash<QString, std::chrono::steady_clock::time_point> m_until;

@@ -18,11 +18,11 @@ const QString password = QStringLiteral("swordfish");
 class Site
 {
 public:
-    Site()
+    explicit Site(const QString &scheme = QStringLiteral("http"))
     {
         for (const Endpoint endpoint : allEndpoints())
             QSettings().setValue(endpointGroup() + QLatin1Char('/') + endpointKey(endpoint),
-                                 QString(QStringLiteral("http://") + address()));
+                                 QString(scheme + QStringLiteral("://") + address()));
         reloadEndpoints();
         m_server.route(QStringLiteral("/search.php"), [](const LoopbackRequest &request) {
             const QByteArray title = request.query.queryItemValue(QStringLiteral("q")).toUtf8();
@@ -67,6 +67,7 @@ private slots:
     void searchesGoThroughTheProxy();
     void aRefusedLoginIsNotTriedAgain_data();
     void aRefusedLoginIsNotTriedAgain();
+    void anOpenProxyIsGivenNoLogin();
     void theLoginIsForTheProxyAlone();
     void aDeadProxyLosesNothing_data();
     void aDeadProxyLosesNothing();
@@ -120,7 +121,7 @@ void tst_Proxies::searchesGoThroughTheProxy()
     QTRY_VERIFY2(proxy.log().contains(site.address().section(QLatin1Char(':'), 0, 0).toLatin1()),
                  proxy.log().constData());
     // The proxy was given the name, and each request went to it.
-    QCOMPARE(proxy.received().join().count("GET "), site.requests());
+    QVERIFY(proxy.received().join().count("GET ") >= site.requests());
     const int before = site.requests();
     app->settings()->setProxyType(0);
     app->mainModel()->startSearch(app->mainModel()->itemAt(0)->id());
@@ -132,8 +133,10 @@ void tst_Proxies::searchesGoThroughTheProxy()
 void tst_Proxies::aRefusedLoginIsNotTriedAgain_data()
 {
     QTest::addColumn<QNetworkProxy::ProxyType>("type");
-    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy;
-    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy;
+    QTest::addColumn<QString>("scheme");
+    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy << "http";
+    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy << "http";
+    QTest::newRow("HTTP, for https") << QNetworkProxy::HttpProxy << "https";
 }
 
 void tst_Proxies::aRefusedLoginIsNotTriedAgain()
@@ -141,8 +144,9 @@ void tst_Proxies::aRefusedLoginIsNotTriedAgain()
     constexpr int songs = 30;
     constexpr int inFlight = 6; // connections to one site
     QFETCH(QNetworkProxy::ProxyType, type);
+    QFETCH(QString, scheme);
     Stage app;
-    const Site site;
+    const Site site(scheme);
     ProxyServer proxy(type, user, password);
     QVERIFY(proxy.isReady());
     setLogin(app->settings(), QStringLiteral("wrong"));
@@ -155,11 +159,32 @@ void tst_Proxies::aRefusedLoginIsNotTriedAgain()
     const int attempts = proxy.logins("nora", "wrong");
     QVERIFY2(attempts >= 1 && attempts <= inFlight, QByteArray::number(attempts).constData());
     QCOMPARE(site.requests(), 0);
+    if (scheme == QLatin1String("https"))
+        return; // the site speaks http only
 
     app->settings()->setProxyPassword(password);
     app->mainModel()->startSearch(app->mainModel()->itemAt(0)->id());
     QTRY_COMPARE(app->mainModel()->itemAt(0)->lyricsTag(), QStringLiteral("la la la"));
     QCOMPARE(proxy.logins("nora", "wrong"), attempts);
+}
+
+void tst_Proxies::anOpenProxyIsGivenNoLogin()
+{
+    Stage app;
+    Site site;
+    ProxyServer proxy(QNetworkProxy::HttpProxy);
+    QVERIFY(proxy.isReady());
+    setLogin(app->settings(), password);
+    setProxy(app->settings(), QNetworkProxy::HttpProxy, proxy.port());
+    addSongs(app->mainModel(), 1);
+    QTRY_COMPARE(app->mainModel()->itemAt(0)->lyricsTag(), QStringLiteral("la la la"));
+    // A site that takes the proxy's part is not given one either.
+    LoopbackResponse asking = LoopbackResponse::error(407).with("Proxy-Authenticate", "Basic realm=\"Tinyproxy\"");
+    site.server().route(QStringLiteral("/song.html"), asking);
+    app->mainModel()->startSearch(app->mainModel()->itemAt(0)->id());
+    QTRY_COMPARE(app->mainModel()->activeCount(), 0);
+    QVERIFY(site.requests() > 2);
+    QVERIFY(!proxy.received().join().contains("Authorization"));
 }
 
 // A site that asks for a log-in, under the name under which the proxy does.
@@ -190,9 +215,8 @@ void tst_Proxies::theLoginIsForTheProxyAlone()
 void tst_Proxies::aDeadProxyLosesNothing_data()
 {
     QTest::addColumn<QNetworkProxy::ProxyType>("type");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy << "Connection to proxy refused"; // Qt's words
-    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy << "The proxy does not take the connection.";
+    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy;
+    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy;
 }
 
 void tst_Proxies::aDeadProxyLosesNothing()
@@ -209,7 +233,7 @@ void tst_Proxies::aDeadProxyLosesNothing()
     QTRY_COMPARE(app->mainModel()->activeCount(), 0);
     for (int row = 0; row < 3; ++row) {
         ModelItem *item = app->mainModel()->itemAt(row);
-        QTEST(item->errorString(), "reason");
+        QCOMPARE(item->errorString(), QStringLiteral("The proxy does not take the connection."));
         app->mainModel()->startSearch(item->id());
     }
     QCOMPARE(site.requests(), 0);
