@@ -525,11 +525,13 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
         return;
     }
     const QString text = withoutBrokenCharacters(decodeHtmlEntities(lyrics));
+    item->setFoundNothing(text.isEmpty());
     if (!text.isEmpty()) {
         const bool withLineBreak = m_settings && m_settings->prependNewLine();
         item->setFoundLyricsTag(artist, title, withLineBreak ? QLatin1String("\r\n") + text : text);
     }
-    if (errorString.isEmpty() && !item->lyricsTag().isEmpty()) {
+    // Lyrics that were there before the search are not written again.
+    if (errorString.isEmpty() && !text.isEmpty() && !item->lyricsTag().isEmpty()) {
         startWriting(item);
     } else {
         item->setErrorString(errorString);
@@ -539,6 +541,24 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 }
 
 // Writing
+
+bool MainModel::hasUnsavedLyrics(quint16 id) const
+{
+    const ModelItem *item = m_items.find(id);
+    return m_unsaved.contains(id) || (m_writes.contains(id) && item && !item->lyricsTag().isEmpty());
+}
+
+QVector<quint16> MainModel::idsWithUnsavedLyrics() const
+{
+    QSet<quint16> ids;
+    for (auto write = m_writes.begin(); write != m_writes.end(); ++write) {
+        if (hasUnsavedLyrics(write.key()))
+            ids.insert(write.key());
+    }
+    for (auto failure = m_unsaved.begin(); failure != m_unsaved.end(); ++failure)
+        ids.insert(failure.key());
+    return ids.values().toVector();
+}
 
 bool MainModel::writeTags(quint16 id)
 {
@@ -563,6 +583,7 @@ void MainModel::startWriting(ModelItem *item)
         QMetaObject::invokeMethod(writer, exportLyrics, Qt::QueuedConnection);
     }
     item->setErrorString(QString());
+    item->setFoundNothing(false);
     item->setProcessState(ModelItem::ProcessWritingTags);
     ++m_writes[id];
     connect(writer, &TagWriter::failed, this, &MainModel::tagsNotWritten);
@@ -574,8 +595,10 @@ void MainModel::startWriting(ModelItem *item)
 void MainModel::tagsNotWritten(quint16 id, const QString &reason)
 {
     m_failedWrites.insert(id, reason);
-    if (ModelItem *item = m_items.find(id))
+    if (ModelItem *item = m_items.find(id)) {
+        item->forgetFile();
         item->setErrorString(reason);
+    }
 }
 
 void MainModel::tagsWritten(quint16 id)
@@ -599,10 +622,11 @@ void MainModel::tagsWritten(quint16 id)
 }
 
 // The lyrics that a failed write would have removed are in the file still.
-void MainModel::noteUnsaved(const ModelItem *item, const QString &reason)
+void MainModel::noteUnsaved(ModelItem *item, const QString &reason)
 {
     if (item->lyricsTag().isEmpty())
         return;
+    item->setUnsaved(true);
     m_unsaved.insert(item->id(), reason);
     emit writesFailed(reason, ++m_unsavedByReason[reason]);
 }
@@ -615,6 +639,8 @@ void MainModel::forgetUnsaved(quint16 id)
     if (--m_unsavedByReason[*found] == 0)
         m_unsavedByReason.remove(*found);
     m_unsaved.erase(found);
+    if (ModelItem *item = m_items.find(id))
+        item->setUnsaved(false);
 }
 
 // Without lyrics there is nothing to export, and a text file that is there stays as it is.

@@ -89,7 +89,10 @@ public:
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // Lyrics that are in the list only, since their last write failed or was refused.
     [[nodiscard]] int unsavedCount() const { return m_unsaved.size(); }
-    [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const { return m_unsaved.contains(id); }
+    // These, or such whose write is under way and may still fail.
+    [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const;
+    // All songs of which this is true, in no order.
+    [[nodiscard]] QVector<quint16> idsWithUnsavedLyrics() const;
     // The urls of all rows, in row order, and then of the files that are still to become rows: what is to be kept
     // across runs.
     [[nodiscard]] QList<QUrl> urls() const;
@@ -171,7 +174,7 @@ private:
     void startWriting(ModelItem *item);
     [[nodiscard]] static bool canExport(const ModelItem &item);
     void tagsNotWritten(quint16 id, const QString &reason);
-    void noteUnsaved(const ModelItem *item, const QString &reason);
+    void noteUnsaved(ModelItem *item, const QString &reason);
     void forgetUnsaved(quint16 id);
 
     ItemStore m_items;

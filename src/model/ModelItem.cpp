@@ -53,16 +53,24 @@ QString ModelItem::localPath() const
     return m_url.isLocalFile() ? m_url.toLocalFile() : QString();
 }
 
+const ModelItem::File &ModelItem::file() const
+{
+    if (!m_file) {
+        const QString path = localPath();
+        const QFileInfo info(path);
+        m_file = path.isEmpty() ? File{false, false} : File{info.exists(), info.isFile()};
+    }
+    return *m_file;
+}
+
 bool ModelItem::valid() const
 {
-    const QString file = localPath();
-    return !file.isEmpty() && QFileInfo(file).isFile();
+    return file().isRegular;
 }
 
 bool ModelItem::fileExists() const
 {
-    const QString file = localPath();
-    return !file.isEmpty() && QFileInfo::exists(file);
+    return file().exists;
 }
 
 QString ModelItem::filename() const
@@ -145,6 +153,7 @@ void ModelItem::setTags(const MediaFileTags &tags)
     m_lyricsTag = tags.value(QStringLiteral("lyrics"));
     m_lyricsEmbedded = true;
     m_tagsLoaded = true;
+    m_foundNothing = false;
     m_duration = tags.duration();
     setThumbnail(tags.thumbnail());
     emit titleTagChanged(m_titleTag);
@@ -173,6 +182,7 @@ void ModelItem::setFoundLyricsTag(const QString &artist, const QString &title, c
     m_lyricsTitle = title;
     m_lyricsTag = lyrics;
     m_lyricsEmbedded = false;
+    m_foundNothing = false;
     emit lyricsTagChanged(lyrics);
 }
 
@@ -186,6 +196,7 @@ void ModelItem::setUrl(const QUrl &url)
     if (url == m_url)
         return;
     m_url = url;
+    forgetFile();
     emit urlChanged(url);
 }
 
@@ -225,6 +236,22 @@ void ModelItem::setProcessState(ProcessState state)
     if (writingTags() != wasWriting)
         emit writingTagsChanged(writingTags());
     emit processStateChanged(state);
+}
+
+void ModelItem::setUnsaved(bool unsaved)
+{
+    if (unsaved == m_unsaved)
+        return;
+    m_unsaved = unsaved;
+    emit changed();
+}
+
+void ModelItem::setFoundNothing(bool nothing)
+{
+    if (nothing == m_foundNothing)
+        return;
+    m_foundNothing = nothing;
+    emit changed();
 }
 
 void ModelItem::setErrorString(const QString &text)

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QUrl>
 
+#include <optional>
+
 class MediaFileTags;
 
 // Artist and title to search lyrics with; either may be empty.
@@ -18,7 +20,8 @@ struct SearchNames
 // One audio file of the list: where it lies, what its tags say, which lyrics it has and how far its search has come.
 //
 // Owned by MainModel, which drives the state; the scene binds to the properties. Main thread only. The queries `valid`,
-// `fileExists` and `bad` look at the disk each time they are read.
+// `fileExists` and `bad` look at the disk once and then answer from memory, until a read or a write of the tags tells
+// more: rows ask each time they are painted.
 class ModelItem : public QObject
 {
     Q_OBJECT
@@ -40,6 +43,8 @@ class ModelItem : public QObject
     Q_PROPERTY(bool bad READ bad NOTIFY changed)
     Q_PROPERTY(ProcessState processState READ processState WRITE setProcessState NOTIFY processStateChanged)
     Q_PROPERTY(QString errorString READ errorString NOTIFY errorStringChanged)
+    Q_PROPERTY(bool unsaved READ unsaved NOTIFY changed)
+    Q_PROPERTY(bool foundNothing READ foundNothing NOTIFY changed)
     Q_PROPERTY(QString processStateText READ processStateText NOTIFY processStateChanged)
     Q_PROPERTY(bool active READ active NOTIFY activeChanged)
     Q_PROPERTY(bool editable READ editable NOTIFY processStateChanged)
@@ -98,6 +103,10 @@ public:
     [[nodiscard]] ProcessState processState() const { return m_processState; }
     // Why the last search or write failed; empty when it did not.
     [[nodiscard]] QString errorString() const { return m_errorString; }
+    // Its lyrics are in the list only, since their last write failed.
+    [[nodiscard]] bool unsaved() const { return m_unsaved; }
+    // The last search ended without lyrics; nothing has been found, written or read since.
+    [[nodiscard]] bool foundNothing() const { return m_foundNothing; }
     [[nodiscard]] QString processStateText() const { return textOf(m_processState); }
     // Queued for a search or being searched for.
     [[nodiscard]] bool active() const { return isActive(m_processState); }
@@ -114,11 +123,16 @@ public:
     void setTags(const MediaFileTags &tags);
     // Instead of the tags, which then count as not loaded.
     void setUnreadable(const QString &reason);
+    void setUnsaved(bool unsaved);
+    void setFoundNothing(bool nothing);
+    // The file may have come or gone: the next query looks at the disk.
+    void forgetFile() { m_file.reset(); }
     // A larger image is scaled down to the size of a thumbnail.
     void setThumbnail(const QImage &image);
 
 signals:
-    // Follows every other signal but `activeChanged` and `writingTagsChanged`.
+    // Follows every other signal but `activeChanged` and `writingTagsChanged`; tells of `unsaved` and `foundNothing`
+    // too.
     void changed();
     void urlChanged(const QUrl &url);
     void tagsLoadedChanged(bool loaded);
@@ -148,8 +162,16 @@ private:
     {
         return state == ProcessWaiting || state == ProcessWorking;
     }
+    // What is known of the file.
+    struct File
+    {
+        bool exists;
+        bool isRegular;
+    };
+
     // Path of the file; empty when the url is empty or not local.
     [[nodiscard]] QString localPath() const;
+    [[nodiscard]] const File &file() const;
 
     quint16 m_id = 0;
     QUrl m_url;
@@ -165,4 +187,7 @@ private:
     bool m_lyricsEmbedded = true;
     ProcessState m_processState = ProcessIdle;
     QString m_errorString;
+    bool m_unsaved = false;
+    bool m_foundNothing = false;
+    mutable std::optional<File> m_file; // empty until somebody asks
 };

@@ -89,9 +89,9 @@ int ProxyModel::lowerBound(int sourceRow) const
     return static_cast<int>(std::lower_bound(m_rows.begin(), m_rows.end(), sourceRow) - m_rows.begin());
 }
 
-int ProxyModel::rowOf(quint16 id) const
+int ProxyModel::rowOf(int id) const
 {
-    const int sourceRow = m_model->rowOf(id);
+    const int sourceRow = m_model && id >= 0 && id < idCount ? m_model->rowOf(static_cast<quint16>(id)) : -1;
     return sourceRow < 0 ? -1 : mapFromSource(m_model->index(sourceRow)).row();
 }
 
@@ -314,7 +314,7 @@ void ProxyModel::keepCurrentSelected()
 
 // The current row and the selection
 
-// For the scene; null when there is no such row.
+// For the scene.
 ModelItem *ProxyModel::itemAt(int row) const
 {
     if (!m_model || !isRow(row) || m_rows.at(row) >= m_model->rowCount())
@@ -409,6 +409,7 @@ void ProxyModel::setCurrentIndex(int n)
     if (n == m_currentIndex || n >= m_rows.size())
         return;
     m_currentIndex = n;
+    m_anchorId = -1;
     emit currentIndexChanged(n);
     const int countBefore = m_selectedCount;
     clearMarks();
@@ -416,8 +417,40 @@ void ProxyModel::setCurrentIndex(int n)
     selectionChanged(countBefore);
 }
 
+void ProxyModel::extendSelection(int n)
+{
+    if (!isRow(n))
+        return;
+    int anchor = rowOf(m_anchorId);
+    if (anchor < 0)
+        anchor = std::max(m_currentIndex, 0);
+    moveCurrent(n);
+    m_anchorId = idAt(anchor);
+    const int countBefore = m_selectedCount;
+    clearMarks();
+    for (int row = std::min(anchor, n); row <= std::max(anchor, n); ++row)
+        mark(row, true);
+    selectionChanged(countBefore);
+}
+
+void ProxyModel::moveCurrent(int n)
+{
+    m_anchorId = -1;
+    if (!isRow(n) || n == m_currentIndex)
+        return;
+    m_currentIndex = n;
+    emit currentIndexChanged(n);
+}
+
+void ProxyModel::toggleCurrent()
+{
+    m_anchorId = -1;
+    selectRows(m_currentIndex, m_currentIndex, !isSelected(m_currentIndex));
+}
+
 bool ProxyModel::itemClicked(int n)
 {
+    m_anchorId = -1;
     const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
     if (held == Qt::NoModifier) {
         setCurrentIndex(n);

@@ -60,6 +60,18 @@ public:
     Q_INVOKABLE ModelItem *currentItem() const;
     // The one selected song; null when none or several are selected.
     Q_INVOKABLE ModelItem *selectedItem() const;
+    // Null when there is no such row.
+    Q_INVOKABLE ModelItem *itemAt(int row) const;
+    // -1 when the song is not shown.
+    Q_INVOKABLE int rowOf(int id) const;
+
+    // For the keyboard; nothing when there is no such row. The row becomes current, and all rows from the first current
+    // one of a series of such calls to this one are selected, no others.
+    Q_INVOKABLE void extendSelection(int n);
+    // The row becomes current, and the selection stays.
+    Q_INVOKABLE void moveCurrent(int n);
+    // The current row is selected if it is not, and the other way round.
+    Q_INVOKABLE void toggleCurrent();
 
 public slots:
     // Selects this row alone; a negative one empties the selection. Nothing when it is current already.
@@ -89,11 +101,8 @@ private:
     [[nodiscard]] bool accepts(int sourceRow) const;
     [[nodiscard]] QVector<int> acceptedRows(int first, int last) const;
     [[nodiscard]] quint16 idAt(int row) const;
-    [[nodiscard]] ModelItem *itemAt(int row) const;
     // The first row whose source row is not below this one; the row count when there is none.
     [[nodiscard]] int lowerBound(int sourceRow) const;
-    // -1 when the song is not shown.
-    [[nodiscard]] int rowOf(quint16 id) const;
     [[nodiscard]] bool isRow(int row) const { return row >= 0 && row < m_rows.size(); }
 
     void connectSource();
@@ -124,6 +133,7 @@ private:
     QBitArray m_selected; // by item id
     int m_selectedCount = 0;
     int m_currentIndex = -1;
+    int m_anchorId = -1; // of the song where an extension of the selection began; -1 when there was none
     bool m_showFound = true;
     bool m_removing = false;    // rows of ours are among those that the source is removing
     Before m_beforeChange = {}; // of the removal or reset that the source has announced

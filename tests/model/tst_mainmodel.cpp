@@ -243,6 +243,7 @@ private slots:
         QCOMPARE(failures.first(), (QVariantList{stage.model.itemAt(0)->errorString(), 1}));
         QVERIFY(stage.model.hasUnsavedLyrics(1));
         QVERIFY(!stage.model.itemAt(0)->errorString().isEmpty());
+        QVERIFY(stage.model.itemAt(0)->unsaved() && stage.model.itemAt(0)->bad());
         QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la"));
         QVERIFY(!QFile::exists(url.toLocalFile()));
         QCOMPARE(states.count(), 4);
@@ -295,7 +296,9 @@ private slots:
         QVERIFY(stage.model.writeTags(1));
         QTRY_VERIFY(stage.search.searchCount() == 0 && stage.isSettled());
         QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("typed"));
-        QVERIFY(stage.model.startSearch(1)); // what is searched for later counts again
+        stage.model.lyricsSearchFinished(1, QStringLiteral("A"), QStringLiteral("Song"), {}, {});
+        QVERIFY(stage.model.itemAt(0)->foundNothing() && stage.isSettled()); // what is there is not written again
+        QVERIFY(stage.model.startSearch(1));                                 // what is searched for later counts again
         QTRY_COMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("found"));
     }
 
@@ -316,12 +319,13 @@ private slots:
         const QString elsewhere = stage.folder.filePath(QStringLiteral("elsewhere"));
         QVERIFY(QFile::rename(url.toLocalFile(), elsewhere));
         write(QStringLiteral("first"));
+        QVERIFY(stage.model.hasUnsavedLyrics(1)); // that it has failed is not known yet
         QVERIFY(QFile::rename(elsewhere, url.toLocalFile()));
         write(QStringLiteral("second"));
         QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete); // the model hears of both only now
         QCOMPARE(states.count(), 2);
         QCOMPARE(item->errorString(), QString());
-        QCOMPARE(stage.model.unsavedCount(), 0);
+        QVERIFY(!stage.model.hasUnsavedLyrics(1) && stage.model.idsWithUnsavedLyrics().isEmpty());
         MediaFileTags tags;
         QVERIFY(tags.read(url.toLocalFile()));
         QCOMPARE(tags.value(QStringLiteral("lyrics")), QStringLiteral("second"));

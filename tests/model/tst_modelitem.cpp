@@ -72,6 +72,11 @@ private slots:
         QCOMPARE(item.valid(), valid);
         QTEST(item.fileExists(), "exists");
         QCOMPARE(item.bad(), !valid);
+        QVERIFY(QFile::rename(folder.path(relative), folder.path(QStringLiteral("away"))));
+        QCOMPARE(item.valid(), valid); // from memory
+        item.forgetFile();
+        QVERIFY(!item.valid() && !item.fileExists());
+        QVERIFY(QFile::rename(folder.path(QStringLiteral("away")), folder.path(relative)));
         QTEST(item.ext(), "ext");
         QCOMPARE(item.filename(), relative);
         QCOMPARE(item.path(), folder.path());
