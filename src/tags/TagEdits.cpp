@@ -148,15 +148,16 @@ AppliedEdits applyToOther(const TagEdits &edits, TagLib::File &file)
 
 } // namespace
 
-TagEdits editsOf(TagLib::File &file, const SongTexts &texts)
+TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<SongTexts> &shown)
 {
     const TagCopy read = TagCopy::ofFile(file);
     TagEdits edits;
-    if (texts.artist != read.value(keys::artist))
+    if (texts.artist != read.value(keys::artist) && !(shown && texts.artist == shown->artist))
         edits.artist = texts.artist;
-    if (texts.title != read.value(keys::title))
+    if (texts.title != read.value(keys::title) && !(shown && texts.title == shown->title))
         edits.title = texts.title;
-    if (withPlainBreaks(texts.lyrics) != withPlainBreaks(read.value(keys::lyrics)))
+    const QString lyrics = withPlainBreaks(texts.lyrics);
+    if (lyrics != withPlainBreaks(read.value(keys::lyrics)) && !(shown && lyrics == withPlainBreaks(shown->lyrics)))
         edits.lyrics = texts.lyrics;
     return edits;
 }

@@ -74,9 +74,10 @@ QByteArray resolvedPath(const QByteArray &path)
 class Update
 {
 public:
-    Update(const QByteArray &path, const SongTexts &texts)
+    Update(const QByteArray &path, const SongTexts &texts, const std::optional<SongTexts> &read)
         : m_path(path)
         , m_texts(texts)
+        , m_read(read)
     {
     }
     UpdateResult run(const QString &dataFolder);
@@ -91,6 +92,7 @@ private:
 
     QByteArray m_path;
     const SongTexts &m_texts;
+    const std::optional<SongTexts> &m_read;
     int m_original = -1;
     SongLayout m_layout;
     TagEdits m_edits;
@@ -108,7 +110,7 @@ UpdateResult Update::run(const QString &dataFolder)
         return UpdateResult::Unreadable;
     if (!song.holdsAudio())
         return UpdateResult::NotAudio;
-    m_edits = editsOf(song.file(), m_texts);
+    m_edits = editsOf(song.file(), m_texts, m_read);
     m_applied = apply(m_edits, song.file());
     if (!m_applied.isPossible)
         return UpdateResult::NoLyricsPlace;
@@ -214,7 +216,8 @@ UpdateResult Update::check(int copy)
 
 } // namespace
 
-UpdateResult updateTags(const QString &path, const SongTexts &texts, const QString &dataFolder)
+UpdateResult updateTags(const QString &path, const SongTexts &texts, const QString &dataFolder,
+                        const std::optional<SongTexts> &read)
 {
     switch (fileAccess(path)) {
     case FileAccess::Missing:
@@ -231,7 +234,7 @@ UpdateResult updateTags(const QString &path, const SongTexts &texts, const QStri
         return UpdateResult::Missing;
     acceptLatin1InRiffInfo();
     try {
-        return Update(resolved, texts).run(dataFolder);
+        return Update(resolved, texts, read).run(dataFolder);
     } catch (const std::exception &error) {
         qCWarning(lcTags) << "a file could not be written:" << error.what();
         return UpdateResult::Unreadable;

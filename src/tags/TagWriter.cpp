@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tags/TagWriter.h"
 
-#include "tags/TagUpdate.h"
 #include "tags/WriterThread.h"
 
 namespace {
@@ -56,11 +55,11 @@ TagWriter::TagWriter(const QString &dataFolder)
 }
 
 void TagWriter::queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
-                           const QString &lyrics)
+                           const QString &lyrics, const std::optional<tags::SongTexts> &read)
 {
-    const auto writeNow = [this, fileToWrite, id, _artist, title, lyrics,
+    const auto writeNow = [this, fileToWrite, id, _artist, title, lyrics, read,
                            ticket = tags::WriterThread::instance().takeTicket()] {
-        write(fileToWrite, id, _artist, title, lyrics);
+        write(fileToWrite, id, _artist, title, lyrics, read);
     };
     QMetaObject::invokeMethod(this, writeNow, Qt::QueuedConnection);
 }
@@ -76,11 +75,11 @@ bool TagWriter::waitForQueued(std::chrono::milliseconds withoutProgress)
 }
 
 void TagWriter::write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
-                      const QString &lyrics)
+                      const QString &lyrics, const std::optional<tags::SongTexts> &read)
 {
     if (!_artist.isEmpty() || !title.isEmpty() || !lyrics.isEmpty()) {
         const QString reason =
-            reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder));
+            reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder, read));
         if (!reason.isEmpty())
             emit failed(id, reason);
     }
