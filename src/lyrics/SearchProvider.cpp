@@ -7,7 +7,6 @@
 #include <QUrl>
 #include <QUrlQuery>
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -46,9 +45,14 @@ SearchProvider::SearchProvider(QObject *parent)
     }
 }
 
+QString SearchProvider::effectiveName(const QString &name) const
+{
+    return m_names.contains(name) ? name : m_names.first();
+}
+
 void SearchProvider::search(const QString &query, const QString &name) const
 {
-    QByteArray address = m_templates.at(std::max(m_names.indexOf(name), 0));
+    QByteArray address = m_templates.at(m_names.indexOf(effectiveName(name)));
     address.replace("{{QUERY}}", encoded(query));
     QDesktopServices::openUrl(QUrl::fromEncoded(address, QUrl::TolerantMode));
 }

@@ -18,6 +18,9 @@ public:
     // The engines in the order in which they are offered; the first one is the default.
     [[nodiscard]] QStringList names() const { return m_names; }
 
+    // The engine that search() takes for this name.
+    [[nodiscard]] QString effectiveName(const QString &name) const;
+
     // Opens the page of the engine called `name`, spelled exactly so, for any text; another name, an empty one too,
     // stands for the default engine.
     Q_INVOKABLE void search(const QString &query, const QString &name) const;

@@ -25,6 +25,7 @@ bool ProxyTester::start(const QNetworkProxy &proxy)
     if (m_url.isEmpty() || m_reply || proxy.type() == QNetworkProxy::NoProxy)
         return false;
     m_proxy = proxy;
+    m_ranOutOfTime = false;
     m_manager->useProxy(m_proxy);
     m_manager->forgetPauses(); // nobody tests often enough to do harm, and an old answer says nothing of this proxy
     m_reply = m_manager->get(QNetworkRequest(m_url));
@@ -61,6 +62,7 @@ void ProxyTester::finished()
 void ProxyTester::onTimeout()
 {
     m_timer->stop();
+    m_ranOutOfTime = m_reply != nullptr;
     if (m_reply)
         settle();
 }

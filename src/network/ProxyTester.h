@@ -27,6 +27,10 @@ public:
 
     [[nodiscard]] State state() const { return m_state; }
 
+    // Whether the last test ended because its time was over: nothing spoke against the proxy, and nothing for it.
+    [[nodiscard]] bool ranOutOfTime() const { return m_ranOutOfTime; }
+    [[nodiscard]] quint16 timeoutSeconds() const { return m_timeoutSeconds; }
+
     // 30 by default; for the tests that are started from now on.
     void setTimeoutSeconds(quint16 seconds) { m_timeoutSeconds = seconds; }
 
@@ -51,6 +55,7 @@ private:
 
     const QUrl m_url;
     State m_state = Idle;
+    bool m_ranOutOfTime = false;
     quint16 m_timeoutSeconds = 30;
     QTimer *m_timer;
     AccessManager *m_manager;

@@ -13,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QIntValidator>
+#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -47,7 +48,7 @@ SettingsDialog::SettingsDialog(Settings *settings, QWidget *parent)
 {
     initPictures();
     m_form->setupUi(this);
-    m_form->proxyPortLineEdit->setValidator(new QIntValidator(0, 65535, this));
+    restrictPort();
     m_form->icoExclamation->hide();
     alignProxyLabels();
     setUpProxyTest();
@@ -57,6 +58,16 @@ SettingsDialog::SettingsDialog(Settings *settings, QWidget *parent)
 }
 
 SettingsDialog::~SettingsDialog() = default;
+
+// Digits only: "8,080" is a number in some countries, and is not read as one.
+void SettingsDialog::restrictPort()
+{
+    auto *validator = new QIntValidator(0, 65535, this);
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator);
+    validator->setLocale(plain);
+    m_form->proxyPortLineEdit->setValidator(validator);
+}
 
 // The row of the type stands in a layout of its own, outside of the frame that can be disabled.
 void SettingsDialog::alignProxyLabels()
@@ -143,7 +154,8 @@ void SettingsDialog::onLanguageChanged()
 void SettingsDialog::writeUi()
 {
     select(m_form->languageComboBox, m_form->languageComboBox->findData(m_settings->language()));
-    select(m_form->seachProviderComboBox, m_form->seachProviderComboBox->findText(m_settings->searchProvider()));
+    select(m_form->seachProviderComboBox,
+           m_form->seachProviderComboBox->findText(SearchProvider().effectiveName(m_settings->searchProvider())));
     select(m_form->proxyTypeComboBox, m_form->proxyTypeComboBox->findData(m_settings->proxyType()));
     m_form->proxyAddressLineEdit->setText(m_settings->proxyAddress());
     m_form->proxyPortLineEdit->setText(QString::number(m_settings->proxyPort()));
@@ -171,7 +183,7 @@ void SettingsDialog::readUi()
     const int type = m_form->proxyTypeComboBox->currentData().toInt();
     if (type < proxyTypeCount)
         m_settings->setProxyType(type);
-    m_settings->setProxyAddress(m_form->proxyAddressLineEdit->text());
+    m_settings->setProxyAddress(proxyAddress());
     m_settings->setProxyPort(m_form->proxyPortLineEdit->text().toUShort());
     m_settings->setProxyAuthentication(m_form->proxyAuthenticationcheckBox->isChecked());
     m_settings->setProxyUsername(m_form->proxyUsernameLineEdit->text());
@@ -194,11 +206,17 @@ void SettingsDialog::done(int result)
 
 // The proxy
 
+// A pasted address often has blanks around it.
+QString SettingsDialog::proxyAddress() const
+{
+    return m_form->proxyAddressLineEdit->text().trimmed();
+}
+
 QNetworkProxy SettingsDialog::readProxy() const
 {
     ProxyConfiguration said;
     said.type = m_form->proxyTypeComboBox->currentData().toInt();
-    said.address = m_form->proxyAddressLineEdit->text();
+    said.address = proxyAddress();
     said.port = m_form->proxyPortLineEdit->text().toUShort();
     said.authentication = m_form->proxyAuthenticationcheckBox->isChecked();
     said.username = m_form->proxyUsernameLineEdit->text();
@@ -233,26 +251,41 @@ void SettingsDialog::proxyTestStart()
 
 void SettingsDialog::updateProxyTestStatus()
 {
-    struct Look
-    {
-        const char *picture;
-        QString words;
-    };
-    const auto look = [state = m_proxyTester->state()]() -> Look {
+    const QString picture = [state = m_proxyTester->state()] {
         switch (state) {
         case ProxyTester::Working:
-            return {"working", tr("The proxy is being tested...")};
+            return QStringLiteral("working");
         case ProxyTester::Error:
-            return {"error", tr("The proxy does not work.")};
+            return QStringLiteral("error");
         case ProxyTester::Success:
-            return {"success", tr("The proxy works.")};
+            return QStringLiteral("success");
         default:
-            return {"idle", {}};
+            return QStringLiteral("idle");
         }
     }();
-    m_form->proxyTestStatusLabel->setPixmap(
-        QPixmap(QStringLiteral(":/img/proxy_%1.png").arg(QLatin1String(look.picture))));
-    m_form->proxyTestTextLabel->setText(look.words);
+    const QString words = proxyTestWords();
+    m_form->proxyTestStatusLabel->setPixmap(QPixmap(QStringLiteral(":/img/proxy_%1.png").arg(picture)));
+    m_form->proxyTestStatusLabel->setAccessibleName(words);
+    m_form->proxyTestTextLabel->setText(words);
+}
+
+QString SettingsDialog::proxyTestWords() const
+{
+    if (m_form->proxyTypeComboBox->currentData().toInt() == 0)
+        return tr("No proxy is used.");
+    if (proxyAddress().isEmpty())
+        return tr("No address: no proxy is used.");
+    switch (m_proxyTester->state()) {
+    case ProxyTester::Working:
+        return tr("The proxy is being tested...");
+    case ProxyTester::Error:
+        return tr("The proxy does not work.");
+    case ProxyTester::Success:
+        return m_proxyTester->ranOutOfTime() ? tr("No error within %1 seconds.").arg(m_proxyTester->timeoutSeconds())
+                                             : tr("The proxy works.");
+    default:
+        return tr("Not tested yet.");
+    }
 }
 
 // The order of sites
@@ -316,6 +349,10 @@ void SettingsDialog::moveCurrentSite(int places)
         return;
     list->insertItem(target, list->takeItem(row));
     list->setCurrentRow(target);
+    // The button that is about to be disabled would pass the focus on to the one that undoes this.
+    const bool atEnd = target == (places < 0 ? 0 : list->count() - 1);
+    if (atEnd && (m_form->btnUp->hasFocus() || m_form->btnDown->hasFocus()))
+        list->setFocus();
     updateOrderButtons();
     emit contentChanged();
 }

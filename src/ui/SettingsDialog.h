@@ -59,6 +59,9 @@ private:
     void alignProxyLabels();
     void setUpProxyTest();
     void fillSelectors();
+    void restrictPort();
+    [[nodiscard]] QString proxyAddress() const;
+    [[nodiscard]] QString proxyTestWords() const;
     void trackChanges();
     void trackProxyChanges();
     void trackOrderChanges();

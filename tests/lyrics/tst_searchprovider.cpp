@@ -65,7 +65,9 @@ void tst_SearchProvider::thePageOfTheChosenEngineIsOpened()
     m_opened.clear();
     for (const char *scheme : {"http", "https"})
         QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "noteOpenedUrl");
-    SearchProvider().search(query, engine);
+    const SearchProvider provider;
+    provider.search(query, engine);
+    QCOMPARE(provider.effectiveName(engine), provider.names().contains(engine) ? engine : QStringLiteral("Google"));
     for (const char *scheme : {"http", "https"})
         QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
     QCOMPARE(m_opened, QStringList{address});

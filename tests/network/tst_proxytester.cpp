@@ -45,6 +45,8 @@ void tst_ProxyTester::theOutcomeIsTold_data()
     QTest::newRow("the page comes") << LoopbackResponse::page("hello") << ProxyTester::Success;
     QTest::newRow("the page is elsewhere") << LoopbackResponse::redirect(301, "/b") << ProxyTester::Success;
     QTest::newRow("the page is out of order") << LoopbackResponse::error(500) << ProxyTester::Error;
+    QTest::newRow("the page wants a pause")
+        << LoopbackResponse::error(503).with("Retry-After", "60") << ProxyTester::Error;
     QTest::newRow("the page wants a log-in")
         << LoopbackResponse::error(401).with("WWW-Authenticate", "Basic realm=\"a\"") << ProxyTester::Error;
     QTest::newRow("the proxy wants a log-in")

@@ -161,8 +161,8 @@ void tst_SettingsDialog::whatIsTypedIsStored()
         press(name);
     showTab(1);
     type("proxyTypeComboBox", QStringLiteral("H"));
-    type("proxyAddressLineEdit", QStringLiteral("proxy.example"));
-    type("proxyPortLineEdit", QStringLiteral("80x80"));
+    type("proxyAddressLineEdit", QStringLiteral(" proxy.example "));
+    type("proxyPortLineEdit", QStringLiteral("8,0x80"));
     press("proxyAuthenticationcheckBox");
     type("proxyUsernameLineEdit", QStringLiteral("nora"));
     type("proxyPasswordLineEdit", QStringLiteral(" p:%41;@ "));
@@ -270,6 +270,11 @@ void tst_SettingsDialog::sitesAreMovedAndSwitched()
     QCOMPARE(warning->styleSheet(), QStringLiteral("color: red"));
     press("btnEnable");
     QCOMPARE(warning->text(), QString());
+    find<QPushButton>("btnUp")->setFocus();
+    list->setCurrentRow(1);
+    press("btnUp");
+    QVERIFY(list->hasFocus()); // not the button that undoes it
+    press("btnDown");
     list->setCurrentRow(-1);
     for (const char *name : {"btnUp", "btnDown", "btnEnable"})
         QVERIFY(!find<QPushButton>(name)->isEnabled());
@@ -353,14 +358,23 @@ void tst_SettingsDialog::theProxyIsTestedAfterTheLastKey()
     };
     QCOMPARE(timer->interval(), 3000);
     timer->setInterval(200);
+    const auto words = [this] {
+        return find<QLabel>("proxyTestTextLabel")->text();
+    };
     QVERIFY(shows("idle"));
+    QCOMPARE(words(), QStringLiteral("No proxy is used."));
+    const int width = m_dialog->minimumSizeHint().width();
     type("proxyTypeComboBox", QStringLiteral("H"));
+    QCOMPARE(words(), QStringLiteral("No address: no proxy is used."));
+    QCOMPARE(m_dialog->minimumSizeHint().width(), width);
     type("proxyAddressLineEdit", QStringLiteral("127.0.0.1"));
     type("proxyPortLineEdit", QString::number(QUrl(m_server->base()).port()));
     QVERIFY(shows("idle"));
+    QCOMPARE(words(), QStringLiteral("Not tested yet."));
     QTRY_VERIFY(shows("working"));
     QTRY_VERIFY(shows("success"));
-    QCOMPARE(find<QLabel>("proxyTestTextLabel")->text(), QStringLiteral("The proxy works."));
+    QCOMPARE(words(), QStringLiteral("The proxy works."));
+    QCOMPARE(find<QLabel>("proxyTestStatusLabel")->accessibleName(), words());
     QCOMPARE(m_server->requests().size(), 1);
     QCOMPARE(m_server->requests().first().target, endpointUrl(Endpoint::ProxyTest, QStringLiteral("/")).toEncoded());
     m_server->routeOthers([](const LoopbackRequest &) { return LoopbackResponse::error(502); });
