@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int mostEntries = 10;
+constexpr int mostEntries = 50;
 // What is longer is no name; it would go into the address of a request to every site.
 constexpr int longestName = 1000;
 
@@ -136,7 +136,7 @@ void LastfmTagCorrector::ask(const QUrlQuery &query, AnswerSlot slot)
         m_reply.clear();
         m_errorString = reply->error() == QNetworkReply::NoError ? QString() : reply->errorString();
         if (!m_errorString.isEmpty())
-            qCInfo(lyricsLog, "Last.fm did not answer");
+            qCInfo(lyricsLog, "Last.fm %s", failureForLog(*reply).constData());
         (this->*slot)(*reply);
         if (!isBusy())
             emit finished(m_names.artists, m_names.titles);

@@ -37,8 +37,8 @@ public:
         QStringList titles;
     };
     // Read an answer of "track.getCorrection", "artist.getCorrection" and "track.search"; empty when it is none, or one
-    // that reports an error. Of each answer at most the first ten count: the service gives one or two, and all sites
-    // are asked for each.
+    // that reports an error. Of each answer the first 50 count, more than the service ever gives: all sites are
+    // asked for each, so an answer made to do harm must not name them by the thousand.
     [[nodiscard]] static Names trackCorrections(const QByteArray &answer);
     [[nodiscard]] static Names artistCorrections(const QByteArray &answer);
     [[nodiscard]] static Names foundTracks(const QByteArray &answer);

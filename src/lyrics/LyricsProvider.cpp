@@ -20,15 +20,21 @@ bool isFollowedRedirect(const QNetworkReply &reply)
 
 // For the log, and apart from each other there: whoever wonders why songs are not found must be able to tell a site
 // that has changed its pages from one that is down and from one that has no such song.
-const char *outcome(const ProviderStep &result, bool junk)
+QByteArray outcome(const ProviderStep &result, const QByteArray &failure)
 {
-    if (junk)
-        return "gave a page that holds no lyrics";
-    if (!result.isUnderstood())
+    switch (result.meaning()) {
+    case ProviderStep::Meaning::Lyrics:
+        break;
+    case ProviderStep::Meaning::Failure:
+        return failure;
+    case ProviderStep::Meaning::NoSuchSong:
+        return "has no such song";
+    case ProviderStep::Meaning::ListedNothing:
+        return "listed nothing";
+    case ProviderStep::Meaning::NotUnderstood:
         return "gave a page that was not understood";
-    if (!result.errorString().isEmpty())
-        return "did not answer";
-    return result.lyrics().isEmpty() ? "has no such song" : "has the lyrics";
+    }
+    return "has the lyrics";
 }
 
 } // namespace
@@ -124,7 +130,7 @@ void LyricsProvider::replyFinished(QNetworkReply *reply)
     if (isFollowedRedirect(*reply))
         follow(*reply);
     else if (reply->error() != QNetworkReply::NoError)
-        finish(ProviderStep::failure(reply->errorString()));
+        finish(ProviderStep::failure(reply->errorString()), failureForLog(*reply));
     else
         readPage(*reply);
 }
@@ -134,10 +140,11 @@ void LyricsProvider::follow(const QNetworkReply &reply)
     const QUrl target = redirectTarget(reply.request().url(), reply.rawHeader("Location"));
     if (target.isEmpty())
         //: %1 is the name of a lyrics site.
-        finish(ProviderStep::failure(tr("%1 redirects to something that is not a web page.").arg(name())));
+        finish(ProviderStep::failure(tr("%1 redirects to something that is not a web page.").arg(name())),
+               "redirects to something that is not a web page");
     else if (++m_redirects > maximumRedirects)
         //: %1 is the name of a lyrics site.
-        finish(ProviderStep::failure(tr("%1 redirects too often.").arg(name())));
+        finish(ProviderStep::failure(tr("%1 redirects too often.").arg(name())), "redirects too often");
     else
         send(redirectedRequest(target));
 }
@@ -150,14 +157,15 @@ void LyricsProvider::readPage(QNetworkReply &reply)
 }
 
 // Every result leaves here, whichever site it comes from: this is the place to look at it as a whole.
-void LyricsProvider::finish(const ProviderStep &result)
+void LyricsProvider::finish(const ProviderStep &result, const QByteArray &failure)
 {
     m_readPage = {};
     m_errorString = result.errorString();
     m_busy = false;
     QString text = withoutBrokenCharacters(result.lyrics());
     const bool junk = isJunk(text, result.markup());
-    qCInfo(lyricsLog, "%s %s", qUtf8Printable(name()), outcome(result, junk));
+    const QByteArray logged = junk ? QByteArrayLiteral("gave a page that holds no lyrics") : outcome(result, failure);
+    qCInfo(lyricsLog, "%s %s", qUtf8Printable(name()), logged.constData());
     if (junk) {
         m_errorString = tr("%1 gave a page that holds no lyrics.").arg(name());
         text.clear();

@@ -69,7 +69,8 @@ private:
     void replyFinished(QNetworkReply *reply);
     void follow(const QNetworkReply &reply);
     void readPage(QNetworkReply &reply);
-    void finish(const ProviderStep &result);
+    // `failure` is for the log, when the result is one.
+    void finish(const ProviderStep &result, const QByteArray &failure = QByteArrayLiteral("failed"));
     [[nodiscard]] QString decoded(QByteArray body) const;
 
     QPointer<QNetworkAccessManager> m_networkManager;

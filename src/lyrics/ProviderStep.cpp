@@ -8,7 +8,7 @@
 ProviderStep ProviderStep::ask(const QNetworkRequest &request, PageFunction read)
 {
     Q_ASSERT(read);
-    ProviderStep step;
+    ProviderStep step(Meaning::Lyrics, {});
     step.m_request = request;
     step.m_read = std::move(read);
     return step;
@@ -16,7 +16,7 @@ ProviderStep ProviderStep::ask(const QNetworkRequest &request, PageFunction read
 
 ProviderStep ProviderStep::lyrics(const QString &text, const QString &markup)
 {
-    ProviderStep step;
+    ProviderStep step(text.isEmpty() ? Meaning::NotUnderstood : Meaning::Lyrics, {});
     step.m_lyrics = text;
     step.m_markup = markup;
     return step;
@@ -30,21 +30,25 @@ ProviderStep ProviderStep::cleanedLyrics(const std::optional<QString> &markup)
     return lyrics(cleanLyrics(rest), rest);
 }
 
-ProviderStep ProviderStep::notUnderstood(const QString &reason)
+ProviderStep ProviderStep::without(SongLink::Missing why)
 {
-    ProviderStep step = failure(reason);
-    step.m_understood = false;
-    return step;
+    switch (why) {
+    case SongLink::Missing::NoSuchSong:
+        return {Meaning::NoSuchSong, {}};
+    case SongLink::Missing::ListedNothing:
+        return {Meaning::ListedNothing, {}};
+    case SongLink::Missing::NotUnderstood:
+        break;
+    }
+    return notUnderstood();
 }
 
-ProviderStep ProviderStep::nothingOn(const Page &page, QLatin1String mark)
+ProviderStep ProviderStep::notUnderstood(const QString &reason)
 {
-    return page.text.contains(mark) ? nothing() : notUnderstood();
+    return {Meaning::NotUnderstood, reason};
 }
 
 ProviderStep ProviderStep::failure(const QString &reason)
 {
-    ProviderStep step;
-    step.m_errorString = reason;
-    return step;
+    return {Meaning::Failure, reason};
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "lyrics/SongLink.h"
+
 #include <QNetworkRequest>
 #include <QString>
 #include <QUrl>
@@ -22,23 +24,24 @@ class ProviderStep
 {
 public:
     enum class Kind { Ask, Result };
+    // What a result means. People see no difference between the last three, but the log does.
+    enum class Meaning { Lyrics, Failure, NoSuchSong, ListedNothing, NotUnderstood };
     using PageFunction = std::function<ProviderStep(const Page &)>;
 
     // Get `request`, and let `read` say what comes after. The function must not outlive the client.
     static ProviderStep ask(const QNetworkRequest &request, PageFunction read);
-    // Ends the search; an empty text means that nothing was found. `markup` is what a clean-up that strips tags made
-    // the text of; it tells a script in the middle of the lyrics from words.
+    // Ends the search with what a song's page gave; when that is nothing, as notUnderstood(). `markup` is what a
+    // clean-up that strips tags made the text of; it tells a script in the middle of the lyrics from words.
     static ProviderStep lyrics(const QString &text, const QString &markup = {});
     // Ends the search with what cleanLyrics() makes of a fragment of HTML without its scripts and style sheets; without
     // a fragment, as notUnderstood().
     static ProviderStep cleanedLyrics(const std::optional<QString> &markup);
     // Ends the search: the site does not have the song.
-    static ProviderStep nothing() { return lyrics({}); }
-    // Ends the search like nothing(), or like failure() when people are told a reason. The log tells them apart, since
-    // a site that has changed its pages looks as if it had no songs.
+    static ProviderStep nothing() { return without(SongLink::Missing::NoSuchSong); }
+    // Ends the search on a list of songs without the wanted one.
+    static ProviderStep without(SongLink::Missing why);
+    // Ends the search like nothing(), or like failure() when people are told a reason.
     static ProviderStep notUnderstood(const QString &reason = {});
-    // nothing() on a page that holds `mark`, as every page with results of this site does; else notUnderstood().
-    static ProviderStep nothingOn(const Page &page, QLatin1String mark);
     // Ends the search for a reason that people are told.
     static ProviderStep failure(const QString &reason);
 
@@ -48,15 +51,19 @@ public:
     [[nodiscard]] const QString &lyrics() const { return m_lyrics; }
     [[nodiscard]] const QString &markup() const { return m_markup; }
     [[nodiscard]] const QString &errorString() const { return m_errorString; }
-    [[nodiscard]] bool isUnderstood() const { return m_understood; }
+    [[nodiscard]] Meaning meaning() const { return m_meaning; } // of a result
 
 private:
-    ProviderStep() = default;
+    ProviderStep(Meaning meaning, const QString &errorString)
+        : m_errorString(errorString)
+        , m_meaning(meaning)
+    {
+    }
 
     QNetworkRequest m_request;
     PageFunction m_read;
     QString m_lyrics;
     QString m_markup;
     QString m_errorString;
-    bool m_understood = true;
+    Meaning m_meaning;
 };

@@ -86,7 +86,7 @@ class SitesTest(unittest.TestCase):
                     self.assert_words(session.music / f"{title}.mp3", holder)
         self.assertEqual(rig.digest(unknown), digest)
         log = session.messages(10000)
-        for message in ("MusixMatch has the lyrics", "DarkLyrics has no such song"):
+        for message in ("MusixMatch has the lyrics", "AZLyrics has no such song", "DarkLyrics listed nothing"):
             self.assertIn(message, log)
         for secret in ("first line", "Last in Line", "127.0.0.1", str(session.music)):
             self.assertNotIn(secret, log)

@@ -34,8 +34,9 @@ protected:
         QNetworkRequest request(m_url);
         request.setRawHeader("X-First", "yes");
         return ProviderStep::ask(request, [](const Page &page) {
-            if (page.text.startsWith("results"_s))
-                return ProviderStep::nothingOn(page, QLatin1String("table"));
+            if (page.text.startsWith("rows "_s))
+                return ProviderStep::without(
+                    SongLink::none(page.text.count("read"_s), page.text.contains("<"_s)).missing());
             const QString fragment = page.url.hasFragment() ? QLatin1Char('#') + page.url.fragment() : QString();
             return ProviderStep::lyrics(page.text + fragment);
         });
@@ -78,8 +79,10 @@ private slots:
         m_server->route("/anchor"_s, redirectPage(301, "/page#other"));
         m_server->route("/file"_s, redirectPage(301, "file:///etc/passwd"));
         m_server->route("/empty"_s, LoopbackResponse::page(""));
-        m_server->route("/others"_s, LoopbackResponse::page("results table"));
-        m_server->route("/changed"_s, LoopbackResponse::page("results list"));
+        m_server->route("/others"_s, LoopbackResponse::page("rows <read <changed"));
+        m_server->route("/changed"_s, LoopbackResponse::page("rows <changed"));
+        m_server->route("/none"_s, LoopbackResponse::page("rows "));
+        m_server->route("/damaged"_s, LoopbackResponse::page("no gzip").with("Content-Encoding", "gzip"));
         m_server->route("/notice"_s, LoopbackResponse::page("Please log in!"));
         m_server->route("/nul"_s, LoopbackResponse::page(QByteArray("la\0li", 5)));
         m_server->route("/encoded"_s, LoopbackResponse::page("%D0%B4%d0%b0, 100% sure"));
@@ -115,18 +118,22 @@ private slots:
         };
         found("a page", "/page", "la");
         answered("other songs", "/others", "", "has no such song");
+        answered("an empty list", "/none", "", "listed nothing");
+        answered("a song's page that gives nothing", "/empty", "", "gave a page that was not understood");
         answered("a page that has changed", "/changed", "", "gave a page that was not understood");
         found("307 with a relative location", "/307", "la");
         found("302 is read as a page", "/302", "moved");
         found("a redirect inherits the fragment", "/301#song", "la#song");
         found("a redirect brings its own fragment", "/anchor#song", "la#other");
         found("as many redirects as are allowed", "/hops/20", "la");
-        failed("one redirect more", "/hops/21", "too often", "did not answer");
-        failed("a redirect to a file", "/file", "not a web page", "did not answer");
-        failed("404", "/404", "404", "did not answer");
+        failed("one redirect more", "/hops/21", "too often", "redirects too often");
+        failed("a redirect to a file", "/file", "not a web page", "redirects to something that is not a web page");
+        failed("404", "/404", "404", "answered with HTTP status 404");
         failed("a notice", "/notice", "holds no lyrics", "gave a page that holds no lyrics");
-        failed("a page that is cut off", "/cut", "onnection", "did not answer");
-        failed("a page over the limit", "/large", "larger than 1 MiB", "did not answer");
+        failed("a page that is cut off", "/cut", "onnection", "gave an answer that failed (RemoteHostClosedError)");
+        failed("a page over the limit", "/large", "larger than 1 MiB",
+               "gave an answer that failed (UnknownContentError)");
+        failed("damaged gzip", "/damaged", "damaged", "gave an answer that failed (UnknownContentError)");
         found("text ends at NUL", "/nul", "la");
         found("percent-decoded where well formed", "/encoded", "да, 100% sure");
         found("invalid UTF-8", "/invalid", "l\ufffda");
@@ -147,6 +154,14 @@ private slots:
         QCOMPARE(finished.size(), 1);
         for (const LoopbackRequest &request : m_server->requests())
             QCOMPARE(request.method, QByteArray("GET"));
+    }
+
+    void saysThatNobodyAnswered()
+    {
+        PageSite site(&m_manager, m_server->url("/page"));
+        m_server->stop();
+        QTest::ignoreMessage(QtInfoMsg, "PageSite did not answer (ConnectionRefusedError)");
+        QVERIFY(result(site).isEmpty());
     }
 
     void putsTheSitesHeadersOnRedirects()

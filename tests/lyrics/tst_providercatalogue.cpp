@@ -16,6 +16,8 @@
 
 using ReadPage = std::function<ProviderStep(const Page &)>;
 Q_DECLARE_METATYPE(ReadPage)
+using FindLink = SongLink (*)(const QString &page, const QString &artist, const QString &title);
+Q_DECLARE_METATYPE(FindLink)
 
 namespace {
 
@@ -54,6 +56,49 @@ private slots:
             QCOMPARE(copy->parent(), &owner);
             QCOMPARE(copy->metaObject(), provider->metaObject());
         }
+    }
+
+    // "@" is where the rows stand; `row` is one of another song, `changed` one that cannot be read.
+    void tellsWhyThereIsNoSong_data()
+    {
+        QTest::addColumn<FindLink>("find");
+        addTextColumns("page", "row", "changed");
+        const auto azLyrics = [](const QString &page, const QString &artist, const QString &) {
+            return AZLyricsProvider::songLink(page, artist);
+        };
+        addRow("LyricsFreak", FindLink(LyricsFreakProvider::songLink), "@",
+               "<div data-sorting-artist=\"x\" data-sorting-song=\"x\"></div>",
+               "<div data-sorting-artist=\"b\" data-sorting-song=\"a\"><a href=\"/1\"></a></div>");
+        addRow("Genius", FindLink(GeniusProvider::songPath),
+               R"({"meta":{"status":200},"response":{"sections":[{"type":"song","hits":[@]},{"type":"video"}]}})",
+               R"({"type":"song","result":{"_type":"song","title":"x","path":"/1"}})", R"({"type":"song","hit":{}})");
+        addRow("Megalyrics", FindLink(MegaLyricsProvider::songLink),
+               "<div class=\"songs-table\"><table><tbody>@</tbody></table></div>",
+               "<tr><td></td><td><a href=\"/1\">x</a></td><td>x</td><td></td><td></td></tr>", "<tr><td>x</td></tr>");
+        addRow("AZLyrics", FindLink(azLyrics), " <table>@</table>",
+               "<tr><td class=\"x\"><a href=\"/1\"><b>x</b></a><b>x</b></td></tr>", "<tr><td>x</td></tr>");
+        addRow("DarkLyrics", FindLink(DarkLyricsProvider::songLink), "<div class=\"cntwrap\"><h3>Songs</h3>@</div>",
+               "<h2><a x href=\"1\" x>x - x</a></h2>", "<h2>x</h2>");
+        addRow("MusixMatch", FindLink(MusixMatchProvider::trackLink), "<ul class=\"tracks list thumb-list\">@</ul>",
+               "<li x><a class=\"artist\">x</a><a class=\"title\" href=\"/1\">x</a></li>",
+               "<li x><a href=\"/1\">x</a></li>");
+    }
+
+    void tellsWhyThereIsNoSong()
+    {
+        QFETCH(FindLink, find);
+        QFETCH(QString, page);
+        QFETCH(QString, row);
+        QFETCH(QString, changed);
+        const auto missingWith = [&](const QString &rows) {
+            const SongLink link = find(QString(page).replace(QLatin1Char('@'), rows), "b"_s, "a"_s);
+            return link ? -1 : static_cast<int>(link.missing());
+        };
+        QCOMPARE(missingWith(row), static_cast<int>(SongLink::Missing::NoSuchSong));
+        QCOMPARE(missingWith(changed), static_cast<int>(SongLink::Missing::NotUnderstood));
+        QCOMPARE(missingWith(QString()), static_cast<int>(SongLink::Missing::ListedNothing));
+        const bool showsNoList = page == QLatin1String("@");
+        QVERIFY(showsNoList || find("<html>"_s, "b"_s, "a"_s).missing() == SongLink::Missing::NotUnderstood);
     }
 
     // "@" is where the lyrics stand.
@@ -95,7 +140,9 @@ private slots:
         QVERIFY(!junkWith("I sign in, I log in<br>blocked"));
         QVERIFY2(junkWith("la\n<script>ad(1)\nli"), "a script that is not closed");
         QVERIFY2(junkWith("You must be logged in to read on."), "a notice");
-        QVERIFY2(!read({"<html><p>la</p></html>"_s, {}}).isUnderstood(), "another page");
+        const auto notUnderstood = ProviderStep::Meaning::NotUnderstood;
+        QVERIFY2(read({"<html><p>la</p></html>"_s, {}}).meaning() == notUnderstood, "another page");
+        QVERIFY2(stepWith("").meaning() == notUnderstood, "a page without words");
     }
 };
 

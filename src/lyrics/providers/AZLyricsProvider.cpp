@@ -60,9 +60,9 @@ ProviderStep AZLyricsProvider::scriptRequestFinished(const Page &page)
 
 ProviderStep AZLyricsProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, artist());
+    const SongLink link = songLink(page.text, artist());
     if (!link)
-        return ProviderStep::nothingOn(page, QLatin1String("<table"));
+        return ProviderStep::without(link.missing());
     return ProviderStep::ask(browserRequest(QUrl(*link), searchPageUrl()), &AZLyricsProvider::lyricsRequestFinished);
 }
 
@@ -87,15 +87,20 @@ QPair<QString, QString> AZLyricsProvider::searchParameter(const QString &script)
     return parameter;
 }
 
-std::optional<QString> AZLyricsProvider::songLink(const QString &searchPage, const QString &artist)
+SongLink AZLyricsProvider::songLink(const QString &searchPage, const QString &artist)
 {
     static const ChainPattern rowPattern(
         QStringLiteral("<tr>.*<td[^<]*class[^<]*>.*<a.*href=\"([^\"]*)\".*>.*<b>(.*)</b>"
                        ".*<b>([^<]*)</b>.*</td></tr>"));
-    const ChainScan rows(rowPattern, firstTable(searchPage));
+    const QString table = firstTable(searchPage);
+    if (table.isEmpty())
+        return SongLink::notUnderstood();
+    const ChainScan rows(rowPattern, table);
+    int read = 0;
     for (auto row = rows.next(); row; row = rows.next(row->end())) {
         if (looselyAgree(artist, foundArtist(row->captures.at(2))))
-            return row->captures.at(0);
+            return SongLink(row->captures.at(0));
+        ++read;
     }
-    return std::nullopt;
+    return SongLink::none(read, table.contains(QLatin1String("<tr")));
 }

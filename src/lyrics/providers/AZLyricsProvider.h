@@ -5,8 +5,6 @@
 
 #include <QPair>
 
-#include <optional>
-
 // AZLyrics: a small script that hands out a parameter for the search, the search for artist and title, then the page of
 // the first song in the answer whose artist resembles the wanted one.
 class AZLyricsProvider final : public SiteClient<AZLyricsProvider, Endpoint::AZLyrics>
@@ -20,7 +18,7 @@ public:
     [[nodiscard]] static QPair<QString, QString> searchParameter(const QString &script);
     // The link, as it stands in the page, of the first song of a search page whose artist resembles this normalised
     // one; nothing when there is none. The site's ranking is trusted for the title, which is deliberate.
-    [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist);
+    [[nodiscard]] static SongLink songLink(const QString &searchPage, const QString &artist);
     // Reads a song's page.
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 

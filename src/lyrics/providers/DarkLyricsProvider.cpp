@@ -82,9 +82,9 @@ ProviderStep DarkLyricsProvider::processSearch()
 
 ProviderStep DarkLyricsProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, artist(), title());
+    const SongLink link = songLink(page.text, artist(), title());
     if (!link)
-        return ProviderStep::nothingOn(page, QLatin1String("cntwrap"));
+        return ProviderStep::without(link.missing());
     // The fragment, which names the song's anchor, stays in the address.
     return ProviderStep::ask(siteRequest(page.url.resolved(QUrl(*link)), browserUserAgent()),
                              &DarkLyricsProvider::lyricsRequestFinished);
@@ -114,19 +114,24 @@ QMap<QString, QString> DarkLyricsProvider::sections(const QString &page)
     return sections;
 }
 
-std::optional<QString> DarkLyricsProvider::songLink(const QString &searchPage, const QString &artist,
-                                                    const QString &title)
+SongLink DarkLyricsProvider::songLink(const QString &searchPage, const QString &artist, const QString &title)
 {
     // An address may begin with a quotation mark, but the next one ends it.
     static const ChainPattern linkPattern(
         QStringLiteral("<h2[^\n]*>[ \t\n\v\f\r]*<a[^\n]+href=['\"]([^\n][^\n'\"]*)['\"][^\n]+>([^<]+)</a"));
     const QString wanted = artist + QLatin1String(" - ") + title;
-    const ChainScan links(linkPattern, sections(searchPage).value(QStringLiteral("songs")));
+    const QMap<QString, QString> parts = sections(searchPage);
+    if (parts.isEmpty())
+        return SongLink::notUnderstood();
+    const QString songs = parts.value(QStringLiteral("songs"));
+    const ChainScan links(linkPattern, songs);
+    int read = 0;
     for (auto link = links.next(); link; link = links.next(link->end())) {
         if (looselyAgree(wanted, decodeHtmlEntities(link->captures.at(1))))
-            return link->captures.at(0);
+            return SongLink(link->captures.at(0));
+        ++read;
     }
-    return std::nullopt;
+    return SongLink::none(read, songs.contains(QLatin1String("<h2")));
 }
 
 std::optional<QString> DarkLyricsProvider::songUnderAnchor(const QString &albumPage, const QString &anchor)

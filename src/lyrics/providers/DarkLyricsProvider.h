@@ -24,8 +24,7 @@ public:
     [[nodiscard]] static QMap<QString, QString> sections(const QString &page);
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
     // nothing when there is none.
-    [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist,
-                                                         const QString &title);
+    [[nodiscard]] static SongLink songLink(const QString &searchPage, const QString &artist, const QString &title);
     // The HTML of the song under the anchor of this name, in any letter case; nothing when there is none.
     [[nodiscard]] static std::optional<QString> songUnderAnchor(const QString &albumPage, const QString &anchor);
     // Reads an album's page, whose address names the song's anchor.

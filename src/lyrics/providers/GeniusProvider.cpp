@@ -40,19 +40,23 @@ QJsonObject songOfHit(const QJsonObject &hit)
     return isSong ? result : QJsonObject();
 }
 
-std::optional<QString> songPathInSection(const QJsonObject &section, const QString &artist, const QString &title)
+SongLink songPathInSection(const QJsonObject &section, const QString &artist, const QString &title)
 {
     const QString type = textOf(section.value(QLatin1String("type")));
-    if (type != QLatin1String("song") && type != QLatin1String("top_hit"))
-        return std::nullopt;
+    const bool listsSongs = type == QLatin1String("song");
+    if (!listsSongs && type != QLatin1String("top_hit"))
+        return SongLink::none(0, false);
     const QJsonArray hits = section.value(QLatin1String("hits")).toArray();
+    int read = 0;
     for (const QJsonValue &hit : hits) {
         const QJsonObject song = songOfHit(hit.toObject());
         const QString path = textOf(song.value(QLatin1String("path")));
-        if (path.startsWith(QLatin1Char('/')) && resembles(song, artist, title))
-            return path;
+        const bool readable = path.startsWith(QLatin1Char('/'));
+        if (readable && resembles(song, artist, title))
+            return SongLink(path);
+        read += readable ? 1 : 0;
     }
-    return std::nullopt;
+    return SongLink::none(read, listsSongs && !hits.isEmpty());
 }
 
 // Line breaks are those of the break tags alone. Entities stay: whoever shows or stores the lyrics decodes them.
@@ -81,9 +85,9 @@ ProviderStep GeniusProvider::processSearch()
 
 ProviderStep GeniusProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> path = songPath(page.text, artist(), title());
+    const SongLink path = songPath(page.text, artist(), title());
     if (!path)
-        return ProviderStep::nothingOn(page, QLatin1String("\"sections\""));
+        return ProviderStep::without(path.missing());
     const QString base = endpointBase(Endpoint::Genius).toString(QUrl::FullyEncoded);
     return ProviderStep::ask(QNetworkRequest(QUrl::fromUserInput(base + *path)),
                              &GeniusProvider::lyricsRequestFinished);
@@ -100,19 +104,25 @@ ProviderStep GeniusProvider::lyricsRequestFinished(const Page &page)
     return ProviderStep::lyrics(olderLyrics(markup), markup);
 }
 
-std::optional<QString> GeniusProvider::songPath(const QString &searchAnswer, const QString &artist,
-                                                const QString &title)
+SongLink GeniusProvider::songPath(const QString &searchAnswer, const QString &artist, const QString &title)
 {
     const QJsonObject answer = QJsonDocument::fromJson(searchAnswer.toUtf8()).object();
     const QJsonObject meta = answer.value(QLatin1String("meta")).toObject();
     if (meta.value(QLatin1String("status")).toVariant().toInt() != statusOk)
-        return std::nullopt;
+        return SongLink::notUnderstood();
     const QJsonObject response = answer.value(QLatin1String("response")).toObject();
-    const QJsonArray sections = response.value(QLatin1String("sections")).toArray();
-    for (const QJsonValue &section : sections) {
-        std::optional<QString> path = songPathInSection(section.toObject(), artist, title);
-        if (path)
-            return path;
+    const QJsonValue sections = response.value(QLatin1String("sections"));
+    if (!sections.isArray())
+        return SongLink::notUnderstood();
+    SongLink best = SongLink::none(0, false);
+    const QJsonArray list = sections.toArray();
+    for (const QJsonValue &section : list) {
+        const SongLink song = songPathInSection(section.toObject(), artist, title);
+        if (song)
+            return song;
+        // Songs that were read show that the answer is understood; songs that were not, that it may hold some.
+        if (song.missing() == SongLink::Missing::NoSuchSong || best.missing() == SongLink::Missing::ListedNothing)
+            best = song;
     }
-    return std::nullopt;
+    return best;
 }

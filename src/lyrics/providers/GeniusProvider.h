@@ -3,8 +3,6 @@
 
 #include "lyrics/providers/SiteClient.h"
 
-#include <optional>
-
 // Genius: its search service, which answers in JSON, then the page of the first song in the answer whose artist and
 // title both resemble the wanted ones. Song pages come in two layouts, an older and a newer one.
 class GeniusProvider final : public SiteClient<GeniusProvider, Endpoint::Genius>
@@ -19,8 +17,7 @@ public:
 
     // The path, which begins with "/", of the first song of a search answer that resembles these normalised names;
     // nothing when there is none.
-    [[nodiscard]] static std::optional<QString> songPath(const QString &searchAnswer, const QString &artist,
-                                                         const QString &title);
+    [[nodiscard]] static SongLink songPath(const QString &searchAnswer, const QString &artist, const QString &title);
     // Reads a song's page.
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 

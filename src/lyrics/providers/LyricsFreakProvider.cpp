@@ -58,16 +58,15 @@ QNetworkRequest LyricsFreakProvider::redirectedRequest(const QUrl &target) const
 
 ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, artist(), title());
+    const SongLink link = songLink(page.text, artist(), title());
     if (!link)
-        return ProviderStep::nothingOn(page, QLatin1String("data-sorting-artist="));
+        return ProviderStep::without(link.missing());
     const bool onSite = link->startsWith(QLatin1Char('/'));
     const QUrl url = onSite ? endpointUrl(Endpoint::LyricsFreak, *link) : QUrl(*link);
     return ProviderStep::ask(QNetworkRequest(url), &LyricsFreakProvider::lyricsRequestFinished);
 }
 
-std::optional<QString> LyricsFreakProvider::songLink(const QString &searchPage, const QString &artist,
-                                                     const QString &title)
+SongLink LyricsFreakProvider::songLink(const QString &searchPage, const QString &artist, const QString &title)
 {
     static const ChainPattern rowPattern(QStringLiteral("<div[^>]*data-sorting-artist=\"([^\"]*)\"[^>]*>"),
                                          Matching::Longest);
@@ -75,19 +74,25 @@ std::optional<QString> LyricsFreakProvider::songLink(const QString &searchPage, 
     const NestedElements divs(searchPage, QStringLiteral("div"));
     // Up to here there is no link: the blocks of rows that stand inside one that was looked at need no second look.
     int searchedEnd = 0;
+    int read = 0;
+    bool linkMissing = false;
     for (auto row = rows.next(); row; row = rows.next(row->end())) {
         const QString openingTag = searchPage.mid(row->position, row->length);
         const bool wanted = row->position >= searchedEnd && looselyAgree(artist, trimmedName(row->captures.at(0))) &&
                             looselyAgree(title, songOfRow(openingTag));
+        ++read;
+        linkMissing |= wanted;
         const int blockEnd = wanted ? divs.closingTag(row->position) : -1;
         if (blockEnd < 0)
             continue;
-        std::optional<QString> link = linkInBlock(searchPage.mid(row->position, blockEnd - row->position));
+        const std::optional<QString> link = linkInBlock(searchPage.mid(row->position, blockEnd - row->position));
         if (link)
-            return link;
+            return SongLink(*link);
         searchedEnd = blockEnd;
     }
-    return std::nullopt;
+    if (linkMissing)
+        return SongLink::notUnderstood();
+    return SongLink::none(read, searchPage.contains(QLatin1String("data-sorting-artist")));
 }
 
 ProviderStep LyricsFreakProvider::lyricsRequestFinished(const Page &page)

@@ -50,27 +50,31 @@ ProviderStep MegaLyricsProvider::processSearch()
 
 ProviderStep MegaLyricsProvider::infoRequestFinished(const Page &page) const
 {
-    const std::optional<QString> link = songLink(page.text, artist(), title());
+    const SongLink link = songLink(page.text, artist(), title());
     if (!link)
-        return ProviderStep::nothingOn(page, QLatin1String("songs-table"));
+        return ProviderStep::without(link.missing());
     return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, *link)),
                              &MegaLyricsProvider::lyricsRequestFinished);
 }
 
-std::optional<QString> MegaLyricsProvider::songLink(const QString &searchPage, const QString &artist,
-                                                    const QString &title)
+SongLink MegaLyricsProvider::songLink(const QString &searchPage, const QString &artist, const QString &title)
 {
     static const ChainPattern table(
         QStringLiteral("<div[^>]*class=\"songs-table\"[^<]*>.*<table>.*<tbody>(.*)</tbody>"));
     static const ChainPattern rowPattern(
         QStringLiteral("<tr.*>.*<td.*>.*<td.*>.*<a.*href=\"([^\"]*)\".*>([^<]*)</a>.*<td.*>(.*)</td>"
                        ".*<td.*>.*<td.*>.*</tr>"));
-    const ChainScan rows(rowPattern, firstCapture(table, searchPage).value_or(QString()));
+    const std::optional<QString> body = firstCapture(table, searchPage);
+    if (!body)
+        return SongLink::notUnderstood();
+    const ChainScan rows(rowPattern, *body);
+    int read = 0;
     for (auto row = rows.next(); row; row = rows.next(row->end())) {
         if (looselyAgree(artist, foundName(row->captures.at(2))) && looselyAgree(title, foundName(row->captures.at(1))))
-            return row->captures.at(0);
+            return SongLink(row->captures.at(0));
+        ++read;
     }
-    return std::nullopt;
+    return SongLink::none(read, body->contains(QLatin1String("<tr")));
 }
 
 ProviderStep MegaLyricsProvider::lyricsRequestFinished(const Page &page)

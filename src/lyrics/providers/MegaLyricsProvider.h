@@ -3,8 +3,6 @@
 
 #include "lyrics/providers/SiteClient.h"
 
-#include <optional>
-
 // Megalyrics, a Russian site: its search for artist and title, then the page of the first song in the table of the
 // answer whose names both resemble the wanted ones. Its texts have a decoder of their own (MegaLyricsText).
 class MegaLyricsProvider final : public SiteClient<MegaLyricsProvider, Endpoint::Megalyrics>
@@ -16,8 +14,7 @@ public:
 
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
     // nothing when there is none.
-    [[nodiscard]] static std::optional<QString> songLink(const QString &searchPage, const QString &artist,
-                                                         const QString &title);
+    [[nodiscard]] static SongLink songLink(const QString &searchPage, const QString &artist, const QString &title);
     // Reads a song's page.
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);
 

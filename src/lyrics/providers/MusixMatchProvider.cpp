@@ -34,8 +34,13 @@ bool nameAgrees(const QString &wanted, const QString &element)
     return looselyAgree(wanted, decodeHtmlEntities(stripTags(element)));
 }
 
-// The link of one item of the list; empty when it is another track or has no link.
-QString linkOfItem(const QString &item, const QString &artist, const QString &title)
+struct Track
+{
+    QString link; // empty when it has none: then it is not wanted
+    bool wanted = false;
+};
+
+Track trackOfItem(const QString &item, const QString &artist, const QString &title)
 {
     if (!item.contains(QLatin1String("href=")))
         return {};
@@ -44,7 +49,7 @@ QString linkOfItem(const QString &item, const QString &artist, const QString &ti
     const QString link = linkOf(titleElement);
     const bool wanted = !link.isEmpty() && nameAgrees(title, titleElement) &&
                         nameAgrees(artist, findElement(item, anchor, {QStringLiteral("artist")}, false));
-    return wanted ? link : QString();
+    return {link, wanted};
 }
 
 } // namespace
@@ -79,8 +84,8 @@ ProviderStep MusixMatchProvider::requestFinished(const Page &page)
         const QString tooIntricate = tr("%1 gave a page that is too intricate to read.").arg(name());
         return lyricsOfBlock(block).value_or(ProviderStep::notUnderstood(tooIntricate));
     }
-    const std::optional<QString> link = trackLink(page.text, artist(), title());
-    return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::nothingOn(page, QLatin1String("thumb-list"));
+    const SongLink link = trackLink(page.text, artist(), title());
+    return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::without(link.missing());
 }
 
 QString MusixMatchProvider::lyricsBlock(const QString &page)
@@ -106,23 +111,28 @@ std::optional<ProviderStep> MusixMatchProvider::lyricsOfBlock(const QString &blo
     return std::nullopt;
 }
 
-std::optional<QString> MusixMatchProvider::trackLink(const QString &searchPage, const QString &artist,
-                                                     const QString &title)
+SongLink MusixMatchProvider::trackLink(const QString &searchPage, const QString &artist, const QString &title)
 {
     // One item with all its parts on one line; "<li" may also be the beginning of a longer name.
     static const ChainPattern itemPattern(QStringLiteral("<li[^\n]+>([^\n]+)</li"));
     static const QStringList listClasses{QStringLiteral("tracks"), QStringLiteral("list"),
                                          QStringLiteral("thumb-list")};
-    const QString list = findElement(searchPage, QStringLiteral("ul"), listClasses, false);
-    const ChainScan items(itemPattern, asciiLower(list));
+    const QString element = QStringLiteral("ul");
+    if (findElement(searchPage, element, listClasses, true).isEmpty())
+        return SongLink::notUnderstood();
+    const QString list = findElement(searchPage, element, listClasses, false);
+    const QString lowerList = asciiLower(list);
+    const ChainScan items(itemPattern, lowerList);
+    int read = 0;
     int offset = 0;
     while (const auto item = items.next(offset)) {
         const int length = item->captures.at(0).size();
         const int begin = item->end() - static_cast<int>(qstrlen("</li")) - length;
-        const QString link = linkOfItem(list.mid(begin, length), artist, title);
-        if (!link.isEmpty())
-            return link;
+        const Track track = trackOfItem(list.mid(begin, length), artist, title);
+        if (track.wanted)
+            return SongLink(track.link);
+        read += track.link.isEmpty() ? 0 : 1;
         offset = offsetBehind(offset, item->position, item->length);
     }
-    return std::nullopt;
+    return SongLink::none(read, lowerList.contains(QLatin1String("<li")));
 }

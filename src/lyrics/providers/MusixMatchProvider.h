@@ -21,8 +21,7 @@ public:
     [[nodiscard]] static std::optional<ProviderStep> lyricsOfBlock(const QString &block);
     // The link, as it stands in the page, of the first track in a list that resembles these normalised names; nothing
     // when there is none. Tracks without a link do not count.
-    [[nodiscard]] static std::optional<QString> trackLink(const QString &searchPage, const QString &artist,
-                                                          const QString &title);
+    [[nodiscard]] static SongLink trackLink(const QString &searchPage, const QString &artist, const QString &title);
 
 protected:
     [[nodiscard]] ProviderStep processSearch() override;
