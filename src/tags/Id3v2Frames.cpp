@@ -48,9 +48,12 @@ QByteArray synchronised(const QByteArray &bytes)
     return plain;
 }
 
+// An old program wrote the three letters of version 2 into versions 3 and 4, with a zero behind them.
 bool isFrameId(const QByteArray &id)
 {
-    return std::all_of(id.begin(), id.end(), [](char letter) {
+    const bool isShort = id.size() == 4 && id.at(3) == '\0';
+    const auto *const end = isShort ? id.end() - 1 : id.end();
+    return std::all_of(id.begin(), end, [](char letter) {
         return (letter >= 'A' && letter <= 'Z') || (letter >= '0' && letter <= '9');
     });
 }

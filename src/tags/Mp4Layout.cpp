@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tags/SongLayout.h"
 
+#include <taglib/id3v1genres.h>
+
 #include <QByteArrayList>
 #include <QtEndian>
 
@@ -20,6 +22,36 @@ struct Atom
 };
 
 constexpr int deepest = 12; // an ordinary file nests six
+
+// Of items that programs store in several ways with one meaning, the way in which TagLib stores them: whole numbers as
+// such and not as bytes of no type, a disc without the two bytes that only a track has behind it, and the number of a
+// genre as its name.
+TagItem alikeItem(const QByteArray &name, QByteArray value)
+{
+    constexpr int dataHeaderBytes = 16; // size, "data", type, locale
+    const QByteArray noType(4, '\0');
+    const QByteArray wholeNumber("\0\0\0\x15", 4);
+    const QByteArray text("\0\0\0\x01", 4);
+    const bool isSingle = value.size() > dataHeaderBytes && value.mid(4, 4) == "data" &&
+                          qFromBigEndian<qint32>(value.constData()) == value.size();
+    const QByteArray content = value.mid(dataHeaderBytes);
+    if (!isSingle)
+        return {"MP4/" + name, value};
+    if ((name == "tmpo" || name == "cpil") && value.mid(8, 4) == noType)
+        value.replace(8, 4, wholeNumber);
+    if (name == "disk" && content.size() == 8 && content.endsWith(QByteArray(2, '\0')))
+        value = QByteArray("\0\0\0\x16", 4) + value.mid(4, value.size() - 6);
+    if (name == "gnre" && content.size() == 2) {
+        const TagLib::String genre = TagLib::ID3v1::genre(qFromBigEndian<quint16>(content.constData()) - 1);
+        const QByteArray known = QByteArray::fromStdString(genre.to8Bit(true));
+        if (!known.isEmpty()) {
+            QByteArray size(4, '\0');
+            qToBigEndian(dataHeaderBytes + known.size(), size.data());
+            return {"MP4/" + QByteArray::fromHex("a9") + "gen", size + "data" + text + noType + known};
+        }
+    }
+    return {"MP4/" + name, value};
+}
 
 class Mp4Walk
 {
@@ -91,7 +123,7 @@ private:
             const Atom item = atomAt(place, list.end);
             if (item.end <= place || item.end > list.end)
                 return false;
-            addItem(item.name, item.content, item.end);
+            m_layout.items.append(alikeItem(item.name, m_file.read(item.content, item.end - item.content)));
             place = item.end;
         }
         return true;

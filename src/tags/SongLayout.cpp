@@ -132,6 +132,8 @@ bool readFramedLayout(const FileBytes &file, SongLayout &layout)
 {
     qint64 start = id3v2TagSize(file.read(0, id3v2HeaderBytes));
     layout.id3v2 = {0, start};
+    if (start > 0 && id3v2TagSize(file.read(start, id3v2HeaderBytes)) > 0)
+        return false; // two tags: libraries differ in which of them they read
     if (start > 0 && !readId3v2Items(file, layout))
         return false;
     if (layout.format == SongFormat::Flac && !readFlacBlocks(file, layout, start))
@@ -200,6 +202,8 @@ bool readVorbisComment(const QByteArray &comment, SongLayout &layout)
         if (!field)
             return false;
         const int nameEnd = field->indexOf('=');
+        if (nameEnd == field->size() - 1)
+            continue; // it says nothing, and a library may leave it out
         layout.items.append({"Xiph/" + field->left(std::max(nameEnd, 0)).toUpper(), field->mid(nameEnd + 1)});
     }
     return true;

@@ -20,6 +20,7 @@ private slots:
     void framesInAChunkStay();
     void whatWouldBeLostIsRefused_data();
     void whatWouldBeLostIsRefused();
+    void whatNobodyEditedStaysATaggersOwn();
 };
 
 namespace {
@@ -79,6 +80,7 @@ void tst_TagUpdate::framesStayAsTheyAreStored_data()
                                                  0x0080)
                                         << 3;
     QTest::newRow("a frame of nobody's") << frame("XYZ9", QByteArray("\0\1\2\xff\xfe", 5)) << 3;
+    QTest::newRow("three letters and a zero") << "TCP" + QByteArray("\0\0\0\0\2\0\0\0001", 9) << 3;
     QTest::newRow("UTF-8 where version 3 knows none") << frame("TALB", "\x03"
                                                                        "Caf\xc3\xa9")
                                                       << 3;
@@ -155,6 +157,42 @@ void tst_TagUpdate::whatWouldBeLostIsRefused_data()
                                           << UpdateResult::TagsNotKept;
     QTest::newRow("the same, known") << "plain.m4a" << QByteArray("The Composer") << QByteArray("An Other One")
                                      << UpdateResult::Saved;
+    const auto item = [](const char *itemName, char type, const QByteArray &content) {
+        const QByteArray data = "data" + bigEndian(static_cast<quint32>(type)) + bigEndian(0) + content;
+        const QByteArray inner = bigEndian(static_cast<quint32>(data.size() + 4)) + data;
+        return bigEndian(static_cast<quint32>(inner.size() + 8)) + itemName + inner;
+    };
+    const QByteArray genre = item("\xa9gen", 1, "Rock");
+    const QByteArray track = item("trkn", 0, QByteArray("\0\0\0\3\0\t\0\0", 8));
+    const QByteArray disc = item("disk", 0, QByteArray("\0\0\0\1\0\0", 6));
+    QTest::newRow("MP4 disc of eight bytes") << "plain.m4a" << track + disc
+                                             << item("disk", 0, QByteArray("\0\0\0\1\0\2\0\0", 8)) + item("\xa9"
+                                                                                                          "cmt",
+                                                                                                          1, "Remark")
+                                             << UpdateResult::Saved;
+    QTest::newRow("MP4 genre by its number") << "plain.m4a" << genre + track
+                                             << item("gnre", 0, QByteArray("\0\x12", 2)) + item("\xa9"
+                                                                                                "cmt",
+                                                                                                1, "Ten chars.")
+                                             << UpdateResult::Saved;
+    QTest::newRow("MP4 number of no type") << "plain.m4a" << item("tmpo", 0x15, QByteArray("\0x", 2))
+                                           << item("tmpo", 0, QByteArray("\0x", 2)) << UpdateResult::Saved;
+    QTest::newRow("two ID3v2 tags") << "untagged.mp3" << QByteArray()
+                                    << tag(3, frame("TIT2", QByteArray("\0Song", 5))) +
+                                           tag(3, frame("TIT2", QByteArray("\0Other", 6)))
+                                    << UpdateResult::Unusual;
+    QTest::newRow("ID3v1 behind Ogg") << "plain.ogg" << QByteArray() << "TAG" + QByteArray(125, ' ')
+                                      << UpdateResult::Unusual;
+    QTest::newRow("Vorbis comment without a text") << "plain.flac"
+                                                   << QByteArray("\x0f\0\0\0"
+                                                                 "album=The Album\t\0\0\0"
+                                                                 "date=2001",
+                                                                 32)
+                                                   << QByteArray("\x08\0\0\0"
+                                                                 "COMMENT=\x10\0\0\0"
+                                                                 "album=The Albums",
+                                                                 32)
+                                                   << UpdateResult::Saved;
     const QByteArray upTo = tag(2, QByteArray("TT2\0\0\x05\0Song", 11));
     QTest::newRow("version 2, all known") << "untagged.mp3" << QByteArray() << upTo << UpdateResult::Saved;
     QTest::newRow("version 2 with a frame that version 3 has not")
@@ -170,11 +208,38 @@ void tst_TagUpdate::whatWouldBeLostIsRefused()
     const SongFiles files;
     QByteArray content = SongFiles::bytes(files.copy(name));
     QVERIFY(from.isEmpty() || content.contains(from));
-    content = from.isEmpty() ? to + content : content.replace(from, to);
+    if (from.isEmpty())
+        content = to.startsWith("TAG") ? content + to : to + content;
+    else
+        content.replace(from, to);
     const QString path = files.write(name, content);
     const UpdateResult result = storeLyrics(path, files);
     QTEST(result, "result");
     QCOMPARE(SongFiles::bytes(path) == content, result != UpdateResult::Saved);
+}
+
+// Another program changes names and lyrics after they were read.
+void tst_TagUpdate::whatNobodyEditedStaysATaggersOwn()
+{
+    const SongFiles files;
+    const QString path = files.copy(QStringLiteral("plain-v24.mp3"));
+    const QString data = files.path(QStringLiteral("data"));
+    const tags::SongTexts read{QStringLiteral("The Artist"), QStringLiteral("Misspelt"), {}};
+    const auto seen = [&path](const char *key) {
+        return SongFiles::tagsOf(path).value(QLatin1String(key)).toVariant().toStringList().join(QLatin1Char('/'));
+    };
+    const QString title = seen("title");
+    tags::SongTexts texts = read;
+    texts.lyrics = QStringLiteral("found words");
+    QCOMPARE(tags::updateTags(path, texts, data, read), UpdateResult::Saved);
+    QCOMPARE(seen("title"), title);
+    QCOMPARE(seen("lyrics"), texts.lyrics);
+    texts = read;
+    texts.title = QStringLiteral("Edited");
+    QCOMPARE(tags::updateTags(path, texts, data, read), UpdateResult::Saved);
+    QCOMPARE(seen("title"), texts.title);
+    QCOMPARE(seen("lyrics"), QStringLiteral("found words"));
+    QCOMPARE(tags::updateTags(path, read, data, read), UpdateResult::Unchanged);
 }
 
 QTEST_GUILESS_MAIN(tst_TagUpdate)
