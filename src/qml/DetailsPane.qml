@@ -22,6 +22,20 @@ Rectangle {
     signal copyRequested(int id)
     signal browserRequested(url source)
 
+    readonly property bool lyricsFocused: lyrics.focused
+    // What stands in the fields, confirmed or not.
+    readonly property string artistText: artist.text
+    readonly property string titleText: title.text
+
+    function focusLyrics() {
+        lyrics.takeFocus();
+    }
+
+    function typeNames(artistName, titleName) {
+        artist.type(artistName);
+        title.type(titleName);
+    }
+
     function beginEdit() {
         lyrics.beginEdit();
     }
@@ -42,6 +56,8 @@ Rectangle {
         badFile: tagsLoaded && pane.song.bad
         hasLyrics: pane.song !== null && pane.song.lyricsTag !== ""
         errorString: pane.song ? pane.song.errorString : ""
+        unsaved: pane.song !== null && pane.song.unsaved
+        foundNothing: pane.song !== null && pane.song.foundNothing
     }
 
     Text {

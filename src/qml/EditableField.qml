@@ -27,6 +27,11 @@ FocusScope {
         restore(); // to the value that the song has now: it may have refused this one
     }
 
+    // As if the user had typed it.
+    function type(words) {
+        input.text = words;
+    }
+
     function restore() {
         input.text = value;
         shownValue = input.text;

@@ -43,6 +43,8 @@ Item {
         badFile: tagsLoadedRole && badFileRole
         hasLyrics: lyricsTagRole !== ""
         errorString: itemRole ? itemRole.errorString : ""
+        unsaved: itemRole ? itemRole.unsaved : false
+        foundNothing: itemRole ? itemRole.foundNothing : false
     }
 
     Rectangle {

@@ -18,6 +18,13 @@ Rectangle {
     signal addFilesRequested()
     signal addFolderRequested()
 
+    // Whether a modified draft is of a song that is not shown any more.
+    function draftLeft() {
+        var song = proxyModel.selectedItem();
+        var edit = mainWindow.lyricsEdit;
+        return edit.modified && (song === null || song.id !== edit.songId);
+    }
+
     function takeFocus() {
         songs.takeFocus();
     }
@@ -62,9 +69,11 @@ Rectangle {
         onRemoveSelectedRequested: pane.removeSelectedRequested()
         onMenuRequested: {
             // A click on another row may have left a draft that has to be asked about first.
-            if (mainWindow.lyricsEdit.modified && !proxyModel.isSelected(row))
+            if (pane.draftLeft())
                 return;
+            var song = proxyModel.itemAt(row);
             menu.row = row;
+            menu.songId = song ? song.id : -1;
             if (byKey)
                 menu.openAt(x, y);
             else
@@ -115,7 +124,8 @@ Rectangle {
         onExportLyrics: pane.exportLyricsRequested()
         onRemoveSelected: pane.removeSelectedRequested()
         onRemoveAll: pane.removeAllRequested()
-        onCopyPath: pane.copyPathRequested(row)
-        onSearchInBrowser: pane.searchInBrowserRequested(row)
+        // The rows may have moved since the menu was opened, or the song may have gone.
+        onCopyPath: pane.copyPathRequested(proxyModel.rowOf(songId))
+        onSearchInBrowser: pane.searchInBrowserRequested(proxyModel.rowOf(songId))
     }
 }

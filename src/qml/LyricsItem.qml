@@ -17,6 +17,8 @@ Item {
     readonly property bool tooLong: lyrics.length > Measures.lyricsLimit
     readonly property bool found: song !== null && lyrics !== "" && !song.lyricsEmbedded
                                   && (song.lyricsArtist !== "" || song.lyricsTitle !== "")
+    // The words have the keyboard.
+    readonly property bool focused: words.area.activeFocus
     readonly property bool wide: width >= Measures.sideBySideWidth
 
     signal searchRequested()
@@ -24,13 +26,17 @@ Item {
     signal copyRequested(int id)
     signal browserRequested(url source)
 
+    function takeFocus() {
+        words.area.forceActiveFocus();
+    }
+
     function beginEdit() {
         if (song === null || tooLong)
             return;
         edit.begin(song);
         if (editing) {
             words.toTop();
-            words.area.forceActiveFocus();
+            takeFocus();
         }
     }
 
@@ -134,7 +140,7 @@ Item {
 
     // The frame is drawn last, so that nothing lies over its corners.
     Rectangle {
-        readonly property bool strong: sheet.editing || words.area.activeFocus
+        readonly property bool strong: sheet.focused
 
         anchors.fill: parent
         radius: Measures.radius + 2

@@ -28,6 +28,35 @@ ScrollView {
             proxyModel.currentIndex = Math.max(0, Math.min(list.count - 1, row));
     }
 
+    // Where a key moves to; -1 for other keys.
+    function targetOf(key) {
+        switch (key) {
+        case Qt.Key_Up:
+            return list.currentIndex - 1;
+        case Qt.Key_Down:
+            return list.currentIndex + 1;
+        case Qt.Key_Home:
+            return 0;
+        case Qt.Key_End:
+            return list.count - 1;
+        }
+        return -1;
+    }
+
+    // Keys with a modifier, which select several songs. Whether the key was one of them.
+    function selectByKey(key, modifiers) {
+        var target = targetOf(key);
+        if (modifiers === Qt.ControlModifier && key === Qt.Key_Space)
+            proxyModel.toggleCurrent();
+        else if (modifiers === Qt.ShiftModifier && target >= 0 && list.currentIndex >= 0)
+            proxyModel.extendSelection(target);
+        else if (modifiers === Qt.ControlModifier && target >= 0 && list.currentIndex >= 0)
+            proxyModel.moveCurrent(target);
+        else
+            return false;
+        return true;
+    }
+
     function requestMenuByKey() {
         var item = list.currentItem;
         if (item)
@@ -81,7 +110,7 @@ ScrollView {
             if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && modifiers === Qt.ShiftModifier))
                 songList.requestMenuByKey();
             else if (modifiers !== Qt.NoModifier)
-                event.accepted = false;
+                event.accepted = songList.selectByKey(event.key, modifiers);
             else if (event.key === Qt.Key_Backspace)
                 songList.removeSelectedRequested();
             else if (event.key === Qt.Key_Up)

@@ -8,6 +8,8 @@ Menu {
 
     // The row that was hit; -1 for none.
     property int row: -1
+    // Of the song that was hit; -1 for none. The rows may move while the menu is open.
+    property int songId: -1
     property int selectedCount: 0
     property string searchProvider
     // The version of Qt as one number, 5.15 being 5150 or 551; below 550 a menu had to be told its place.
@@ -19,8 +21,8 @@ Menu {
     signal exportLyrics()
     signal removeSelected()
     signal removeAll()
-    signal copyPath(int row)
-    signal searchInBrowser(int row)
+    signal copyPath()
+    signal searchInBrowser()
 
     // At the pointer, which is at this place of the scene.
     function openAtPointer(x, y) {
@@ -60,12 +62,12 @@ Menu {
     MenuItem {
         text: qsTr("Copy file's path to clipboard")
         visible: menu.forRow
-        onTriggered: menu.copyPath(menu.row)
+        onTriggered: menu.copyPath()
     }
 
     MenuItem {
         text: qsTr("Search lyrics with %1", "name of a search engine").arg(menu.searchProvider)
         visible: menu.forRow
-        onTriggered: menu.searchInBrowser(menu.row)
+        onTriggered: menu.searchInBrowser()
     }
 }

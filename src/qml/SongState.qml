@@ -10,16 +10,21 @@ QtObject {
     property bool badFile: false
     property bool hasLyrics: false
     property string errorString
+    // The lyrics are in the list only, since their write failed.
+    property bool unsaved: false
+    // The last search ended without lyrics.
+    property bool foundNothing: false
 
     readonly property bool busy: processState === ModelItem.ProcessWaiting || processState === ModelItem.ProcessWorking
                                  || processState === ModelItem.ProcessWritingTags
     readonly property bool settled: processState === ModelItem.ProcessIdle || processState === ModelItem.ProcessComplete
-    readonly property bool unreadable: (tagsLoaded && badFile)
-                                       || (processState === ModelItem.ProcessNotSuitable && errorString !== "")
+    // What is being done with a song comes before what is known of it.
+    readonly property bool unreadable: !busy && ((tagsLoaded && badFile)
+                                                 || (processState === ModelItem.ProcessNotSuitable && errorString !== ""))
     readonly property bool bad: (tagsLoaded && badFile) || processState === ModelItem.ProcessNotSuitable
 
-    // "yellow", "green", "red", or empty for none. A song that is bad is red whatever else it is.
-    readonly property string light: bad ? "red" : busy ? "yellow" : hasLyrics && settled ? "green" : ""
+    // "yellow", "green", "red", or empty for none. A song that is bad is red, whatever lyrics it has.
+    readonly property string light: busy ? "yellow" : bad ? "red" : hasLyrics && settled ? "green" : ""
     readonly property string lightSource: light === "" ? "" : "qrc:/img/" + light + "Light.png"
 
     // For the row: empty when there is nothing to say that the green light does not say.
@@ -42,7 +47,8 @@ QtObject {
         case ModelItem.ProcessFailed:
             return qsTr("failed");
         case ModelItem.ProcessComplete:
-            return !hasLyrics ? qsTr("no lyrics found") : errorString !== "" ? qsTr("not saved") : "";
+            return !hasLyrics ? qsTr("no lyrics found") : unsaved ? qsTr("not saved") : errorString !== "" ? qsTr("search failed")
+                 : foundNothing ? qsTr("no lyrics found") : "";
         }
         return "";
     }
@@ -60,7 +66,7 @@ QtObject {
         case ModelItem.ProcessFailed:
             return errorString !== "" ? errorString : qsTr("failed");
         case ModelItem.ProcessComplete:
-            return errorString !== "" ? errorString : hasLyrics ? "" : qsTr("no lyrics found");
+            return errorString !== "" ? errorString : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
         }
         return errorString;
     }

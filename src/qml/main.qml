@@ -17,6 +17,10 @@ Rectangle {
     readonly property var edit: mainWindow ? mainWindow.lyricsEdit : null
     // The one selected song; null when there is none or there are several.
     property var shownSong: null
+    // Of the song whose modified draft was left, until the draft is saved or discarded: the names that stood in the fields.
+    property var leftNames: null
+    // Below this width in pixels something is cut.
+    readonly property int leastWidth: Measures.listMinimumWidth + Measures.detailsMinimumWidth + Measures.hairline
 
     signal listForceSearchSelected()
     signal listExportLyricsSelected()
@@ -27,11 +31,21 @@ Rectangle {
     signal listSearchLyricsInBrowser(int itemIndex)
     signal listSearchLyricsInBrowser_url(url itemUrl)
     signal listLyricsToClipboard(int itemIndex)
+    // The user wants to leave a modified draft.
+    signal leaveEditRequested()
     signal addFilesRequested()
     signal addFolderRequested()
 
     function editLyrics() {
         details.beginEdit();
+    }
+
+    function focusLyrics() {
+        details.focusLyrics();
+    }
+
+    function leaveEdit() {
+        edit.modified && !details.lyricsFocused ? leaveEditRequested() : edit.cancel();
     }
 
     function saveLyrics() {
@@ -57,7 +71,16 @@ Rectangle {
     }
 
     function showSelectedSong() {
-        shownSong = proxyModel.selectedItem();
+        var next = proxyModel.selectedItem();
+        if (next === shownSong)
+            return;
+        if (shownSong !== null && edit !== null && edit.modified && edit.songId === shownSong.id)
+            leftNames = { song: shownSong, artist: details.artistText, title: details.titleText };
+        shownSong = next;
+        if (next !== null && leftNames !== null && leftNames.song === next) {
+            details.typeNames(leftNames.artist, leftNames.title);
+            leftNames = null;
+        }
     }
 
     color: appPalette.window
@@ -71,6 +94,24 @@ Rectangle {
         layOutPanes();
         showSelectedSong();
         list.takeFocus();
+    }
+
+    Connections {
+        target: root.edit
+
+        // Names that were typed but not confirmed are written along with the lyrics.
+        function onAboutToSave() {
+            if (root.leftNames !== null) {
+                root.leftNames.song.artistTag = root.leftNames.artist;
+                root.leftNames.song.titleTag = root.leftNames.title;
+            } else {
+                details.confirmNames();
+            }
+        }
+
+        function onActiveChanged() {
+            root.leftNames = null;
+        }
     }
 
     Connections {
@@ -109,7 +150,7 @@ Rectangle {
     Shortcut {
         sequence: "Escape"
         enabled: root.edit !== null && root.edit.active
-        onActivated: root.edit.cancel()
+        onActivated: root.leaveEdit()
     }
 
     SplitView {

@@ -37,16 +37,23 @@ void LyricsEdit::begin(ModelItem *song)
 
 void LyricsEdit::save()
 {
+    if (!active())
+        return;
+    emit aboutToSave();
     ModelItem *song = m_song;
-    // What nobody changed goes back as the song has it, down to the kind of its line breaks.
-    const QString lyrics = song && editorText(song->lyricsTag()) == m_text ? song->lyricsTag() : m_text;
-    const bool isListed = song && m_model->item(song->id()) == song;
-    if (isListed && !song->tagsLoaded())
+    const QString text = m_text;
+    if (song && m_model->item(song->id()) == song && !song->tagsLoaded())
         return;
     cancel();
-    if (!isListed)
+    write(song, text);
+}
+
+void LyricsEdit::write(ModelItem *song, const QString &text)
+{
+    if (!song || m_model->item(song->id()) != song || !song->tagsLoaded())
         return;
-    song->setEditedLyricsTag(lyrics);
+    // What nobody changed goes back as the song has it, down to the kind of its line breaks.
+    song->setEditedLyricsTag(editorText(song->lyricsTag()) == text ? song->lyricsTag() : text);
     m_model->writeTags(song->id());
 }
 

@@ -39,9 +39,12 @@ public:
     // Begins with the lyrics that the song has. Nothing when the song is null, not editable or its tags are not loaded,
     // or while a modified draft is there: it has to be saved or cancelled first.
     Q_INVOKABLE void begin(ModelItem *song);
-    // Ends the edit, gives the draft to the song and has it written into the file. A draft whose song cannot be written,
-    // because its tags are not loaded any more, stays and is still edited.
+    // Ends the edit, gives the draft to the song and has it written into the file. A draft whose song cannot be
+    // written, because its tags are not loaded any more, stays and is still edited.
     Q_INVOKABLE void save();
+    // Gives a text to a song and has it written, past all edits. Nothing when the song is null, not in the list, or its
+    // tags are not loaded.
+    void write(ModelItem *song, const QString &text);
     // Ends the edit and forgets the draft.
     Q_INVOKABLE void cancel();
 
@@ -50,6 +53,8 @@ public slots:
     void setText(const QString &text);
 
 signals:
+    // Comes first of all; what else was typed for the song can still be taken over.
+    void aboutToSave();
     // At the begin and at the end of an edit these come when all of it has changed, in this order.
     void songIdChanged(int id);
     void textChanged(const QString &text);

@@ -59,17 +59,32 @@ void LyricsEditGuard::before(std::function<void()> action)
 void LyricsEditGuard::ask(std::function<void()> leave, std::function<void()> stay)
 {
     m_question = makeQuestion();
+    // Whatever happens to the edit meanwhile, this is what the question is about.
+    const QPointer<ModelItem> song = m_edit->song();
     connect(m_question, &QMessageBox::finished, this,
-            [this, leave = std::move(leave), stay = std::move(stay)](int answer) {
+            [this, song, text = m_edit->text(), leave = std::move(leave), stay = std::move(stay)](int answer) {
                 m_question.clear();
                 if (answer == QMessageBox::Save)
-                    m_edit->save();
+                    saveDraft(song, text);
                 else if (answer == QMessageBox::Discard)
                     m_edit->cancel();
                 m_check.start(); // the list may have changed behind the question
-                m_edit->active() ? stay() : leave();
+                if (!m_edit->active()) {
+                    leave();
+                    return;
+                }
+                stay();
+                emit draftKept();
             });
     m_question->open();
+}
+
+void LyricsEditGuard::saveDraft(ModelItem *song, const QString &text)
+{
+    if (m_edit->active() && m_edit->song() == song)
+        m_edit->save();
+    else
+        m_edit->write(song, text);
 }
 
 QMessageBox *LyricsEditGuard::makeQuestion() const

@@ -9,6 +9,7 @@
 
 class LyricsEdit;
 class MainModel;
+class ModelItem;
 class ProxyModel;
 class QMessageBox;
 class QWidget;
@@ -31,8 +32,13 @@ public:
     // the user goes back to it or the question is open already.
     void before(std::function<void()> action);
 
+signals:
+    // The user went back to the draft, whose song is shown.
+    void draftKept();
+
 private:
     void check();
+    void saveDraft(ModelItem *song, const QString &text);
     void ask(std::function<void()> leave, std::function<void()> stay);
     [[nodiscard]] QMessageBox *makeQuestion() const;
     [[nodiscard]] bool isSongShown() const;

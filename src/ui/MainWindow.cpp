@@ -23,6 +23,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -32,8 +33,12 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
 #include <optional>
+
+// How long the event loop may wait for a turn of a long work.
+static constexpr std::chrono::milliseconds longestTurn(15);
 
 static bool isId(int number)
 {
@@ -58,7 +63,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
 {
     setWindowTitle(QStringLiteral("Versewell"));
-    setMinimumSize(480, 320);
+    setMinimumSize(std::max(480, m_scene->leastWidth()), 320);
     resize(1040, 680);
     setUpLinks();
     setCentralWidget(m_scene.get());
@@ -108,6 +113,7 @@ void MainWindow::connectSceneSignals()
     connectSignal("listSearchLyricsInBrowser_url(QUrl)", "searchLyricsInBrowser(QUrl)");
     connectSignal("listLyricsToClipboard(int)", "listLyricsToClipboard(int)");
     connectSignal("listRemoveWithLyrics()", "on_actionRemoveWithLyrics_triggered()");
+    connectSignal("leaveEditRequested()", "leaveEdit()");
     connectSignal("addFilesRequested()", "on_actionAddFile_triggered()");
     connectSignal("addFolderRequested()", "on_actionAddFolder_triggered()");
     connect(m_scene.get(), &QQuickWidget::sceneGraphError, this,
@@ -123,7 +129,13 @@ void MainWindow::connectModels()
 {
     connect(m_parts.proxyModel, &ProxyModel::showFoundChanged, this, &MainWindow::onProxyShowFoundChanged);
     onProxyShowFoundChanged(m_parts.proxyModel->showFound());
-    connect(m_parts.mainModel, &MainModel::activeCountChanged, this, &MainWindow::updateStatusLabel);
+    m_statusUpdate.setSingleShot(true);
+    m_statusUpdate.setInterval(0);
+    connect(&m_statusUpdate, &QTimer::timeout, this, &MainWindow::updateStatusLabel);
+    connect(m_parts.mainModel, &MainModel::activeCountChanged, &m_statusUpdate, qOverload<>(&QTimer::start));
+    m_forceNext.setInterval(0);
+    connect(&m_forceNext, &QTimer::timeout, this, &MainWindow::forceSomeSearches);
+    connect(m_editGuard, &LyricsEditGuard::draftKept, m_scene.get(), &SceneWidget::focusLyrics);
     connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
     connect(m_parts.folderScanner, &FolderScanner::filesLeftOut, m_status, &StatusLine::addUnusableNames);
     connect(m_parts.mainModel, &MainModel::writesFailed, m_status, &StatusLine::showWritesFailed);
@@ -262,7 +274,7 @@ int MainWindow::unsavedAmong(const QVector<quint16> &ids) const
         std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_parts.mainModel->hasUnsavedLyrics(id); }));
 }
 
-// Lyrics that could not be written stand in the list only; they are given up after a question.
+// Lyrics whose write failed or is under way stand in the list only; they are given up after a question.
 void MainWindow::beforeLosing(int unsaved, const std::function<void()> &action)
 {
     if (unsaved == 0) {
@@ -271,7 +283,7 @@ void MainWindow::beforeLosing(int unsaved, const std::function<void()> &action)
     }
     auto *box = new QMessageBox(
         QMessageBox::Warning, QString(),
-        tr("The lyrics of %n song(s) could not be written and stand in the list only.", nullptr, unsaved),
+        tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
         QMessageBox::Discard | QMessageBox::Cancel, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(tr("Do you want to give them up?"));
@@ -285,14 +297,16 @@ void MainWindow::beforeLosing(int unsaved, const std::function<void()> &action)
 
 void MainWindow::clearList()
 {
-    m_editGuard->before(
-        [this] { beforeLosing(m_parts.mainModel->unsavedCount(), [this] { m_parts.proxyModel->removeAll(); }); });
+    m_editGuard->before([this] {
+        beforeLosing(m_parts.mainModel->idsWithUnsavedLyrics().size(), [this] { m_parts.proxyModel->removeAll(); });
+    });
 }
 
 void MainWindow::on_actionRemoveWithLyrics_triggered()
 {
     const auto remove = [this] {
-        beforeLosing(m_parts.mainModel->unsavedCount(), [this] { m_parts.mainModel->removeWithLyrics(); });
+        beforeLosing(m_parts.mainModel->idsWithUnsavedLyrics().size(),
+                     [this] { m_parts.mainModel->removeWithLyrics(); });
     };
     const ModelItem *edited = m_lyricsEdit->song();
     edited && !edited->lyricsTag().isEmpty() ? m_editGuard->before(remove) : remove();
@@ -318,9 +332,26 @@ const ModelItem *MainWindow::itemAtRow(int row) const
 
 void MainWindow::forceSearchSelected()
 {
-    const QVector<quint16> ids = m_parts.proxyModel->selectedIds();
-    for (const quint16 id : ids)
-        m_parts.mainModel->startSearch(id);
+    QVector<quint16> ids = m_parts.proxyModel->selectedIds();
+    std::reverse(ids.begin(), ids.end());
+    m_forced = ids + m_forced;
+    m_forceNext.start();
+    forceSomeSearches();
+}
+
+void MainWindow::forceSomeSearches()
+{
+    QElapsedTimer turn;
+    turn.start();
+    while (!m_forced.isEmpty() && turn.elapsed() < longestTurn.count())
+        m_parts.mainModel->startSearch(m_forced.takeLast());
+    if (m_forced.isEmpty())
+        m_forceNext.stop();
+}
+
+void MainWindow::leaveEdit()
+{
+    m_editGuard->before([this] { m_lyricsEdit->cancel(); });
 }
 
 void MainWindow::copyPathToClipboard(int itemIndex)
@@ -406,6 +437,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::quit_app()
 {
+    // Writes under way are waited for at the end of the program, and are no reason to ask.
     if (!m_quitting)
         m_editGuard->before([this] { beforeLosing(m_parts.mainModel->unsavedCount(), [this] { askToQuit(); }); });
 }

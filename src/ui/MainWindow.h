@@ -7,6 +7,8 @@
 
 #include <QMainWindow>
 #include <QStringList>
+#include <QTimer>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -57,7 +59,10 @@ public slots:
     // Removing asks first when a modified draft of lyrics would be lost. `clearList` leaves hidden songs in the list.
     void clearList();
     void removeSelected();
+    // Many songs are queued in slices, from the event loop.
     void forceSearchSelected();
+    // Ends the edit of lyrics; a modified draft is asked about first.
+    void leaveEdit();
     // Rows are those of the list as it is shown. A row, an id or an address that is not there is ignored.
     void copyPathToClipboard(int itemIndex);
     void searchLyricsInBrowser(int itemIndex);
@@ -111,6 +116,7 @@ private:
     void connectModels();
     void setUpLinks();
     void updateActions();
+    void forceSomeSearches();
     void searchInBrowser(const ModelItem *item);
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
     void selectCurrent();
@@ -129,6 +135,9 @@ private:
     ExitWidget *m_exitWidget = nullptr; // made when it is first needed
     const SearchProvider m_searchProvider;
     bool m_quitting = false;
+    QVector<quint16> m_forced; // to be searched for, the next one last
+    QTimer m_forceNext;        // runs while there are any
+    QTimer m_statusUpdate;     // one update for all changes of a turn of the event loop
     // The last member, since it has to go before what it shows.
     const std::unique_ptr<SceneWidget> m_scene;
 };

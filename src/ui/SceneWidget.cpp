@@ -56,7 +56,7 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     initPictures();
     setResizeMode(SizeRootObjectToView);
     setAcceptDrops(true);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     for (const auto &[name, object] : names)
         rootContext()->setContextProperty(name, object);
     auto *covers = new FileImageProvider;
@@ -108,6 +108,43 @@ void SceneWidget::setListWidth(int width)
 {
     if (rootObject() && width > 0)
         rootObject()->setProperty(listWidthName, width);
+}
+
+int SceneWidget::leastWidth() const
+{
+    return rootObject() ? rootObject()->property("leastWidth").toInt() : 0;
+}
+
+void SceneWidget::focusLyrics()
+{
+    setFocus();
+    if (rootObject())
+        QMetaObject::invokeMethod(rootObject(), "focusLyrics");
+}
+
+QQuickItem *SceneWidget::firstTabStop() const
+{
+    return rootObject() ? rootObject()->nextItemInFocusChain(true) : nullptr;
+}
+
+bool SceneWidget::focusNextPrevChild(bool next)
+{
+    QQuickItem *current = quickWindow()->activeFocusItem();
+    QQuickItem *first = firstTabStop();
+    if (!current || !first)
+        return QWidget::focusNextPrevChild(next);
+    const bool isAtEnd = next ? current->nextItemInFocusChain(true) == first : current == first;
+    return isAtEnd ? QWidget::focusNextPrevChild(next) : QQuickWidget::focusNextPrevChild(next);
+}
+
+void SceneWidget::focusInEvent(QFocusEvent *event)
+{
+    QQuickWidget::focusInEvent(event);
+    QQuickItem *first = firstTabStop();
+    if (first && event->reason() == Qt::TabFocusReason)
+        first->forceActiveFocus(Qt::TabFocusReason);
+    else if (first && event->reason() == Qt::BacktabFocusReason)
+        first->nextItemInFocusChain(false)->forceActiveFocus(Qt::BacktabFocusReason);
 }
 
 void SceneWidget::watchFocus()

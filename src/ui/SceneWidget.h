@@ -38,7 +38,21 @@ public:
     // 5.15): Del in the lyrics would remove songs from the list.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    // The width in pixels below which the scene is cut; 0 when there is no scene.
+    [[nodiscard]] int leastWidth() const;
+
+public slots:
+    // Gives the keyboard to the lyrics that are edited.
+    void focusLyrics();
+
+protected:
+    // The Tab key goes round in the scene as one part of the window: its last item hands on to the window's buttons,
+    // and from these it comes in at the first one.
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent *event) override;
+
 private:
+    [[nodiscard]] QQuickItem *firstTabStop() const;
     void watchFocus();
 
     QPointer<QQuickItem> m_focusedText;

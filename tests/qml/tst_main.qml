@@ -28,6 +28,13 @@ Item {
         signalName: "listForceSearchSelected"
     }
 
+    SignalSpy {
+        id: copies
+
+        target: scene.item
+        signalName: "listCopyPathToClipboard"
+    }
+
     TestCase {
         id: testCase
 
@@ -48,6 +55,7 @@ Item {
             list.forceActiveFocus();
             removals.clear();
             searches.clear();
+            copies.clear();
         }
 
         function cleanup() {
@@ -163,6 +171,54 @@ Item {
             keyClick(Qt.Key_F10, Qt.ShiftModifier);
             tryCompare(menu, "__popupVisible", true);
             compare(menu.row, 1);
+        }
+
+        function test_the_menu_keeps_to_its_song() {
+            proxyModel.currentIndex = 6;
+            keyClick(Qt.Key_F10, Qt.ShiftModifier);
+            tryCompare(menu, "__popupVisible", true);
+            mainModel.removeWithLyrics();
+            menu.copyPath();
+            compare(copies.signalArguments[0][0], proxyModel.currentIndex);
+            mainModel.removeAll();
+            menu.copyPath();
+            compare(copies.signalArguments[1][0], -1);
+        }
+
+        function test_several_songs_are_selected_by_key() {
+            proxyModel.currentIndex = 2;
+            keyClick(Qt.Key_Down, Qt.ShiftModifier);
+            keyClick(Qt.Key_Down, Qt.ShiftModifier);
+            compare(proxyModel.selectedCount, 3);
+            keyClick(Qt.Key_Home, Qt.ShiftModifier);
+            compare(proxyModel.selectedCount, 3);
+            verify(proxyModel.isSelected(0) && !proxyModel.isSelected(3));
+            keyClick(Qt.Key_Down, Qt.ControlModifier);
+            compare(proxyModel.currentIndex, 1);
+            keyClick(Qt.Key_Space, Qt.ControlModifier);
+            compare(proxyModel.selectedCount, 2);
+            verify(!proxyModel.isSelected(1));
+            keyClick(Qt.Key_Down);
+            compare(proxyModel.selectedCount, 1);
+        }
+
+        function test_typed_names_are_saved_with_the_lyrics_data() {
+            return [{ tag: "from the song", away: false, key: Qt.Key_Z, name: "z" }];
+        }
+
+        function test_typed_names_are_saved_with_the_lyrics(row) {
+            proxyModel.currentIndex = 0;
+            tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
+            root.editLyrics();
+            mainWindow.lyricsEdit.text = "draft";
+            findChild(root, "artistField").forceActiveFocus();
+            keyClick(row.key);
+            if (row.away)
+                proxyModel.currentIndex = 1;
+            verify(mainWindow.song(0).artistTag !== row.name);
+            root.saveLyrics();
+            compare(mainWindow.song(0).artistTag, row.name);
+            tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
         }
 
         function test_a_search_discards_the_draft_and_takes_typed_names_over() {

@@ -26,11 +26,14 @@ TestCase {
             { tag: "with lyrics, never searched for", properties: { hasLyrics: true }, light: "green", word: "", line: "" },
             { tag: "nothing found", properties: { processState: ModelItem.ProcessComplete }, light: "", word: "no lyrics found", line: "no lyrics found" },
             { tag: "search failed", properties: { processState: ModelItem.ProcessComplete, errorString: "down" }, light: "", word: "no lyrics found", line: "down" },
-            { tag: "write failed", properties: { processState: ModelItem.ProcessComplete, hasLyrics: true, errorString: "disk full" }, light: "green", word: "not saved", line: "disk full" },
+            { tag: "search failed for a song with lyrics", properties: { processState: ModelItem.ProcessComplete, hasLyrics: true, errorString: "down" }, light: "green", word: "search failed", line: "down" },
+            { tag: "nothing found for a song with lyrics", properties: { processState: ModelItem.ProcessComplete, hasLyrics: true, foundNothing: true }, light: "green", word: "no lyrics found", line: "no lyrics found" },
+            { tag: "write failed", properties: { processState: ModelItem.ProcessComplete, hasLyrics: true, unsaved: true, errorString: "disk full" }, light: "green", word: "not saved", line: "disk full" },
             { tag: "failed", properties: { processState: ModelItem.ProcessFailed }, light: "", word: "failed", line: "failed" },
             { tag: "no names", properties: { processState: ModelItem.ProcessNotSuitable }, light: "red", word: "no names", line: "A search needs an artist and a title." },
             { tag: "its reader died", properties: { processState: ModelItem.ProcessNotSuitable, errorString: "broken" }, light: "red", word: "cannot be read", line: "broken" },
             { tag: "bad file", properties: { tagsLoaded: true, badFile: true, hasLyrics: true, processState: ModelItem.ProcessComplete }, light: "red", word: "cannot be read", line: "This file cannot be read." },
+            { tag: "of unknown length, searched for", properties: { tagsLoaded: true, badFile: true, processState: ModelItem.ProcessWorking }, light: "yellow", word: "searching...", line: "searching..." },
             { tag: "bad, but not read yet", properties: { badFile: true, processState: ModelItem.ProcessWaiting }, light: "yellow", word: "queued", line: "in queue to search..." }
         ];
     }

@@ -93,6 +93,8 @@ private slots:
     void quittingAsksWhileSongsAreSearchedFor();
     void aDraftIsAskedAbout_data();
     void aDraftIsAskedAbout();
+    void aRightClickAwayFromADraftAsksAndOpensNoMenu();
+    void escapeOutsideTheLyricsAsksFirst();
     void anUnchangedDraftGoesQuietly();
     void rowsAreSelectedHiddenAndRemovedByKey();
     void theListIsSavedWhenThatIsWanted_data();
@@ -228,8 +230,14 @@ void tst_MainWindow::theKeyboardReachesListAndLyrics()
         QTest::keyClick(scene, Qt::Key_Tab);
     QTest::keyClick(scene, Qt::Key_PageDown);
     QVERIFY(top() < atBeginning - 100);
-    for (int tabs = 0; tabs < 30 && !list->hasActiveFocus(); ++tabs)
-        QTest::keyClick(scene, Qt::Key_Tab);
+    bool reachedGear = false; // the way round leads through the window's own buttons
+    for (int tabs = 0; tabs < 30 && !list->hasActiveFocus(); ++tabs) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reachedGear = reachedGear || QApplication::focusWidget()->objectName() == QLatin1String("gearButton");
+    }
+    QVERIFY(reachedGear);
+    scene->setFocus();
+    list->forceActiveFocus();
     QTest::keyClick(scene, Qt::Key_Down);
     QCOMPARE(list->property("currentIndex").toInt(), 1);
     QCOMPARE(top(), atBeginning); // another song begins at its beginning
@@ -256,17 +264,17 @@ void tst_MainWindow::keysOfTheEditWorkFromTheList()
 void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
 {
     const auto *progress = m_window->findChild<QProgressBar *>();
-    QVERIFY(!progress->isVisible());
+    QTRY_VERIFY(!progress->isVisible());
     addCopies(4);
     for (int row = 0; row < 4; ++row)
         m_model->itemAt(row)->setProcessState(ModelItem::ProcessWaiting);
     m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
-    QVERIFY(labels().contains(QStringLiteral("Searching... 3 left...")));
-    QVERIFY(progress->isVisible());
-    QCOMPARE(progress->value() * 4, progress->maximum());
+    QTRY_VERIFY(labels().contains(QStringLiteral("Searching... 3 left...")));
+    QTRY_VERIFY(progress->isVisible());
+    QTRY_COMPARE(progress->value() * 4, progress->maximum());
     m_model->removeAll();
-    QVERIFY(!progress->isVisible());
-    QVERIFY(labels().filter(QStringLiteral("Searching")).isEmpty());
+    QTRY_VERIFY(!progress->isVisible());
+    QTRY_VERIFY(labels().filter(QStringLiteral("Searching")).isEmpty());
 }
 
 void tst_MainWindow::noticesStandSideBySide()
@@ -611,6 +619,43 @@ void tst_MainWindow::aDraftIsAskedAbout()
     again.setReaderProgram(QStringLiteral(VERSEWELL_READER));
     again.add({url});
     QTRY_COMPARE(again.itemAt(0)->lyricsTag(), QStringLiteral("new"));
+}
+
+void tst_MainWindow::aRightClickAwayFromADraftAsksAndOpensNoMenu()
+{
+    LyricsEdit *edit = m_window->lyricsEdit();
+    addCopies(3);
+    m_proxy->setCurrentIndex(0);
+    edit->begin(m_model->itemAt(0));
+    edit->setText(QStringLiteral("new"));
+    QTest::mouseClick(scene(), Qt::RightButton, {}, QPoint(150, 150));
+    QTRY_VERIFY(m_window->findChild<QMessageBox *>());
+    QVERIFY(!m_window->findChild<QQuickWidget *>()
+                 ->rootObject()
+                 ->findChild<QObject *>(QStringLiteral("songMenu"))
+                 ->property("__popupVisible")
+                 .toBool());
+    edit->cancel(); // behind the question, whose answer counts nevertheless
+    m_window->findChild<QMessageBox *>()->button(QMessageBox::Save)->click();
+    QCOMPARE(m_model->itemAt(0)->lyricsTag(), QStringLiteral("new"));
+    QTRY_COMPARE(m_model->itemAt(0)->processState(), ModelItem::ProcessComplete);
+}
+
+void tst_MainWindow::escapeOutsideTheLyricsAsksFirst()
+{
+    LyricsEdit *edit = m_window->lyricsEdit();
+    addCopies(1);
+    m_proxy->setCurrentIndex(0);
+    edit->begin(m_model->itemAt(0));
+    edit->setText(QStringLiteral("new"));
+    sceneItem(QStringLiteral("songList"))->forceActiveFocus();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    QTRY_VERIFY(m_window->findChild<QMessageBox *>());
+    m_window->findChild<QMessageBox *>()->button(QMessageBox::Cancel)->click();
+    QCOMPARE(edit->text(), QStringLiteral("new"));
+    QTRY_VERIFY(!m_window->findChild<QMessageBox *>());
+    QApplication::setActiveWindow(m_window.get());
+    edit->cancel();
 }
 
 void tst_MainWindow::anUnchangedDraftGoesQuietly()
