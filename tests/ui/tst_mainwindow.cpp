@@ -268,6 +268,7 @@ void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
     addCopies(4);
     for (int row = 0; row < 4; ++row)
         m_model->itemAt(row)->setProcessState(ModelItem::ProcessWaiting);
+    QTRY_VERIFY(labels().contains(QStringLiteral("Searching... 4 left...")));
     m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
     QTRY_VERIFY(labels().contains(QStringLiteral("Searching... 3 left...")));
     QTRY_VERIFY(progress->isVisible());
