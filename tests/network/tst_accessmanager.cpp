@@ -355,6 +355,37 @@ private slots:
                  qPrintable(replies[6]->errorString()));
     }
 
+    void aPauseHoldsForTheStartOfItsChainToo()
+    {
+        LoopbackServer another;
+        another.route(QStringLiteral("/page"), withRetryAfter(429, "30"));
+        QNetworkRequest request(another.url("/page"));
+        request.setAttribute(AccessManager::ChainStartAttribute, m_server->url("/start"));
+        get(request);
+        QCOMPARE(get("/start")->error(), QNetworkReply::ServiceUnavailableError);
+        m_manager->useProxy(QNetworkProxy::NoProxy); // as before
+        QCOMPARE(get("/start")->error(), QNetworkReply::ServiceUnavailableError);
+        m_manager->useProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 9});
+        m_manager->useProxy(QNetworkProxy::NoProxy);
+        QCOMPARE(get("/start")->error(), QNetworkReply::ContentNotFoundError);
+    }
+
+    // The server plays the proxy.
+    void aProxyThatWantsAnotherLoginGetsNoneAndBlocksNothing()
+    {
+        m_server->routeOthers([](const LoopbackRequest &) {
+            return LoopbackResponse::error(407).with("Proxy-Authenticate", "Digest realm=\"a\", nonce=\"b\"");
+        });
+        m_manager->useProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"),
+                             quint16(QUrl(m_server->base()).port()), QStringLiteral("nora"), QStringLiteral("word")});
+        const QNetworkRequest request(QUrl(QStringLiteral("http://page.example/")));
+        get(request);
+        QVERIFY(get(request)->errorString().contains(QLatin1String("of a kind that is not known")));
+        QCOMPARE(m_server->requests().size(), 2);
+        for (const LoopbackRequest &sent : m_server->requests())
+            QCOMPARE(sent.header("Proxy-Authorization"), QByteArray());
+    }
+
     void waitingRequestsGoOutInOrder()
     {
         m_server->route(QStringLiteral("/hang"), hanging());
