@@ -4,7 +4,7 @@
 
 #include "tags/TagReaderService.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -12,7 +12,8 @@ int main(int argc, char **argv)
 {
     if (tags::isReaderCall(argc, argv))
         return tags::runReader(argc, argv);
-    const QCoreApplication app(argc, argv);
+    qputenv("QMLSCENE_DEVICE", "softwarecontext"); // as the program does
+    const QApplication app(argc, argv);
     const QTemporaryDir configuration;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, configuration.path());
     QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
@@ -25,5 +26,6 @@ int main(int argc, char **argv)
     benchScanning();
     benchPages();
     benchSearching();
+    benchWindow();
     return 0;
 }
