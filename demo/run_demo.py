@@ -22,9 +22,6 @@ from sites import LYRICS_SITES, LastfmService
 
 TOP = pathlib.Path(__file__).resolve().parent.parent
 TIME_LIMIT_SECONDS = 90
-# The window's first size, so that the picture shows the window and nothing around it.
-SCALE = float(os.environ.get("QT_SCALE_FACTOR") or 1)
-SCREEN_SIZE = f"{round(1040 * SCALE)}x{round(680 * SCALE)}x24"
 
 
 def arguments():
@@ -46,20 +43,24 @@ def same_words(found, expected):
     return found is not None and found.replace("\r\n", "\n").strip() == expected
 
 
+def all_asked(sites):
+    """Whether every song was searched for and no site is asked any more."""
+    titles = {song.title for song in songs.SONGS if song.is_audio and not song.own_lyrics}
+    return titles <= {request.query.get("q") for request in sites.requests()} and not sites.open_requests()
+
+
+def all_found(sites, paths):
+    """Whether, besides, the songs of these paths have the lyrics that they are to have."""
+    return all_asked(sites) and all(same_words(tags.lyrics_of(path), song.expected)
+                                    for path, song in zip(paths, songs.SONGS) if song.expected)
+
+
 def run_on_virtual_screen(program, screen, sites, paths, picture):
     """Waits until every song is done, takes the picture and ends the program; True when all went well."""
-    expected = [(path, song.expected) for path, song in zip(paths, songs.SONGS) if song.expected]
-    asked = {song.title for song in songs.SONGS if song.is_audio and not song.own_lyrics}
-
     def ended():
         return program.poll() is not None
 
-    def done():
-        heard = {request.query.get("q") for request in sites.requests()}
-        return asked <= heard and not sites.open_requests() and all(
-            same_words(tags.lyrics_of(path), words) for path, words in expected)
-
-    finished = stage.wait_until(lambda: ended() or done(), TIME_LIMIT_SECONDS) and not ended()
+    finished = stage.wait_until(lambda: ended() or all_found(sites, paths), TIME_LIMIT_SECONDS) and not ended()
     if ended():
         print(f"The program ended by itself with status {program.returncode}.")
         return False
@@ -107,7 +108,7 @@ def main():
 
     with contextlib.ExitStack() as stack:
         virtual = not (os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY"))
-        screen = stack.enter_context(stage.Screen(SCREEN_SIZE)) if virtual else None
+        screen = stack.enter_context(stage.Screen(stage.window_size(os.environ.get("QT_SCALE_FACTOR") or 1))) if virtual else None
         sites = stack.enter_context(Sites(*all_sites()))
         place = stack.enter_context(stage.Stage(options.program, screen.display if screen else None))
         print("Making the songs...", flush=True)

@@ -12,6 +12,11 @@ import time
 FOLDERS = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
 
 
+def window_size(scale=1):
+    """A screen as large as the program's window is at first, so that a picture shows the window and nothing around it."""
+    return f"{round(1040 * float(scale))}x{round(680 * float(scale))}x24"
+
+
 def wait_until(condition, seconds, step=0.1):
     """Waits until the condition holds; tells whether it did within the time."""
     end = time.monotonic() + seconds
@@ -50,9 +55,27 @@ class Screen:
             self.process.kill()
             self.process.wait()
 
-    def photograph(self, path):
-        """Saves what the screen shows as a picture."""
-        subprocess.run(["import", "-display", self.display, "-window", "root", str(path)], check=True)
+    def photograph(self, path, window="root"):
+        """Saves what the screen shows, or a window of that id alone, as a picture."""
+        subprocess.run(["import", "-display", self.display, "-window", window, str(path)], check=True)
+
+    def xdotool(self, *words):
+        """Hands this to the command xdotool, which presses keys and finds windows; the words that it answers."""
+        done = subprocess.run(["xdotool", *map(str, words)], env={**os.environ, "DISPLAY": self.display},
+                              capture_output=True, text=True, check=False)
+        return done.stdout.split()
+
+    def windows(self, title):
+        """The ids of all windows with this title that can be seen."""
+        return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+
+    def focus(self, title, seconds=30):
+        """Waits for the window with this title and gives it the keyboard; its id, None when it did not come."""
+        wait_until(lambda: self.windows(title), seconds)
+        window = next(iter(self.windows(title)), None)
+        if window:
+            self.xdotool("windowfocus", "--sync", window)
+        return window
 
 
 class Stage:

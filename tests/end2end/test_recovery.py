@@ -4,7 +4,6 @@
 import os
 import pathlib
 import signal
-import subprocess
 import unittest
 
 import rig
@@ -15,38 +14,29 @@ STARTED_SECONDS = 30
 class RecoveryTest(unittest.TestCase):
     def setUp(self):
         self.session = self.enterContext(rig.Session({"Amber Gate": rig.words_for("Amber Gate")}))
+        self.screen = self.session.screen
         songs = rig.Songs(self.session.music)
         self.paths = [songs.make("Amber Gate.mp3", {"artist": rig.ARTIST, "title": "Amber Gate"})]
 
-    def xdotool(self, *words):
-        done = subprocess.run(["xdotool", *words], env={**os.environ, "DISPLAY": self.session.screen.display},
-                              capture_output=True, text=True, check=False)
-        return done.stdout.split()
-
     def start_with_shift(self):
-        self.xdotool("keydown", "shift")
+        self.screen.xdotool("keydown", "shift")
         program = self.session.start(self.paths, settings={"openGlMethod": "2", "lyricsFontSize": "17"})
         self.window("OpenGL settings")
-        self.xdotool("keyup", "shift")
+        self.screen.xdotool("keyup", "shift")
         return program
-
-    def visible(self, title):
-        return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
 
     def window(self, title):
         """Waits for the window with this title and gives it the keyboard."""
-        shown = rig.wait_until(lambda: self.visible(title), STARTED_SECONDS)
-        self.assertTrue(shown, f'no window "{title}"' + self.session.messages())
-        self.xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowfocus", "--sync")
+        self.assertIsNotNone(self.screen.focus(title, STARTED_SECONDS), f'no window "{title}"' + self.session.messages())
 
     def test_clearing_starts_a_new_program_with_default_settings(self):
         first = self.start_with_shift()
-        self.xdotool("key", "space")
+        self.screen.xdotool("key", "space")
         self.window("Clear settings")
-        self.xdotool("key", "alt+y")
-        self.assertTrue(rig.wait_until(lambda: not self.visible("Clear settings"), STARTED_SECONDS), "Yes was not taken")
+        self.screen.xdotool("key", "alt+y")
+        self.assertTrue(rig.wait_until(lambda: not self.screen.windows("Clear settings"), STARTED_SECONDS), "Yes was not taken")
         self.window("OpenGL settings")
-        self.xdotool("key", "Return")
+        self.screen.xdotool("key", "Return")
         self.assertEqual(first.wait(STARTED_SECONDS), 2, self.session.messages())
         path = str(self.session.stage.program)
         rig.wait_until(lambda: self.started_by_itself(), STARTED_SECONDS)
@@ -65,7 +55,7 @@ class RecoveryTest(unittest.TestCase):
     def test_ok_alone_goes_on_with_the_list(self):
         program = self.start_with_shift()
         self.assertEqual(self.session.sites.requests(), [], "the list was worked on before the question was answered")
-        self.xdotool("key", "Return")
+        self.screen.xdotool("key", "Return")
         self.assertEqual(self.session.wait_for_lyrics(program, self.paths), [], self.session.messages())
         self.assertEqual(rig.end(program), 0, self.session.messages())
 
