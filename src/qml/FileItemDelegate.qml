@@ -78,7 +78,17 @@ Item {
         fillMode: Image.PreserveAspectCrop
     }
 
+    // The picture of no cover lets its ground through, and is not seen on the highlight colour.
+    Rectangle {
+        anchors.fill: cover
+        radius: Measures.radius
+        color: row.selected ? appPalette.listItemBackground : "transparent"
+        visible: noCover.visible
+    }
+
     Image {
+        id: noCover
+
         anchors.fill: cover
         source: "qrc:/img/no-coverart.png"
         visible: cover.status !== Image.Ready
@@ -169,6 +179,14 @@ Item {
         font.pixelSize: Measures.smallFont
         color: row.textColor
         opacity: row.quiet
+    }
+
+    // A rim, so that the light stands out from the highlight colour.
+    Rectangle {
+        anchors { fill: light; margins: -1 }
+        radius: width / 2
+        color: appPalette.listItemBackground
+        visible: row.selected && light.width > 0
     }
 
     Image {
