@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -110,7 +111,6 @@ void WindowActions::createToolBar(QMainWindow *window)
     m_toolBar->setMovable(false);
     m_toolBar->setFloatable(false);
     m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
-    m_toolBar->setContentsMargins(8, 4, 8, 4);
     m_toolBar->setIconSize(toolIconSize);
     m_toolBar->setStyleSheet(QStringLiteral("QToolBar { border: none; spacing: 0px }"));
     m_toolBar->addActions({addFile, addFolder});
@@ -120,6 +120,7 @@ void WindowActions::createToolBar(QMainWindow *window)
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_toolBar->addWidget(gap);
     createGearButton(m_toolBar);
+    m_toolBar->layout()->setContentsMargins(4, 4, 8, 4); // the bar's own margins would only make it larger
 }
 
 void WindowActions::createGearButton(QToolBar *bar)
