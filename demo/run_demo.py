@@ -9,7 +9,6 @@ import argparse
 import contextlib
 import os
 import pathlib
-import signal
 import subprocess
 import sys
 
@@ -102,10 +101,7 @@ def main():
         sys.exit(f"{options.program} does not exist; build it first.")
     if options.keep and options.keep.exists() and (not options.keep.is_dir() or any(options.keep.iterdir())):
         sys.exit(f"{options.keep} holds files already; name a folder that is empty or not there yet.")
-    # A request to end unwinds like any other way out, so that nothing is left behind.
-    for number in (signal.SIGTERM, signal.SIGHUP):
-        signal.signal(number, lambda *_: sys.exit(1))
-
+    stage.unwind_on_signals()
     with contextlib.ExitStack() as stack:
         virtual = not (os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY"))
         screen = stack.enter_context(stage.Screen(stage.window_size(os.environ.get("QT_SCALE_FACTOR") or 1))) if virtual else None

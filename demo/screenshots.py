@@ -124,10 +124,8 @@ class Show:
         return program
 
     def focus(self, title):
-        window = self.screen.focus(title, WAIT_SECONDS)
-        if window is None:
-            raise RuntimeError(f'There is no window "{title}".')
-        return window
+        self.wait_for(lambda: self.screen.windows(title), f'the window "{title}"')
+        return self.screen.focus(title)
 
     def keys(self, *names):
         self.screen.xdotool("key", "--delay", 60, *names)
@@ -145,7 +143,7 @@ class Show:
 
     def wait_for(self, condition, what):
         if not stage.wait_until(condition, WAIT_SECONDS):
-            print(f"{self.appearance.name}: waited in vain for {what}", file=sys.stderr)
+            sys.exit(f"{self.appearance.name}: waited in vain for {what}")
 
     def settled(self):
         """Waits until the screen is the same for a moment."""
@@ -306,6 +304,7 @@ def arguments():
 
 def main():
     options = arguments()
+    stage.unwind_on_signals()
     options.folder.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as music:
         make_music(pathlib.Path(music))

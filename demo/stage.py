@@ -6,6 +6,7 @@ import pathlib
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -25,6 +26,12 @@ def wait_until(condition, seconds, step=0.1):
             return False
         time.sleep(step)
     return True
+
+
+def unwind_on_signals():
+    """A request to end this script unwinds like any other way out, so that nothing is left behind."""
+    for number in (signal.SIGTERM, signal.SIGHUP):
+        signal.signal(number, lambda *_: sys.exit(1))
 
 
 class Screen:
