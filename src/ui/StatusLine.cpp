@@ -40,6 +40,7 @@ void StatusLine::setSearchesLeft(int left)
     m_done = left == 0 ? 0 : m_done + qMax(0, m_left - left);
     m_left = left;
     m_label->setText(left > 0 ? tr("Searching... %n left...", nullptr, left) : QString());
+    m_label->setVisible(left > 0); // an empty one would push the notices to the right
     m_progress->setRange(0, qMax(1, m_done + left));
     m_progress->setValue(m_done);
     m_progress->setVisible(left > 0);
@@ -131,7 +132,7 @@ QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
     button->setAccessibleDescription(text);
     connect(button, &QToolButton::clicked, this, [this, notice] { dismiss(notice); });
     auto *layout = new QHBoxLayout(widget);
-    layout->setContentsMargins(8, 0, 0, 0);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
     layout->addWidget(label);
     layout->addWidget(button);
