@@ -84,6 +84,7 @@ void WindowActions::createActions(QMainWindow *window)
         action->setMenuRole(row.role);
         if (row.icon)
             action->setIcon(QIcon(QLatin1String(row.icon)));
+        action->setIconVisibleInMenu(false); // it would not be seen on the highlight colour
         if (row.shortcut)
             action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
         this->*row.action = action;
