@@ -116,6 +116,11 @@ void LyricsProvider::carryOut(const ProviderStep &step)
 void LyricsProvider::send(QNetworkRequest request)
 {
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    // A site is left alone as a whole when one of its servers asks for a pause.
+    if (m_chainStart.isEmpty())
+        m_chainStart = request.url();
+    else
+        request.setAttribute(AccessManager::ChainStartAttribute, m_chainStart);
     QNetworkReply *reply = accessManager()->get(request);
     m_reply = reply;
     connect(reply, &QNetworkReply::finished, this, [this, reply] { replyFinished(reply); });
@@ -159,6 +164,7 @@ void LyricsProvider::readPage(QNetworkReply &reply)
 // Every result leaves here, whichever site it comes from: this is the place to look at it as a whole.
 void LyricsProvider::finish(const ProviderStep &result, const QByteArray &failure)
 {
+    m_chainStart.clear();
     m_readPage = {};
     m_errorString = result.errorString();
     m_busy = false;

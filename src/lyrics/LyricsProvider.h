@@ -7,6 +7,7 @@
 #include <QNetworkReply>
 #include <QObject>
 #include <QPointer>
+#include <QUrl>
 
 // The client of one lyrics site, for one search at a time. This class is the whole frame: it alone chooses the access
 // manager, sends, follows redirects, maps errors, decodes pages, releases replies and emits finished().
@@ -78,6 +79,7 @@ private:
     QPointer<QNetworkReply> m_reply;
     ProviderStep::PageFunction m_readPage;
     QString m_errorString;
+    QUrl m_chainStart; // address of the search's first request
     int m_redirects = 0;
     bool m_busy = false;
 };

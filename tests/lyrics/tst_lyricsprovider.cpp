@@ -219,6 +219,21 @@ private slots:
         QCOMPARE(m_server->mostConnections(), 1);
     }
 
+    // The pause is wished for by another server than the one that is asked first.
+    void leavesASiteAloneAsAWhole()
+    {
+        LoopbackServer other;
+        other.route("/busy"_s, LoopbackResponse::error(429).with("Retry-After", "30"));
+        m_server->route("/busy"_s, redirectPage(301, other.base().toUtf8() + "/busy"));
+        AccessManager manager;
+        PageSite site(&manager, m_server->url("/busy"));
+        QVERIFY(result(site).isEmpty());
+        const int requests = m_server->requests().size();
+        QVERIFY(result(site).isEmpty());
+        QCOMPARE(m_server->requests().size(), requests);
+        QVERIFY(!site.errorString().isEmpty());
+    }
+
     void abortsTheRequestWhenDestroyed()
     {
         auto site = std::make_unique<PageSite>(&m_manager, m_server->url("/hang"));
