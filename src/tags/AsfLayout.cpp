@@ -11,7 +11,7 @@ namespace {
 constexpr int guidBytes = 16;
 constexpr int objectHeaderBytes = guidBytes + 8;
 
-// Of the Advanced Systems Format specification, as they are stored.
+// Identifiers of the Advanced Systems Format, as they are stored.
 const QByteArray headerObject = QByteArray::fromHex("3026b2758e66cf11a6d900aa0062ce6c");
 const QByteArray contentDescription = QByteArray::fromHex("3326b2758e66cf11a6d900aa0062ce6c");
 const QByteArray extendedContentDescription = QByteArray::fromHex("40a4d0d207e3d21197f000a0c95ea850");
