@@ -132,8 +132,9 @@ bool SceneWidget::focusNextPrevChild(bool next)
     QQuickItem *current = quickWindow()->activeFocusItem();
     QQuickItem *first = firstTabStop();
     if (!current || !first)
-        return QWidget::focusNextPrevChild(next);
+        return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): past the scene
     const bool isAtEnd = next ? current->nextItemInFocusChain(true) == first : current == first;
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): QQuickWidget would keep the keyboard in the scene
     return isAtEnd ? QWidget::focusNextPrevChild(next) : QQuickWidget::focusNextPrevChild(next);
 }
 
