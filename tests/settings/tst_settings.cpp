@@ -253,7 +253,7 @@ private slots:
     }
 
 private:
-    const TestFolder m_folder;
+    TestFolder m_folder;
     QString m_path;
 };
 

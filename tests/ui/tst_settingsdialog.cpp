@@ -286,8 +286,11 @@ void tst_SettingsDialog::sitesAreMovedAndSwitched()
 
 void tst_SettingsDialog::sitesAreDragged()
 {
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
-        QSKIP("nothing can be dragged here; a test entry of its own does it on a screen");
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+        // QSKIP leaves an argument of a macro out, which clang minds.
+        QTest::qSkip("nothing can be dragged here; a test entry of its own does it on a screen", __FILE__, __LINE__);
+        return;
+    }
     open();
     showTab(2);
     auto *list = find<QListWidget>("orderList");
@@ -309,7 +312,7 @@ void tst_SettingsDialog::sitesAreDragged()
     for (int y = 5; y < 40; y += 5)
         QTest::mouseMove(window, inWindow(from + QPoint(0, y)));
     QTRY_COMPARE(sites(), QStringLiteral("Genius off, Megalyrics, AZLyrics, LyricsFreak, DarkLyrics, MusixMatch"));
-    QVERIFY(changes.size() > 0);
+    QVERIFY(!changes.isEmpty());
     QCOMPARE(list->count(), 6);
 }
 
