@@ -37,7 +37,9 @@ QString sample(const char *name)
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void(const Stage &)>)
+using Step = std::function<void(const Stage &)>;
+
+Q_DECLARE_METATYPE(Step)
 
 class tst_Application : public QObject
 {
@@ -164,7 +166,6 @@ private slots:
 
     void aSettingsFileThatMustNotBeReadIsNotRead_data()
     {
-        using Step = std::function<void(const Stage &)>;
         QTest::addColumn<Step>("obstacle");
         QTest::addColumn<int>("fontSize");
         QTest::newRow("all names for a copy are taken") << Step([](const Stage &stage) {
@@ -185,7 +186,7 @@ private slots:
 
     void aSettingsFileThatMustNotBeReadIsNotRead()
     {
-        QFETCH(std::function<void(const Stage &)>, obstacle);
+        QFETCH(Step, obstacle);
         QStringList namesBefore;
         Stage app({{QStringLiteral("saveFilesList"), true}}, [&](const Stage &stage) {
             stage.folder.write(stage.settingsFile, endlessLists());

@@ -272,7 +272,8 @@ void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
     m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
     QTRY_VERIFY(labels().contains(QStringLiteral("Searching... 3 left...")));
     QTRY_VERIFY(progress->isVisible());
-    QTRY_COMPARE(progress->value() * 4, progress->maximum());
+    QTRY_COMPARE(progress->maximum() - progress->value(), 3);
+    QVERIFY(progress->value() >= 1);
     m_model->removeAll();
     QTRY_VERIFY(!progress->isVisible());
     QTRY_VERIFY(labels().filter(QStringLiteral("Searching")).isEmpty());
