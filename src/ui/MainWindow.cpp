@@ -11,6 +11,7 @@
 #include "ui/AddDialogs.h"
 #include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
+#include "ui/ForcedSearches.h"
 #include "ui/LyricsEdit.h"
 #include "ui/LyricsEditGuard.h"
 #include "ui/LyricsExport.h"
@@ -23,22 +24,16 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 #include <limits>
 #include <optional>
-
-// How long the event loop may wait for a turn of a long work.
-static constexpr std::chrono::milliseconds longestTurn(15);
 
 static bool isId(int number)
 {
@@ -57,6 +52,9 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_parts(parts)
     , m_lyricsEdit(new LyricsEdit(parts.mainModel, this))
     , m_editGuard(new LyricsEditGuard(m_lyricsEdit, parts.mainModel, parts.proxyModel, this))
+    , m_unsavedGuard(parts.mainModel, this)
+    , m_removal(parts.mainModel, parts.proxyModel, m_lyricsEdit, m_editGuard, &m_unsavedGuard)
+    , m_forcedSearches(new ForcedSearches(parts.mainModel, this))
     , m_export(new LyricsExport(parts.mainModel, this))
     , m_actions(std::make_unique<WindowActions>(this))
     , m_status(new StatusLine(statusBar()))
@@ -133,8 +131,6 @@ void MainWindow::connectModels()
     m_statusUpdate.setInterval(0);
     connect(&m_statusUpdate, &QTimer::timeout, this, &MainWindow::updateStatusLabel);
     connect(m_parts.mainModel, &MainModel::activeCountChanged, &m_statusUpdate, qOverload<>(&QTimer::start));
-    m_forceNext.setInterval(0);
-    connect(&m_forceNext, &QTimer::timeout, this, &MainWindow::forceSomeSearches);
     connect(m_editGuard, &LyricsEditGuard::draftKept, m_scene.get(), &SceneWidget::focusLyrics);
     connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
     connect(m_parts.folderScanner, &FolderScanner::filesLeftOut, m_status, &StatusLine::addUnusableNames);
@@ -250,66 +246,17 @@ void MainWindow::onProxyShowFoundChanged(bool showFound)
 
 void MainWindow::removeSelected()
 {
-    const QVector<quint16> ids = m_parts.proxyModel->selectedIds();
-    const auto remove = [this, ids] {
-        beforeLosing(unsavedAmong(ids), [this] {
-            m_parts.proxyModel->removeSelected();
-            selectCurrent();
-        });
-    };
-    ids.contains(m_lyricsEdit->songId()) ? m_editGuard->before(remove) : remove();
-}
-
-// The song that takes the place of the removed ones is shown, so that the next Del goes on with it.
-void MainWindow::selectCurrent()
-{
-    const int row = m_parts.proxyModel->currentIndex();
-    m_parts.proxyModel->setCurrentIndex(-1); // a row that is current already would not be selected
-    m_parts.proxyModel->setCurrentIndex(row);
-}
-
-int MainWindow::unsavedAmong(const QVector<quint16> &ids) const
-{
-    return static_cast<int>(
-        std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_parts.mainModel->hasUnsavedLyrics(id); }));
-}
-
-// Lyrics whose write failed or is under way stand in the list only; they are given up after a question.
-void MainWindow::beforeLosing(int unsaved, const std::function<void()> &action)
-{
-    if (unsaved == 0) {
-        action();
-        return;
-    }
-    auto *box = new QMessageBox(
-        QMessageBox::Warning, QString(),
-        tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
-        QMessageBox::Discard | QMessageBox::Cancel, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(tr("Do you want to give them up?"));
-    box->setDefaultButton(QMessageBox::Cancel);
-    connect(box, &QMessageBox::finished, this, [action](int answer) {
-        if (answer == QMessageBox::Discard)
-            action();
-    });
-    box->open();
+    m_removal.removeSelected();
 }
 
 void MainWindow::clearList()
 {
-    m_editGuard->before([this] {
-        beforeLosing(m_parts.mainModel->idsWithUnsavedLyrics().size(), [this] { m_parts.proxyModel->removeAll(); });
-    });
+    m_removal.removeAll();
 }
 
 void MainWindow::on_actionRemoveWithLyrics_triggered()
 {
-    const auto remove = [this] {
-        beforeLosing(m_parts.mainModel->idsWithUnsavedLyrics().size(),
-                     [this] { m_parts.mainModel->removeWithLyrics(); });
-    };
-    const ModelItem *edited = m_lyricsEdit->song();
-    edited && !edited->lyricsTag().isEmpty() ? m_editGuard->before(remove) : remove();
+    m_removal.removeWithLyrics();
 }
 
 void MainWindow::on_actionClearList_triggered()
@@ -332,21 +279,7 @@ const ModelItem *MainWindow::itemAtRow(int row) const
 
 void MainWindow::forceSearchSelected()
 {
-    QVector<quint16> ids = m_parts.proxyModel->selectedIds();
-    std::reverse(ids.begin(), ids.end());
-    m_forced = ids + m_forced;
-    m_forceNext.start();
-    forceSomeSearches();
-}
-
-void MainWindow::forceSomeSearches()
-{
-    QElapsedTimer turn;
-    turn.start();
-    while (!m_forced.isEmpty() && turn.elapsed() < longestTurn.count())
-        m_parts.mainModel->startSearch(m_forced.takeLast());
-    if (m_forced.isEmpty())
-        m_forceNext.stop();
+    m_forcedSearches->add(m_parts.proxyModel->selectedIds());
 }
 
 void MainWindow::leaveEdit()
@@ -437,9 +370,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::quit_app()
 {
-    // Writes under way are waited for at the end of the program, and are no reason to ask.
     if (!m_quitting)
-        m_editGuard->before([this] { beforeLosing(m_parts.mainModel->unsavedCount(), [this] { askToQuit(); }); });
+        m_editGuard->before([this] { m_unsavedGuard.beforeQuitting([this] { askToQuit(); }); });
 }
 
 void MainWindow::askToQuit()

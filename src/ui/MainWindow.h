@@ -4,17 +4,18 @@
 #include "lyrics/SearchProvider.h"
 #include "ui/LyricsEdit.h"
 #include "ui/SceneWidget.h"
+#include "ui/SongRemoval.h"
+#include "ui/UnsavedLyricsGuard.h"
 
 #include <QMainWindow>
 #include <QStringList>
 #include <QTimer>
-#include <QVector>
 
-#include <functional>
 #include <memory>
 
 class AppPalette;
 class ExitWidget;
+class ForcedSearches;
 class FolderScanner;
 class LyricsEditGuard;
 class LyricsExport;
@@ -116,12 +117,8 @@ private:
     void connectModels();
     void setUpLinks();
     void updateActions();
-    void forceSomeSearches();
     void searchInBrowser(const ModelItem *item);
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
-    void selectCurrent();
-    [[nodiscard]] int unsavedAmong(const QVector<quint16> &ids) const;
-    void beforeLosing(int unsaved, const std::function<void()> &action);
     void askToQuit();
     [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;
@@ -129,15 +126,16 @@ private:
     const Parts m_parts;
     LyricsEdit *const m_lyricsEdit;
     LyricsEditGuard *const m_editGuard;
+    UnsavedLyricsGuard m_unsavedGuard;
+    SongRemoval m_removal;
+    ForcedSearches *const m_forcedSearches;
     LyricsExport *const m_export;
     const std::unique_ptr<WindowActions> m_actions;
     StatusLine *const m_status;
     ExitWidget *m_exitWidget = nullptr; // made when it is first needed
     const SearchProvider m_searchProvider;
     bool m_quitting = false;
-    QVector<quint16> m_forced; // to be searched for, the next one last
-    QTimer m_forceNext;        // runs while there are any
-    QTimer m_statusUpdate;     // one update for all changes of a turn of the event loop
+    QTimer m_statusUpdate; // one update for all changes of a turn of the event loop
     // The last member, since it has to go before what it shows.
     const std::unique_ptr<SceneWidget> m_scene;
 };

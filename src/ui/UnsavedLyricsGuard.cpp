@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ui/UnsavedLyricsGuard.h"
+
+#include "model/MainModel.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+#include <utility>
+
+UnsavedLyricsGuard::UnsavedLyricsGuard(const MainModel *model, QWidget *window)
+    : m_model(model)
+    , m_window(window)
+{
+}
+
+void UnsavedLyricsGuard::beforeRemoving(const QVector<quint16> &ids, std::function<void()> action)
+{
+    const auto unsaved =
+        std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_model->hasUnsavedLyrics(id); });
+    before(static_cast<int>(unsaved), std::move(action));
+}
+
+void UnsavedLyricsGuard::beforeRemovingAny(std::function<void()> action)
+{
+    before(m_model->idsWithUnsavedLyrics().size(), std::move(action));
+}
+
+void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
+{
+    before(m_model->unsavedCount(), std::move(action));
+}
+
+void UnsavedLyricsGuard::before(int unsaved, std::function<void()> action)
+{
+    if (unsaved == 0) {
+        action();
+    } else if (m_question) {
+        m_question->raise();
+        m_question->activateWindow();
+    } else {
+        ask(unsaved, std::move(action));
+    }
+}
+
+void UnsavedLyricsGuard::ask(int unsaved, std::function<void()> action)
+{
+    m_question = new QMessageBox(
+        QMessageBox::Warning, QString(),
+        tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
+        QMessageBox::Discard | QMessageBox::Cancel, m_window);
+    m_question->setAttribute(Qt::WA_DeleteOnClose);
+    m_question->setInformativeText(tr("Do you want to give them up?"));
+    m_question->setDefaultButton(QMessageBox::Cancel);
+    QObject::connect(m_question, &QMessageBox::finished, m_window, [this, action = std::move(action)](int answer) {
+        m_question.clear();
+        if (answer == QMessageBox::Discard)
+            action();
+    });
+    m_question->open();
+}

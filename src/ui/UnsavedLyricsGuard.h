@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QVector>
+
+#include <functional>
+
+class MainModel;
+class QMessageBox;
+class QWidget;
+
+// Sees to it that lyrics which stand in the list only, because their write failed or is under way, are never given up
+// unasked. Main thread only.
+class UnsavedLyricsGuard
+{
+    Q_DECLARE_TR_FUNCTIONS(UnsavedLyricsGuard)
+
+public:
+    // Nothing is owned; both must outlive the guard. The question belongs to the window.
+    UnsavedLyricsGuard(const MainModel *model, QWidget *window);
+
+    // Runs an action that removes these songs; when some have such lyrics, not before the user has given them up, and
+    // never when the user cancels or the question is open already.
+    void beforeRemoving(const QVector<quint16> &ids, std::function<void()> action);
+    // In the same way an action that removes any songs.
+    void beforeRemovingAny(std::function<void()> action);
+    // In the same way an action that ends the program, which waits for the writes that are under way.
+    void beforeQuitting(std::function<void()> action);
+
+private:
+    void before(int unsaved, std::function<void()> action);
+    void ask(int unsaved, std::function<void()> action);
+
+    const MainModel *m_model;
+    QWidget *m_window;
+    QPointer<QMessageBox> m_question; // while it is open
+};
