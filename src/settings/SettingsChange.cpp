@@ -46,8 +46,8 @@ bool copyInto(QTemporaryFile *copy, const QString &path)
 // Whether the store says that already; it gives numbers and flags back as texts.
 bool isStored(const QVariant &stored, const QVariant &value)
 {
-    if (!stored.isValid())
-        return false;
+    if (!stored.isValid() || !value.isValid())
+        return stored.isValid() == value.isValid();
     if (value.type() == QVariant::StringList)
         return stored.toStringList() == value.toStringList();
     if (value.type() == QVariant::ByteArray)
@@ -115,8 +115,12 @@ bool SettingsChange::writeNewFile(const QString &path) const
         QSettings store(copy.fileName(), QSettings::NativeFormat);
         if (m_kept)
             clearAllBut(*m_kept, &store);
-        for (const auto &[key, value] : m_values)
-            store.setValue(keyName(key), value);
+        for (const auto &[key, value] : m_values) {
+            if (value.isValid())
+                store.setValue(keyName(key), value);
+            else
+                store.remove(keyName(key));
+        }
         store.sync();
         entries = store.allKeys().size();
         if (store.status() != QSettings::NoError)

@@ -16,6 +16,7 @@
 class SettingsChange
 {
 public:
+    // An invalid value removes the key.
     void set(SettingsKey key, const QVariant &value) { m_values.append({key, value}); }
     // Everything goes that is stored now, but for these keys and what is set here.
     void keepOnly(const QVector<SettingsKey> &keys) { m_kept = keys; }
