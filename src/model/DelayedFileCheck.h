@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 // Looks at many files, to be run once on the thread pool, which deletes it after its run: a look at a disk that does
@@ -16,8 +17,10 @@ class DelayedFileCheck : public QObject, public QRunnable
     Q_OBJECT
 
 public:
-    explicit DelayedFileCheck(const QList<QUrl> &urls)
+    // `waitFirst` is called before the first look.
+    explicit DelayedFileCheck(const QList<QUrl> &urls, const std::function<void()> &waitFirst = {})
         : m_urls(urls)
+        , m_waitFirst(waitFirst)
     {
     }
 
@@ -25,15 +28,19 @@ public:
     [[nodiscard]] std::shared_ptr<std::atomic<bool>> cancelled() const { return m_cancelled; }
     // Whether the url names a regular local file, or a link to one.
     [[nodiscard]] static bool isFile(const QUrl &url);
+    // Whether a url that names no file may name one again: its folder is not there, or an empty place to mount at, or
+    // cannot be asked. What was deleted from a folder that is there does not come back.
+    [[nodiscard]] static bool isAway(const QUrl &url);
 
     void run() override;
 
 signals:
-    // Some more urls were looked at, in the order in which they were given: how many, and those that name files. The
-    // last signal comes at the end of the run, unless that was cancelled.
-    void checked(int count, const QList<QUrl> &files);
+    // Some more urls were looked at, in the order in which they were given: how many, those that name files, and those
+    // that are away. The last signal comes at the end of the run, unless that was cancelled.
+    void checked(int count, const QList<QUrl> &files, const QList<QUrl> &away);
 
 private:
     const QList<QUrl> m_urls;
+    const std::function<void()> m_waitFirst;
     const std::shared_ptr<std::atomic<bool>> m_cancelled = std::make_shared<std::atomic<bool>>(false);
 };

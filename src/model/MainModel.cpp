@@ -5,14 +5,10 @@
 #include "lyrics/LyricsText.h"
 #include "model/DelayedFileCheck.h"
 #include "model/FileManager.h"
-#include "model/LyricsFile.h"
 #include "settings/Settings.h"
-#include "tags/TagWriter.h"
 
 #include <QFileInfo>
 #include <QQmlEngine>
-#include <QSet>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <limits>
@@ -21,12 +17,8 @@ namespace {
 
 // How many searches the coordinator may hold at once.
 constexpr int searchLimit = 10;
-// Compared with the number of reads in flight; see extractNextFileInfo().
-constexpr int tagReadLimit = 1;
 // Above this many ranges a removal is one reset: each range costs every view a pass of its own.
 constexpr int mostRangesRemoved = 64;
-// How many known files become rows in one go: some ten milliseconds of work.
-constexpr int insertedAtOnce = 1000;
 // How many identifiers of 16 bits there are.
 constexpr int idCount = std::numeric_limits<quint16>::max() + 1;
 
@@ -37,14 +29,17 @@ MainModel::MainModel(QObject *parent)
 {
     qRegisterMetaType<MediaFileTags>("MediaFileTags");
     qmlRegisterUncreatableType<ModelItem>("com.quillmarsh", 1, 0, "ModelItem", QStringLiteral("nope"));
-    connect(&m_tagReader, &MediaInfoExtractor::infoExtracted, this, &MainModel::fileInfoExtracted);
-    connect(&m_insertTimer, &QTimer::timeout, this, &MainModel::insertKnownFiles);
+    connect(&m_reads, &ReadQueue::infoExtracted, this, &MainModel::fileInfoExtracted);
+    connect(&m_reads, &ReadQueue::tagsRead, this, &MainModel::useTags);
+    connect(&m_writes, &SongWrites::failed, this, &MainModel::tagsNotWritten);
+    connect(&m_writes, &SongWrites::written, this, &MainModel::tagsWritten);
+    // A read under way asks for the next one by itself; a request for each block would only overtake it.
+    connect(&m_incoming, &IncomingFiles::block, this, [this](const QList<QUrl> &files, bool isFirst) {
+        insertFiles(newUrls(files), isFirst || !m_reads.isReading());
+    });
 }
 
-MainModel::~MainModel()
-{
-    *m_checkCancelled = true;
-}
+MainModel::~MainModel() = default;
 
 void MainModel::setSearch(LyricsSearch *search)
 {
@@ -134,7 +129,11 @@ QList<QUrl> MainModel::urls() const
     urls.reserve(m_items.count());
     for (int row = 0; row < m_items.count(); ++row)
         urls.append(m_items.itemAt(row)->url());
-    return urls + m_knownFiles + m_unchecked;
+    urls += m_incoming.waiting();
+    const QList<QUrl> away = m_incoming.away();
+    std::copy_if(away.begin(), away.end(), std::back_inserter(urls),
+                 [this](const QUrl &url) { return !m_items.contains(url); });
+    return urls;
 }
 
 // Adding
@@ -175,9 +174,7 @@ void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
 void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)
 {
     if (knowledge == IsRegularFile) {
-        m_knownFiles += urls;
-        if (!m_insertTimer.isActive())
-            insertKnownFiles();
+        m_incoming.add(urls);
         return;
     }
     QList<QUrl> files = newUrls(urls);
@@ -187,32 +184,9 @@ void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)
     insertFiles(files, true);
 }
 
-// One block of them.
-void MainModel::insertKnownFiles()
+void MainModel::restore(const QList<QUrl> &urls, const std::function<void()> &waitFirst)
 {
-    const bool isFirstBlock = !m_insertTimer.isActive();
-    const QList<QUrl> block = m_knownFiles.mid(0, insertedAtOnce);
-    m_knownFiles.erase(m_knownFiles.begin(), m_knownFiles.begin() + block.size());
-    const bool areMoreLeft = !m_knownFiles.isEmpty();
-    if (areMoreLeft != m_insertTimer.isActive())
-        areMoreLeft ? m_insertTimer.start() : m_insertTimer.stop();
-    // A read under way asks for the next one by itself; a request for each block would only overtake it.
-    insertFiles(newUrls(block), isFirstBlock || m_currentRead == noRead);
-}
-
-void MainModel::restore(const QList<QUrl> &urls)
-{
-    m_unchecked = urls;
-    auto *check = new DelayedFileCheck(urls);
-    m_checkCancelled = check->cancelled();
-    connect(check, &DelayedFileCheck::checked, this, &MainModel::filesChecked, Qt::QueuedConnection);
-    QThreadPool::globalInstance()->start(check);
-}
-
-void MainModel::filesChecked(int count, const QList<QUrl> &files)
-{
-    m_unchecked.erase(m_unchecked.begin(), m_unchecked.begin() + count);
-    add(files, IsRegularFile);
+    m_incoming.restore(urls, waitFirst);
 }
 
 void MainModel::insertFiles(const QList<QUrl> &files, bool requestRead)
@@ -266,7 +240,7 @@ std::vector<std::unique_ptr<ModelItem>> MainModel::makeItems(const QList<QUrl> &
 
 bool MainModel::isIdInUse(quint16 id) const
 {
-    return m_items.find(id) || m_writes.contains(id) || m_readsInFlight.contains(id) ||
+    return m_items.find(id) || m_writes.isWriting(id) || m_reads.isInFlight(id) ||
            (m_search && m_search->isSearching(id));
 }
 
@@ -281,7 +255,7 @@ void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
         connectItem(item.get());
         const quint16 id = item->id();
         m_items.append(std::move(item));
-        m_unread.emplace(m_items.sequenceOf(id), id);
+        m_reads.add(id);
     }
     endInsertRows();
     if (m_autoStart)
@@ -377,14 +351,9 @@ void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
         ModelItem *item = taken.item.release();
         disconnect(item, nullptr, this, nullptr);
         m_activeCount -= item->active() ? 1 : 0;
-        m_unread.erase(taken.sequence);
         m_searchable.erase(taken.sequence);
-        m_readsInFlight.removeOne(item->id());
         forgetUnsaved(item->id());
-        if (m_currentRead == item->id()) {
-            m_currentRead = noRead;
-            readAbandoned = true;
-        }
+        readAbandoned = m_reads.remove(item->id(), taken.sequence) || readAbandoned;
         item->deleteLater();
     }
     if (m_activeCount != activeBefore)
@@ -405,6 +374,7 @@ void MainModel::removeWithLyrics()
 
 void MainModel::removeAll()
 {
+    m_incoming.forgetAway();
     removeRows(0, m_items.count());
 }
 
@@ -412,34 +382,17 @@ void MainModel::removeAll()
 
 void MainModel::extractNextFileInfo()
 {
-    // "Greater than", not "at least", is meant: while one read is in flight a second one is still asked for. The tag
-    // reader then drops the read that was overtaken; its item keeps its place in flight and gets no tags until it is
-    // removed or a search of it is forced, and the one place left keeps all further reads strictly one after another.
-    if (m_readsInFlight.size() > tagReadLimit || m_unread.empty())
-        return;
-    const quint16 id = m_unread.begin()->second;
-    m_unread.erase(m_unread.begin());
-    m_readsInFlight.append(id);
-    m_currentRead = id;
-    m_tagReader.request(m_items.pathOf(id));
+    m_reads.requestNext();
 }
 
 void MainModel::fileInfoExtracted(const QString &file, const MediaFileTags &tags)
 {
-    const auto found = std::find_if(m_readsInFlight.begin(), m_readsInFlight.end(),
-                                    [this, &file](quint16 id) { return m_items.pathOf(id) == file; });
-    if (found == m_readsInFlight.end())
-        return;
-    const quint16 id = *found;
-    useTags(m_items.find(id), tags);
-    m_readsInFlight.removeOne(id);
-    if (m_currentRead == id)
-        m_currentRead = noRead;
-    extractNextFileInfo();
+    m_reads.take(file, tags);
 }
 
-void MainModel::useTags(ModelItem *item, const MediaFileTags &tags)
+void MainModel::useTags(quint16 id, const MediaFileTags &tags)
 {
+    ModelItem *item = m_items.find(id);
     if (tags.readFailure() != tags::ReadFailure::None) {
         item->setUnreadable(textOf(tags.readFailure()));
         return;
@@ -456,22 +409,6 @@ void MainModel::useTags(ModelItem *item, const MediaFileTags &tags)
     }
 }
 
-// In flight, but the tag reader has been given a newer request since.
-bool MainModel::isOvertaken(quint16 id) const
-{
-    return id != m_currentRead && m_readsInFlight.contains(id);
-}
-
-// Puts an overtaken or unreadable item back among the unread ones. While a read is under way it waits for its turn,
-// lest that read be overtaken as well.
-void MainModel::readAgain(quint16 id)
-{
-    m_readsInFlight.removeOne(id);
-    m_unread.emplace(m_items.sequenceOf(id), id);
-    if (m_currentRead == noRead)
-        extractNextFileInfo();
-}
-
 // Searching
 
 bool MainModel::startSearch(quint16 id)
@@ -480,10 +417,10 @@ bool MainModel::startSearch(quint16 id)
     if (!item)
         return false;
     const bool isUnreadable = item->unreadable() && item->processState() != ModelItem::ProcessWaiting;
-    if (isOvertaken(id) || isUnreadable) {
+    if (m_reads.isOvertaken(id) || isUnreadable) {
         // Its names are not known yet; whether they are suitable shows when the tags are there.
         item->setProcessState(ModelItem::ProcessWaiting);
-        readAgain(id);
+        m_reads.readAgain(id);
         return true;
     }
     if (item->processState() == ModelItem::ProcessWaiting)
@@ -532,7 +469,7 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
     }
     // Lyrics that were there before the search are not written again.
     if (errorString.isEmpty() && !text.isEmpty() && !item->lyricsTag().isEmpty()) {
-        startWriting(item);
+        startWriting(item, false);
     } else {
         item->setErrorString(errorString);
         item->setProcessState(ModelItem::ProcessComplete);
@@ -545,19 +482,17 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 bool MainModel::hasUnsavedLyrics(quint16 id) const
 {
     const ModelItem *item = m_items.find(id);
-    return m_unsaved.contains(id) || (m_writes.contains(id) && item && !item->lyricsTag().isEmpty());
+    return m_writes.isUnsaved(id) || (m_writes.isWriting(id) && item && !item->lyricsTag().isEmpty());
 }
 
 QVector<quint16> MainModel::idsWithUnsavedLyrics() const
 {
-    QSet<quint16> ids;
-    for (auto write = m_writes.begin(); write != m_writes.end(); ++write) {
-        if (hasUnsavedLyrics(write.key()))
-            ids.insert(write.key());
+    QVector<quint16> ids = m_writes.unsavedIds();
+    for (const quint16 id : m_writes.idsInWriting()) {
+        if (hasUnsavedLyrics(id) && !m_writes.isUnsaved(id))
+            ids.append(id);
     }
-    for (auto failure = m_unsaved.begin(); failure != m_unsaved.end(); ++failure)
-        ids.insert(failure.key());
-    return ids.values().toVector();
+    return ids;
 }
 
 bool MainModel::writeTags(quint16 id)
@@ -567,34 +502,24 @@ bool MainModel::writeTags(quint16 id)
         return false;
     if (item->processState() == ModelItem::ProcessWorking)
         m_overruled.insert(id);
-    startWriting(item);
+    // Who saves once more, after the reason was shown, means it.
+    startWriting(item, m_writes.isUnsaved(id));
     return true;
 }
 
-void MainModel::startWriting(ModelItem *item)
+void MainModel::startWriting(ModelItem *item, bool insists)
 {
-    const quint16 id = item->id();
-    auto *writer = new TagWriter(m_dataFolder);
-    // The export comes first, but like the write not in this thread: it waits for the disk.
-    if (m_settings && m_settings->generateLyricsFileAuto() && canExport(*item)) {
-        const auto exportLyrics = [path = item->url().toLocalFile(), lyrics = item->lyricsTag()] {
-            (void)writeLyricsFile(path, lyrics);
-        };
-        QMetaObject::invokeMethod(writer, exportLyrics, Qt::QueuedConnection);
-    }
+    // The export comes first.
+    if (m_settings && m_settings->generateLyricsFileAuto())
+        queueExport(automaticExports(), *item);
     item->setErrorString(QString());
     item->setFoundNothing(false);
     item->setProcessState(ModelItem::ProcessWritingTags);
-    ++m_writes[id];
-    connect(writer, &TagWriter::failed, this, &MainModel::tagsNotWritten);
-    connect(writer, &TagWriter::written, this, &MainModel::tagsWritten);
-    connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
-    writer->queueWrite(item->url(), id, item->artistTag(), item->titleTag(), item->lyricsTag());
+    m_writes.start(*item, insists);
 }
 
 void MainModel::tagsNotWritten(quint16 id, const QString &reason)
 {
-    m_failedWrites.insert(id, reason);
     if (ModelItem *item = m_items.find(id)) {
         item->forgetFile();
         item->setErrorString(reason);
@@ -603,21 +528,20 @@ void MainModel::tagsNotWritten(quint16 id, const QString &reason)
 
 void MainModel::tagsWritten(quint16 id)
 {
-    const auto writes = m_writes.find(id);
-    if (writes != m_writes.end() && --*writes == 0)
-        m_writes.erase(writes);
-    const QString reason = m_failedWrites.take(id);
+    const SongWrites::Outcome outcome = m_writes.takeOutcome(id);
     ModelItem *item = m_items.find(id);
     if (!item)
         return;
     forgetUnsaved(id);
-    if (!reason.isEmpty())
-        noteUnsaved(item, reason);
+    if (outcome.reason.isEmpty())
+        item->setStoredTexts(outcome.texts);
+    else
+        noteUnsaved(item, outcome.reason);
     if (item->processState() != ModelItem::ProcessWritingTags)
         return;
-    if (reason.isEmpty())
+    if (outcome.reason.isEmpty())
         item->setErrorString(QString()); // of an earlier write of this song that failed
-    if (!m_writes.contains(id))
+    if (!m_writes.isWriting(id))
         item->setProcessState(ModelItem::ProcessComplete);
 }
 
@@ -627,32 +551,49 @@ void MainModel::noteUnsaved(ModelItem *item, const QString &reason)
     if (item->lyricsTag().isEmpty())
         return;
     item->setUnsaved(true);
-    m_unsaved.insert(item->id(), reason);
-    emit writesFailed(reason, ++m_unsavedByReason[reason]);
+    emit writesFailed(reason, m_writes.noteUnsaved(item->id(), reason));
 }
 
 void MainModel::forgetUnsaved(quint16 id)
 {
-    const auto found = m_unsaved.find(id);
-    if (found == m_unsaved.end())
+    if (!m_writes.forgetUnsaved(id))
         return;
-    if (--m_unsavedByReason[*found] == 0)
-        m_unsavedByReason.remove(*found);
-    m_unsaved.erase(found);
     if (ModelItem *item = m_items.find(id))
         item->setUnsaved(false);
 }
 
-// Without lyrics there is nothing to export, and a text file that is there stays as it is.
-bool MainModel::canExport(const ModelItem &item)
-{
-    return item.url().isLocalFile() && !item.lyricsTag().isEmpty();
-}
+// Exporting
 
 bool MainModel::generateLyricsFile(quint16 id)
 {
+    if (!m_exports) {
+        m_exports.reset(new LyricsFileWriter);
+        connect(m_exports.data(), &LyricsFileWriter::written, this, &MainModel::lyricsExported);
+    }
     const ModelItem *item = m_items.find(id);
-    return item && canExport(*item) && writeLyricsFile(item->url().toLocalFile(), item->lyricsTag());
+    return item && queueExport(*m_exports, *item);
+}
+
+LyricsFileWriter &MainModel::automaticExports()
+{
+    if (!m_automaticExports) {
+        m_automaticExports.reset(new LyricsFileWriter);
+        connect(m_automaticExports.data(), &LyricsFileWriter::written, this,
+                [this](quint16, const QString &textFile, bool isWritten) {
+                    if (!isWritten)
+                        emit automaticExportFailed(textFile);
+                });
+    }
+    return *m_automaticExports;
+}
+
+// Without lyrics there is nothing to export, and a text file that is there stays as it is.
+bool MainModel::queueExport(LyricsFileWriter &exports, const ModelItem &item)
+{
+    if (!item.url().isLocalFile() || item.lyricsTag().isEmpty())
+        return false;
+    exports.queueWrite(item.id(), item.url().toLocalFile(), item.lyricsTag());
+    return true;
 }
 
 void MainModel::locate(int row) const

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/IncomingFiles.h"
 #include "model/ItemStore.h"
+#include "model/LyricsFileWriter.h"
+#include "model/ReadQueue.h"
+#include "model/SongWrites.h"
 #include "tags/MediaFileTags.h"
-#include "tags/MediaInfoExtractor.h"
 
 #include <QAbstractListModel>
-#include <QHash>
+#include <QScopedPointer>
+#include <QSet>
 #include <QStringList>
-#include <QTimer>
 #include <QVector>
 
-#include <atomic>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -59,13 +62,13 @@ public:
     // Lower-case extensions without dots, in the order of the file dialog's filter.
     void setSupportedExtensions(const QStringList &extensions) { m_extensions = extensions; }
     // The program that reads tags (tags/MediaInfoExtractor.h). To be set before files are added.
-    void setReaderProgram(const QString &path) { m_tagReader.setReaderProgram(path); }
+    void setReaderProgram(const QString &path) { m_reads.setReaderProgram(path); }
     // For the end of the program: a read under way is given up.
-    void stopReading() { m_tagReader.stop(); }
+    void stopReading() { m_reads.stop(); }
     void setSettings(const Settings *settings) { m_settings = settings; }
     // The program's own folder for saves (tags/TagUpdate.h). Without one, songs that can be saved in place only are
     // not.
-    void setDataFolder(const QString &folder) { m_dataFolder = folder; }
+    void setDataFolder(const QString &folder) { m_writes.setDataFolder(folder); }
     // Not owned. Without a coordinator nothing is searched for.
     void setSearch(LyricsSearch *search);
 
@@ -88,18 +91,19 @@ public:
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // Lyrics that are in the list only, since their last write failed or was refused.
-    [[nodiscard]] int unsavedCount() const { return m_unsaved.size(); }
+    [[nodiscard]] int unsavedCount() const { return m_writes.unsavedCount(); }
     // These, or such whose write is under way and may still fail.
     [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const;
     // All songs of which this is true, in no order.
     [[nodiscard]] QVector<quint16> idsWithUnsavedLyrics() const;
-    // The urls of all rows, in row order, and then of the files that are still to become rows: what is to be kept
-    // across runs.
+    // The urls of all rows, in row order, then of the files that are still to become rows, and of those that were in
+    // the restored list and whose disk is away, until the list is emptied: what is to be kept across runs.
     [[nodiscard]] QList<QUrl> urls() const;
 
     // Adds a list that was kept across runs. Its files are looked at elsewhere and become rows when that is done, so
-    // that a disk that does not answer holds up nothing but them and those behind them. To be called once.
-    void restore(const QList<QUrl> &urls);
+    // that a disk that does not answer holds up nothing but them and those behind them. `waitFirst` is called there
+    // before the first look. To be called once.
+    void restore(const QList<QUrl> &urls, const std::function<void()> &waitFirst = {});
 
     // The supported extensions, each as "*.mp3", joined with the separator.
     Q_INVOKABLE QString supportedTypesMask(const QString &separator) const;
@@ -127,8 +131,8 @@ public slots:
     // event loop, so that the window goes on living; otherwise one call is one insertion, made before it returns.
     void add(const QList<QUrl> &urls, FileKnowledge knowledge = MayBeAnything);
     void setAutoStart(bool on);
-    // Exports the item's lyrics to the text file beside its audio file. False, with nothing touched, when there are
-    // none or the file cannot be written.
+    // Queues an export of the item's lyrics to the text file beside its audio file, in line with the writes of tags;
+    // lyricsExported() tells whether it was written. False, with nothing touched, when there are none.
     bool generateLyricsFile(quint16 id);
     // Announces new data in the item's row.
     void itemChanged(const ModelItem *item);
@@ -148,16 +152,18 @@ signals:
     // For so many songs of the list the last write failed for this one reason; again when the number has grown, so that
     // one message can show it.
     void writesFailed(const QString &reason, int count);
+    // Once for each call of generateLyricsFile() that returned true.
+    void lyricsExported(quint16 id, const QString &textFile, bool isWritten);
+    // The export that comes with a write, where the settings ask for it, could not be written.
+    void automaticExportFailed(const QString &textFile);
     // So many files could not be added, because no identifier was free.
     void filesLeftOut(int count);
 
 private:
     // Ids in row order: from sequence number to id.
     using WorkQueue = std::map<quint64, quint16>;
-    static constexpr int noRead = -1;
+    using Exports = QScopedPointer<LyricsFileWriter, QScopedPointerDeleteLater>;
 
-    void insertKnownFiles();
-    void filesChecked(int count, const QList<QUrl> &files);
     void insertFiles(const QList<QUrl> &files, bool requestRead);
     [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
     [[nodiscard]] std::vector<std::unique_ptr<ModelItem>> makeItems(const QList<QUrl> &files);
@@ -167,37 +173,29 @@ private:
     void countActive(const ModelItem *item);
     void queueForSearch(const ModelItem *item);
     void forgetItems(std::vector<ItemStore::Taken> removed);
-    [[nodiscard]] bool isOvertaken(quint16 id) const;
-    void readAgain(quint16 id);
     void feedSearches();
-    void useTags(ModelItem *item, const MediaFileTags &tags);
-    void startWriting(ModelItem *item);
-    [[nodiscard]] static bool canExport(const ModelItem &item);
+    void useTags(quint16 id, const MediaFileTags &tags);
+    void startWriting(ModelItem *item, bool insists);
+    [[nodiscard]] LyricsFileWriter &automaticExports();
+    static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);
     void tagsNotWritten(quint16 id, const QString &reason);
     void noteUnsaved(ModelItem *item, const QString &reason);
     void forgetUnsaved(quint16 id);
 
     ItemStore m_items;
     quint16 m_lastId = 0;
-    QList<QUrl> m_unchecked;  // of the list that is being restored
-    QList<QUrl> m_knownFiles; // wait to become rows
-    QTimer m_insertTimer;     // runs while there are any
-    std::shared_ptr<std::atomic<bool>> m_checkCancelled = std::make_shared<std::atomic<bool>>(false);
+    IncomingFiles m_incoming;
     QStringList m_extensions;
     const Settings *m_settings = nullptr;
     LyricsSearch *m_search = nullptr;
     bool m_autoStart = true;
     int m_activeCount = 0;
-    MediaInfoExtractor m_tagReader;
-    QVector<quint16> m_readsInFlight;
-    int m_currentRead = noRead; // id of the newest request while it is unanswered
-    WorkQueue m_unread;         // tags not loaded and no read in flight
-    WorkQueue m_searchable;     // waiting, with tags loaded
+    ReadQueue m_reads{&m_items};
+    WorkQueue m_searchable; // waiting, with tags loaded
     // Searched for while the user's own lyrics were written: what the search finds must not replace those.
     QSet<quint16> m_overruled;
-    QHash<quint16, int> m_writes;           // id to number of writes under way
-    QHash<quint16, QString> m_failedWrites; // id to reason, until their end is reported
-    QHash<quint16, QString> m_unsaved;      // id to reason
-    QHash<QString, int> m_unsavedByReason;
-    QString m_dataFolder;
+    SongWrites m_writes;
+    // Made when they are needed first.
+    Exports m_exports;
+    Exports m_automaticExports;
 };

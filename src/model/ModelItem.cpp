@@ -151,6 +151,7 @@ void ModelItem::setTags(const MediaFileTags &tags)
     m_artistTag = tags.value(QStringLiteral("artist"));
     m_titleTag = tags.value(QStringLiteral("title"));
     m_lyricsTag = tags.value(QStringLiteral("lyrics"));
+    m_storedTexts = {m_artistTag, m_titleTag, m_lyricsTag};
     m_lyricsEmbedded = true;
     m_tagsLoaded = true;
     m_foundNothing = false;

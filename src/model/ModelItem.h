@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tags/TagUpdate.h"
+
 #include <QImage>
 #include <QObject>
 #include <QString>
@@ -108,6 +110,9 @@ public:
     // The last search ended without lyrics; nothing has been found, written or read since.
     [[nodiscard]] bool foundNothing() const { return m_foundNothing; }
     [[nodiscard]] QString processStateText() const { return textOf(m_processState); }
+    // The texts as they were read from the file, or last written to it: whatever differs from them was edited.
+    [[nodiscard]] const tags::SongTexts &storedTexts() const { return m_storedTexts; }
+    [[nodiscard]] tags::SongTexts texts() const { return {artistTag(), titleTag(), lyricsTag()}; }
     // Queued for a search or being searched for.
     [[nodiscard]] bool active() const { return isActive(m_processState); }
     [[nodiscard]] bool editable() const;
@@ -121,6 +126,7 @@ public:
 
     void setId(quint16 id) { m_id = id; }
     void setTags(const MediaFileTags &tags);
+    void setStoredTexts(const tags::SongTexts &texts) { m_storedTexts = texts; }
     // Instead of the tags, which then count as not loaded.
     void setUnreadable(const QString &reason);
     void setUnsaved(bool unsaved);
@@ -181,6 +187,7 @@ private:
     QString m_titleTag;
     QString m_artistTag;
     QString m_lyricsTag;
+    tags::SongTexts m_storedTexts;
     QString m_lyricsArtist;
     QString m_lyricsTitle;
     int m_duration = 0;

@@ -7,10 +7,11 @@
 #include <utility>
 
 DelayedMediaInfoExtractor::DelayedMediaInfoExtractor(std::shared_ptr<tags::TagReader> reader, const QString &fileName,
-                                                     bool decodeCover)
+                                                     bool decodeCover, tags::ReadPatience patience)
     : m_reader(std::move(reader))
     , m_fileName(fileName)
     , m_decodeCover(decodeCover)
+    , m_patience(patience)
 {
     // It takes no events, and it is deleted on a thread of the pool.
     moveToThread(nullptr);
@@ -21,7 +22,7 @@ void DelayedMediaInfoExtractor::run()
     tags::TagSummary summary;
     try {
         if (m_reader)
-            summary = m_reader->read(m_fileName, m_decodeCover);
+            summary = m_reader->read(m_fileName, m_decodeCover, m_patience);
         else
             summary.failure = tags::ReadFailure::NoReader;
     } catch (const std::bad_alloc &) {

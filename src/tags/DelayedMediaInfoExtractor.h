@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tags/MediaFileTags.h"
+#include "tags/ReadPatience.h"
 
 #include <QObject>
 #include <QRunnable>
@@ -22,7 +23,8 @@ class DelayedMediaInfoExtractor : public QObject, public QRunnable
 public:
     // decodeCover: whether the record comes with its thumbnail. Without a reader nothing is read, and the record says
     // so.
-    DelayedMediaInfoExtractor(std::shared_ptr<tags::TagReader> reader, const QString &fileName, bool decodeCover);
+    DelayedMediaInfoExtractor(std::shared_ptr<tags::TagReader> reader, const QString &fileName, bool decodeCover,
+                              tags::ReadPatience patience = tags::ReadPatience::Usual);
 
     // Never throws.
     void run() override;
@@ -36,4 +38,5 @@ private:
     const std::shared_ptr<tags::TagReader> m_reader;
     const QString m_fileName;
     const bool m_decodeCover;
+    const tags::ReadPatience m_patience;
 };

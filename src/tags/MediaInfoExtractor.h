@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tags/MediaFileTags.h"
+#include "tags/ReadPatience.h"
 
 #include <QObject>
 #include <QString>
@@ -34,8 +35,8 @@ public:
     void stop();
 
 public slots:
-    // Takes a local path.
-    void request(const QString &fileName);
+    // Takes a local path. A read with long patience is given up for it; any other one that is under way is not.
+    void request(const QString &fileName, tags::ReadPatience patience = tags::ReadPatience::Usual);
 
 signals:
     // With the path as requested. The record is empty, but perhaps for its failure, when the file could not be read.
@@ -49,6 +50,8 @@ private:
 
     std::shared_ptr<tags::TagReader> m_reader;
     QString m_pendingFile;
+    tags::ReadPatience m_pendingPatience = tags::ReadPatience::Usual;
+    tags::ReadPatience m_runningPatience = tags::ReadPatience::Usual;
     bool m_decodeCover = true;
     bool m_busy = false;
 };

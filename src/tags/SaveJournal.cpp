@@ -7,6 +7,8 @@
 
 #include <QCryptographicHash>
 #include <QLoggingCategory>
+#include <QMutex>
+#include <QSet>
 
 #include <algorithm>
 #include <cerrno>
@@ -23,6 +25,38 @@ namespace tags {
 namespace {
 
 constexpr qint64 mostEntryBytes = qint64{64} * 1024;
+
+// The entries, by their paths, that this process is mending: what belongs to one goes step by step, and nobody may
+// begin another one of the same song in between.
+class EntriesInWork
+{
+public:
+    void add(const QByteArray &entry)
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_entries.insert(entry);
+    }
+    void remove(const QByteArray &entry)
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_entries.remove(entry);
+    }
+    [[nodiscard]] bool contains(const QByteArray &entry) const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_entries.contains(entry);
+    }
+
+private:
+    mutable QMutex m_mutex;
+    QSet<QByteArray> m_entries;
+};
+
+EntriesInWork &entriesInWork()
+{
+    static auto *const entries = new EntriesInWork; // for ever: mending may still wait for a disk when the program ends
+    return *entries;
+}
 
 // A descriptor that is closed at the end of its scope.
 class Descriptor
@@ -107,7 +141,7 @@ bool removed(const QByteArray &path)
 enum class Tear { None, Torn, Foreign };
 
 // Which of two contents a song holds. What a disk writes at once, a sector, is of the one or the other; where a content
-// has ended, zeros follow.
+// has ended, zeros follow, or the rest of the longer one.
 Tear tearOf(const FileBytes &song, const FileBytes &before, const FileBytes &changed)
 {
     constexpr int sectorBytes = 512;
@@ -118,15 +152,20 @@ Tear tearOf(const FileBytes &song, const FileBytes &before, const FileBytes &cha
         return Tear::Foreign;
     for (qint64 offset = 0; offset < song.size(); offset += pieceBytes) {
         const QByteArray held = song.read(offset, pieceBytes);
-        const QByteArray one = before.read(offset, pieceBytes).leftJustified(held.size(), '\0', true);
-        const QByteArray other = changed.read(offset, pieceBytes).leftJustified(held.size(), '\0', true);
+        QByteArray one = before.read(offset, pieceBytes);
+        QByteArray other = changed.read(offset, pieceBytes);
+        QByteArray both = one.size() < other.size() ? one + other.mid(one.size()) : other + one.mid(other.size());
+        both.truncate(held.size());
+        one = one.leftJustified(held.size(), '\0', true);
+        other = other.leftJustified(held.size(), '\0', true);
         if (held.size() != std::min(pieceBytes, song.size() - offset))
             return Tear::Foreign; // it cannot be read
         isOld = isOld && held == one;
         isNew = isNew && held == other;
         for (int place = 0; held != one && held != other && place < held.size(); place += sectorBytes) {
             const QByteArray sector = held.mid(place, sectorBytes);
-            if (sector != one.mid(place, sectorBytes) && sector != other.mid(place, sectorBytes))
+            if (sector != one.mid(place, sectorBytes) && sector != other.mid(place, sectorBytes) &&
+                sector != both.mid(place, sectorBytes))
                 return Tear::Foreign;
         }
     }
@@ -220,7 +259,8 @@ int SaveJournal::rescue(const QByteArray &path, int song, int changed)
 
 bool SaveJournal::awaitsRestoring(const QByteArray &path) const
 {
-    return !m_rescueFolder.isEmpty() && exists(m_rescueFolder + '/' + nameFor(path) + ".entry");
+    const QByteArray entry = m_rescueFolder + '/' + nameFor(path) + ".entry";
+    return !m_rescueFolder.isEmpty() && (exists(entry) || entriesInWork().contains(entry));
 }
 
 int SaveJournal::restore(int song)
@@ -248,9 +288,8 @@ int SaveJournal::removeRescueFiles() const
     return 0;
 }
 
-void SaveJournal::removeLeftOverCopies()
+void SaveJournal::removeCopies(const QList<QByteArray> &notes)
 {
-    const QList<QByteArray> notes = namesIn(m_copiesFolder);
     for (const QByteArray &name : notes) {
         const QByteArray path = contentOf(m_copiesFolder + '/' + name);
         const QByteArray fileName = path.mid(path.lastIndexOf('/') + 1);
@@ -277,10 +316,11 @@ QByteArray SaveJournal::handOver(const QByteArray &path)
     return kept;
 }
 
-// Of the song whose entry it is.
-void SaveJournal::mendSong(MendedSaves &mended)
+MendedSaves SaveJournal::mendSong(const QByteArray &entry)
 {
-    const QByteArray path = contentOf(m_rescued + ".entry");
+    MendedSaves mended;
+    m_rescued = entry.left(entry.lastIndexOf('.'));
+    const QByteArray path = contentOf(entry);
     Restoring result = restoreSong(path, m_rescued);
     if (result == Restoring::Foreign) {
         const QByteArray kept = handOver(path);
@@ -295,23 +335,52 @@ void SaveJournal::mendSong(MendedSaves &mended)
         mended.restored.append(QString::fromUtf8(path));
     else if (result == Restoring::Later)
         mended.waiting.append(QString::fromUtf8(path));
+    entriesInWork().remove(entry);
+    return mended;
+}
+
+LeftOvers SaveJournal::takeLeftOvers()
+{
+    LeftOvers left;
+    if (m_rescueFolder.isEmpty())
+        return left;
+    if (!m_copiesFolder.isEmpty())
+        left.notes = namesIn(m_copiesFolder);
+    const QList<QByteArray> names = namesIn(m_rescueFolder);
+    for (const QByteArray &name : names) {
+        m_rescued = m_rescueFolder + '/' + name.left(name.lastIndexOf('.'));
+        if (name.endsWith(".entry")) {
+            left.entries.append(m_rescued + ".entry");
+            entriesInWork().add(left.entries.last());
+        } else if ((name.endsWith(".song") || name.endsWith(".changed") || name.endsWith(".new")) &&
+                   !exists(m_rescued + ".entry")) {
+            (void)forgetRescue(); // cut off before anything was written in place
+        }
+    }
+    return left;
+}
+
+QString SaveJournal::songOf(const QByteArray &entry)
+{
+    return QString::fromUtf8(contentOf(entry));
 }
 
 MendedSaves SaveJournal::mend()
 {
+    const LeftOvers left = takeLeftOvers();
+    removeCopies(left.notes);
     MendedSaves mended;
-    if (!m_copiesFolder.isEmpty())
-        removeLeftOverCopies();
-    const QList<QByteArray> names = m_rescueFolder.isEmpty() ? QList<QByteArray>() : namesIn(m_rescueFolder);
-    for (const QByteArray &name : names) {
-        m_rescued = m_rescueFolder + '/' + name.left(name.lastIndexOf('.'));
-        if (name.endsWith(".entry"))
-            mendSong(mended);
-        else if ((name.endsWith(".song") || name.endsWith(".changed") || name.endsWith(".new")) &&
-                 !exists(m_rescued + ".entry"))
-            (void)forgetRescue(); // cut off before anything was written in place
-    }
+    for (const QByteArray &entry : left.entries)
+        mended += mendSong(entry);
     return mended;
+}
+
+MendedSaves &MendedSaves::operator+=(const MendedSaves &more)
+{
+    restored += more.restored;
+    kept += more.kept;
+    waiting += more.waiting;
+    return *this;
 }
 
 } // namespace tags

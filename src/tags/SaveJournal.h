@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -13,8 +14,15 @@ struct MendedSaves
     QStringList restored; // songs whose save in place was cut off: they are again as they were before it
     QStringList kept;     // copies of such songs, where something else stands now: left for the user
     QStringList waiting;  // songs that could not be reached or restored: tried again at each start
-    // Nothing was done; songs may be waiting all the same.
-    [[nodiscard]] bool isEmpty() const { return restored.isEmpty() && kept.isEmpty(); }
+    [[nodiscard]] bool isEmpty() const { return restored.isEmpty() && kept.isEmpty() && waiting.isEmpty(); }
+    MendedSaves &operator+=(const MendedSaves &more);
+};
+
+// What a killed run had left when this one began.
+struct LeftOvers
+{
+    QList<QByteArray> notes;   // names of notes of working copies
+    QList<QByteArray> entries; // paths of entries, one for each song that may be torn
 };
 
 // What a killed run leaves behind, noted beforehand in a folder of the program's own:
@@ -46,16 +54,24 @@ public:
     // Where the copies of songs lie; empty when there is no such folder.
     [[nodiscard]] QByteArray rescueFolder() const { return m_rescueFolder; }
 
-    // Removes left-over copies and restores songs that are torn between the old content and the new; what anybody else
-    // wrote into one is never overwritten. Songs that are not there, on a stick perhaps, wait for a later start. To be
-    // called at the start, before any song is read. Blocks.
+    // Mending, in three steps, so that each song can be waited for by itself. What is left over must be taken once, at
+    // the start and before anything is saved: it looks at the program's own folder alone. From then on a song with an
+    // entry awaits restoring until mendSong() is through with it, or for the rest of this run when it could not be
+    // mended. The other two block as long as the disks of the songs do, and may run in any thread, each with a journal
+    // of its own.
+    [[nodiscard]] LeftOvers takeLeftOvers();
+    void removeCopies(const QList<QByteArray> &notes);
+    // Restores a song that is torn between the old content and the new; what anybody else wrote into it is never
+    // overwritten. One that is not there, on a stick perhaps, waits for a later start.
+    MendedSaves mendSong(const QByteArray &entry);
+    // The path of the song.
+    [[nodiscard]] static QString songOf(const QByteArray &entry);
+    // All three steps.
     MendedSaves mend();
 
 private:
-    void removeLeftOverCopies();
     [[nodiscard]] int removeRescueFiles() const;
     [[nodiscard]] QByteArray handOver(const QByteArray &path);
-    void mendSong(MendedSaves &mended);
 
     QByteArray m_copiesFolder;
     QByteArray m_rescueFolder;

@@ -6,6 +6,7 @@
 #include "tags/TagFields.h"
 #include "tags/TagKeys.h"
 #include "tags/TagKind.h"
+#include "tags/TagText.h"
 
 #include <taglib/aifffile.h>
 #include <taglib/apefile.h>
@@ -26,8 +27,10 @@ namespace tags {
 
 namespace {
 
-QString withPlainBreaks(QString text)
+// As it would be read from a tag, with line breaks of one kind.
+QString comparable(const QString &lyrics)
 {
+    QString text = cleanedText(lyrics, maximumLyricsLength);
     return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
@@ -148,17 +151,21 @@ AppliedEdits applyToOther(const TagEdits &edits, TagLib::File &file)
 
 } // namespace
 
-TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<SongTexts> &shown)
+TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<ShownTexts> &shown)
 {
     const TagCopy read = TagCopy::ofFile(file);
     TagEdits edits;
-    if (texts.artist != read.value(keys::artist) && !(shown && texts.artist == shown->artist))
+    if (texts.artist != read.value(keys::artist) && !(shown && texts.artist == shown->texts.artist))
         edits.artist = texts.artist;
-    if (texts.title != read.value(keys::title) && !(shown && texts.title == shown->title))
+    if (texts.title != read.value(keys::title) && !(shown && texts.title == shown->texts.title))
         edits.title = texts.title;
-    const QString lyrics = withPlainBreaks(texts.lyrics);
-    if (lyrics != withPlainBreaks(read.value(keys::lyrics)) && !(shown && lyrics == withPlainBreaks(shown->lyrics)))
-        edits.lyrics = texts.lyrics;
+    const QString lyrics = comparable(texts.lyrics);
+    const QString stored = comparable(read.value(keys::lyrics));
+    if (lyrics == stored || (shown && lyrics == comparable(shown->texts.lyrics)))
+        return edits;
+    edits.lyrics = texts.lyrics;
+    edits.conflict =
+        shown && !shown->replacesForeignLyrics && !stored.isEmpty() && stored != comparable(shown->texts.lyrics);
     return edits;
 }
 

@@ -20,13 +20,14 @@ struct TagEdits
     QString artist; // empty: leave it
     QString title;  // empty: leave it
     std::optional<QString> lyrics;
+    bool conflict = false; // there are lyrics in the file that the user was not shown
 };
 
 // What equals the texts that the user was shown was not edited, and is left. The rest is compared with the text as it
 // is read from the file. So lyrics that were not edited keep their second language and their description. And where
 // lyrics are never read, in APE tags and WAV files, empty lyrics mean that nobody saw the stored ones: deliberately
 // they do not remove them.
-TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<SongTexts> &shown);
+TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<ShownTexts> &shown);
 
 // What was changed in the tags of an open file, in memory.
 struct AppliedEdits

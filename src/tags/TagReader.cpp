@@ -60,13 +60,16 @@ TagReader::TagReader(const QString &program, const Limits &limits)
     , m_retryStart(limits.retryStart)
     , m_block(std::size_t{blockBytes})
     , m_stopEvent(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+    , m_skipEvent(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
 }
 
 TagReader::~TagReader()
 {
-    if (m_stopEvent >= 0)
-        ::close(m_stopEvent);
+    for (const int event : {m_stopEvent, m_skipEvent}) {
+        if (event >= 0)
+            ::close(event);
+    }
 }
 
 void TagReader::stop()
@@ -74,13 +77,20 @@ void TagReader::stop()
     ::eventfd_write(m_stopEvent, 1);
 }
 
-TagSummary TagReader::read(const QString &path, bool decodeCover)
+void TagReader::skip()
 {
+    ::eventfd_write(m_skipEvent, 1);
+}
+
+TagSummary TagReader::read(const QString &path, bool decodeCover, ReadPatience patience)
+{
+    eventfd_t skipsBefore = 0;
+    (void)::eventfd_read(m_skipEvent, &skipsBefore);
     for (;;) {
         if (!isReady())
             return failed(ReadFailure::NoReader);
         const bool isFirstFile = m_filesRead == 0;
-        TagSummary summary = ask(path, decodeCover);
+        TagSummary summary = ask(path, decodeCover, patience);
         noteOutcome(summary.failure);
         const bool mayBeInnocent = isEnd(summary.failure) && summary.failure != ReadFailure::Stalled && !isFirstFile;
         if (!mayBeInnocent)
@@ -147,14 +157,19 @@ void TagReader::endProcess()
 
 // Asking
 
-TagSummary TagReader::ask(const QString &path, bool decodeCover)
+TagSummary TagReader::ask(const QString &path, bool decodeCover, ReadPatience patience)
 {
-    const QByteArray request = encoded(ReadRequest{++m_lastNumber, path, decodeCover});
+    const auto limit = patience == ReadPatience::Long ? m_limits.slowFile : m_limits.file;
+    const auto seconds = std::clamp<qint64>(std::chrono::ceil<std::chrono::seconds>(limit).count(), 1, 255);
+    const QByteArray request = encoded(ReadRequest{++m_lastNumber, path, decodeCover, static_cast<quint8>(seconds)});
     if (request.isEmpty())
         return {}; // the system knows no path so long: there is no such file
     // One that has died since shows when its answer is waited for.
     m_process->send(request);
-    return receive(m_lastNumber, m_limits.file).summary;
+    m_mayBeSkipped = true;
+    const ReadAnswer answer = receive(m_lastNumber, limit);
+    m_mayBeSkipped = false;
+    return answer.summary;
 }
 
 ReadAnswer TagReader::receive(quint32 number, std::chrono::milliseconds limit)
@@ -177,6 +192,7 @@ ReadFailure TagReader::receiveMore(Clock::time_point deadline)
     case Wake::Stopped:
         return ReadFailure::NoReader;
     case Wake::TimeOver:
+    case Wake::Skipped:
         return ReadFailure::Stalled;
     case Wake::Readable:
         break;
@@ -195,12 +211,16 @@ bool TagReader::isStopped() const
 
 TagReader::Wake TagReader::sleepUntil(Clock::time_point deadline, int socket) const
 {
-    std::array<pollfd, 2> waiting{pollfd{m_stopEvent, POLLIN, 0}, pollfd{socket, POLLIN, 0}}; // -1 is passed over
+    // -1 is passed over.
+    std::array<pollfd, 3> waiting{pollfd{m_stopEvent, POLLIN, 0}, pollfd{m_mayBeSkipped ? m_skipEvent : -1, POLLIN, 0},
+                                  pollfd{socket, POLLIN, 0}};
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
         const int count = ::poll(waiting.data(), waiting.size(), static_cast<int>(std::max(left, 0ms).count()));
         if (waiting[0].revents != 0)
             return Wake::Stopped;
+        if (waiting[1].revents != 0)
+            return Wake::Skipped;
         if (count > 0)
             return Wake::Readable;
         if (count == 0)

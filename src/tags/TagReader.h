@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tags/ReadPatience.h"
 #include "tags/TagReaderProtocol.h"
 
 #include <QString>
@@ -17,7 +18,7 @@ class TagReaderProcess;
 // program. Starts that process when it is needed, ends it when a file takes too long, and starts another one after a
 // pause that grows when files kill one after the other.
 //
-// read() is for one thread at a time, any thread but that of the window; stop() for any thread.
+// read() is for one thread at a time, any thread but that of the window; stop() and skip() for any thread.
 class TagReader
 {
 public:
@@ -25,6 +26,7 @@ public:
     {
         std::chrono::milliseconds start{10'000}; // a busy machine loads slowly
         std::chrono::milliseconds file{5'000};
+        std::chrono::milliseconds slowFile{30'000};  // of a disk that has to start first; at most 255 s
         std::chrono::milliseconds retryStart{1'000}; // after a start that failed; doubled each time
         int filesOfProcess = 5'000;                  // it is renewed then, since parsers may leak
     };
@@ -37,19 +39,21 @@ public:
 
     // Waits for the answer. A failure with a process that has read other files before is tried once more with a new
     // one, so that no file stands for what others have left.
-    [[nodiscard]] TagSummary read(const QString &path, bool decodeCover);
+    [[nodiscard]] TagSummary read(const QString &path, bool decodeCover, ReadPatience patience = ReadPatience::Usual);
 
+    // Gives up the read under way, which answers that it stalled. Without effect on reads that begin later.
+    void skip();
     // Lets read() return at once, now and from now on.
     void stop();
 
 private:
     using Clock = std::chrono::steady_clock;
-    enum class Wake { Readable, TimeOver, Stopped };
+    enum class Wake { Readable, TimeOver, Skipped, Stopped };
 
     [[nodiscard]] bool isReady();
     [[nodiscard]] bool startProcess();
     void noteStartFailure();
-    [[nodiscard]] TagSummary ask(const QString &path, bool decodeCover);
+    [[nodiscard]] TagSummary ask(const QString &path, bool decodeCover, ReadPatience patience);
     // Waits for the answer with this number.
     [[nodiscard]] ReadAnswer receive(quint32 number, std::chrono::milliseconds limit);
     [[nodiscard]] ReadFailure receiveMore(Clock::time_point deadline);
@@ -65,10 +69,12 @@ private:
     quint32 m_lastNumber = 0;
     int m_filesRead = 0; // by this process
     int m_endsInARow = 0;
+    bool m_mayBeSkipped = false; // a file is read, and not the process started
     Clock::time_point m_nextStart;
     std::chrono::milliseconds m_retryStart;
     std::vector<char> m_block; // what is received at once
     const int m_stopEvent;
+    const int m_skipEvent;
 };
 
 } // namespace tags

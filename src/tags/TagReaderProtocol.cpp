@@ -77,8 +77,9 @@ int maximumLength(QLatin1String key)
 
 QByteArray encoded(const ReadRequest &request)
 {
-    const QByteArray message =
-        framed([&](QDataStream &stream) { stream << request.number << request.decodeCover << request.path; });
+    const QByteArray message = framed([&](QDataStream &stream) {
+        stream << request.number << request.decodeCover << request.seconds << request.path;
+    });
     return message.size() <= maximumRequestBytes ? message : QByteArray();
 }
 
@@ -96,8 +97,9 @@ QByteArray encoded(const ReadAnswer &answer)
 std::optional<ReadRequest> parseRequest(const QByteArray &message)
 {
     ReadRequest request;
-    const bool whole =
-        taken(message, [&](QDataStream &stream) { stream >> request.number >> request.decodeCover >> request.path; });
+    const bool whole = taken(message, [&](QDataStream &stream) {
+        stream >> request.number >> request.decodeCover >> request.seconds >> request.path;
+    });
     return whole ? std::make_optional(request) : std::nullopt;
 }
 

@@ -20,6 +20,7 @@ struct ReadRequest
     quint32 number = 0; // counts up from 1
     QString path;
     bool decodeCover = true;
+    quint8 seconds = 5; // how long the reading may take
 };
 
 struct ReadAnswer

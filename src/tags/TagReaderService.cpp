@@ -24,8 +24,6 @@ namespace {
 // Parsers take a few megabytes; a cover of the greatest size some hundred.
 constexpr rlim_t memoryBytes = rlim_t{512} * 1024 * 1024;
 constexpr rlim_t processorSeconds = 5;
-// One more than the program waits: this limit is for the case that the program is no longer there.
-constexpr time_t wallSeconds = 6;
 constexpr int socketBlockBytes = 64 * 1024;
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -58,13 +56,14 @@ void setLimits()
 class TimeLimit
 {
 public:
-    TimeLimit()
+    explicit TimeLimit(time_t seconds)
     {
         timespec used{};
         ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
         const rlimit processor{static_cast<rlim_t>(used.tv_sec) + processorSeconds, RLIM_INFINITY};
         ::setrlimit(RLIMIT_CPU, &processor);
-        setAlarm(wallSeconds);
+        // One more than the program waits: this is for the case that the program is no longer there.
+        setAlarm(seconds + 1);
     }
     ~TimeLimit() { setAlarm(0); }
     Q_DISABLE_COPY(TimeLimit)
@@ -93,7 +92,7 @@ bool writeAll(const QByteArray &message)
 
 ReadAnswer answerTo(const ReadRequest &request, const SummaryReader &read)
 {
-    const TimeLimit limit;
+    const TimeLimit limit(request.seconds);
     return {request.number, read(request)};
 }
 

@@ -74,10 +74,10 @@ QByteArray resolvedPath(const QByteArray &path)
 class Update
 {
 public:
-    Update(const QByteArray &path, const SongTexts &texts, const std::optional<SongTexts> &read)
+    Update(const QByteArray &path, const SongTexts &texts, const std::optional<ShownTexts> &shown)
         : m_path(path)
         , m_texts(texts)
-        , m_read(read)
+        , m_shown(shown)
     {
     }
     UpdateResult run(const QString &dataFolder);
@@ -92,7 +92,7 @@ private:
 
     QByteArray m_path;
     const SongTexts &m_texts;
-    const std::optional<SongTexts> &m_read;
+    const std::optional<ShownTexts> &m_shown;
     int m_original = -1;
     SongLayout m_layout;
     TagEdits m_edits;
@@ -110,7 +110,9 @@ UpdateResult Update::run(const QString &dataFolder)
         return UpdateResult::Unreadable;
     if (!song.holdsAudio())
         return UpdateResult::NotAudio;
-    m_edits = editsOf(song.file(), m_texts, m_read);
+    m_edits = editsOf(song.file(), m_texts, m_shown);
+    if (m_edits.conflict)
+        return UpdateResult::ChangedMeanwhile;
     m_applied = apply(m_edits, song.file());
     if (!m_applied.isPossible)
         return UpdateResult::NoLyricsPlace;
@@ -217,7 +219,7 @@ UpdateResult Update::check(int copy)
 } // namespace
 
 UpdateResult updateTags(const QString &path, const SongTexts &texts, const QString &dataFolder,
-                        const std::optional<SongTexts> &read)
+                        const std::optional<ShownTexts> &shown)
 {
     switch (fileAccess(path)) {
     case FileAccess::Missing:
@@ -234,7 +236,7 @@ UpdateResult updateTags(const QString &path, const SongTexts &texts, const QStri
         return UpdateResult::Missing;
     acceptLatin1InRiffInfo();
     try {
-        return Update(resolved, texts, read).run(dataFolder);
+        return Update(resolved, texts, shown).run(dataFolder);
     } catch (const std::exception &error) {
         qCWarning(lcTags) << "a file could not be written:" << error.what();
         return UpdateResult::Unreadable;

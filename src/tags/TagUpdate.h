@@ -18,19 +18,27 @@ struct SongTexts
     QString lyrics;
 };
 
+// The texts that the user was shown.
+struct ShownTexts
+{
+    SongTexts texts;
+    // Also lyrics that another program has stored since are replaced; otherwise the update ends as ChangedMeanwhile.
+    bool replacesForeignLyrics = false;
+};
+
 // Changes what differs in the tags of a file, and saves the file when something did. Names and lyrics count as
 // different when they are not the text that MediaFileTags reads there (line breaks of any kind are alike), so what
 // nobody edited stays as it is stored. A name that was edited goes into each tag that does not read as that name
 // already. Opens nothing but regular files that may be written.
 //
-// With `read`, the texts that the user was shown, what equals them was not edited and is left as it is, whatever
-// another program has stored since; without, each text counts as edited.
+// With `shown`, what equals those texts was not edited and is left as it is, whatever another program has stored since;
+// without, each text counts as edited.
 //
 // The file is never left half written (see SafeSave), and everything else in it stays: the audio byte for byte, or
 // packet for packet in Ogg, and every other entry of its tags; what would lose any of that is refused. Frames of ID3v2
 // tags stay as they are stored, known to anybody or not. `dataFolder` is the program's own, for saves in place; without
 // one, such saves are refused. Blocks; never throws.
 UpdateResult updateTags(const QString &path, const SongTexts &texts, const QString &dataFolder,
-                        const std::optional<SongTexts> &read = std::nullopt);
+                        const std::optional<ShownTexts> &shown = std::nullopt);
 
 } // namespace tags

@@ -55,11 +55,11 @@ TagWriter::TagWriter(const QString &dataFolder)
 }
 
 void TagWriter::queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
-                           const QString &lyrics, const std::optional<tags::SongTexts> &read)
+                           const QString &lyrics, const std::optional<tags::ShownTexts> &shown)
 {
-    const auto writeNow = [this, fileToWrite, id, _artist, title, lyrics, read,
+    const auto writeNow = [this, fileToWrite, id, _artist, title, lyrics, shown,
                            ticket = tags::WriterThread::instance().takeTicket()] {
-        write(fileToWrite, id, _artist, title, lyrics, read);
+        write(fileToWrite, id, _artist, title, lyrics, shown);
     };
     QMetaObject::invokeMethod(this, writeNow, Qt::QueuedConnection);
 }
@@ -75,11 +75,11 @@ bool TagWriter::waitForQueued(std::chrono::milliseconds withoutProgress)
 }
 
 void TagWriter::write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
-                      const QString &lyrics, const std::optional<tags::SongTexts> &read)
+                      const QString &lyrics, const std::optional<tags::ShownTexts> &shown)
 {
     if (!_artist.isEmpty() || !title.isEmpty() || !lyrics.isEmpty()) {
         const QString reason =
-            reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder, read));
+            reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder, shown));
         if (!reason.isEmpty())
             emit failed(id, reason);
     }

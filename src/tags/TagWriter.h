@@ -18,7 +18,7 @@
 //
 //     auto *writer = new TagWriter(dataFolder);
 //     connect(writer, &TagWriter::failed, ...); connect(writer, &TagWriter::written, ...);
-//     writer->queueWrite(url, id, artist, title, lyrics, textsAsTheyWereRead);
+//     writer->queueWrite(url, id, artist, title, lyrics, textsShown);
 //
 // and call deleteLater() once written() has arrived.
 class TagWriter : public QObject
@@ -29,10 +29,10 @@ public:
     // For the GUI thread. It has no parent, since it changes threads. `dataFolder`: see updateTags().
     explicit TagWriter(const QString &dataFolder = {});
 
-    // Calls write() on the writer thread. `read`: see updateTags(). The write counts as queued from this call on, until
-    // written() was emitted or the writer was deleted.
+    // Calls write() on the writer thread. `shown`: see updateTags(). The write counts as queued from this call on,
+    // until written() was emitted or the writer was deleted.
     void queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
-                    const QString &lyrics, const std::optional<tags::SongTexts> &read = std::nullopt);
+                    const QString &lyrics, const std::optional<tags::ShownTexts> &shown = std::nullopt);
 
     static int pendingWrites();
     // Blocks until no write is queued; false, giving up, when for that long no write ended and not a byte was read or
@@ -44,7 +44,7 @@ public slots:
     // Blocks. Three empty texts do nothing at all; an empty artist or title leaves the file's own; empty lyrics remove
     // those that are stored where the lyrics of the format are read.
     void write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title, const QString &lyrics,
-               const std::optional<tags::SongTexts> &read = std::nullopt);
+               const std::optional<tags::ShownTexts> &shown = std::nullopt);
 
 signals:
     // The file was left as it was; reason says why in words for the user. Always before written().

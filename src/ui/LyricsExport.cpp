@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/LyricsExport.h"
 
-#include "model/LyricsFile.h"
 #include "model/MainModel.h"
 
 #include <QElapsedTimer>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
-// How long the event loop may wait for a turn of the export; a single slow disk access can take longer.
+// How long the event loop may wait for a turn of the export.
 static constexpr std::chrono::milliseconds longestTurn(15);
 
 LyricsExport::LyricsExport(MainModel *model, QObject *parent)
@@ -18,6 +18,9 @@ LyricsExport::LyricsExport(MainModel *model, QObject *parent)
 {
     m_next.setInterval(0);
     connect(&m_next, &QTimer::timeout, this, &LyricsExport::exportSome);
+    connect(m_model, &MainModel::lyricsExported, this,
+            [this](quint16, const QString &textFile, bool isWritten) { note(textFile, isWritten); });
+    connect(m_model, &MainModel::automaticExportFailed, this, &LyricsExport::noteAutomaticFailure);
 }
 
 void LyricsExport::add(const QVector<quint16> &ids)
@@ -25,6 +28,7 @@ void LyricsExport::add(const QVector<quint16> &ids)
     QVector<quint16> queue;
     std::reverse_copy(ids.begin(), ids.end(), std::back_inserter(queue));
     m_ids = queue + m_ids;
+    m_automatic = {};
     m_next.start();
 }
 
@@ -37,17 +41,34 @@ void LyricsExport::exportSome()
     if (!m_ids.isEmpty())
         return;
     m_next.stop();
-    emit finished(std::exchange(m_result, {}));
+    finishIfDone();
 }
 
 void LyricsExport::exportOne(quint16 id)
 {
-    const ModelItem *item = m_model->item(id);
-    if (!item || item->lyricsTag().isEmpty())
-        return;
-    if (m_model->generateLyricsFile(id)) {
+    if (m_model->generateLyricsFile(id))
+        ++m_inWriting;
+}
+
+void LyricsExport::note(const QString &textFile, bool isWritten)
+{
+    --m_inWriting;
+    if (isWritten)
         ++m_result.written;
-    } else if (++m_result.failed == 1) {
-        m_result.failedFile = lyricsFileName(item->url().toLocalFile());
-    }
+    else if (++m_result.failed == 1)
+        m_result.failedFile = textFile;
+    finishIfDone();
+}
+
+void LyricsExport::noteAutomaticFailure(const QString &textFile)
+{
+    if (++m_automatic.failed == 1)
+        m_automatic.failedFile = textFile;
+    emit finished(m_automatic);
+}
+
+void LyricsExport::finishIfDone()
+{
+    if (m_inWriting == 0 && m_ids.isEmpty())
+        emit finished(std::exchange(m_result, {}));
 }

@@ -7,8 +7,9 @@
 
 class MainModel;
 
-// Exports the lyrics of many songs to text files, a few at a time between other events, so that the window stays
-// usable. Main thread only.
+// Exports the lyrics of many songs to text files, and tells of those that could not be written, the automatic exports
+// of the model included. The songs are handed over a few at a time between other events, and written elsewhere, so that
+// the window stays usable. Main thread only.
 class LyricsExport : public QObject
 {
     Q_OBJECT
@@ -28,15 +29,21 @@ public:
     void add(const QVector<quint16> &ids);
 
 signals:
-    // All that was added is done.
+    // All that was added is done; or some more of the automatic exports have failed, which are counted since the last
+    // time that something was added.
     void finished(const LyricsExport::Result &result);
 
 private:
     void exportSome();
     void exportOne(quint16 id);
+    void note(const QString &textFile, bool isWritten);
+    void noteAutomaticFailure(const QString &textFile);
+    void finishIfDone();
 
     MainModel *m_model;
     QTimer m_next;
     QVector<quint16> m_ids; // the next one is the last
+    int m_inWriting = 0;
     Result m_result;
+    Result m_automatic;
 };

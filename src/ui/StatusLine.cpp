@@ -74,16 +74,19 @@ void StatusLine::addFilesLeftOut(int count)
     showNotice(FilesLeftOut, tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
 }
 
-void StatusLine::showSavesMended(const QStringList &restored, const QStringList &kept)
+void StatusLine::showSavesMended(const tags::MendedSaves &mended)
 {
     QStringList sentences;
-    if (!restored.isEmpty())
-        sentences.append(
-            tr("The last save was cut off. Songs that are again as they were before it: %1", "%1 is the paths of files")
-                .arg(restored.join(QLatin1String(", "))));
-    if (!kept.isEmpty())
-        sentences.append(tr("Copies from before a save that was cut off: %1", "%1 is the paths of files")
-                             .arg(kept.join(QLatin1String(", "))));
+    const auto say = [&sentences](const QString &sentence, const QStringList &paths) {
+        if (!paths.isEmpty())
+            sentences.append(sentence.arg(paths.join(QLatin1String(", "))));
+    };
+    say(tr("The last save was cut off. Songs that are again as they were before it: %1", "%1 is the paths of files"),
+        mended.restored);
+    say(tr("Copies from before a save that was cut off: %1", "%1 is the paths of files"), mended.kept);
+    say(tr("A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1",
+           "%1 is the paths of files"),
+        mended.waiting);
     showNotice(SavesMended, sentences.join(QLatin1Char(' ')));
 }
 

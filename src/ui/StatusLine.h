@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tags/SaveJournal.h"
 #include "ui/LyricsExport.h"
 
 #include <QMap>
@@ -35,8 +36,8 @@ public slots:
     void showSettingsUnreadable();
     // Files that a scan left out because of their names. Counts on until the notice is dismissed.
     void addUnusableNames(int count);
-    // Paths of songs that are again as before a save that was cut off, and of copies that were kept.
-    void showSavesMended(const QStringList &restored, const QStringList &kept);
+    // What became of saves that were cut off. Replaces what was shown of them before.
+    void showSavesMended(const tags::MendedSaves &mended);
     // How many songs could not be written for this reason.
     void showWritesFailed(const QString &reason, int count);
     // The list is full. Counts on until the notice is dismissed.

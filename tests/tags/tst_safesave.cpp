@@ -241,6 +241,8 @@ void tst_SafeSave::aSaveThatWasCutOffIsUndone_data()
     const QByteArray half = QByteArray(512, 'n') + QByteArray(1488, 'o');
     QTest::newRow("half written") << half << "restored";
     QTest::newRow("half written, with room for the rest") << half + QByteArray(500, '\0') << "restored";
+    QTest::newRow("undone, with the end of what was new still behind it")
+        << QByteArray(2000, 'o') + QByteArray(500, 'n') << "restored";
     QTest::newRow("wholly written") << QByteArray(2500, 'n') << "whole";
     QTest::newRow("not begun") << QByteArray(2000, 'o') << "whole";
     QTest::newRow("retagged by another program, equally long")
@@ -284,7 +286,6 @@ void tst_SafeSave::aSongOnAStickWaits()
     QVERIFY(QFile::rename(place.song, away));
 
     const tags::MendedSaves mended = tags::SaveJournal(place.data).mend();
-    QVERIFY(mended.isEmpty());
     QCOMPARE(mended.waiting, QStringList{place.song});
     QVERIFY(QFile::rename(away, place.song));
     // What is half written must not take the place of what was rescued.

@@ -223,23 +223,32 @@ void tst_TagUpdate::whatNobodyEditedStaysATaggersOwn()
 {
     const SongFiles files;
     const QString path = files.copy(QStringLiteral("plain-v24.mp3"));
-    const QString data = files.path(QStringLiteral("data"));
-    const tags::SongTexts read{QStringLiteral("The Artist"), QStringLiteral("Misspelt"), {}};
+    tags::ShownTexts shown{{QStringLiteral("The Artist"), QStringLiteral("Misspelt"), {}}};
+    tags::SongTexts texts = shown.texts;
+    const auto update = [&] {
+        return tags::updateTags(path, texts, files.path(QStringLiteral("data")), shown);
+    };
     const auto seen = [&path](const char *key) {
         return SongFiles::tagsOf(path).value(QLatin1String(key)).toVariant().toStringList().join(QLatin1Char('/'));
     };
     const QString title = seen("title");
-    tags::SongTexts texts = read;
     texts.lyrics = QStringLiteral("found words");
-    QCOMPARE(tags::updateTags(path, texts, data, read), UpdateResult::Saved);
+    QCOMPARE(update(), UpdateResult::Saved);
     QCOMPARE(seen("title"), title);
     QCOMPARE(seen("lyrics"), texts.lyrics);
-    texts = read;
+    texts = shown.texts;
     texts.title = QStringLiteral("Edited");
-    QCOMPARE(tags::updateTags(path, texts, data, read), UpdateResult::Saved);
+    QCOMPARE(update(), UpdateResult::Saved);
     QCOMPARE(seen("title"), texts.title);
     QCOMPARE(seen("lyrics"), QStringLiteral("found words"));
-    QCOMPARE(tags::updateTags(path, read, data, read), UpdateResult::Unchanged);
+    texts = shown.texts;
+    QCOMPARE(update(), UpdateResult::Unchanged);
+    texts.lyrics = QStringLiteral("mine");
+    QCOMPARE(update(), UpdateResult::ChangedMeanwhile);
+    QCOMPARE(seen("lyrics"), QStringLiteral("found words"));
+    shown.replacesForeignLyrics = true;
+    QCOMPARE(update(), UpdateResult::Saved);
+    QCOMPARE(seen("lyrics"), texts.lyrics);
 }
 
 QTEST_GUILESS_MAIN(tst_TagUpdate)

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "model/SongWrites.h"
+
+#include "model/ModelItem.h"
+#include "tags/TagWriter.h"
+
+SongWrites::SongWrites(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void SongWrites::start(const ModelItem &item, bool insists)
+{
+    const quint16 id = item.id();
+    const tags::SongTexts texts = item.texts();
+    // While an earlier write is under way nobody knows what the file will hold: each text counts as edited then.
+    std::optional<tags::ShownTexts> shown;
+    if (!isWriting(id))
+        shown = tags::ShownTexts{item.storedTexts(), insists};
+    m_writes[id].enqueue(texts);
+    auto *writer = new TagWriter(m_dataFolder);
+    connect(writer, &TagWriter::failed, this, [this](quint16 failedId, const QString &reason) {
+        m_failures.insert(failedId, reason);
+        emit failed(failedId, reason);
+    });
+    connect(writer, &TagWriter::written, this, &SongWrites::written);
+    connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
+    writer->queueWrite(item.url(), id, texts.artist, texts.title, texts.lyrics, shown);
+}
+
+SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
+{
+    Outcome outcome{m_failures.take(id), {}};
+    const auto writes = m_writes.find(id);
+    if (writes == m_writes.end())
+        return outcome;
+    outcome.texts = writes->dequeue();
+    if (writes->isEmpty())
+        m_writes.erase(writes);
+    return outcome;
+}
+
+int SongWrites::noteUnsaved(quint16 id, const QString &reason)
+{
+    m_unsaved.insert(id, reason);
+    return ++m_unsavedByReason[reason];
+}
+
+bool SongWrites::forgetUnsaved(quint16 id)
+{
+    const auto found = m_unsaved.find(id);
+    if (found == m_unsaved.end())
+        return false;
+    if (--m_unsavedByReason[*found] == 0)
+        m_unsavedByReason.remove(*found);
+    m_unsaved.erase(found);
+    return true;
+}
