@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "network/RequestLimits.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <QVector>
+
+#include <functional>
+#include <limits>
+
+// What an UpdateChecker has from outside: places, keys, limits and helpers. The defaults are those of the program.
+struct UpdateEnvironment
+{
+    UpdateEnvironment();
+
+    // The download folder. It belongs to the checker alone: what is older than the program is deleted there.
+    QString folder;
+    // The maker's public keys, 32 bytes each; without one nothing is ever installed.
+    QVector<QByteArray> keys;
+    // Hands a setup file, by its absolute path, to the desktop; false when nobody takes it.
+    std::function<bool(const QString &path)> open;
+    std::function<QDateTime()> now;
+    RequestLimits limits;
+    // No setup file is larger. The program's progress counts in int, and an endless one must not fill the disk.
+    qint64 mostSetupBytes = std::numeric_limits<int>::max();
+    // Part of the user agent.
+    QString userAgentText;
+};

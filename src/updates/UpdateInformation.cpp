@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "updates/UpdateInformation.h"
+
+#include "updates/VersionOrder.h"
+
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace {
+
+// QXmlStreamReader compares every attribute of a tag with all others: 256 kB of them take 14 s.
+constexpr int mostAttributes = 64;
+
+// Counts, after each "<", what looks like the beginning of an attribute's value. A value cannot hold "<", so a tag has
+// at most as many attributes.
+bool hasTooManyAttributes(const QByteArray &document)
+{
+    int count = 0;
+    char previous = 0;
+    for (const char c : document) {
+        if (c == '<')
+            count = 0;
+        else if ((c == '"' || c == '\'') && previous == '=')
+            ++count;
+        if (count > mostAttributes)
+            return true;
+        if (c != ' ' && c != '\t' && c != '\r' && c != '\n')
+            previous = c;
+    }
+    return false;
+}
+
+QByteArray withRoot(const QByteArray &document)
+{
+    return document.contains("<UpdateInfo>") ? document : "<UpdateInfo>" + document + "</UpdateInfo>";
+}
+
+// "day/month/year"; null when it is not one.
+QDate readDate(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char('/'));
+    if (parts.size() != 3)
+        return {};
+    return {parts[2].toInt(), parts[1].toInt(), parts[0].toInt()};
+}
+
+QString readText(QXmlStreamReader *reader)
+{
+    return reader->readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+}
+
+ReleasedVersion readVersion(QXmlStreamReader *reader)
+{
+    ReleasedVersion version;
+    while (reader->readNextStartElement()) {
+        const QStringRef name = reader->qualifiedName();
+        if (name == QLatin1String("current"))
+            version.version = readText(reader);
+        else if (name == QLatin1String("url"))
+            version.url = readText(reader);
+        else if (name == QLatin1String("changes"))
+            version.changes = reader->readElementText(QXmlStreamReader::IncludeChildElements);
+        else if (name == QLatin1String("date"))
+            version.date = readDate(readText(reader));
+        else if (name == QLatin1String("signature"))
+            version.signature = readText(reader).toLatin1();
+        else
+            reader->skipCurrentElement();
+    }
+    return version;
+}
+
+bool isVersion(const QString &text)
+{
+    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(QStringLiteral("[0-9.]+")));
+    return pattern.match(text).hasMatch();
+}
+
+// The root's start has been read. Stops before a document type, which stands before the root.
+bool readRoot(QXmlStreamReader *reader)
+{
+    reader->setNamespaceProcessing(false);
+    while (!reader->atEnd() && !reader->isDTD() && !reader->isStartElement())
+        reader->readNext();
+    return reader->isStartElement() && reader->qualifiedName() == QLatin1String("UpdateInfo");
+}
+
+} // namespace
+
+ReleasedVersions readUpdateInformation(const QByteArray &document)
+{
+    if (hasTooManyAttributes(document))
+        return {};
+    QXmlStreamReader reader(withRoot(document));
+    if (!readRoot(&reader))
+        return {};
+    ReleasedVersions versions;
+    while (reader.readNextStartElement()) {
+        if (reader.qualifiedName() != QLatin1String("VersionInfo")) {
+            reader.skipCurrentElement();
+            continue;
+        }
+        const ReleasedVersion version = readVersion(&reader);
+        if (isVersion(version.version))
+            versions.append(version);
+    }
+    while (!reader.atEnd())
+        reader.readNext();
+    if (reader.hasError())
+        return {};
+    std::stable_sort(versions.begin(), versions.end(), [](const ReleasedVersion &a, const ReleasedVersion &b) {
+        return isNewerVersion(b.version, a.version);
+    });
+    return versions;
+}
