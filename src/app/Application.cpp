@@ -14,12 +14,18 @@
 #include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
 
 const QString organisation = QStringLiteral("Quillmarsh");
 const QString program = QStringLiteral("Versewell");
 const QString english = QStringLiteral("en");
+
+// How long the list waits for saves that are undone, and the user for word of those that cannot be.
+constexpr std::chrono::seconds mendingPatience(3);
 
 // In the order of the file dialog's filter.
 QStringList supportedExtensions()
@@ -125,14 +131,25 @@ void Application::connectModels()
     connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
 }
 
-// Before any song is read: one whose save was cut off is made whole first.
+// Songs whose saves were cut off are made whole while the window comes up: their disks may be away, or slow.
 void Application::mendSaves()
 {
     const QString folder =
         QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1String("/saves");
     m_mainModel.setDataFolder(folder);
-    if (m_instance.isHolder())
-        m_mendedSaves = tags::SaveJournal(folder).mend();
+    if (!m_instance.isHolder())
+        return;
+    m_savesMending = std::make_unique<tags::SavesMending>(folder);
+    connect(m_savesMending.get(), &tags::SavesMending::done, this, &Application::savesMended);
+    QTimer::singleShot(mendingPatience, this, [this] {
+        if (!m_savesMending->isDone())
+            emit savesMended();
+    });
+}
+
+tags::MendedSaves Application::mendedSaves() const
+{
+    return m_savesMending ? m_savesMending->result() : tags::MendedSaves();
 }
 
 void Application::restoreFilesList()
@@ -147,8 +164,9 @@ void Application::restoreFilesList()
         if (url.isValid())
             urls.append(url);
     }
+    // Songs that are made whole are not read before that, unless it takes long.
     if (!urls.isEmpty())
-        m_mainModel.restore(urls);
+        m_mainModel.restore(urls, m_savesMending->waiter(mendingPatience));
 }
 
 Application::OSType Application::osType()

@@ -10,7 +10,7 @@
 #include "settings/Settings.h"
 #include "settings/SettingsFile.h"
 #include "settings/SettingsStandIn.h"
-#include "tags/SaveJournal.h"
+#include "tags/SavesMending.h"
 #include "ui/AppPalette.h"
 
 #include <QApplication>
@@ -36,8 +36,9 @@ public:
     enum OSType { OS_Mac, OS_Windows, OS_Linux, OS_Unknown };
     Q_ENUM(OSType)
 
-    // A damaged settings file is kept aside and mended and saves that were cut off are undone, where this program holds
-    // the lock, and the settings are loaded. `readerProgram` reads the tags of files (tags/MediaInfoExtractor.h).
+    // Where this program holds the lock, a damaged settings file is kept aside and mended, and the undoing of saves
+    // that were cut off begins; the settings are loaded. `readerProgram` reads the tags of files
+    // (tags/MediaInfoExtractor.h).
     Application(int &argc, char **argv, const QString &readerProgram);
     ~Application() override;
 
@@ -51,8 +52,10 @@ public:
     // to the user.
     [[nodiscard]] bool areSettingsStored() const { return m_settingsStored; }
 
-    // What a save that was cut off had left behind at the start; to be told to the user.
-    [[nodiscard]] tags::MendedSaves mendedSaves() const { return m_mendedSaves; }
+    // What is known of saves that were cut off before this run; to be told to the user when that is all there is to
+    // know, and with each savesMended().
+    [[nodiscard]] tags::MendedSaves mendedSaves() const;
+    [[nodiscard]] bool areSavesMended() const { return !m_savesMending || m_savesMending->isDone(); }
 
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
     // Lets another instance start while this one ends; nothing may be stored from here on.
@@ -92,6 +95,8 @@ public:
     void noteStart();
 
 signals:
+    // More is known of saves that were cut off: all are undone that can be, or some take long.
+    void savesMended();
     void usageEvent(const QString &category, const QString &action, const QString &label);
 
 public slots:
@@ -116,7 +121,7 @@ private:
     SettingsMending m_settingsMending;
     std::unique_ptr<SettingsStandIn> m_standIn; // where the settings file must not be read
     bool m_settingsStored = true;
-    tags::MendedSaves m_mendedSaves;
+    std::unique_ptr<tags::SavesMending> m_savesMending; // of the holder of the lock
     MainModel m_mainModel;
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;

@@ -53,8 +53,13 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
         window.showSettingsDamaged(mending.copy);
     else if (mending.unreadable || !app.areSettingsStored())
         window.showSettingsUnreadable();
-    if (const tags::MendedSaves mended = app.mendedSaves(); !mended.isEmpty())
-        window.showSavesMended(mended.restored, mended.kept);
+    const auto tellOfSaves = [&app, &window] {
+        if (const tags::MendedSaves mended = app.mendedSaves(); !mended.isEmpty())
+            window.showSavesMended(mended);
+    };
+    QObject::connect(&app, &Application::savesMended, &window, tellOfSaves);
+    if (app.areSavesMended())
+        tellOfSaves();
     return Application::exec();
 }
 

@@ -186,9 +186,9 @@ void MainWindow::showSettingsUnreadable()
     m_status->showSettingsUnreadable();
 }
 
-void MainWindow::showSavesMended(const QStringList &restored, const QStringList &kept)
+void MainWindow::showSavesMended(const tags::MendedSaves &mended)
 {
-    m_status->showSavesMended(restored, kept);
+    m_status->showSavesMended(mended);
 }
 
 // Adding

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lyrics/SearchProvider.h"
+#include "tags/SaveJournal.h"
 #include "ui/LyricsEdit.h"
 #include "ui/SceneWidget.h"
 #include "ui/SongRemoval.h"
@@ -100,8 +101,8 @@ public slots:
     void showSettingsDamaged(const QString &copy);
     // Says that no settings can be read or stored.
     void showSettingsUnreadable();
-    // Songs whose save was cut off: those that are again as they were, and copies of those that had been replaced.
-    void showSavesMended(const QStringList &restored, const QStringList &kept);
+    // What became of saves that were cut off. Replaces what was shown of them before.
+    void showSavesMended(const tags::MendedSaves &mended);
 
 signals:
     // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.
