@@ -61,6 +61,7 @@ Application::Application(int &argc, char **argv, const QString &readerProgram)
     setNames();
     m_settings.load();
     m_settings.setHolder(m_instance.isHolder());
+    setUpTracker();
     createSearch();
     connectModels();
     mendSaves();
@@ -103,6 +104,13 @@ QString Application::settingsFile()
     // may be damaged, or a FIFO that never answers.
     const QFileInfo neighbour(QSettings(organisation, program + QLatin1String(" place")).fileName());
     return neighbour.path() + QLatin1Char('/') + program + QLatin1Char('.') + neighbour.suffix();
+}
+
+void Application::setUpTracker()
+{
+    m_tracker.setNetworkAccessManager(&m_trackerManager);
+    m_tracker.hold();
+    m_usageConsent.load();
 }
 
 void Application::createSearch()
@@ -186,25 +194,20 @@ Application::OSType Application::osType()
 
 void Application::proxyChanged()
 {
-    m_networkManager.useProxy(m_settings.proxy());
+    for (AccessManager *manager : {&m_networkManager, &m_trackerManager})
+        manager->useProxy(m_settings.proxy());
 }
 
 // Usage events
 
 void Application::trackUsage(const QString &first, const QString &second)
 {
-    QString label = first.trimmed();
-    if (label.isEmpty())
-        return;
-    const QString addition = second.trimmed();
-    if (!addition.isEmpty())
-        label += QLatin1String(" // ") + addition;
-    emit usageEvent(QStringLiteral("usage"), QStringLiteral("search"), label);
+    m_tracker.trackSearch(first, second);
 }
 
 void Application::reportOpenGLError()
 {
-    emit usageEvent(QStringLiteral("error"), QStringLiteral("opengl"), QString());
+    m_tracker.trackEvent(QStringLiteral("error"), QStringLiteral("opengl"));
 }
 
 // Start pages
@@ -215,10 +218,19 @@ void Application::noteStart()
     SettingsChange change;
     change.set(SettingsKey::FirstStart, applicationVersion());
     m_settingsStored = change.commit();
-    if (!flagOf(storedValue(QSettings(), SettingsKey::OpenQuillmarshSite)) || lastVersion == applicationVersion())
+    if (flagOf(storedValue(QSettings(), SettingsKey::OpenQuillmarshSite)) && lastVersion != applicationVersion())
+        openStartPage(lastVersion);
+    m_tracker.trackStart();
+}
+
+void Application::openStartPage(const QString &lastVersion)
+{
+    if (lastVersion.isEmpty()) {
+        openMakerPage(QStringLiteral("/versewell/welcome.html"));
         return;
-    openMakerPage(lastVersion.isEmpty() ? QStringLiteral("/versewell/welcome.html")
-                                        : QStringLiteral("/versewell/update.html"));
+    }
+    openMakerPage(QStringLiteral("/versewell/update.html"));
+    m_tracker.trackUpdate(lastVersion);
 }
 
 void Application::openMakerPage(const QString &path) const

@@ -11,7 +11,9 @@
 #include "settings/SettingsFile.h"
 #include "settings/SettingsStandIn.h"
 #include "tags/SavesMending.h"
+#include "tracking/AppTracker.h"
 #include "ui/AppPalette.h"
+#include "ui/UsageConsent.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -76,13 +78,16 @@ public:
     [[nodiscard]] AppPalette *appPalette() { return &m_palette; }
     [[nodiscard]] LyricsSearch *lyricsSearch() { return &m_search; }
     [[nodiscard]] QNetworkAccessManager *networkManager() { return &m_networkManager; }
+    // Its events wait until it is released, once the window is there.
+    [[nodiscard]] AppTracker *tracker() { return &m_tracker; }
+    [[nodiscard]] UsageConsent *usageConsent() { return &m_usageConsent; }
 
     // File name of the executable without any suffix; the translation files begin with it.
     [[nodiscard]] QString executableBaseName() const;
     [[nodiscard]] QString translationsFolder() const;
     [[nodiscard]] QString qtTranslationsFolder() const;
 
-    // Reports a search for a song to those who listen to `usageEvent`; nothing when the first text is blank.
+    // Reports a search for a song, by its artist and its title; nothing when the first text is blank.
     void trackUsage(const QString &first, const QString &second);
     // Reports that the scene could not be drawn with OpenGL.
     void reportOpenGLError();
@@ -90,28 +95,29 @@ public:
     // Finds the installed languages, publishes their codes as the dynamic property "languageList" and installs the one
     // to use.
     void setUpLanguages();
-    // Notes that this version ran, and opens the welcome page at the first start or the what's-new page after an
-    // update.
+    // Notes and reports that this version ran, and opens the welcome page at the first start or the what's-new page
+    // after an update, which is reported too.
     void noteStart();
 
 signals:
     // More is known of saves that were cut off: all are undone that can be, or some take long.
     void savesMended();
-    void usageEvent(const QString &category, const QString &action, const QString &label);
 
 public slots:
     // Installs the translators of the language that the settings name, or else of the system's.
     void changeLanguage();
-    // Hands the proxy that the settings describe to the access manager.
+    // Hands the proxy that the settings describe to the access managers.
     void proxyChanged();
     void onPaletteChanged(const QPalette &palette);
 
 private:
     static void setNames();
     void readSettings();
+    void setUpTracker();
     void createSearch();
     void connectModels();
     void mendSaves();
+    void openStartPage(const QString &lastVersion);
     void openMakerPage(const QString &path) const;
     [[nodiscard]] QString systemLanguage() const;
     [[nodiscard]] bool hasTranslation(const QString &code) const;
@@ -126,8 +132,11 @@ private:
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;
     AccessManager m_networkManager;
+    AccessManager m_trackerManager;
+    AppTracker m_tracker;
     Settings m_settings;
     AppPalette m_palette;
+    UsageConsent m_usageConsent{&m_tracker};
     LyricsSearch m_search;
     std::unique_ptr<QTranslator> m_translator;
     std::unique_ptr<QTranslator> m_qtTranslator;

@@ -5,6 +5,7 @@
 #include "app/TerminationSignals.h"
 #include "tags/TagReaderService.h"
 #include "tags/TagWriter.h"
+#include "ui/FirstPaint.h"
 #include "ui/MainWindow.h"
 
 #include <QMessageBox>
@@ -39,15 +40,18 @@ int showSceneError(Application &app, const QString &reason)
 
 int runWindow(Application &app, const TerminationSignals &signalsToEnd)
 {
-    MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app});
+    MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app,
+                       app.tracker(), app.usageConsent()});
     if (!window.sceneErrors().isEmpty())
         return showSceneError(app, window.sceneErrors());
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, &QWidget::hide);
     QObject::connect(&window, &MainWindow::sceneFailed, &app, [&app, &window](const QString &reason) {
         app.reportOpenGLError();
+        app.tracker()->release();
         window.hide();
         QCoreApplication::exit(showSceneError(app, reason));
     });
+    afterFirstPaint(&window, &app, [&app] { app.tracker()->release(); });
     window.show();
     if (const SettingsMending mending = app.settingsMending(); mending.damaged)
         window.showSettingsDamaged(mending.copy);

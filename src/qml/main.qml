@@ -15,6 +15,8 @@ Rectangle {
     property int qtVersion: 0
     // Null while the window goes.
     readonly property var edit: mainWindow ? mainWindow.lyricsEdit : null
+    // Null where nobody is to be asked whether usage events may be sent.
+    readonly property var consent: mainWindow && mainWindow.usageConsent ? mainWindow.usageConsent : null
     // The one selected song; null when there is none or there are several.
     property var shownSong: null
     // Of the song whose modified draft was left, until the draft is saved or discarded: the names that stood in the fields.
@@ -156,7 +158,7 @@ Rectangle {
     SplitView {
         id: panes
 
-        anchors.fill: parent
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: consentBar.top }
         orientation: Qt.Horizontal
         handleDelegate: SplitterHandle {
             onMoved: root.listWidth = root.boundedListWidth(list.width + distance)
@@ -196,6 +198,21 @@ Rectangle {
         }
     }
 
+    ConsentBar {
+        id: consentBar
+
+        objectName: "consentBar"
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        height: implicitHeight
+        shown: root.consent !== null && root.consent.pending
+        onExampleRequested: root.consent.showExample()
+        onAnswered: {
+            // Before the button with the keyboard goes.
+            list.takeFocus();
+            root.consent.answer(yes);
+        }
+    }
+
     DropArea {
         id: dropArea
 
@@ -212,7 +229,7 @@ Rectangle {
     Rectangle {
         x: list.x
         width: list.width
-        height: parent.height
+        height: panes.height
         visible: dropArea.containsDrag
         color: "transparent"
         border { width: Measures.focusRing; color: appPalette.highlight }

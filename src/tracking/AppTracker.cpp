@@ -85,6 +85,12 @@ bool AppTracker::maySpeak() const
 
 // Events
 
+void AppTracker::release()
+{
+    m_isHeld = false;
+    sendWaiting();
+}
+
 void AppTracker::trackStart()
 {
     trackEvent(usage, start);
@@ -92,6 +98,7 @@ void AppTracker::trackStart()
 
 void AppTracker::trackQuit()
 {
+    m_isHeld = false;
     if (maySpeak())
         trackEvent(usage, quit);
     else
@@ -143,10 +150,7 @@ void AppTracker::trackEvent(const QString &category, const QString &action, cons
     if (!maySpeak() || category.isEmpty() || action.isEmpty())
         return;
     m_waiting.append({formOf(fields(category, action, label, value, m_clientId)), action == quit});
-    if (m_system.isFound())
-        sendWaiting();
-    else
-        m_system.find();
+    sendWaiting();
 }
 
 // What is sent
@@ -204,6 +208,12 @@ QString AppTracker::searchExample(const QString &artist, const QString &title, c
 
 void AppTracker::sendWaiting()
 {
+    if (m_isHeld || m_waiting.isEmpty())
+        return;
+    if (!m_system.isFound()) {
+        m_system.find();
+        return;
+    }
     for (const Event &event : std::exchange(m_waiting, {}))
         send(event);
 }

@@ -49,6 +49,10 @@ public:
     // The label of a search event. Blanks at the ends do not count.
     [[nodiscard]] static QString searchLabel(const QString &artist, const QString &title);
 
+    // Events wait between these two. The report of the end of the session ends the wait as well.
+    void hold() { m_isHeld = true; }
+    void release();
+
     void trackStart();
     // Reports the end of the session; quitTracked() follows from the event loop in any case.
     void trackQuit();
@@ -91,7 +95,8 @@ private:
     OperatingSystemText m_system;
     QPointer<QNetworkAccessManager> m_manager;
     bool m_isAllowed = false;
+    bool m_isHeld = false;
     QString m_clientId;
-    QVector<Event> m_waiting; // for the operating system
+    QVector<Event> m_waiting; // for the operating system, or to be released
     QSet<QNetworkReply *> m_replies;
 };

@@ -7,6 +7,7 @@
 #include "network/Endpoints.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
+#include "tracking/AppTracker.h"
 #include "ui/AboutDialog.h"
 #include "ui/AddDialogs.h"
 #include "ui/AppPalette.h"
@@ -32,8 +33,12 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
 #include <optional>
+
+// How long the end of the program waits for the report of it.
+static constexpr std::chrono::seconds reportPatience(1);
 
 static bool isId(int number)
 {
@@ -333,11 +338,15 @@ void MainWindow::generateLyricsForSelected()
 void MainWindow::on_actionFacebook_triggered()
 {
     openMakerPage(QStringLiteral("/facebook/"), QStringLiteral("app"));
+    if (m_parts.tracker)
+        m_parts.tracker->trackFacebook();
 }
 
 void MainWindow::on_actionTwitter_triggered()
 {
     openMakerPage(QStringLiteral("/twitter/"), QStringLiteral("app"));
+    if (m_parts.tracker)
+        m_parts.tracker->trackTwitter();
 }
 
 void MainWindow::on_actionWebsite_triggered()
@@ -354,7 +363,7 @@ void MainWindow::on_actionAbout_triggered()
 
 void MainWindow::on_actionSettings_triggered()
 {
-    auto *dialog = new SettingsDialog(m_parts.settings, this);
+    auto *dialog = new SettingsDialog(m_parts.settings, m_parts.usageConsent, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
@@ -391,10 +400,17 @@ void MainWindow::askToQuit()
 
 void MainWindow::quit_app_accepted()
 {
+    if (m_quitting)
+        return;
     m_quitting = true;
     hide();
-    // Nothing has to be waited for yet; what is to be told at the end of a session is told here.
-    QTimer::singleShot(0, this, &MainWindow::quit_app_force);
+    if (!m_parts.tracker) {
+        QTimer::singleShot(0, this, &MainWindow::quit_app_force);
+        return;
+    }
+    connect(m_parts.tracker, &AppTracker::quitTracked, this, &MainWindow::quit_app_force);
+    m_parts.tracker->trackQuit();
+    QTimer::singleShot(reportPatience, this, &MainWindow::quit_app_force);
 }
 
 void MainWindow::quit_app_force()

@@ -7,6 +7,7 @@
 #include "ui/SceneWidget.h"
 #include "ui/SongRemoval.h"
 #include "ui/UnsavedLyricsGuard.h"
+#include "ui/UsageConsent.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -15,6 +16,7 @@
 #include <memory>
 
 class AppPalette;
+class AppTracker;
 class ExitWidget;
 class ForcedSearches;
 class FolderScanner;
@@ -36,6 +38,7 @@ class MainWindow : public QMainWindow
 {
     Q_OBJECT
     Q_PROPERTY(LyricsEdit *lyricsEdit READ lyricsEdit CONSTANT)
+    Q_PROPERTY(UsageConsent *usageConsent READ usageConsent CONSTANT)
 
 public:
     // What the window shows and works on. Nothing is owned, and all must outlive the window.
@@ -47,12 +50,16 @@ public:
         Settings *settings;
         AppPalette *palette;
         QObject *app; // for the scene
+        // Null: nothing is reported, and nobody is asked.
+        AppTracker *tracker = nullptr;
+        UsageConsent *usageConsent = nullptr;
     };
 
     explicit MainWindow(const Parts &parts, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     [[nodiscard]] LyricsEdit *lyricsEdit() const { return m_lyricsEdit; }
+    [[nodiscard]] UsageConsent *usageConsent() const { return m_parts.usageConsent; }
 
     // Why the scene could not be loaded, in words for the user; empty when it could.
     [[nodiscard]] QString sceneErrors() const;
@@ -89,7 +96,8 @@ public slots:
     void addFolderSelected(const QString &folder);
     // Keeps the number of songs that are still to be searched for in the status line.
     void updateStatusLabel();
-    // Quits after asking, when there is something to ask; then hides the window, and then ends the event loop.
+    // Quits after asking, when there is something to ask; then hides the window and reports the end of the session, and
+    // ends the event loop when the report is through, or after a second.
     void quit_app();
     void quit_app_accepted();
     void quit_app_force();

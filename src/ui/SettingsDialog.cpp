@@ -7,17 +7,21 @@
 #include "network/Endpoints.h"
 #include "network/ProxyTester.h"
 #include "settings/Settings.h"
+#include "settings/SettingsChange.h"
 #include "ui/LanguageNames.h"
 #include "ui/Pictures.h"
+#include "ui/UsageConsent.h"
 #include "ui_SettingsDialog.h"
 
 #include <QCoreApplication>
 #include <QIntValidator>
 #include <QLocale>
+#include <QSettings>
 #include <QTimer>
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 
 namespace {
 
@@ -28,6 +32,13 @@ constexpr int proxyTypeCount = 3;
 const QString siteSeparator = QStringLiteral(";;");
 const QString markSeparator = QStringLiteral("::");
 const QString disabledMark = QStringLiteral("0");
+
+// Whether new versions are looked for by themselves. A period that cannot be read counts as the usual one.
+bool checksForUpdates()
+{
+    const QVariant period = storedValue(QSettings(), SettingsKey::UpdaterPeriod);
+    return numberOf(period, std::numeric_limits<int>::min(), 0) == std::nullopt;
+}
 
 void select(QComboBox *box, int index)
 {
@@ -41,10 +52,11 @@ bool isChecked(const QListWidgetItem &item)
 
 } // namespace
 
-SettingsDialog::SettingsDialog(Settings *settings, QWidget *parent)
+SettingsDialog::SettingsDialog(Settings *settings, UsageConsent *consent, QWidget *parent)
     : QDialog(parent)
     , m_form(std::make_unique<Ui::SettingsDialog>())
     , m_settings(settings)
+    , m_consent(consent)
 {
     initPictures();
     m_form->setupUi(this);
@@ -53,6 +65,7 @@ SettingsDialog::SettingsDialog(Settings *settings, QWidget *parent)
     alignProxyLabels();
     setUpProxyTest();
     fillSelectors();
+    setUpReports();
     writeUi();
     trackChanges();
 }
@@ -103,6 +116,21 @@ void SettingsDialog::fillSelectors()
     m_form->seachProviderComboBox->addItems(SearchProvider().names());
 }
 
+void SettingsDialog::setUpReports()
+{
+    m_form->checkUpdatesCheckBox->setVisible(endpointExists(Endpoint::Maker));
+    const bool isPossible = m_consent && m_consent->isPossible();
+    m_form->usageStatisticsCheckBox->setVisible(isPossible);
+    m_form->btnUsageExample->setVisible(isPossible);
+    if (!isPossible)
+        return;
+    connect(m_form->btnUsageExample, &QPushButton::clicked, m_consent, &UsageConsent::showExample);
+    if (!m_consent->isForbidden())
+        return;
+    m_form->usageStatisticsCheckBox->setEnabled(false);
+    m_form->usageStatisticsCheckBox->setToolTip(tr("Switched off by DO_NOT_TRACK"));
+}
+
 // Changes
 
 void SettingsDialog::trackChanges()
@@ -114,7 +142,8 @@ void SettingsDialog::trackChanges()
     connect(m_form->lyrcisFontSizeSpinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
             &SettingsDialog::contentChanged);
     for (QCheckBox *box :
-         {m_form->prependNewLineCheckBox, m_form->saveFilesListCheckBox, m_form->generateLyricsFileAuto})
+         {m_form->prependNewLineCheckBox, m_form->saveFilesListCheckBox, m_form->generateLyricsFileAuto,
+          m_form->checkUpdatesCheckBox, m_form->usageStatisticsCheckBox})
         connect(box, &QCheckBox::clicked, this, &SettingsDialog::contentChanged);
     trackProxyChanges();
     trackOrderChanges();
@@ -166,6 +195,7 @@ void SettingsDialog::writeUi()
     m_form->prependNewLineCheckBox->setChecked(m_settings->prependNewLine());
     m_form->saveFilesListCheckBox->setChecked(m_settings->saveFilesList());
     m_form->generateLyricsFileAuto->setChecked(m_settings->generateLyricsFileAuto());
+    writeReports();
     writeOrder();
     updateProxyControls();
     updateOrderButtons();
@@ -189,6 +219,7 @@ void SettingsDialog::readUi()
     m_settings->setProxyUsername(m_form->proxyUsernameLineEdit->text());
     m_settings->setProxyPassword(m_form->proxyPasswordLineEdit->text());
     m_settings->setProvidersOrder(readOrder());
+    readReports();
 }
 
 void SettingsDialog::accept()
@@ -202,6 +233,27 @@ void SettingsDialog::done(int result)
     m_proxyTestTimer->stop();
     m_proxyTester->stop();
     QDialog::done(result);
+}
+
+// What the program sends by itself
+
+void SettingsDialog::writeReports()
+{
+    m_form->checkUpdatesCheckBox->setChecked(checksForUpdates());
+    m_form->usageStatisticsCheckBox->setChecked(m_consent && m_consent->isGiven());
+}
+
+// Only what was changed: an untouched box is no answer to a question, and does not change a period of the user's own.
+void SettingsDialog::readReports() const
+{
+    const bool checks = m_form->checkUpdatesCheckBox->isChecked();
+    if (checks != checksForUpdates()) {
+        SettingsChange change;
+        change.set(SettingsKey::UpdaterPeriod, checks ? keyDefault(SettingsKey::UpdaterPeriod) : 0);
+        change.commit();
+    }
+    if (m_consent && m_form->usageStatisticsCheckBox->isChecked() != m_consent->isGiven())
+        m_consent->answer(!m_consent->isGiven());
 }
 
 // The proxy

@@ -10,6 +10,7 @@ class ProxyTester;
 class QListWidgetItem;
 class QTimer;
 class Settings;
+class UsageConsent;
 
 namespace Ui {
 class SettingsDialog;
@@ -24,8 +25,9 @@ class SettingsDialog : public QDialog
     Q_OBJECT
 
 public:
-    // The settings are not owned and must outlive the dialog.
-    explicit SettingsDialog(Settings *settings, QWidget *parent = nullptr);
+    // Settings and consent are not owned and must outlive the dialog. Without a consent, or where nobody is to be asked
+    // for one, nothing is said of usage events; nor of checks for updates where the maker has no site.
+    SettingsDialog(Settings *settings, UsageConsent *consent, QWidget *parent = nullptr);
     ~SettingsDialog() override;
 
     void accept() override;
@@ -59,6 +61,7 @@ private:
     void alignProxyLabels();
     void setUpProxyTest();
     void fillSelectors();
+    void setUpReports();
     void restrictPort();
     [[nodiscard]] QString proxyAddress() const;
     [[nodiscard]] QString proxyTestWords() const;
@@ -66,6 +69,8 @@ private:
     void trackProxyChanges();
     void trackOrderChanges();
 
+    void writeReports();
+    void readReports() const;
     void writeOrder();
     void addSite(const QString &name, bool enabled);
     [[nodiscard]] QString readOrder() const;
@@ -74,6 +79,7 @@ private:
 
     const std::unique_ptr<Ui::SettingsDialog> m_form;
     Settings *m_settings;
+    UsageConsent *m_consent;
     ProxyTester *m_proxyTester;
     QTimer *m_proxyTestTimer;
 };

@@ -104,11 +104,6 @@ private slots:
         QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
         app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));
         QVERIFY(app->lyricsSearch()->providersOrder().contains(QLatin1String("LyricsFreak::0")));
-        QSignalSpy usage(&*app, &Application::usageEvent);
-        for (const char *artist : {" Nora Vale ", "  "})
-            app->trackUsage(QString::fromLatin1(artist), QStringLiteral(" Harbour "));
-        QCOMPARE(usage.count(), 1);
-        QCOMPARE(usage.at(0).at(2).toString(), QStringLiteral("Nora Vale // Harbour"));
     }
 
     void betterNamesAreAskedForWhenNoSiteHasTheSong()

@@ -113,7 +113,7 @@ void tst_SettingsDialog::cleanup()
 
 void tst_SettingsDialog::open()
 {
-    m_dialog = std::make_unique<SettingsDialog>(m_settings.get());
+    m_dialog = std::make_unique<SettingsDialog>(m_settings.get(), nullptr);
     m_dialog->open();
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
 }
