@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+class QDialogButtonBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QVBoxLayout;
+class UpdateChecker;
+
+// Shows how far the download of the setup file has come, and then leads to its installation. Rejecting it aborts the
+// download.
+class DownloadDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // The checker is not owned and must outlive this.
+    explicit DownloadDialog(UpdateChecker *checker, QWidget *parent = nullptr);
+
+public slots:
+    // Begins the installation, which ends the program or leaves the checker in Error.
+    void install();
+    // Not while the setup file is being checked, which ends by itself.
+    void reject() override;
+
+signals:
+    // "Exit and install" was pressed; install() has to follow when nothing is in the way.
+    void installRequested();
+
+private:
+    void createButtons();
+    void updateState();
+    void showProgress(int progress, int total);
+
+    UpdateChecker *m_checker;
+    QLabel *m_status;
+    QProgressBar *m_bar;
+    QLabel *m_progress;
+    QDialogButtonBox *m_buttons;
+    QPushButton *m_install;
+};

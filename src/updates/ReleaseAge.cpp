@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "updates/ReleaseAge.h"
+
+#include <QCoreApplication>
+
+static constexpr int monthsInYear = 12;
+
+// A month is over on the same day of the next one, or on its last day where there is no such day.
+static int wholeMonths(const QDate &from, const QDate &to)
+{
+    const int months = (to.year() - from.year()) * monthsInYear + to.month() - from.month();
+    return from.addMonths(months) > to ? months - 1 : months;
+}
+
+QString releaseAge(const QDate &released, const QDate &today)
+{
+    if (!released.isValid() || !today.isValid() || released >= today)
+        return {};
+    const int months = wholeMonths(released, today);
+    if (months >= monthsInYear)
+        return QCoreApplication::translate("UpdateDialog", "%n years", nullptr, months / monthsInYear);
+    if (months > 0)
+        return QCoreApplication::translate("UpdateDialog", "%n months", nullptr, months);
+    return QCoreApplication::translate("UpdateDialog", "%n days", nullptr, static_cast<int>(released.daysTo(today)));
+}

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: MIT
+#include "updates/Updater.h"
+
+#include "network/Endpoints.h"
+#include "settings/SettingsChange.h"
+#include "updates/DownloadDialog.h"
+#include "updates/UpdateDialog.h"
+#include "updates/UpdateInfoDialog.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSettings>
+#include <QTextDocument>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::milliseconds startDelay(5000);
+constexpr std::chrono::milliseconds tick(60000);
+constexpr qint64 secondsInMinute = 60;
+// Texts from the network may be of any length.
+constexpr int longestDetail = 300;
+
+// Ends a dialog that is open, without an answer of the user's.
+template<typename Dialog>
+void finish(QPointer<Dialog> *dialog)
+{
+    if (*dialog)
+        (*dialog)->accept();
+    dialog->clear(); // it goes a little later
+}
+
+void bringToFront(QWidget *dialog)
+{
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+} // namespace
+
+Updater::Updater(const UpdateEnvironment &environment, QObject *parent)
+    : QObject(parent)
+    , m_now(environment.now)
+    , m_checker(environment)
+{
+    m_timer.setTimerType(Qt::CoarseTimer);
+    m_timer.setInterval(tick);
+    connect(&m_timer, &QTimer::timeout, this, &Updater::checkIfDue);
+    connect(&m_checker, &UpdateChecker::stateChanged, this, &Updater::checkerStateChanged);
+    connect(&m_checker, &UpdateChecker::exitRequest, this, [this] {
+        if (m_window)
+            m_window->hide();
+    });
+    connect(&m_checker, &UpdateChecker::exitRequest, QCoreApplication::instance(), &QCoreApplication::quit);
+    QTimer::singleShot(startDelay, this, &Updater::startUpdateTimer);
+}
+
+Updater::~Updater()
+{
+    m_checker.disconnect(this);
+}
+
+void Updater::setParentWindow(QWidget *window)
+{
+    m_window = window;
+    window->installEventFilter(this);
+}
+
+// The program may need a while to end after its window is gone; no dialog may stand about then.
+bool Updater::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && event->type() == QEvent::Hide && !event->spontaneous())
+        closeDialogs();
+    return QObject::eventFilter(watched, event);
+}
+
+// When to check
+
+void Updater::startUpdateTimer()
+{
+    if (endpointExists(Endpoint::Maker))
+        m_timer.start();
+}
+
+// The period is looked up each time, so that the preferences take effect at once.
+bool Updater::isDue() const
+{
+    const qint64 periodMinutes = storedValue(QSettings(), SettingsKey::UpdaterPeriod).toLongLong();
+    if (periodMinutes <= 0)
+        return false;
+    // Divided, since the product of a large period may not fit.
+    return !m_lastCheckUpdate.isValid() || m_lastCheckUpdate.secsTo(m_now()) / secondsInMinute >= periodMinutes;
+}
+
+bool Updater::isBusy() const
+{
+    const UpdateChecker::States state = m_checker.state();
+    return state == UpdateChecker::Checking || state == UpdateChecker::Downloading || m_checker.isInstalling() ||
+           m_info || m_offer || m_download || m_box;
+}
+
+void Updater::checkIfDue()
+{
+    if (!m_window || !m_window->isVisible() || isBusy() || !isDue())
+        return;
+    m_byUser = false;
+    m_checker.setQuiet(true);
+    check();
+}
+
+void Updater::checkByUser()
+{
+    if (m_download) {
+        bringToFront(m_download);
+        return;
+    }
+    m_byUser = true;
+    m_checker.setQuiet(false);
+    if (m_offer)
+        m_offer->close();
+    if (m_checker.state() == UpdateChecker::Checking)
+        showInfo();
+    else
+        check();
+}
+
+void Updater::check()
+{
+    m_lastCheckUpdate = m_now();
+    m_checker.check();
+    emit checked();
+}
+
+// What comes of it
+
+void Updater::checkerStateChanged()
+{
+    const UpdateChecker::States state = m_checker.state();
+    if (state != UpdateChecker::Checking)
+        finish(&m_info);
+    switch (state) {
+    case UpdateChecker::Checking:
+        m_isOfferDue = true;
+        if (m_byUser)
+            showInfo();
+        break;
+    case UpdateChecker::UpdateAvailable:
+    case UpdateChecker::InstallAvailable:
+        // Once a check: the states come again when the size is known, and when a download ends or is aborted.
+        if (std::exchange(m_isOfferDue, false) && (m_byUser || !isSkipped(m_checker.latestVersion())))
+            offer();
+        break;
+    case UpdateChecker::Downloading:
+        showDownload();
+        break;
+    case UpdateChecker::UpToDate:
+        if (m_byUser)
+            tell(QMessageBox::Information, tr("You have the latest version."));
+        break;
+    case UpdateChecker::Error:
+        finish(&m_download);
+        if (m_byUser)
+            tell(QMessageBox::Critical, tr("Failed to update"), m_checker.error());
+        break;
+    case UpdateChecker::Normal:
+        break;
+    }
+}
+
+void Updater::showInfo()
+{
+    if (!m_info) {
+        m_info = new UpdateInfoDialog(m_window);
+        m_info->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_info, &QDialog::rejected, &m_checker, &UpdateChecker::abortCheck);
+        m_info->open();
+    }
+    bringToFront(m_info);
+}
+
+void Updater::offer()
+{
+    const QString version = m_checker.latestVersion();
+    m_offer = new UpdateDialog(m_checker.versions(), m_now().date(),
+                               m_byUser ? UpdateDialog::Occasion::Asked : UpdateDialog::Occasion::Unasked, m_window);
+    m_offer->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_offer, &QDialog::finished, this, [this, version](int answer) { takeAnswer(answer, version); });
+    connect(&m_checker, &UpdateChecker::errorMessageChanged, m_offer,
+            [this, dialog = m_offer.data()] { dialog->showError(m_checker.error()); });
+    // An offer that nobody asked for must not block the window that the user works in.
+    if (m_byUser)
+        m_offer->open();
+    else
+        m_offer->show();
+}
+
+void Updater::takeAnswer(int answer, const QString &version)
+{
+    m_offer.clear(); // it goes a little later
+    if (answer == UpdateDialog::Skip)
+        skip(version);
+    if (answer != UpdateDialog::Install)
+        return;
+    m_byUser = true;
+    showDownload();
+    m_checker.download(); // unless the setup file is there already
+}
+
+bool Updater::isSkipped(const QString &version) const
+{
+    return version == m_skippedVersion ||
+           version == storedValue(QSettings(), SettingsKey::UpdaterSkippedVersion).toString();
+}
+
+void Updater::skip(const QString &version)
+{
+    m_skippedVersion = version;
+    SettingsChange change;
+    change.set(SettingsKey::UpdaterSkippedVersion, version);
+    change.commit();
+}
+
+// Beside the window and not before it, as a download may take long.
+void Updater::showDownload()
+{
+    if (m_download)
+        return;
+    m_download = new DownloadDialog(&m_checker, m_window);
+    m_download->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_download, &DownloadDialog::installRequested, this, [this] {
+        const QPointer<DownloadDialog> dialog = m_download;
+        const auto install = [dialog] {
+            if (dialog)
+                dialog->install();
+        };
+        if (m_beforeInstall)
+            m_beforeInstall(install);
+        else
+            install();
+    });
+    m_download->show();
+}
+
+void Updater::tell(QMessageBox::Icon icon, const QString &text, const QString &detail)
+{
+    m_box = new QMessageBox(icon, QCoreApplication::applicationName(), text, QMessageBox::Close, m_window);
+    m_box->setAttribute(Qt::WA_DeleteOnClose);
+    m_box->setTextFormat(Qt::PlainText);
+    // The format does not count for this text, in which words of the network may stand.
+    if (!detail.isEmpty())
+        m_box->setInformativeText(Qt::convertFromPlainText(detail.left(longestDetail)));
+    m_box->open();
+}
+
+void Updater::closeDialogs()
+{
+    const QVector<QPointer<QDialog>> dialogs = {m_info.data(), m_offer.data(), m_download.data(), m_box.data()};
+    for (const QPointer<QDialog> &dialog : dialogs) {
+        if (dialog)
+            dialog->close();
+    }
+}
