@@ -18,6 +18,11 @@ bool DelayedFileCheck::isFile(const QUrl &url)
     return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile();
 }
 
+bool DelayedFileCheck::isFolder(const QUrl &url)
+{
+    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
+}
+
 bool DelayedFileCheck::isAway(const QUrl &url)
 {
     if (!url.isLocalFile())
@@ -40,18 +45,22 @@ void DelayedFileCheck::run()
     sinceReport.start();
     QList<QUrl> files;
     QList<QUrl> away;
+    QList<QUrl> folders;
     int count = 0;
     for (int i = 0; i < m_urls.size() && !*m_cancelled; ++i) {
         ++count;
         if (isFile(m_urls.at(i)))
             files.append(m_urls.at(i));
+        else if (isFolder(m_urls.at(i)))
+            folders.append(m_urls.at(i));
         else if (isAway(m_urls.at(i)))
             away.append(m_urls.at(i));
         if (i + 1 < m_urls.size() && !sinceReport.hasExpired(reportIntervalMs))
             continue;
-        emit checked(count, files, away);
+        emit checked(count, files, away, folders);
         files.clear();
         away.clear();
+        folders.clear();
         count = 0;
         sinceReport.restart();
     }

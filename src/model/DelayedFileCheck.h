@@ -28,6 +28,8 @@ public:
     [[nodiscard]] std::shared_ptr<std::atomic<bool>> cancelled() const { return m_cancelled; }
     // Whether the url names a regular local file, or a link to one.
     [[nodiscard]] static bool isFile(const QUrl &url);
+    // Whether the url names a local folder, or a link to one.
+    [[nodiscard]] static bool isFolder(const QUrl &url);
     // Whether a url that names no file may name one again: its folder is not there, or an empty place to mount at, or
     // cannot be asked. What was deleted from a folder that is there does not come back.
     [[nodiscard]] static bool isAway(const QUrl &url);
@@ -35,9 +37,9 @@ public:
     void run() override;
 
 signals:
-    // Some more urls were looked at, in the order in which they were given: how many, those that name files, and those
-    // that are away. The last signal comes at the end of the run, unless that was cancelled.
-    void checked(int count, const QList<QUrl> &files, const QList<QUrl> &away);
+    // Some more urls were looked at, in the order in which they were given: how many, those that name files, those that
+    // are away, and those that name folders. The last signal comes at the end of the run, unless that was cancelled.
+    void checked(int count, const QList<QUrl> &files, const QList<QUrl> &away, const QList<QUrl> &folders);
 
 private:
     const QList<QUrl> m_urls;

@@ -7,8 +7,8 @@
 #include "model/FileManager.h"
 #include "settings/Settings.h"
 
-#include <QFileInfo>
 #include <QQmlEngine>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <limits>
@@ -156,19 +156,33 @@ bool MainModel::isSupported(const QUrl &url) const
     });
 }
 
+void MainModel::addUrls(const QList<QUrl> &urls)
+{
+    check(urls, [this](const QList<QUrl> &files, const QList<QUrl> &) { add(files, IsRegularFile); });
+}
+
 void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
 {
-    QList<QUrl> folders;
-    QList<QUrl> files;
-    for (const QUrl &url : urls) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir())
-            folders.append(url);
-        else if (isSupported(url))
-            files.append(url);
-    }
-    add(files);
-    if (!folders.isEmpty())
-        emit scanFolders(folders);
+    check(urls, [this](const QList<QUrl> &files, const QList<QUrl> &folders) {
+        QList<QUrl> supported;
+        std::copy_if(files.begin(), files.end(), std::back_inserter(supported),
+                     [this](const QUrl &url) { return isSupported(url); });
+        add(supported, IsRegularFile);
+        if (!folders.isEmpty())
+            emit scanFolders(folders);
+    });
+}
+
+// A disk that does not answer holds up nothing but what is asked here.
+void MainModel::check(const QList<QUrl> &urls,
+                      const std::function<void(const QList<QUrl> &files, const QList<QUrl> &folders)> &use)
+{
+    auto *job = new DelayedFileCheck(urls);
+    connect(
+        job, &DelayedFileCheck::checked, this,
+        [use](int, const QList<QUrl> &files, const QList<QUrl> &, const QList<QUrl> &folders) { use(files, folders); },
+        Qt::QueuedConnection);
+    QThreadPool::globalInstance()->start(job);
 }
 
 void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)

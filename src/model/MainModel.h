@@ -107,7 +107,8 @@ public:
 
     // The supported extensions, each as "*.mp3", joined with the separator.
     Q_INVOKABLE QString supportedTypesMask(const QString &separator) const;
-    Q_INVOKABLE void addUrls(const QList<QUrl> &urls) { add(urls); }
+    // These two look at the disk elsewhere, and add when it has answered. Adds the regular files.
+    Q_INVOKABLE void addUrls(const QList<QUrl> &urls);
     // Adds the supported files and asks for a scan of the folders.
     Q_INVOKABLE void addUrlsFromDrop(const QList<QUrl> &urls);
     // Does nothing by itself: feeding the coordinator is the model's own business. Kept for the scene.
@@ -164,6 +165,8 @@ private:
     using WorkQueue = std::map<quint64, quint16>;
     using Exports = QScopedPointer<LyricsFileWriter, QScopedPointerDeleteLater>;
 
+    void check(const QList<QUrl> &urls,
+               const std::function<void(const QList<QUrl> &files, const QList<QUrl> &folders)> &use);
     void insertFiles(const QList<QUrl> &files, bool requestRead);
     [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
     [[nodiscard]] std::vector<std::unique_ptr<ModelItem>> makeItems(const QList<QUrl> &files);
