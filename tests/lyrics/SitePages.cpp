@@ -17,9 +17,10 @@ QString furniture()
 
 } // namespace
 
-QString sitePage(const char *site, const char *name)
+QString sitePage(const QByteArray &site, const QByteArray &name)
 {
-    QFile file(QStringLiteral(VERSEWELL_TEST_DATA_DIR "/%1/%2").arg(QLatin1String(site), QLatin1String(name)));
+    QFile file(
+        QStringLiteral(VERSEWELL_TEST_DATA_DIR "/%1/%2").arg(QString::fromLatin1(site), QString::fromLatin1(name)));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QString::fromUtf8(file.readAll()).replace(QStringLiteral("@FURNITURE@"), furniture());

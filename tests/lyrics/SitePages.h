@@ -7,7 +7,7 @@
 
 // tests/data/<site>/<name>, with menus, scripts and comments in place of "@FURNITURE@", as much as surrounds the lyrics
 // of a real page. Empty when there is no such file.
-[[nodiscard]] QString sitePage(const char *site, const char *name);
+[[nodiscard]] QString sitePage(const QByteArray &site, const QByteArray &name);
 
 // The lyrics of the song "Harbour Lights" by "Tin Lanterns", which the fixture pages of every site hold: entities,
 // several scripts, an emoji.

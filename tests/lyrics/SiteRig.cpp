@@ -17,7 +17,7 @@ SiteRig::SiteRig(std::initializer_list<Endpoint> endpoints)
     reloadEndpoints();
 }
 
-void SiteRig::page(const char *path, const QString &html)
+void SiteRig::page(const QByteArray &path, const QString &html)
 {
     m_server.route(QString::fromUtf8(path), LoopbackResponse::page(html.toUtf8()));
 }

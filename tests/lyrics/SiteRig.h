@@ -29,7 +29,7 @@ public:
     [[nodiscard]] AccessManager *manager() { return &m_manager; }
 
     // Answers `path` with this text.
-    void page(const char *path, const QString &html);
+    void page(const QByteArray &path, const QString &html);
     // The requests so far as they were sent: path and query.
     [[nodiscard]] QList<QByteArray> targets() const;
 
@@ -41,9 +41,10 @@ public:
         return search(site, QString::fromUtf8(artist), QString::fromUtf8(title));
     }
 
-private:
+    // The same with this client.
     static SiteAnswer search(LyricsProvider &site, const QString &artist, const QString &title);
 
+private:
     QTemporaryDir m_settingsFolder;
     LoopbackServer m_server;
     AccessManager m_manager;

@@ -2,7 +2,6 @@
 #include "PlainElements.h"
 #include "RandomText.h"
 #include "SitePages.h"
-#include "SiteRig.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/ElementFinder.h"
@@ -118,26 +117,6 @@ private slots:
         QVERIFY(whole.isEmpty() || (whole.startsWith("<div"_s, Qt::CaseInsensitive) && whole.endsWith(element)));
     }
 
-    void findsTheLink_data()
-    {
-        addTextColumns("artist", "title", "link");
-        addRow("decoys before it, and classes in any order", "Tin Lanterns", "Harbour Lights",
-               "/lyrics/Tin-Lanterns/Harbour-Lights");
-        addRow("entities", "Moth Lamp", "Dont Dim", "/lyrics/Moth/Dont-Dim");
-        addRow("Cyrillic, and another host", "паруса", "ОГНИ ГАВАНИ", "http://mirror.invalid/Ogni");
-        addRow("a slash is no space", "Moth Lamp", "Harbour Lights", "");
-        addRow("only the first list counts", "Second List", "Second List", "");
-    }
-
-    void findsTheLink()
-    {
-        QFETCH(QString, artist);
-        QFETCH(QString, title);
-        const QString page = sitePage("musixmatch", "search.html");
-        QVERIFY(page.size() > 20000 && page.size() < 60000);
-        QTEST(MusixMatchProvider::trackLink(page, artist, title).value_or(QString()), "link");
-    }
-
     void findsTheLyrics_data()
     {
         addTextColumns("block", "lyrics");
@@ -175,68 +154,7 @@ private slots:
             },
             [](const QString &items) { return plain::trackLink(listOf(items)); });
     }
-
-    void answersHostilePages_data()
-    {
-        QTest::addColumn<QString>("page");
-        const QString block = "<div class=\"mxm-lyrics\">"_s;
-        const QString span = "<span class=\"lyrics__content__ok\">"_s;
-        const auto list = [](const char *name, const QString &piece) {
-            addRow(name, listOf(repeated(piece)));
-        };
-        addRow("brackets", repeated("<"));
-        addRow("classes on lines of their own", repeated("<div class='a'\n"));
-        list("items with half a link", "<li x>href=</li"_s);
-        list("items of other songs", "<li x><a class=\"title\" href=\"/\">x</a></li"_s);
-        list("anchors in one item", "<a class=\"title\" href=\"/\">"_s);
-        addRow("parts that are not closed", block + repeated(span) + "</div>"_s);
-        addRow("a part of many openings", block + span + repeated("<span ", hostileSize / 2) +
-                                              repeated("</span", hostileSize / 2) + "</span></div>"_s);
-        QString parts;
-        for (int i = 0; parts.size() < hostileSize; ++i)
-            parts += "%1%2</span>"_s.arg(span).arg(i);
-        addRow("many parts", block + parts + "</div>"_s);
-    }
-
-    void answersHostilePages()
-    {
-        QFETCH(QString, page);
-        QVERIFY(!MusixMatchProvider::trackLink(page, "b"_s, "y"_s));
-        const QString lyrics = lyricsOf(MusixMatchProvider::lyricsBlock(page));
-        QVERIFY(lyrics.size() < 20000 || !lyrics.contains("</span>"_s));
-    }
-
-    void asksAsABrowserForTheListAndThenForTheTrack()
-    {
-        SiteRig rig({Endpoint::MusixMatch});
-        rig.server().route("/search/Tin Lanterns Harbour Lights/tracks"_s, LoopbackResponse::redirect(301, "/x/list"));
-        rig.page("/x/list", sitePage("musixmatch", "search.html"));
-        rig.server().route("/lyrics/Tin-Lanterns/Harbour-Lights"_s, LoopbackResponse::redirect(307, "/2"));
-        rig.page("/2", sitePage("musixmatch", "track.html"));
-        const SiteAnswer found = rig.search<MusixMatchProvider>("Tin Lanterns ft. Moth", "Harbour Lights (Official)");
-        QCOMPARE(found.lyrics, harbourLights());
-        rig.server().routeOthers([](const LoopbackRequest &) { return LoopbackResponse::page("nothing"); });
-        const SiteAnswer missing = rig.search<MusixMatchProvider>("AC/DC?", "50% + #1 да");
-        QVERIFY(missing.lyrics.isEmpty() && missing.errorString.isEmpty());
-        QCOMPARE(rig.targets(), (QList<QByteArray>{"/search/Tin%20Lanterns%20Harbour%20Lights/tracks", "/x/list",
-                                                   "/lyrics/Tin-Lanterns/Harbour-Lights", "/2",
-                                                   "/search/AC%2FDC%3F%2050%25%20%2B%20%231%20%D0%B4%D0%B0/tracks"}));
-        for (const LoopbackRequest &request : rig.server().requests())
-            QVERIFY(request.header("User-Agent").contains("Chrome/46.0.2490.86") && request.header("Referer").isNull());
-    }
-
-    void givesUpOnListsWithoutAnEnd()
-    {
-        SiteRig rig({Endpoint::MusixMatch});
-        rig.server().routeOthers([](const LoopbackRequest &) {
-            const QString track = "<li x><a class=\"artist\">b</a><a class=\"title\" href=\"/more\">a</a></li>"_s;
-            return LoopbackResponse::page(listOf(track).toUtf8());
-        });
-        const SiteAnswer answer = rig.search<MusixMatchProvider>("b", "a");
-        QVERIFY(answer.lyrics.isEmpty() && answer.errorString.contains("MusixMatch"_s));
-        QCOMPARE(rig.targets().size(), 20);
-    }
 };
 
-QTEST_GUILESS_MAIN(tst_MusixMatchProvider)
+QTEST_APPLESS_MAIN(tst_MusixMatchProvider)
 #include "tst_musixmatchprovider.moc"
