@@ -90,10 +90,17 @@ bool PartialDownload::open(int descriptor, QIODevice::OpenMode mode)
 
 bool PartialDownload::write(const QByteArray &data)
 {
-    if (m_file.write(data) == data.size())
-        return true;
-    m_error = m_file.errorString();
-    return false;
+    qint64 written = 0;
+    while (written < data.size()) {
+        // On a disk that is filling up less is written than was asked for; only the next time there is a reason.
+        const qint64 bytes = m_file.write(data.constData() + written, data.size() - written);
+        if (bytes <= 0) {
+            m_error = m_file.errorString();
+            return false;
+        }
+        written += bytes;
+    }
+    return true;
 }
 
 bool PartialDownload::finish()

@@ -1,0 +1,582 @@
+// SPDX-License-Identifier: MIT
+#include "updates/UpdateChecker.h"
+
+#include "network/Endpoints.h"
+#include "support/LoopbackServer.h"
+#include "support/TestFolder.h"
+#include "support/TestTable.h"
+
+#include <QProcess>
+#include <QSettings>
+#include <QtTest>
+
+#include <csignal>
+#include <memory>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+const QString informationPath = QStringLiteral("/versewell/Versewell.xml");
+const QString setupName = QStringLiteral("versewell_2.0.deb");
+const QByteArray setupContent = QByteArray("a setup file\0with a NUL in it ", 30).repeated(4);
+
+template<typename Type, typename... Names>
+void addColumns(Names... names)
+{
+    (QTest::addColumn<Type>(names), ...);
+}
+
+// What script/sign-update prints, without the line break.
+QByteArray signUpdate(const QStringList &arguments)
+{
+    QProcess script;
+    script.start(QStringLiteral(VERSEWELL_SIGN_UPDATE), arguments);
+    return script.waitForFinished() && script.exitCode() == 0 ? script.readAllStandardOutput().trimmed() : QByteArray();
+}
+
+// The maker's site, and a checker that asks it. What happens is told in `trace`: the states, "offered" when a download
+// can be chosen, "open" when a file is handed to the desktop, and "exit".
+struct Maker
+{
+    explicit Maker(const QByteArray &publicKey)
+    {
+        folder.holdSettings();
+        QSettings().setValue(QStringLiteral("endpoints/Maker"), site.base());
+        reloadEndpoints();
+        environment.folder = folder.path(QStringLiteral("Update"));
+        environment.keys = {QByteArray::fromBase64(publicKey)};
+        environment.open = [this](const QString &path) {
+            trace.append(QStringLiteral("open"));
+            opened.append(folder.read(path));
+            return isOpenable;
+        };
+    }
+
+    void start()
+    {
+        checker = std::make_unique<UpdateChecker>(environment);
+        QObject::connect(checker.get(), &UpdateChecker::stateChanged, [this] {
+            static const QMetaEnum states = QMetaEnum::fromType<UpdateChecker::States>();
+            trace.append(QString::fromLatin1(states.valueToKey(checker->state())));
+        });
+        QObject::connect(checker->downloadAction(), &QAction::changed, [this] {
+            if (checker->downloadAction()->isVisible())
+                trace.append(QStringLiteral("offered"));
+        });
+        QObject::connect(checker.get(), &UpdateChecker::exitRequest, [this] { trace.append(QStringLiteral("exit")); });
+    }
+
+    // In the body, SITE stands for the site's address.
+    void inform(const LoopbackResponse &information)
+    {
+        LoopbackResponse answer = information;
+        answer.body.replace("SITE", site.base().toLatin1());
+        site.route(informationPath, answer);
+    }
+
+    // HEAD is told this length, or the right one.
+    void serve(const LoopbackResponse &setup, const QByteArray &headLength = {})
+    {
+        site.route(QStringLiteral("/files/") + setupName, [setup, headLength](const LoopbackRequest &request) {
+            LoopbackResponse answer = setup;
+            if (request.method != "HEAD")
+                return answer;
+            answer.hang = false;
+            return headLength.isEmpty() ? answer : answer.with("Content-Length", headLength);
+        });
+    }
+
+    // Redirects "/hop/<n>", and what has more behind it, n + 1 times, at last to `target`.
+    void redirectTo(const QByteArray &target)
+    {
+        site.routeOthers([target](const LoopbackRequest &request) {
+            const int hops = request.path.section(QLatin1Char('/'), 2, 2).toInt();
+            return LoopbackResponse::redirect(302, hops > 0 ? "/hop/" + QByteArray::number(hops - 1) : target);
+        });
+    }
+
+    [[nodiscard]] QStringList files() const { return folder.names(QStringLiteral("Update")); }
+    [[nodiscard]] QString fileName(const QString &name) const { return QStringLiteral("Update/") + name; }
+
+    void await(const QString &expected)
+    {
+        QTRY_COMPARE(trace.join(QLatin1Char(' ')), expected);
+        trace.clear();
+    }
+
+    // Steps "slot: expected trace", joined by " | "; "quiet" and "forced" are such checks.
+    void run(const QString &steps)
+    {
+        for (const QString &step : steps.split(QStringLiteral(" | "))) {
+            const QString slot = step.section(QLatin1Char(':'), 0, 0);
+            checker->setQuiet(slot == QLatin1String("quiet"));
+            if (slot == QLatin1String("forced") || checker->isQuiet())
+                checker->check(!checker->isQuiet());
+            else
+                QVERIFY2(QMetaObject::invokeMethod(checker.get(), slot.toLatin1().constData()), qPrintable(slot));
+            await(step.section(QLatin1Char(':'), 1).trimmed());
+            if (QTest::currentTestFailed())
+                return;
+        }
+    }
+
+    LoopbackServer site;
+    TestFolder folder;
+    UpdateEnvironment environment;
+    std::unique_ptr<UpdateChecker> checker;
+    QStringList trace;
+    QList<QByteArray> opened;
+    bool isOpenable = true;
+};
+
+LoopbackResponse newest(const QByteArray &version, const QByteArray &signature = {},
+                        const QByteArray &url = "SITE/files/versewell_2.0.deb")
+{
+    return LoopbackResponse::page("<UpdateInfo><VersionInfo><current>" + version + "</current><url>" + url +
+                                  "</url><signature>" + signature + "</signature></VersionInfo></UpdateInfo>");
+}
+
+LoopbackResponse setup()
+{
+    return LoopbackResponse::page(setupContent).with("ETag", "\"1\"");
+}
+
+LoopbackResponse hanging()
+{
+    LoopbackResponse response = setup();
+    response.hang = true;
+    return response;
+}
+
+LoopbackResponse dripping()
+{
+    LoopbackResponse response = setup();
+    response.dripInterval = std::chrono::milliseconds(20);
+    return response;
+}
+
+LoopbackResponse cutAfter(qint64 bytes)
+{
+    LoopbackResponse response = setup();
+    response.cutAfter = bytes;
+    return response;
+}
+
+LoopbackResponse untilClose(const QByteArray &body)
+{
+    LoopbackResponse response = LoopbackResponse::page(body);
+    response.untilClose = true;
+    return response;
+}
+
+const QString checked = QStringLiteral("check: Checking UpdateAvailable offered");
+const QString downloaded = checked + QStringLiteral(" | download: Downloading InstallAvailable");
+const QString failed = checked + QStringLiteral(" | download: Downloading Error");
+
+} // namespace
+
+class tst_UpdateChecker : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void statesFollowTheSite_data();
+    void statesFollowTheSite();
+    void aBadDownloadLeavesNothing_data();
+    void aBadDownloadLeavesNothing();
+    void redirectsAreFollowedTwentyTimes();
+    void requestsSayWhoAsks();
+    void onlyWhatTheMakerSignedIsOpened_data();
+    void onlyWhatTheMakerSignedIsOpened();
+    void aFileIsOpenedAsItWasChecked();
+    void anAddressMustEndInAName_data();
+    void anAddressMustEndInAName();
+    void theRestIsAskedForWhenItFits_data();
+    void theRestIsAskedForWhenItFits();
+    void linksAreNotFollowed();
+    void aFolderThatIsALinkIsNotUsed();
+    void aFullDiskCostsNothing();
+    void whatIsOldIsRemoved();
+
+private:
+    TestFolder m_keys;
+    QString m_key;
+    QByteArray m_publicKey;
+    QByteArray m_signature;
+};
+
+void tst_UpdateChecker::initTestCase()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.9.9"));
+    m_key = m_keys.path(QStringLiteral("key"));
+    m_publicKey = signUpdate({QStringLiteral("new-key"), m_key});
+    m_signature = signUpdate({m_key, QStringLiteral("2.0"), m_keys.write(QStringLiteral("setup"), setupContent)});
+    QCOMPARE(QByteArray::fromBase64(m_signature).size(), 64);
+}
+
+void tst_UpdateChecker::statesFollowTheSite_data()
+{
+    addColumns<LoopbackResponse>("information", "setupFile");
+    addTextColumns("steps", "error");
+
+    const LoopbackResponse two = newest("2.0", m_signature);
+    addRow("nothing is newer", newest("1.9.9"), setup(), "check: Checking UpToDate | check: Checking UpToDate"_s, ""_s);
+    addRow("not newer modulo 256", newest("1.265.9"), setup(), "check: Checking UpToDate"_s, ""_s);
+    addRow("step by step", two, setup(), downloaded + " | install: open exit"_s, ""_s);
+    addRow("forced, all at once", two, setup(),
+           "forced: Checking UpdateAvailable offered Downloading InstallAvailable open exit"_s, ""_s);
+    addRow("nothing works out of order", two, setup(),
+           "install: | download: | abortCheck: | abortDownload: | "_s + checked +
+               " | install: | abortCheck: | abortDownload:"_s,
+           ""_s);
+    addRow("a complete file is not downloaded again", two, setup(),
+           downloaded + " | check: Checking UpdateAvailable offered InstallAvailable"_s +
+               " | forced: Checking UpdateAvailable offered InstallAvailable open exit"_s,
+           ""_s);
+    addRow("the check is given up", hanging(), setup(), "check: Checking | abortCheck: Normal | check: Checking"_s,
+           ""_s);
+    addRow("the download is given up", two, hanging(),
+           checked + " | download: Downloading | abortDownload: offered UpdateAvailable"_s, ""_s);
+    addRow("a forced download is given up", two, hanging(),
+           "forced: Checking UpdateAvailable offered Downloading | abortDownload: Normal"_s, ""_s);
+    addRow("a check drops the download", two, hanging(),
+           checked + " | download: Downloading | "_s + checked + " | download: Downloading"_s, ""_s);
+    addRow("a download slower than a page may be", two, dripping(), downloaded, ""_s);
+    addRow("the site is out of order", LoopbackResponse::error(500), setup(),
+           "quiet: Checking UpToDate | check: Checking Error | check: Checking Error"_s,
+           "Can't check for update: The server is out of order (HTTP 500)."_s);
+    addRow("nonsense is an error in a quiet check too", LoopbackResponse::page("<html>"), setup(),
+           "quiet: Checking Error"_s, "Failed to parse version information data."_s);
+    addRow("endless information", LoopbackResponse::page(QByteArray(1024 * 1024 + 1, ' ')), setup(),
+           "check: Checking Error"_s, "Can't check for update: The answer is larger than "_s);
+    addRow("a download is tried again", two, LoopbackResponse::error(404), failed + " | download: Downloading Error"_s,
+           "Can't get update: The server has no such page (HTTP 404)."_s);
+}
+
+void tst_UpdateChecker::statesFollowTheSite()
+{
+    QFETCH(LoopbackResponse, information);
+    QFETCH(LoopbackResponse, setupFile);
+    QFETCH(QString, steps);
+    QFETCH(QString, error);
+    Maker maker(m_publicKey);
+    maker.environment.limits.total = std::chrono::seconds(2);
+    maker.start();
+    maker.inform(information);
+    maker.serve(setupFile);
+    maker.run(steps);
+    QCOMPARE(error.isEmpty() ? maker.checker->error() : maker.checker->error().left(error.size()), error);
+}
+
+void tst_UpdateChecker::aBadDownloadLeavesNothing_data()
+{
+    addColumns<LoopbackResponse>("answer");
+    addColumns<QByteArray>("headLength");
+    addTextColumns("reason");
+    const QString tooLarge = "The setup file is larger than it should be."_s;
+    const QString notWhole = "The server did not send the whole setup file."_s;
+    addRow("truncated", cutAfter(50), QByteArray(), "Connection closed"_s);
+    addRow("shorter than HEAD said", untilClose("short"), QByteArray("6"), notWhole);
+    addRow("longer than HEAD said", untilClose("short"), QByteArray("4"), tooLarge);
+    addRow("other lengths for HEAD and GET", setup(), QByteArray("119"),
+           "The setup file has another size than the server said."_s);
+    addRow("endless", untilClose(QByteArray(5000, 'a')), QByteArray(), tooLarge);
+    addRow("empty", LoopbackResponse::page({}), QByteArray(), notWhole);
+    addRow("another kind of answer", LoopbackResponse::error(203), QByteArray(), notWhole);
+    addRow("a part nobody asked for", LoopbackResponse{206, {}, "part"}, QByteArray("4"),
+           "The server sent something else than the setup file."_s);
+    addRow("silent", hanging(), QByteArray(), "The server has been silent for 1 seconds."_s);
+}
+
+void tst_UpdateChecker::aBadDownloadLeavesNothing()
+{
+    QFETCH(LoopbackResponse, answer);
+    QFETCH(QByteArray, headLength);
+    QFETCH(QString, reason);
+    Maker maker(m_publicKey);
+    maker.environment.mostSetupBytes = 4000;
+    maker.environment.limits.idle = std::chrono::seconds(1);
+    maker.start();
+    maker.inform(newest("2.0"));
+    maker.serve(answer, headLength);
+    maker.run(failed);
+    QCOMPARE(maker.checker->error(), "Can't get update: "_s + reason);
+    QCOMPARE(maker.files(), QStringList());
+}
+
+void tst_UpdateChecker::redirectsAreFollowedTwentyTimes()
+{
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.serve(setup());
+    maker.inform(newest("2.0", {}, "SITE/hop/19/a"));
+    maker.redirectTo("/files/versewell_2.0.deb");
+    maker.run(downloaded);
+    QCOMPARE(maker.folder.read(maker.fileName("a"_s)), setupContent);
+    maker.inform(newest("2.0", {}, "SITE/hop/20/b"));
+    maker.run(failed);
+    QCOMPARE(maker.checker->error(), "Can't get update: The server redirects too often."_s);
+    QCOMPARE(maker.files(), QStringList{"a"_s});
+    maker.redirectTo(informationPath.toLatin1() + "2");
+    maker.site.route(informationPath + "2"_s, newest("1.0"));
+    maker.inform(LoopbackResponse::redirect(307, "/hop/18/c"));
+    maker.run("check: Checking UpToDate"_s);
+    maker.inform(LoopbackResponse::redirect(307, "/hop/19/c"));
+    maker.run("check: Checking Error"_s);
+    maker.inform(LoopbackResponse::redirect(302, "file:///etc/passwd"));
+    maker.run("check: Checking Error"_s);
+    QCOMPARE(maker.checker->error(),
+             "Can't check for update: The server redirects to something that is not a web page."_s);
+}
+
+void tst_UpdateChecker::requestsSayWhoAsks()
+{
+    Maker maker(m_publicKey);
+    maker.environment.userAgentText = "a text"_s;
+    maker.environment.now = [] {
+        return QDateTime(QDate(2026, 1, 2), QTime(3, 4));
+    };
+    maker.start();
+    maker.serve(setup());
+    maker.inform(newest("2.0"));
+    maker.run(downloaded + " | forced: Checking UpdateAvailable offered InstallAvailable Error"_s);
+    QCOMPARE(maker.checker->lastCheck(), maker.environment.now());
+    QStringList asked;
+    for (const LoopbackRequest &request : maker.site.requests()) {
+        asked.append(QString::fromLatin1(request.method + ' ' + request.header("Accept-Encoding")));
+        QCOMPARE(request.header("Allow-Redirect"), QByteArray("true"));
+        const QByteArray kind = asked.size() > 3 ? "UpdateChecker [forced] (" : "UpdateChecker (";
+        QCOMPARE(request.header("User-Agent"), kind + "Versewell v1.9.9 / Linux / a text )");
+    }
+    QCOMPARE(asked.mid(0, 3), (QStringList{"GET gzip, deflate"_s, "HEAD identity"_s, "GET identity"_s}));
+}
+
+void tst_UpdateChecker::onlyWhatTheMakerSignedIsOpened_data()
+{
+    addTextColumns("version");
+    addColumns<QByteArray>("content", "signature", "key");
+    const QByteArray other = signUpdate({"new-key"_s, m_keys.path("other"_s)});
+    const QByteArray signedByOther = signUpdate({m_keys.path("other"_s), "2.0"_s, m_keys.path("setup"_s)});
+    QByteArray tampered = setupContent;
+    tampered[60] = 'b';
+    const QByteArray none;
+    addRow("tampered", "2.0"_s, tampered, m_signature, m_publicKey);
+    addRow("a bit longer", "2.0"_s, setupContent + '\0', m_signature, m_publicKey);
+    addRow("signed as another version", "2.1"_s, setupContent, m_signature, m_publicKey);
+    addRow("signed as the same version, written otherwise", "2.00"_s, setupContent, m_signature, m_publicKey);
+    addRow("signed by somebody else", "2.0"_s, setupContent, signedByOther, m_publicKey);
+    addRow("a key of somebody else", "2.0"_s, setupContent, m_signature, other);
+    addRow("without a signature", "2.0"_s, setupContent, none, m_publicKey);
+    addRow("half a signature", "2.0"_s, setupContent, m_signature.left(44), m_publicKey);
+    addRow("nonsense behind the signature", "2.0"_s, setupContent, m_signature + '!', m_publicKey);
+    addRow("without a key", "2.0"_s, setupContent, m_signature, none);
+}
+
+void tst_UpdateChecker::onlyWhatTheMakerSignedIsOpened()
+{
+    QFETCH(QString, version);
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, signature);
+    QFETCH(QByteArray, key);
+    Maker maker(key);
+    if (key.isEmpty())
+        maker.environment.keys.clear();
+    maker.start();
+    maker.inform(newest(version.toLatin1(), signature));
+    maker.serve(LoopbackResponse::page(content));
+    maker.run(downloaded + " | install: Error | install:"_s);
+    QCOMPARE(maker.checker->error(), "Can't install update"_s);
+    // It is downloaded again, and then good.
+    maker.environment.keys = {QByteArray::fromBase64(m_publicKey)};
+    maker.start();
+    maker.inform(newest("2.0", m_signature));
+    maker.serve(setup());
+    maker.run((key.isEmpty() ? "check: Checking UpdateAvailable offered InstallAvailable"_s : downloaded) +
+              " | install: open exit"_s);
+    QCOMPARE(maker.opened, QList<QByteArray>{setupContent});
+}
+
+void tst_UpdateChecker::aFileIsOpenedAsItWasChecked()
+{
+    Maker maker(m_publicKey);
+    maker.isOpenable = false;
+    maker.start();
+    maker.inform(newest("2.0", m_signature));
+    maker.serve(setup());
+    maker.run(downloaded + " | install: open Error | check: Checking UpdateAvailable offered InstallAvailable"_s);
+    // Replaced by a file of another name that has the same content, and then by a link to that one.
+    const QString path = maker.folder.path(maker.fileName(setupName));
+    const QString other = maker.folder.write("other"_s, setupContent);
+    QVERIFY(QFile::remove(path));
+    QCOMPARE(::link(qPrintable(other), qPrintable(path)), 0);
+    maker.run("install: Error | check: Checking UpdateAvailable offered"_s);
+    QVERIFY(QFile::remove(path) || !QFile::exists(path));
+}
+
+void tst_UpdateChecker::anAddressMustEndInAName_data()
+{
+    addColumns<QByteArray>("address");
+    addColumns<bool>("good");
+    const QByteArray site = "SITE/a/";
+    addRow("128 characters", site + QByteArray(124, 'a') + ".deb", true);
+    addRow("all that is allowed", site + "_aZ-9.+", true);
+    addRow("129 characters", site + QByteArray(125, 'a') + ".deb", false);
+    addRow("300 characters", site + QByteArray(300, 'a'), false);
+    addRow("a path in disguise", site + "..%2F..%2Fx", false);
+    addRow("an option", site + "-rf", false);
+    addRow("a hidden file", site + ".profile", false);
+    addRow("nothing", site, false);
+    addRow("a line break", site + "a%0Ab", false);
+    addRow("other letters", site + "caf%C3%A9", false);
+    addRow("no web address", QByteArray("file:///etc/passwd"), false);
+    addRow("no address", QByteArray(), false);
+}
+
+void tst_UpdateChecker::anAddressMustEndInAName()
+{
+    QFETCH(QByteArray, address);
+    QFETCH(bool, good);
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.site.routeOthers([](const LoopbackRequest &) { return setup(); });
+    maker.inform(newest("2.0", {}, address));
+    maker.run(good ? downloaded : "check: Checking Error | download:"_s);
+    QCOMPARE(maker.site.requests().size(), good ? 3 : 1);
+    QCOMPARE(maker.checker->error().startsWith("Can't get update: "_s), !good);
+}
+
+// A download is given up in the middle, and begun once more when the site answers otherwise.
+void tst_UpdateChecker::theRestIsAskedForWhenItFits_data()
+{
+    addColumns<LoopbackResponse>("before", "later");
+    addTextColumns("version", "requests");
+    // What the later answer is given beside its body, in which REST stands for the bytes that were asked for.
+    const LoopbackResponse whole = setup();
+    const LoopbackResponse part{206, {{"ETag", "\"1\""}, {"Content-Range", "bytes REST-119/120"}}, setupContent};
+    LoopbackResponse wrongPart = part;
+    wrongPart.headers[1].second = "bytes 0-119/120";
+    LoopbackResponse longerFile = part;
+    longerFile.headers[1].second = "bytes REST-119/121";
+    LoopbackResponse otherTag = part;
+    otherTag.headers[0].second = "\"2\"";
+    LoopbackResponse weak = dripping();
+    weak.headers.last().second = "W/\"1\"";
+    addRow("the server goes on", dripping(), part, "2.0"_s, "HEAD, rest"_s);
+    addRow("the server sends all", dripping(), whole, "2.0"_s, "HEAD, rest"_s);
+    addRow("another part", dripping(), wrongPart, "2.0"_s, "HEAD, rest, whole"_s);
+    addRow("a part of a longer file", dripping(), longerFile, "2.0"_s, "HEAD, rest, whole"_s);
+    addRow("a part of another content", dripping(), otherTag, "2.0"_s, "HEAD, rest, whole"_s);
+    addRow("no such part", dripping(), LoopbackResponse::error(416), "2.0"_s, "HEAD, rest, whole"_s);
+    addRow("another version of the same name", dripping(), part, "2.1"_s, "HEAD, whole"_s);
+    addRow("content that has no sure mark", weak, part, "2.0"_s, "HEAD, whole"_s);
+}
+
+void tst_UpdateChecker::theRestIsAskedForWhenItFits()
+{
+    QFETCH(LoopbackResponse, before);
+    QFETCH(LoopbackResponse, later);
+    QFETCH(QString, version);
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.inform(newest("2.0"));
+    maker.serve(before);
+    maker.run(checked + " | download: Downloading"_s);
+    QTRY_VERIFY(maker.checker->downloaded() > 9);
+    maker.run("abortDownload: offered UpdateAvailable"_s);
+    maker.start(); // as after a restart of the program
+    maker.inform(newest(version.toLatin1()));
+    maker.site.forgetRequests();
+    QStringList requests;
+    maker.site.route("/files/"_s + setupName, [&](const LoopbackRequest &request) {
+        const QByteArray range = request.header("Range");
+        requests.append(request.method == "HEAD" ? "HEAD"_s : range.isEmpty() ? "whole"_s : "rest"_s);
+        if (range.isEmpty())
+            return setup();
+        const QByteArray from = range.mid(6).chopped(1); // "bytes=12-"
+        LoopbackResponse answer = later;
+        if (answer.status == 206)
+            answer.body = answer.body.mid(from.toInt());
+        for (auto &header : answer.headers)
+            header.second.replace("REST", from);
+        return answer;
+    });
+    maker.run(downloaded);
+    QTEST(requests.join(", "_s), "requests");
+    QCOMPARE(maker.folder.read(maker.fileName(setupName)), setupContent);
+    QCOMPARE(maker.checker->downloaded(), 120);
+    QCOMPARE(maker.files(), QStringList{setupName});
+}
+
+void tst_UpdateChecker::linksAreNotFollowed()
+{
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.inform(newest("2.0", m_signature));
+    maker.serve(setup());
+    const QString precious = maker.folder.write("precious"_s, setupContent);
+    for (const QString &end : {""_s, ".part"_s, ".part.source"_s}) {
+        const QString link = maker.folder.path(maker.fileName(setupName + end));
+        QVERIFY(QDir().mkpath(maker.folder.path("Update"_s)));
+        QVERIFY(QFile::link(precious, link));
+    }
+    maker.run(downloaded + " | install: open exit"_s);
+    QVERIFY(!QFileInfo(maker.folder.path(maker.fileName(setupName))).isSymLink());
+    QCOMPARE(maker.folder.read("precious"_s), setupContent);
+    QCOMPARE(maker.files(), QStringList{setupName});
+    const QFile::Permissions others = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    QVERIFY(!(QFile::permissions(maker.folder.path("Update"_s)) & others));
+}
+
+void tst_UpdateChecker::aFolderThatIsALinkIsNotUsed()
+{
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.inform(newest("2.0"));
+    maker.serve(setup());
+    maker.folder.write("photos/holiday 1.2.jpg"_s);
+    QVERIFY(QFile::link(maker.folder.path("photos"_s), maker.folder.path("Update"_s)));
+    maker.run(failed);
+    QVERIFY2(maker.checker->error().startsWith("Can't open file: "_s), qPrintable(maker.checker->error()));
+    QCOMPARE(maker.folder.names("photos"_s), QStringList{"holiday 1.2.jpg"_s});
+}
+
+void tst_UpdateChecker::aFullDiskCostsNothing()
+{
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.inform(newest("2.0"));
+    maker.serve(LoopbackResponse::page(QByteArray(200000, 'a')));
+    maker.run(checked);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before = {};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small = {100000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    maker.run("download: Downloading Error"_s);
+    setrlimit(RLIMIT_FSIZE, &before);
+    QCOMPARE(maker.checker->error(), "Can't get update: "_s + qt_error_string(EFBIG));
+    QCOMPARE(maker.files(), QStringList());
+}
+
+void tst_UpdateChecker::whatIsOldIsRemoved()
+{
+    Maker maker(m_publicKey);
+    maker.start();
+    maker.inform(newest("1.0"));
+    const QStringList kept{"a-1.9.10.deb"_s, "a-2.0.deb.part"_s, "a2.deb"_s, "b"_s};
+    for (const QString &name : kept + QStringList{"a-1.9.9.deb"_s, "a-1.9.deb.part"_s, ".a-1.8.deb"_s, "c-1.0/d/e"_s})
+        maker.folder.write(maker.fileName(name));
+    maker.folder.write("other/f"_s);
+    QVERIFY(QFile::link(maker.folder.path("other"_s), maker.folder.path("Update/g-1.0"_s)));
+    QVERIFY(QFile::link(maker.folder.path("other"_s), maker.folder.path("Update/c-1.0/d/h"_s)));
+    maker.run("check: Checking UpToDate"_s);
+    QCOMPARE(maker.files(), kept);
+    QCOMPARE(maker.folder.names("other"_s), QStringList{"f"_s});
+}
+
+QTEST_MAIN(tst_UpdateChecker)
+#include "tst_updatechecker.moc"
