@@ -59,6 +59,7 @@ Application::Application(int &argc, char **argv, const QString &readerProgram)
     m_mainModel.setSupportedExtensions(supportedExtensions());
     m_folderScanner.setTypes(supportedExtensions());
     setNames();
+    m_updater = std::make_unique<Updater>();
     m_settings.load();
     m_settings.setHolder(m_instance.isHolder());
     setUpTracker();
@@ -196,6 +197,7 @@ void Application::proxyChanged()
 {
     for (AccessManager *manager : {&m_networkManager, &m_trackerManager})
         manager->useProxy(m_settings.proxy());
+    m_updater->useProxy(m_settings.proxy());
 }
 
 // Usage events

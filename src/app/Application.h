@@ -14,6 +14,7 @@
 #include "tracking/AppTracker.h"
 #include "ui/AppPalette.h"
 #include "ui/UsageConsent.h"
+#include "updates/Updater.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -81,6 +82,8 @@ public:
     // Its events wait until it is released, once the window is there.
     [[nodiscard]] AppTracker *tracker() { return &m_tracker; }
     [[nodiscard]] UsageConsent *usageConsent() { return &m_usageConsent; }
+    // Asks nobody by itself before it has a window for its dialogs.
+    [[nodiscard]] Updater *updater() { return m_updater.get(); }
 
     // File name of the executable without any suffix; the translation files begin with it.
     [[nodiscard]] QString executableBaseName() const;
@@ -106,7 +109,7 @@ signals:
 public slots:
     // Installs the translators of the language that the settings name, or else of the system's.
     void changeLanguage();
-    // Hands the proxy that the settings describe to the access managers.
+    // Hands the proxy that the settings describe to the access managers and the updater.
     void proxyChanged();
     void onPaletteChanged(const QPalette &palette);
 
@@ -134,6 +137,7 @@ private:
     AccessManager m_networkManager;
     AccessManager m_trackerManager;
     AppTracker m_tracker;
+    std::unique_ptr<Updater> m_updater; // made as soon as the names are set, by which it finds its folder
     Settings m_settings;
     AppPalette m_palette;
     UsageConsent m_usageConsent{&m_tracker};

@@ -41,7 +41,7 @@ int showSceneError(Application &app, const QString &reason)
 int runWindow(Application &app, const TerminationSignals &signalsToEnd)
 {
     MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app,
-                       app.tracker(), app.usageConsent()});
+                       app.tracker(), app.usageConsent(), app.updater()});
     if (!window.sceneErrors().isEmpty())
         return showSceneError(app, window.sceneErrors());
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, &QWidget::hide);
@@ -51,7 +51,10 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
         window.hide();
         QCoreApplication::exit(showSceneError(app, reason));
     });
-    afterFirstPaint(&window, &app, [&app] { app.tracker()->release(); });
+    afterFirstPaint(&window, &app, [&app, &window] {
+        app.tracker()->release();
+        app.updater()->setParentWindow(&window);
+    });
     window.show();
     if (const SettingsMending mending = app.settingsMending(); mending.damaged)
         window.showSettingsDamaged(mending.copy);

@@ -20,6 +20,7 @@
 #include "ui/SettingsDialog.h"
 #include "ui/StatusLine.h"
 #include "ui/WindowActions.h"
+#include "updates/Updater.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -70,6 +71,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     resize(1040, 680);
     setUpLinks();
     setCentralWidget(m_scene.get());
+    setUpUpdates();
     m_scene->setFocus();
     connectSceneSignals();
     connectModels();
@@ -157,6 +159,15 @@ void MainWindow::setUpLinks()
 }
 
 void MainWindow::updateActions()
+void MainWindow::setUpUpdates()
+{
+    m_actions->checkForUpdates->setVisible(m_parts.updater && endpointExists(Endpoint::Maker));
+    if (!m_parts.updater)
+        return;
+    m_parts.updater->setBeforeInstall([this](const std::function<void()> &install) { beforeLeaving(install); });
+    connect(m_actions->checkForUpdates, &QAction::triggered, m_parts.updater, &Updater::checkByUser);
+}
+
 {
     const bool hasRows = m_parts.proxyModel->rowCount() > 0;
     const bool hasSelection = m_parts.proxyModel->selectedCount() > 0;
@@ -380,18 +391,23 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::quit_app()
 {
     if (!m_quitting)
-        m_editGuard->before([this] { m_unsavedGuard.beforeQuitting([this] { askToQuit(); }); });
+        beforeLeaving([this] { quit_app_accepted(); });
 }
 
-void MainWindow::askToQuit()
+void MainWindow::beforeLeaving(const std::function<void()> &leave)
+{
+    m_editGuard->before([this, leave] { m_unsavedGuard.beforeQuitting([this, leave] { askToQuit(leave); }); });
+}
+
+void MainWindow::askToQuit(const std::function<void()> &leave)
 {
     if (m_parts.mainModel->activeCount() == 0) {
-        quit_app_accepted();
+        leave();
         return;
     }
     if (!m_exitWidget) {
         m_exitWidget = new ExitWidget(m_parts.mainModel, this);
-        connect(m_exitWidget, &QDialog::accepted, this, &MainWindow::quit_app_accepted);
+        connect(m_exitWidget, &QDialog::accepted, this, [this] { m_leave(); });
     }
     m_exitWidget->open();
     m_exitWidget->raise();
@@ -405,6 +421,7 @@ void MainWindow::quit_app_accepted()
     m_quitting = true;
     hide();
     if (!m_parts.tracker) {
+    m_leave = leave;
         QTimer::singleShot(0, this, &MainWindow::quit_app_force);
         return;
     }

@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 class AppPalette;
@@ -28,6 +29,7 @@ class ProxyModel;
 class QUrl;
 class Settings;
 class StatusLine;
+class Updater;
 class WindowActions;
 
 // The program's one window: menus, tool bar and status bar around the scene. It turns actions and signals of the scene
@@ -53,6 +55,8 @@ public:
         // Null: nothing is reported, and nobody is asked.
         AppTracker *tracker = nullptr;
         UsageConsent *usageConsent = nullptr;
+        // Null: there are no updates.
+        Updater *updater = nullptr;
     };
 
     explicit MainWindow(const Parts &parts, QWidget *parent = nullptr);
@@ -128,9 +132,12 @@ private:
     void updateActions();
     void searchInBrowser(const ModelItem *item);
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
-    void askToQuit();
+    // Runs an action that ends the program, once nothing is lost by that which the user wants to keep.
+    void beforeLeaving(const std::function<void()> &leave);
+    void askToQuit(const std::function<void()> &leave);
     [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;
+    void setUpUpdates();
 
     const Parts m_parts;
     LyricsEdit *const m_lyricsEdit;
@@ -148,3 +155,4 @@ private:
     // The last member, since it has to go before what it shows.
     const std::unique_ptr<SceneWidget> m_scene;
 };
+    std::function<void()> m_leave;      // what follows its yes

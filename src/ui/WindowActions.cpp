@@ -65,6 +65,8 @@ const WindowActions::Row WindowActions::rows[] = {
      QAction::PreferencesRole},
     {&WindowActions::exportLyrics, "actionExportLyrics", QT_TRANSLATE_NOOP("MainWindow", "Export lyrics to TXT file"),
      nullptr, nullptr, QAction::NoRole},
+    {&WindowActions::checkForUpdates, "actionCheckForUpdates", QT_TRANSLATE_NOOP("MainWindow", "Check for updates..."),
+     nullptr, nullptr, QAction::NoRole},
 };
 
 WindowActions::WindowActions(QMainWindow *window)
@@ -134,7 +136,7 @@ void WindowActions::createGearButton(QToolBar *bar)
     m_gear->setStyleSheet(
         QStringLiteral(" QToolButton { width: 30; border: none; } QToolButton::menu-indicator { image: none; }"));
     auto *menu = new QMenu(bar->window()); // as a child of the button its colours would not follow the palette
-    fill(menu, {settings, separator, hideWithLyrics});
+    fill(menu, {settings, checkForUpdates, separator, hideWithLyrics});
     m_gear->setMenu(menu);
     bar->addWidget(m_gear);
 }

@@ -34,6 +34,7 @@ public:
     QAction *website;
     QAction *settings;
     QAction *exportLyrics;
+    QAction *checkForUpdates;
 
 private:
     struct Row;
