@@ -48,10 +48,10 @@ QByteArray synchronised(const QByteArray &bytes)
     return plain;
 }
 
-// An old program wrote the three letters of version 2 into versions 3 and 4, with a zero behind them.
+// Old programs wrote the three letters of version 2 into versions 3 and 4, with a zero or a blank behind them.
 bool isFrameId(const QByteArray &id)
 {
-    const bool isShort = id.size() == 4 && id.at(3) == '\0';
+    const bool isShort = id.size() == 4 && (id.at(3) == '\0' || id.at(3) == ' ');
     const auto *const end = isShort ? id.end() - 1 : id.end();
     return std::all_of(id.begin(), end, [](char letter) {
         return (letter >= 'A' && letter <= 'Z') || (letter >= '0' && letter <= '9');

@@ -97,6 +97,14 @@ private:
         const QByteArray here = path + atom.name;
         if (atom.name == "free" || atom.name == "skip")
             return true;
+        if (here == "moof" || here == "moof/traf")
+            return readAtoms(atom.content, atom.end, here + '/', depth + 1) && keepBytes(atom.offset, atom.content);
+        if (path.startsWith("moof/"))
+            return here == "moof/traf/tfhd" ? readFragmentHeader(atom) : keepBytes(atom.offset, atom.end);
+        if (here == "mfra")
+            return readAtoms(atom.content, atom.end, here + '/', depth + 1);
+        if (here == "mfra/tfra")
+            return readFragmentIndex(atom);
         if (path.isEmpty() && atom.name != "moov") {
             if (atom.name == "mdat")
                 m_layout.audio.append({atom.offset, atom.end - atom.offset});
@@ -123,7 +131,9 @@ private:
             const Atom item = atomAt(place, list.end);
             if (item.end <= place || item.end > list.end)
                 return false;
-            m_layout.items.append(alikeItem(item.name, m_file.read(item.content, item.end - item.content)));
+            const ByteRange content{item.content, item.end - item.content};
+            m_layout.items.append(alikeItem(item.name, m_file.read(content.offset, content.length)));
+            m_layout.listItems.append(ListItem{item.name, content, m_layout.items.last()});
             place = item.end;
         }
         return true;
@@ -138,10 +148,53 @@ private:
             return false;
         for (qint64 i = 0; i < count; ++i) {
             const char *entry = table.constData() + i * width;
-            m_layout.audioOffsets.append(width == 4 ? qFromBigEndian<quint32>(entry)
-                                                    : static_cast<qint64>(qFromBigEndian<quint64>(entry)));
+            m_layout.audioOffsets.append(AudioOffset{width == 4 ? qFromBigEndian<quint32>(entry)
+                                                                : static_cast<qint64>(qFromBigEndian<quint64>(entry)),
+                                                     {atom.content + 8 + i * width, width}});
         }
         return true;
+    }
+
+    bool keepBytes(qint64 start, qint64 end)
+    {
+        m_layout.audio.append(ByteRange{start, end - start});
+        return true;
+    }
+
+    // Of a fragment, whose samples may be counted from a place in the file.
+    bool readFragmentHeader(const Atom &atom)
+    {
+        constexpr quint32 hasBase = 1;
+        if ((m_file.bigEndian32(atom.content) & hasBase) == 0)
+            return keepBytes(atom.offset, atom.end);
+        const ByteRange base{atom.content + 8, 8}; // behind the flags and the number of the track
+        if (base.end() > atom.end)
+            return false;
+        m_layout.audioOffsets.append(AudioOffset{static_cast<qint64>(m_file.bigEndian64(base.offset)), base});
+        return keepBytes(atom.offset, base.offset) && keepBytes(base.end(), atom.end);
+    }
+
+    // Entries of a time, the place of a fragment, and three numbers of one to four bytes each.
+    bool readFragmentIndex(const Atom &atom)
+    {
+        constexpr int headBytes = 16;
+        const qint64 width = m_file.read(atom.content, 1) == QByteArray(1, '\0') ? 4 : 8;
+        const quint32 lengths = m_file.bigEndian32(atom.content + 8);
+        const quint32 count = m_file.bigEndian32(atom.content + 12);
+        const qint64 entryBytes = 2 * width + 3 + (lengths & 3U) + ((lengths >> 2) & 3U) + ((lengths >> 4) & 3U);
+        if (atom.content + headBytes + count * entryBytes > atom.end)
+            return false;
+        qint64 kept = atom.offset;
+        for (qint64 i = 0; i < count; ++i) {
+            const ByteRange place{atom.content + headBytes + i * entryBytes + width, width};
+            m_layout.audioOffsets.append(AudioOffset{width == 4 ? m_file.bigEndian32(place.offset)
+                                                                : static_cast<qint64>(m_file.bigEndian64(place.offset)),
+                                                     place});
+            keepBytes(kept, place.offset);
+            kept = place.end();
+        }
+        m_layout.hasFragmentIndex = true;
+        return keepBytes(kept, atom.end);
     }
 
     void addItem(const QByteArray &key, qint64 start, qint64 end)

@@ -68,26 +68,12 @@ bool areRangesEqual(const FileBytes &before, const SongLayout &layoutBefore, con
     return true;
 }
 
-// Each entry of the index must point to the same byte of the same range as before. One that points into no range, in
-// a damaged file, must be as it was.
 bool isIndexKept(const SongLayout &before, const SongLayout &after)
 {
-    if (before.audioOffsets.size() != after.audioOffsets.size())
-        return false;
-    int range = 0;
-    for (int i = 0; i < before.audioOffsets.size(); ++i) {
-        const qint64 offset = before.audioOffsets.at(i);
-        const auto holds = [&before, offset](int index) {
-            const ByteRange &audio = before.audio.at(index);
-            return offset >= audio.offset && offset < audio.end();
-        };
-        for (int tried = 0; tried < before.audio.size() && !holds(range); ++tried)
-            range = (range + 1) % before.audio.size();
-        const qint64 shift = after.audio.at(range).offset - before.audio.at(range).offset;
-        if (after.audioOffsets.at(i) != offset + (holds(range) ? shift : 0))
-            return false;
-    }
-    return true;
+    const QVector<qint64> moved = movedOffsets(before, after);
+    return moved.size() == after.audioOffsets.size() &&
+           std::equal(moved.begin(), moved.end(), after.audioOffsets.begin(),
+                      [](qint64 offset, const AudioOffset &entry) { return offset == entry.offset; });
 }
 
 bool arePacketsEqual(const FileBytes &before, const FileBytes &after)
@@ -113,6 +99,26 @@ bool arePacketsEqual(const FileBytes &before, const FileBytes &after)
 }
 
 } // namespace
+
+QVector<qint64> movedOffsets(const SongLayout &before, const SongLayout &after)
+{
+    QVector<qint64> moved;
+    if (before.audio.size() != after.audio.size())
+        return moved;
+    moved.reserve(before.audioOffsets.size());
+    int range = 0;
+    for (const AudioOffset &entry : before.audioOffsets) {
+        const auto holds = [&before, &entry](int index) {
+            const ByteRange &audio = before.audio.at(index);
+            return entry.offset >= audio.offset && entry.offset < audio.end();
+        };
+        for (int tried = 0; tried < before.audio.size() && !holds(range); ++tried)
+            range = (range + 1) % before.audio.size();
+        const qint64 shift = after.audio.at(range).offset - before.audio.at(range).offset;
+        moved.append(entry.offset + (holds(range) ? shift : 0));
+    }
+    return moved;
+}
 
 bool areBytesEqual(const FileBytes &before, const ByteRange &part, const FileBytes &after, qint64 placeAfter)
 {

@@ -40,6 +40,21 @@ struct TagItem
 // reads it.
 enum class Id3v2View { Stored, AsRead };
 
+// A place in the audio that an index of the file names.
+struct AudioOffset
+{
+    qint64 offset = 0;
+    ByteRange field; // where the file says so
+};
+
+// An item of the list of tags as it is stored.
+struct ListItem
+{
+    QByteArray name;
+    ByteRange content;
+    TagItem meaning; // as it stands among all items
+};
+
 // What a song file consists of, found without TagLib: this is what a save is judged by, so it sees also what a library
 // passes over.
 struct SongLayout
@@ -50,7 +65,10 @@ struct SongLayout
     QVector<ByteRange> audio;
     Id3v2View id3v2View = Id3v2View::Stored;
     ByteRange id3v2; // the tag with its header, in the chunk where it has one; of length 0 when there is none
-    QVector<qint64> audioOffsets; // places in the audio that an index names (MP4)
+    // Of MP4 only:
+    QVector<AudioOffset> audioOffsets;
+    bool hasFragmentIndex = false; // some of the offsets are of an index of fragments
+    QVector<ListItem> listItems;
 
     // Nothing when the file is not built as its format asks. A version 2 tag turns the view to AsRead by itself.
     static std::optional<SongLayout> of(const FileBytes &file, SongFormat format, Id3v2View view = Id3v2View::Stored);

@@ -20,6 +20,7 @@
 #include <taglib/trueaudiofile.h>
 #include <taglib/wavfile.h>
 #include <taglib/wavpackfile.h>
+#include <taglib/xiphcomment.h>
 
 #include <algorithm>
 
@@ -149,6 +150,19 @@ AppliedEdits applyToOther(const TagEdits &edits, TagLib::File &file)
     return applied;
 }
 
+void keepOldCover(TagLib::Ogg::XiphComment &comment, const QByteArray &text)
+{
+    const TagLib::ByteVector stored(text.constData(), static_cast<unsigned int>(text.size()));
+    const TagLib::ByteVector data = TagLib::ByteVector::fromBase64(stored);
+    for (TagLib::FLAC::Picture *picture : comment.pictureList()) {
+        if (picture->mimeType() != "image/" || picture->data() != data)
+            continue;
+        comment.removePicture(picture, true);
+        comment.addField("COVERART", TagLib::String(stored, TagLib::String::Latin1), false);
+        return;
+    }
+}
+
 } // namespace
 
 TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<ShownTexts> &shown)
@@ -167,6 +181,28 @@ TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional
     edits.conflict =
         shown && !shown->replacesForeignLyrics && !stored.isEmpty() && stored != comparable(shown->texts.lyrics);
     return edits;
+}
+
+QHash<QByteArray, int> editableFrames(TagLib::File &file)
+{
+    QHash<QByteArray, int> frames;
+    for (const TagLib::Tag *member : tagsOf(file).members) {
+        const auto *tag = dynamic_cast<const TagLib::ID3v2::Tag *>(member);
+        for (const char *id : {"TPE1", "TIT2", "USLT"})
+            frames[id] += tag ? static_cast<int>(tag->frameList(id).size()) : 0;
+    }
+    return frames;
+}
+
+void keepOldCovers(TagLib::File &file, const QVector<TagItem> &items)
+{
+    for (TagLib::Tag *member : tagsOf(file).members) {
+        auto *comment = dynamic_cast<TagLib::Ogg::XiphComment *>(member);
+        for (const TagItem &item : items) {
+            if (comment && item.key == "Xiph/COVERART")
+                keepOldCover(*comment, item.value);
+        }
+    }
 }
 
 AppliedEdits apply(const TagEdits &edits, TagLib::File &file)

@@ -3,7 +3,10 @@
 
 #include "tags/TagUpdate.h"
 
+#include "tags/SongLayout.h"
+
 #include <QByteArray>
+#include <QHash>
 #include <QSet>
 
 #include <optional>
@@ -42,6 +45,13 @@ struct AppliedEdits
 };
 
 AppliedEdits apply(const TagEdits &edits, TagLib::File &file);
+
+// How many frames of each kind that can be edited TagLib sees in the ID3v2 tag.
+QHash<QByteArray, int> editableFrames(TagLib::File &file);
+
+// To be called before a file is saved: TagLib turns an old kind of cover in Vorbis comments, COVERART, into another
+// one, which leaves programs that know the old one alone without it. `items`: what is stored in the file.
+void keepOldCovers(TagLib::File &file, const QVector<TagItem> &items);
 
 // Saves what was applied, as the format asks; false when TagLib says that it failed.
 bool save(const AppliedEdits &applied, TagLib::File &file);

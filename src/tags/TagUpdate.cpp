@@ -5,6 +5,7 @@
 #include "tags/FileAccess.h"
 #include "tags/FileCopying.h"
 #include "tags/Id3v2Frames.h"
+#include "tags/Mp4Keeping.h"
 #include "tags/SafeSave.h"
 #include "tags/SongComparison.h"
 #include "tags/SongLayout.h"
@@ -88,6 +89,7 @@ private:
     UpdateResult keepFrames(CheckedFileStream &stream);
     [[nodiscard]] bool growChunk(TagLib::IOStream &stream, const ByteRange &room, int newLength) const;
     UpdateResult check(int copy);
+    [[nodiscard]] bool areEditedFramesSeen(const QHash<QByteArray, int> &seen) const;
     [[nodiscard]] OpenSong opened(int descriptor, CheckedFileStream::Access access) const;
 
     QByteArray m_path;
@@ -110,6 +112,7 @@ UpdateResult Update::run(const QString &dataFolder)
         return UpdateResult::Unreadable;
     if (!song.holdsAudio())
         return UpdateResult::NotAudio;
+    const QHash<QByteArray, int> framesSeen = editableFrames(song.file());
     m_edits = editsOf(song.file(), m_texts, m_shown);
     if (m_edits.conflict)
         return UpdateResult::ChangedMeanwhile;
@@ -122,9 +125,26 @@ UpdateResult Update::run(const QString &dataFolder)
     if (!layout)
         return UpdateResult::Unusual;
     m_layout = *layout;
+    if (!areEditedFramesSeen(framesSeen))
+        return UpdateResult::TagsNotKept;
     const qint64 characters = m_texts.artist.size() + m_texts.title.size() + m_texts.lyrics.size();
     return SafeSave(m_path, m_original, identity, dataFolder)
         .run([this](int copy) { return change(copy); }, paddingBytes + 2 * characters * characterBytes);
+}
+
+// Behind a frame that it does not understand TagLib sees no more. Such a frame must not be replaced, since nobody was
+// shown what it says.
+bool Update::areEditedFramesSeen(const QHash<QByteArray, int> &seen) const
+{
+    if (m_layout.id3v2.length == 0 || m_layout.id3v2View != Id3v2View::Stored)
+        return true;
+    return std::all_of(m_applied.frames.begin(), m_applied.frames.end(), [this, &seen](const QByteArray &frame) {
+        constexpr int flagBytes = 2;
+        const auto isStored = [&frame](const TagItem &item) {
+            return item.key == "ID3v2/" + frame && item.value.size() > flagBytes; // empty ones are passed over
+        };
+        return std::count_if(m_layout.items.begin(), m_layout.items.end(), isStored) <= seen.value(frame);
+    });
 }
 
 OpenSong Update::opened(int descriptor, CheckedFileStream::Access access) const
@@ -134,7 +154,9 @@ OpenSong Update::opened(int descriptor, CheckedFileStream::Access access) const
 
 UpdateResult Update::change(int copy)
 {
-    const UpdateResult written = writeTags(copy);
+    UpdateResult written = writeTags(copy);
+    if (written == UpdateResult::Saved && m_layout.format == SongFormat::Mp4)
+        written = keepMp4Parts(copy, m_path, FileBytes(m_original), m_layout, m_applied.keys);
     if (written != UpdateResult::Saved)
         return written;
     startSync(copy); // while it is checked
@@ -146,7 +168,9 @@ UpdateResult Update::writeTags(int copy)
     OpenSong song = opened(copy, CheckedFileStream::Access::ReadWrite);
     if (song.isNull())
         return UpdateResult::DiskError; // it was readable where it came from
-    const bool saved = save(apply(m_edits, song.file()), song.file());
+    const AppliedEdits applied = apply(m_edits, song.file());
+    keepOldCovers(song.file(), m_layout.items);
+    const bool saved = save(applied, song.file());
     const UpdateResult kept = song.stream().error() == 0 ? keepFrames(song.stream()) : UpdateResult::Saved;
     if (song.stream().error() != 0)
         return resultOfError(song.stream().error());
@@ -168,7 +192,7 @@ UpdateResult Update::keepFrames(CheckedFileStream &stream)
     };
     tag->frames.erase(std::remove_if(tag->frames.begin(), tag->frames.end(), isEdited), tag->frames.end());
     if (const auto edited = Id3v2Frames::parse(editedFrames(m_edits, m_applied, tag->version)))
-        tag->frames += edited->frames;
+        tag->frames = edited->frames + tag->frames; // before any that TagLib does not understand
     if (written->id3v2.length == 0)
         return tag->frames.isEmpty() ? UpdateResult::Saved : UpdateResult::TagsNotKept;
     const ByteRange room = written->id3v2;
