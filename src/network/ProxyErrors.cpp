@@ -20,9 +20,20 @@ QNetworkReply::NetworkError asProxyError(QNetworkReply::NetworkError error)
     }
 }
 
+// What a SOCKS5 proxy answers when it cannot reach the site (RFC 1928, section 6): the proxy itself works. The network
+// may also be missing between here and the proxy; the words are true of that as well.
+bool isOfTheSite(const QString &words)
+{
+    return words == QCoreApplication::translate("QAbstractSocket", "Network unreachable") ||
+           words == QCoreApplication::translate("QNativeSocketEngine", "Network unreachable") ||
+           words == QCoreApplication::translate("QSocks5SocketEngine", "TTL expired");
+}
+
 // Qt 5.15 gives one number to all that a proxy can do wrong before it passes anything on, and tells it apart in words.
 QNetworkReply::NetworkError fromWords(const QString &words)
 {
+    if (isOfTheSite(words))
+        return QNetworkReply::NoError;
     const auto isOneOf = [&words](const char *socks, const char *http) {
         return words == QCoreApplication::translate("QSocks5SocketEngine", socks) ||
                words == QCoreApplication::translate("QHttpSocketEngine", http);

@@ -3,8 +3,9 @@
 
 #include "support/LoopbackServer.h"
 #include "support/ProxyServer.h"
+#include "support/TestTable.h"
 
-#include <QTest>
+#include <QTcpSocket>
 
 Q_DECLARE_METATYPE(QNetworkProxy::ProxyType)
 
@@ -65,6 +66,10 @@ private slots:
     void init();
     void searchesGoThroughTheProxy_data();
     void searchesGoThroughTheProxy();
+    void httpsGoesThroughTheProxyWithItsLogin();
+    void anHttpProxyIsGivenTheLoginInUtf8();
+    void aSiteOutOfReachIsNoFaultOfTheProxy_data();
+    void aSiteOutOfReachIsNoFaultOfTheProxy();
     void aRefusedLoginIsNotTriedAgain_data();
     void aRefusedLoginIsNotTriedAgain();
     void anOpenProxyIsGivenNoLogin();
@@ -98,23 +103,23 @@ void tst_Proxies::addSongs(MainModel *model, int count)
 void tst_Proxies::searchesGoThroughTheProxy_data()
 {
     QTest::addColumn<QNetworkProxy::ProxyType>("type");
-    QTest::addColumn<bool>("withLogin");
-    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy << false;
-    QTest::newRow("SOCKS5 with a log-in") << QNetworkProxy::Socks5Proxy << true;
-    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy << false;
-    QTest::newRow("HTTP with a log-in") << QNetworkProxy::HttpProxy << true;
+    addTextColumns("word");
+    QTest::newRow("SOCKS5") << QNetworkProxy::Socks5Proxy << QString();
+    QTest::newRow("SOCKS5 with a log-in") << QNetworkProxy::Socks5Proxy << "Größe+日本"_s;
+    QTest::newRow("HTTP") << QNetworkProxy::HttpProxy << QString();
+    QTest::newRow("HTTP with a log-in") << QNetworkProxy::HttpProxy << password;
 }
 
 void tst_Proxies::searchesGoThroughTheProxy()
 {
     QFETCH(QNetworkProxy::ProxyType, type);
-    QFETCH(bool, withLogin);
+    QFETCH(QString, word);
     Stage app;
     const Site site;
-    ProxyServer proxy(type, withLogin ? user : QString(), password);
+    ProxyServer proxy(type, word.isEmpty() ? QString() : user, word);
     QVERIFY(proxy.isReady());
-    if (withLogin)
-        setLogin(app->settings(), password);
+    if (!word.isEmpty())
+        setLogin(app->settings(), word);
     setProxy(app->settings(), type, proxy.port());
     addSongs(app->mainModel(), 1);
     QTRY_COMPARE(app->mainModel()->itemAt(0)->lyricsTag(), QStringLiteral("la la la"));
@@ -128,6 +133,68 @@ void tst_Proxies::searchesGoThroughTheProxy()
     const int passed = proxy.received().join().size();
     QTRY_VERIFY(site.requests() > before);
     QCOMPARE(proxy.received().join().size(), passed);
+}
+
+// The site speaks http only, so that it is enough that it is reached.
+void tst_Proxies::httpsGoesThroughTheProxyWithItsLogin()
+{
+    Stage app;
+    Site site(QStringLiteral("https"));
+    ProxyServer proxy(QNetworkProxy::HttpProxy, user, password);
+    QVERIFY(proxy.isReady());
+    setLogin(app->settings(), password);
+    setProxy(app->settings(), QNetworkProxy::HttpProxy, proxy.port());
+    addSongs(app->mainModel(), 1);
+    QTRY_VERIFY(site.server().mostConnections() > 0);
+    QVERIFY(proxy.received().join().contains("CONNECT " + site.address().toLatin1()));
+}
+
+// RFC 7617, section 2.1; the proxies that can be started here take plain letters only.
+void tst_Proxies::anHttpProxyIsGivenTheLoginInUtf8()
+{
+    Stage app;
+    const Site site;
+    const QByteArray login = "Basic " + QByteArray("nora:Größe+日本").toBase64();
+    LoopbackServer proxy;
+    proxy.routeOthers([&login](const LoopbackRequest &request) {
+        return request.header("Proxy-Authorization") == login
+                   ? LoopbackResponse::error(404)
+                   : LoopbackResponse::error(407).with("Proxy-Authenticate", "Basic realm=\"x\"");
+    });
+    setLogin(app->settings(), "Größe+日本"_s);
+    setProxy(app->settings(), QNetworkProxy::HttpProxy, static_cast<quint16>(QUrl(proxy.base()).port()));
+    addSongs(app->mainModel(), 1);
+    QTRY_COMPARE(app->mainModel()->itemAt(0)->processState(), ModelItem::ProcessComplete);
+    QVERIFY(!app->mainModel()->itemAt(0)->errorString().contains("proxy"_s));
+}
+
+void tst_Proxies::aSiteOutOfReachIsNoFaultOfTheProxy_data()
+{
+    addTextColumns("error");
+    QTest::addColumn<char>("reply"); // RFC 1928, section 6
+    addRow("no network", "Network unreachable", '\3');
+    addRow("too far", "TTL expired", '\6');
+}
+
+void tst_Proxies::aSiteOutOfReachIsNoFaultOfTheProxy()
+{
+    QFETCH(char, reply);
+    Stage app;
+    const Site site;
+    QTcpServer proxy;
+    QVERIFY(proxy.listen(QHostAddress::LocalHost));
+    connect(&proxy, &QTcpServer::newConnection, &proxy, [&proxy, reply] {
+        QTcpSocket *client = proxy.nextPendingConnection();
+        connect(client, &QTcpSocket::readyRead, client, [client, reply] {
+            const bool isGreeting = client->readAll().size() < 5;
+            client->write(isGreeting ? QByteArray("\5\0", 2)
+                                     : QByteArray("\5", 1) + reply + QByteArray("\0\1\0\0\0\0\0\0", 8));
+        });
+    });
+    setProxy(app->settings(), QNetworkProxy::Socks5Proxy, proxy.serverPort());
+    addSongs(app->mainModel(), 1);
+    QTRY_COMPARE(app->mainModel()->activeCount(), 0);
+    QTEST(app->mainModel()->itemAt(0)->errorString(), "error");
 }
 
 void tst_Proxies::aRefusedLoginIsNotTriedAgain_data()
