@@ -12,6 +12,10 @@ Column {
     signal addFilesRequested()
     signal addFolderRequested()
 
+    function takeFocus() {
+        addFiles.forceActiveFocus();
+    }
+
     spacing: Measures.grid
 
     PaletteImage {

@@ -26,7 +26,10 @@ Rectangle {
     }
 
     function takeFocus() {
-        songs.takeFocus();
+        if (emptyList.visible && !emptyList.allHidden)
+            emptyList.takeFocus();
+        else
+            songs.takeFocus();
     }
 
     // Another colour node, to the eye the same, whenever the scroll bar goes: the software renderer does not paint over
@@ -82,6 +85,8 @@ Rectangle {
     }
 
     EmptyList {
+        id: emptyList
+
         anchors.centerIn: songs
         width: parent.width - 4 * Measures.grid
         visible: songs.count === 0
@@ -119,7 +124,7 @@ Rectangle {
         objectName: "songMenu"
         qtVersion: pane.qtVersion
         selectedCount: proxyModel.selectedCount
-        searchProvider: settings.searchProvider || "Google"
+        searchProvider: mainWindow ? mainWindow.searchEngine(settings.searchProvider) : ""
         onForceSearch: pane.forceSearchRequested()
         onExportLyrics: pane.exportLyricsRequested()
         onRemoveSelected: pane.removeSelectedRequested()

@@ -97,7 +97,7 @@ Item {
             editable: sheet.song !== null && sheet.song.tagsLoaded && sheet.song.editable && !sheet.tooLong
             hasLyrics: sheet.lyrics !== ""
             fontSize: settings.lyricsFontSize
-            searchProvider: settings.searchProvider || "Google"
+            searchProvider: mainWindow ? mainWindow.searchEngine(settings.searchProvider) : ""
             onEditToggled: sheet.editing ? sheet.edit.cancel() : sheet.beginEdit()
             onSaveRequested: sheet.edit.save()
             onCancelRequested: sheet.edit.cancel()

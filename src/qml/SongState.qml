@@ -47,8 +47,8 @@ QtObject {
         case ModelItem.ProcessFailed:
             return qsTr("failed");
         case ModelItem.ProcessComplete:
-            return !hasLyrics ? qsTr("no lyrics found") : unsaved ? qsTr("not saved") : errorString !== "" ? qsTr("search failed")
-                 : foundNothing ? qsTr("no lyrics found") : "";
+            return unsaved ? qsTr("not saved") : errorString !== "" ? qsTr("search failed")
+                 : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
         }
         return "";
     }
@@ -66,7 +66,8 @@ QtObject {
         case ModelItem.ProcessFailed:
             return errorString !== "" ? errorString : qsTr("failed");
         case ModelItem.ProcessComplete:
-            return errorString !== "" ? errorString : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
+            return unsaved ? qsTr("Not saved: %1", "%1 is the reason").arg(errorString)
+                 : errorString !== "" ? errorString : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
         }
         return errorString;
     }

@@ -3,6 +3,7 @@
 
 #include "ui/MakerSite.h"
 #include "ui/Pictures.h"
+#include "ui/QuestionBox.h"
 #include "ui_AboutDialog.h"
 
 #include <QDesktopServices>
@@ -23,6 +24,7 @@ AboutDialog::AboutDialog(QWidget *parent)
     m_form->lblAppName->setText(QCoreApplication::applicationName());
     m_form->lblAppVersion->setText(
         tr("Version %1").arg(QStringLiteral("%1 (%2)").arg(QCoreApplication::applicationVersion(), build)));
+    removeIcons(m_form->buttonBox);
     showMaker();
 }
 

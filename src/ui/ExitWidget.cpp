@@ -2,6 +2,7 @@
 #include "ui/ExitWidget.h"
 
 #include "model/MainModel.h"
+#include "ui/QuestionBox.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -21,6 +22,7 @@ ExitWidget::ExitWidget(const MainModel *model, QWidget *parent)
     auto *question = new QLabel(tr("Do you want to quit anyway?"), this);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No, this);
     buttons->button(QDialogButtonBox::No)->setDefault(true);
+    removeIcons(buttons);
     auto *layout = new QGridLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->setContentsMargins(24, 24, 24, 16);

@@ -4,8 +4,7 @@
 #include "model/MainModel.h"
 #include "model/ProxyModel.h"
 #include "ui/LyricsEdit.h"
-
-#include <QMessageBox>
+#include "ui/QuestionBox.h"
 
 // Longer names of songs are cut in a question; in pixels.
 static constexpr int widestName = 320;
@@ -91,13 +90,11 @@ QMessageBox *LyricsEditGuard::makeQuestion() const
 {
     const ModelItem *song = m_edit->song();
     const QString name = song->titleTag().isEmpty() ? song->filename() : song->titleTag();
-    auto *box = new QMessageBox(QMessageBox::Question, QString(), QString(),
-                                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->setText(tr("The lyrics of “%1” have been changed.", "%1 is the title of a song")
-                     .arg(box->fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, widestName)));
-    box->setInformativeText(tr("Do you want to save the changes?"));
+    const QString shortName = m_window->fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, widestName);
+    QMessageBox *box =
+        makeQuestionBox(tr("The lyrics of “%1” have been changed.", "%1 is the title of a song").arg(shortName),
+                        tr("Do you want to save the changes?"),
+                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
     box->setDefaultButton(QMessageBox::Save);
     box->setEscapeButton(QMessageBox::Cancel);
     return box;

@@ -23,15 +23,16 @@
 #include "updates/Updater.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -70,8 +71,8 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     setMinimumSize(std::max(480, m_scene->leastWidth()), 320);
     resize(1040, 680);
     setUpLinks();
-    setCentralWidget(m_scene.get());
     setUpUpdates();
+    setCentralWidget(m_scene.get());
     m_scene->setFocus();
     connectSceneSignals();
     connectModels();
@@ -158,7 +159,6 @@ void MainWindow::setUpLinks()
     }
 }
 
-void MainWindow::updateActions()
 void MainWindow::setUpUpdates()
 {
     m_actions->checkForUpdates->setVisible(m_parts.updater && endpointExists(Endpoint::Maker));
@@ -168,6 +168,7 @@ void MainWindow::setUpUpdates()
     connect(m_actions->checkForUpdates, &QAction::triggered, m_parts.updater, &Updater::checkByUser);
 }
 
+void MainWindow::updateActions()
 {
     const bool hasRows = m_parts.proxyModel->rowCount() > 0;
     const bool hasSelection = m_parts.proxyModel->selectedCount() > 0;
@@ -176,6 +177,21 @@ void MainWindow::setUpUpdates()
     m_actions->removeSelected->setEnabled(hasSelection);
     m_actions->exportLyrics->setEnabled(hasSelection);
     m_actions->removeWithLyrics->setEnabled(m_parts.mainModel->rowCount() > 0);
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    windowHandle()->installEventFilter(this);
+    QMainWindow::showEvent(event);
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == windowHandle() && event->type() == QEvent::ShortcutOverride && QApplication::activeModalWidget()) {
+        event->accept();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -405,6 +421,7 @@ void MainWindow::askToQuit(const std::function<void()> &leave)
         leave();
         return;
     }
+    m_leave = leave;
     if (!m_exitWidget) {
         m_exitWidget = new ExitWidget(m_parts.mainModel, this);
         connect(m_exitWidget, &QDialog::accepted, this, [this] { m_leave(); });
@@ -421,7 +438,6 @@ void MainWindow::quit_app_accepted()
     m_quitting = true;
     hide();
     if (!m_parts.tracker) {
-    m_leave = leave;
         QTimer::singleShot(0, this, &MainWindow::quit_app_force);
         return;
     }

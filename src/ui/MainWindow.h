@@ -68,6 +68,9 @@ public:
     // Why the scene could not be loaded, in words for the user; empty when it could.
     [[nodiscard]] QString sceneErrors() const;
 
+    // The search engine that is meant by this name of a setting.
+    Q_INVOKABLE QString searchEngine(const QString &name) const { return m_searchProvider.effectiveName(name); }
+
 public slots:
     // Removing asks first when a modified draft of lyrics would be lost. `clearList` leaves hidden songs in the list.
     void clearList();
@@ -122,6 +125,9 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    // Keeps shortcuts from a window that waits for a dialog, which may not have the keyboard yet.
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -129,6 +135,7 @@ private:
     void connectSceneSignals();
     void connectModels();
     void setUpLinks();
+    void setUpUpdates();
     void updateActions();
     void searchInBrowser(const ModelItem *item);
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
@@ -137,7 +144,6 @@ private:
     void askToQuit(const std::function<void()> &leave);
     [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;
-    void setUpUpdates();
 
     const Parts m_parts;
     LyricsEdit *const m_lyricsEdit;
@@ -149,10 +155,10 @@ private:
     const std::unique_ptr<WindowActions> m_actions;
     StatusLine *const m_status;
     ExitWidget *m_exitWidget = nullptr; // made when it is first needed
+    std::function<void()> m_leave;      // what follows its yes
     const SearchProvider m_searchProvider;
     bool m_quitting = false;
     QTimer m_statusUpdate; // one update for all changes of a turn of the event loop
     // The last member, since it has to go before what it shows.
     const std::unique_ptr<SceneWidget> m_scene;
 };
-    std::function<void()> m_leave;      // what follows its yes

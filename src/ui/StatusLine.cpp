@@ -20,16 +20,21 @@ static constexpr std::chrono::seconds briefly(6);
 StatusLine::StatusLine(QStatusBar *bar)
     : QObject(bar)
     , m_bar(bar)
-    , m_label(new QLabel(bar))
-    , m_progress(new SlimProgressBar(bar))
+    , m_searches(new QWidget(bar))
+    , m_label(new QLabel(m_searches))
+    , m_progress(new SlimProgressBar(m_searches))
 {
     m_bar->setSizeGripEnabled(false);
     m_bar->setContentsMargins(8, 0, 8, 0);
     m_label->setTextFormat(Qt::PlainText);
     m_progress->setFixedWidth(progressWidth);
     m_progress->setAccessibleName(tr("Progress of the searches"));
-    m_bar->addWidget(m_label);
-    m_bar->addWidget(m_progress);
+    auto *layout = new QHBoxLayout(m_searches);
+    layout->setContentsMargins(0, 0, 10, 0); // with the bar's own spacing, 16 pixels to the first notice
+    layout->setSpacing(16);
+    layout->addWidget(m_label);
+    layout->addWidget(m_progress);
+    m_bar->addWidget(m_searches);
     setSearchesLeft(0);
 }
 
@@ -40,10 +45,9 @@ void StatusLine::setSearchesLeft(int left)
     m_done = left == 0 ? 0 : m_done + qMax(0, m_left - left);
     m_left = left;
     m_label->setText(left > 0 ? tr("Searching... %n left...", nullptr, left) : QString());
-    m_label->setVisible(left > 0); // an empty one would push the notices to the right
     m_progress->setRange(0, qMax(1, m_done + left));
     m_progress->setValue(m_done);
-    m_progress->setVisible(left > 0);
+    m_searches->setVisible(left > 0); // an empty place would push the notices to the right
 }
 
 void StatusLine::showSettingsDamaged(const QString &copy)

@@ -64,6 +64,7 @@ private:
     void dismiss(Notice notice);
 
     QStatusBar *m_bar;
+    QWidget *m_searches; // label and progress
     QLabel *m_label;
     QProgressBar *m_progress;
     int m_left = 0;

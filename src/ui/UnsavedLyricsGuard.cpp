@@ -2,8 +2,7 @@
 #include "ui/UnsavedLyricsGuard.h"
 
 #include "model/MainModel.h"
-
-#include <QMessageBox>
+#include "ui/QuestionBox.h"
 
 #include <algorithm>
 #include <utility>
@@ -45,12 +44,9 @@ void UnsavedLyricsGuard::before(int unsaved, std::function<void()> action)
 
 void UnsavedLyricsGuard::ask(int unsaved, std::function<void()> action)
 {
-    m_question = new QMessageBox(
-        QMessageBox::Warning, QString(),
+    m_question = makeQuestionBox(
         tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
-        QMessageBox::Discard | QMessageBox::Cancel, m_window);
-    m_question->setAttribute(Qt::WA_DeleteOnClose);
-    m_question->setInformativeText(tr("Do you want to give them up?"));
+        tr("Do you want to give them up?"), QMessageBox::Discard | QMessageBox::Cancel, m_window);
     m_question->setDefaultButton(QMessageBox::Cancel);
     QObject::connect(m_question, &QMessageBox::finished, m_window, [this, action = std::move(action)](int answer) {
         m_question.clear();

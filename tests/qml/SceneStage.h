@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "lyrics/SearchProvider.h"
 #include "model/FolderScanner.h"
 #include "model/MainModel.h"
 #include "model/ProxyModel.h"
@@ -30,6 +31,8 @@ public:
     Q_INVOKABLE void showSongs(const QStringList &samples);
     // The item of a row of the whole list.
     Q_INVOKABLE ModelItem *song(int row) const;
+    // As the window has it.
+    Q_INVOKABLE QString searchEngine(const QString &name) const { return SearchProvider().effectiveName(name); }
     // The folder with the copies.
     Q_INVOKABLE QUrl folder() const;
 

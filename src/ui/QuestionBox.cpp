@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "ui/QuestionBox.h"
+
+#include <QDialogButtonBox>
+#include <QIcon>
+#include <QPushButton>
+
+static constexpr QSize pictureSize(48, 48);
+
+QMessageBox *makeQuestionBox(const QString &text, const QString &question, QMessageBox::StandardButtons buttons,
+                             QWidget *window)
+{
+    auto *box = new QMessageBox(QMessageBox::NoIcon, QString(), text, buttons, window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(question);
+    box->setIconPixmap(QIcon(QStringLiteral(":/img/main-icon.png")).pixmap(window->windowHandle(), pictureSize));
+    removeIcons(box->findChild<QDialogButtonBox *>());
+    return box;
+}
+
+void removeIcons(const QDialogButtonBox *buttons)
+{
+    for (QAbstractButton *button : buttons->buttons())
+        button->setIcon({});
+}
