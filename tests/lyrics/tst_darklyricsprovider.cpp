@@ -65,29 +65,6 @@ class tst_DarkLyricsProvider : public QObject
     Q_OBJECT
 
 private slots:
-    void cutsSections_data()
-    {
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("sections"); // "key=section" joined by "|"
-        addRow("before the first heading and behind it", wrapped("a<h3>Songs: new</h3>b"_s),
-               "=<div class='cntwrap'>a|songs=b");
-        addRow("a later section of the same name takes the place", wrapped("<h3 class=\"x\">A</h3>1<h3>a</h3>2"_s),
-               "=<div class='cntwrap'>|a=2");
-        addRow("a heading on two lines is none", wrapped("<h3>a\n</h3><h3></h3>b"_s),
-               "=<div class='cntwrap'><h3>a\n</h3><h3></h3>b");
-        addRow("a content that is not closed", "<div class='cntwrap'><h3>Songs</h3>a", "");
-    }
-
-    void cutsSections()
-    {
-        QFETCH(QString, page);
-        const QMap<QString, QString> sections = DarkLyricsProvider::sections(page);
-        QStringList parts;
-        for (auto section = sections.begin(); section != sections.end(); ++section)
-            parts << section.key() + QLatin1Char('=') + section.value();
-        QTEST(parts.join(QLatin1Char('|')), "sections");
-    }
-
     void findsTheSongUnderItsAnchor_data()
     {
         addTextColumns("anchor", "lyrics");

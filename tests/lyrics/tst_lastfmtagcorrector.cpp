@@ -146,9 +146,7 @@ private slots:
 
     void abortsTheRequest()
     {
-        LoopbackResponse hang;
-        hang.hang = true;
-        m_rig->server().route("/2.0/"_s, hang);
+        m_rig->server().route("/2.0/"_s, LoopbackResponse::hanging());
         LastfmTagCorrector corrector(nullptr);
         QSignalSpy finished(&corrector, &TagCorrector::finished);
         QVERIFY2(!corrector.abort(), "nothing is in flight");

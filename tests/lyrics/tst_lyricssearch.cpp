@@ -250,22 +250,6 @@ private slots:
         QCOMPARE(finished.first().at(3).toString(), "la"_s);
     }
 
-    void keepsConcurrentSearchesApart()
-    {
-        makeSites("A B"_s);
-        QMap<int, QString> found;
-        connect(m_search.get(), &LyricsSearch::searchFinished, this,
-                [&](quint16 id, const QString &, const QString &, const QString &lyrics) { found.insert(id, lyrics); });
-        for (quint16 id = 0; id < 40; ++id) {
-            const QString title = QString::number(id);
-            m_script.answers.insert((id % 2 ? "A:a/"_s : "B:a/"_s) + title, title);
-            QVERIFY(m_search->search(id, "a"_s, title));
-        }
-        QTRY_COMPARE(found.size(), 40);
-        for (auto result = found.cbegin(); result != found.cend(); ++result)
-            QCOMPARE(result.value(), QString::number(result.key()));
-    }
-
     void endsQuietlyWhenDestroyed()
     {
         makeSites("A"_s);

@@ -93,50 +93,17 @@ class tst_MusixMatchProvider : public QObject
     Q_OBJECT
 
 private slots:
-    void findsElements_data()
-    {
-        addTextColumns("page", "classes", "element");
-        addRow("any order, any letter case", "<DIV CLASS='B c A'>x</div>", "a b c", "x");
-        addRow("one class too many", "<div class=\"a b\">x</div>", "a", "");
-        addRow("two blanks in a row", "<div class=\"a  b\">x</div>", "a b", "");
-        addRow("nested elements are counted", "<div class=\"a\"><div>x</div>y</div>z", "a", "<div>x</div>y");
-        addRow("an unclosed element is passed over", "<div class=\"a\">x<div  class=\"a\">y</div>", "a", "y");
-        addRow("a tag that goes on behind the attribute", "<div class=\"a\"\nid=\"i\">x</div>", "a", "");
-    }
-
-    void findsElements()
-    {
-        QFETCH(QString, page);
-        QFETCH(QString, classes);
-        QFETCH(QString, element);
-        const QStringList names = classes.split(QLatin1Char(' '));
-        QCOMPARE(findElement(page, "div"_s, names, false), element);
-        QCOMPARE(plain::elementOf(page, "div"_s, names, false), element);
-        const QString whole = findElement(page, "div"_s, names, true);
-        QCOMPARE(whole.isEmpty(), element.isEmpty());
-        QVERIFY(whole.isEmpty() || (whole.startsWith("<div"_s, Qt::CaseInsensitive) && whole.endsWith(element)));
-    }
-
-    void findsTheLyrics_data()
-    {
-        addTextColumns("block", "lyrics");
-        addRow("parts follow each other without a separator", "@a</span>\n@b\nc</span>", "ab\nc");
-        addRow("a part that comes again is taken once", "@a</span>@b</span>@a</span>", "ab");
-        addRow("a part that begins as an earlier one has lost its tag", "@a</span>@a b</span>", "a");
-        addRow("an empty part ends it", "@</span>@a</span>", "");
-        addRow("entities stay", "@a&amp;b</span>", "a&amp;b");
-    }
-
-    void findsTheLyrics()
-    {
-        QFETCH(QString, block);
-        block.replace(QLatin1Char('@'), "<span class='lyrics__content__ok'>"_s);
-        QTEST(lyricsOf(block), "lyrics");
-        QTEST(plain::lyricsOfBlock(block), "lyrics");
-    }
-
     void readsLikeThePlainExpressions()
     {
+        for (const bool withTag : {false, true}) {
+            const QStringList classes{"a"_s, "B"_s};
+            compareOnRandomTexts(
+                "<div~class=\"a~b\"> <DIV~class='B~A'> <div~class=\"a\"> <div~class=\"a~~b\"> <div~class=\"a~b\"\n "
+                "<div "
+                "</div> </div x > \" ' a b \n"_s,
+                [&](const QString &page) { return findElement(page, "div"_s, classes, withTag); },
+                [&](const QString &page) { return plain::elementOf(page, "div"_s, classes, withTag); });
+        }
         const QString trackPage = sitePage("musixmatch", "track.html");
         const QString block = MusixMatchProvider::lyricsBlock(trackPage);
         QCOMPARE(block, plain::elementOf(trackPage, "div"_s, {"mxm-lyrics"_s}, false));

@@ -296,12 +296,6 @@ private slots:
         // Containers are joined by CR LF.
         whole("Genius: a newer page, a header block in the container", "newer.html",
               harbourLights().replace("\n\n"_s, "\r\n"_s));
-        newer("Genius: an inner element is counted", "@a<div>\nb</div>\nc</div>d", "a\nb\nc");
-        newer("Genius: a self-closing element is not", "@a<div class=\"x\" />b</div>c</div>", "ab");
-        newer("Genius: empty containers leave no line", "@</div>@a</div>@ </div>@b</div>", "a\r\nb");
-        newer("Genius: an unclosed container ends the walk", "@a</div>@b", "a");
-        newer("Genius: a closed container", "<div class=\"Lyrics__Container\" />x@a</div>", "a");
-        newer("Genius: a name up to the next space", "<div\nclass=\"Lyrics__Container x\">a</div>", "");
         newer("Genius: references of any length, through others too",
               "@&#0000000065;&#38;#66;&#9;&#x43;&amp;lt;&#1114112;</div>", "AB\tC<\ufffd");
         whole("Megalyrics: a whole page", "song.html");

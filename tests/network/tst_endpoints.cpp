@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "network/Endpoints.h"
+#include "support/TestFolder.h"
+#include "support/TestTable.h"
 
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QtTest>
 
 class tst_Endpoints : public QObject
@@ -10,13 +11,7 @@ class tst_Endpoints : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(m_settingsFolder.isValid());
-        QCoreApplication::setOrganizationName(QStringLiteral("VersewellTest"));
-        QCoreApplication::setApplicationName(QStringLiteral("Endpoints"));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settingsFolder.path());
-    }
+    void initTestCase() { m_folder.holdSettings(); }
 
     void init()
     {
@@ -43,18 +38,13 @@ private slots:
     {
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QString>("expected"); // empty: the default, with a warning
-
-        QTest::newRow("loopback") << QVariant(QStringLiteral("http://127.0.0.1:8080")) << "http://127.0.0.1:8080";
-        QTest::newRow("trailing slashes") << QVariant(QStringLiteral(" https://x.org// ")) << "https://x.org";
-        QTest::newRow("path of its own") << QVariant(QStringLiteral("http://x.org/genius/")) << "http://x.org/genius";
-        QTest::newRow("empty") << QVariant(QString()) << QString();
-        QTest::newRow("file") << QVariant(QStringLiteral("file:///etc/passwd")) << QString();
-        QTest::newRow("no scheme") << QVariant(QStringLiteral("x.org")) << QString();
-        QTest::newRow("no host") << QVariant(QStringLiteral("http://")) << QString();
-        QTest::newRow("query") << QVariant(QStringLiteral("http://x.org/?a=b")) << QString();
-        QTest::newRow("bad port") << QVariant(QStringLiteral("http://x.org:banana")) << QString();
-        QTest::newRow("a list") << QVariant(QStringList{QStringLiteral("http://a.org"), QStringLiteral("http://b.org")})
-                                << QString();
+        addRow("a list", QVariant(QStringList{"http://a.org"_s, "http://b.org"_s}), "");
+        addRow("loopback", QVariant("http://127.0.0.1:8080"_s), "http://127.0.0.1:8080");
+        addRow("trailing slashes", QVariant(" https://x.org// "_s), "https://x.org");
+        addRow("path of its own", QVariant("http://x.org/genius/"_s), "http://x.org/genius");
+        for (const char *bad :
+             {"", "file:///etc/passwd", "x.org", "http://", "http://x.org/?a=b", "http://x.org:banana"})
+            addRow(bad, QVariant(QString::fromLatin1(bad)), "");
     }
 
     void override()
@@ -70,23 +60,20 @@ private slots:
 
     void url_data()
     {
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<QByteArray>("expected");
-
-        QTest::newRow("nothing") << QString() << QByteArray("http://h:1/base");
-        QTest::newRow("path and query") << "/p?q=a%20b#3" << QByteArray("http://h:1/base/p?q=a%20b#3");
-        QTest::newRow("query only") << "?q=1" << QByteArray("http://h:1/base?q=1");
-        QTest::newRow("missing slash") << "p" << QByteArray("http://h:1/base/p");
-        QTest::newRow("would change the host") << "@evil.org/" << QByteArray("http://h:1/base/@evil.org/");
-        QTest::newRow("an address") << "http://evil.org/" << QByteArray("http://h:1/base/http://evil.org/");
+        addTextColumns("target", "expected");
+        addRow("nothing", "", "http://h:1/base");
+        addRow("path and query", "/p?q=a%20b#3", "http://h:1/base/p?q=a%20b#3");
+        addRow("query only", "?q=1", "http://h:1/base?q=1");
+        addRow("missing slash", "p", "http://h:1/base/p");
+        addRow("would change the host", "@evil.org/", "http://h:1/base/@evil.org/");
+        addRow("an address", "http://evil.org/", "http://h:1/base/http://evil.org/");
     }
 
     void url()
     {
         QFETCH(QString, target);
-        QFETCH(QByteArray, expected);
-        write(QStringLiteral("http://h:1/base"));
-        QCOMPARE(endpointUrl(Endpoint::Genius, target).toEncoded(), expected);
+        write("http://h:1/base"_s);
+        QTEST(QString::fromLatin1(endpointUrl(Endpoint::Genius, target).toEncoded()), "expected");
     }
 
 private:
@@ -96,7 +83,7 @@ private:
         reloadEndpoints();
     }
 
-    QTemporaryDir m_settingsFolder;
+    TestFolder m_folder;
 };
 
 QTEST_GUILESS_MAIN(tst_Endpoints)

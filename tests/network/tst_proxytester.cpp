@@ -11,13 +11,6 @@ namespace {
 
 const QUrl page(QStringLiteral("http://page.example/"));
 
-LoopbackResponse hanging()
-{
-    LoopbackResponse response;
-    response.hang = true;
-    return response;
-}
-
 QNetworkProxy proxyAt(const LoopbackServer &server)
 {
     return {QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), quint16(QUrl(server.base()).port())};
@@ -30,92 +23,86 @@ class tst_ProxyTester : public QObject
     Q_OBJECT
 
 private slots:
-    void theOutcomeIsTold_data();
-    void theOutcomeIsTold();
-    void nothingIsAskedWithoutAnAddressOrAProxy();
-    void aDeadProxyIsAnError();
-    void aTestCanBeStoppedAndRepeated();
-};
+    // The server plays the proxy.
+    void theOutcomeIsTold_data()
+    {
+        QTest::addColumn<LoopbackResponse>("answer");
+        QTest::addColumn<ProxyTester::State>("outcome");
+        QTest::newRow("the page comes") << LoopbackResponse::page("hello") << ProxyTester::Success;
+        QTest::newRow("the page is elsewhere") << LoopbackResponse::redirect(301, "/b") << ProxyTester::Success;
+        QTest::newRow("the page is out of order") << LoopbackResponse::error(500) << ProxyTester::Error;
+        QTest::newRow("the page wants a pause")
+            << LoopbackResponse::error(503).with("Retry-After", "60") << ProxyTester::Error;
+        QTest::newRow("the page wants a log-in")
+            << LoopbackResponse::error(401).with("WWW-Authenticate", "Basic realm=\"a\"") << ProxyTester::Error;
+        QTest::newRow("the proxy wants a log-in")
+            << LoopbackResponse::error(407).with("Proxy-Authenticate", "Basic realm=\"a\"") << ProxyTester::Error;
+        QTest::newRow("nothing comes until the time is over") << LoopbackResponse::hanging() << ProxyTester::Success;
+    }
 
-// The server plays the proxy.
-void tst_ProxyTester::theOutcomeIsTold_data()
-{
-    QTest::addColumn<LoopbackResponse>("answer");
-    QTest::addColumn<ProxyTester::State>("outcome");
-    QTest::newRow("the page comes") << LoopbackResponse::page("hello") << ProxyTester::Success;
-    QTest::newRow("the page is elsewhere") << LoopbackResponse::redirect(301, "/b") << ProxyTester::Success;
-    QTest::newRow("the page is out of order") << LoopbackResponse::error(500) << ProxyTester::Error;
-    QTest::newRow("the page wants a pause")
-        << LoopbackResponse::error(503).with("Retry-After", "60") << ProxyTester::Error;
-    QTest::newRow("the page wants a log-in")
-        << LoopbackResponse::error(401).with("WWW-Authenticate", "Basic realm=\"a\"") << ProxyTester::Error;
-    QTest::newRow("the proxy wants a log-in")
-        << LoopbackResponse::error(407).with("Proxy-Authenticate", "Basic realm=\"a\"") << ProxyTester::Error;
-    QTest::newRow("nothing comes until the time is over") << hanging() << ProxyTester::Success;
-}
+    void theOutcomeIsTold()
+    {
+        QFETCH(LoopbackResponse, answer);
+        LoopbackServer server;
+        server.routeOthers([&answer](const LoopbackRequest &) { return answer; });
+        ProxyTester tester(page);
+        tester.setTimeoutSeconds(1);
+        QVector<ProxyTester::State> states;
+        connect(&tester, &ProxyTester::stateChanged, this, [&] { states.append(tester.state()); });
+        // A second time as well: an outcome is not remembered.
+        for (int round = 1; round <= 2; ++round) {
+            QVERIFY(tester.start(proxyAt(server)));
+            QVERIFY(!tester.start(proxyAt(server)));
+            QTRY_VERIFY(tester.state() != ProxyTester::Working);
+            QTEST(tester.state(), "outcome");
+            QCOMPARE(server.requests().size(), round);
+        }
+        QFETCH(ProxyTester::State, outcome);
+        QCOMPARE(states, (QVector<ProxyTester::State>{ProxyTester::Working, outcome, ProxyTester::Working, outcome}));
+        QCOMPARE(server.requests().first().target, page.toEncoded());
+    }
 
-void tst_ProxyTester::theOutcomeIsTold()
-{
-    QFETCH(LoopbackResponse, answer);
-    LoopbackServer server;
-    server.routeOthers([&answer](const LoopbackRequest &) { return answer; });
-    ProxyTester tester(page);
-    tester.setTimeoutSeconds(1);
-    QVector<ProxyTester::State> states;
-    connect(&tester, &ProxyTester::stateChanged, this, [&] { states.append(tester.state()); });
-    // A second time as well: an outcome is not remembered.
-    for (int round = 1; round <= 2; ++round) {
+    void nothingIsAskedWithoutAnAddressOrAProxy()
+    {
+        LoopbackServer server;
+        ProxyTester homeless{QUrl()};
+        QVERIFY(!homeless.start(proxyAt(server)));
+        ProxyTester tester(page);
+        QVERIFY(!tester.start(QNetworkProxy(QNetworkProxy::NoProxy)));
+        QCOMPARE(tester.state(), ProxyTester::Idle);
+    }
+
+    void aDeadProxyIsAnError()
+    {
+        LoopbackServer server;
+        server.stop();
+        ProxyTester tester(page);
+        for (const auto type : {QNetworkProxy::HttpProxy, QNetworkProxy::Socks5Proxy}) {
+            QNetworkProxy proxy = proxyAt(server);
+            proxy.setType(type);
+            QVERIFY(tester.start(proxy));
+            QTRY_COMPARE(tester.state(), ProxyTester::Error);
+        }
+    }
+
+    void aTestCanBeStoppedAndRepeated()
+    {
+        LoopbackServer server;
+        server.routeOthers([](const LoopbackRequest &) { return LoopbackResponse::hanging(); });
+        ProxyTester tester(page);
+        tester.stop();
         QVERIFY(tester.start(proxyAt(server)));
-        QVERIFY(!tester.start(proxyAt(server)));
-        QTRY_VERIFY(tester.state() != ProxyTester::Working);
-        QTEST(tester.state(), "outcome");
-        QCOMPARE(server.requests().size(), round);
+        QTRY_COMPARE(server.requests().size(), 1);
+        tester.stop();
+        QCOMPARE(tester.state(), ProxyTester::Idle);
+        QTRY_COMPARE(server.openConnections(), 0);
+        server.routeOthers([](const LoopbackRequest &) { return LoopbackResponse::page("hello"); });
+        QSignalSpy changes(&tester, &ProxyTester::stateChanged);
+        QVERIFY(tester.start(proxyAt(server)));
+        QTRY_COMPARE(tester.state(), ProxyTester::Success);
+        QCOMPARE(changes.size(), 2);
     }
-    QFETCH(ProxyTester::State, outcome);
-    QCOMPARE(states, (QVector<ProxyTester::State>{ProxyTester::Working, outcome, ProxyTester::Working, outcome}));
-    QCOMPARE(server.requests().first().target, page.toEncoded());
-}
-
-void tst_ProxyTester::nothingIsAskedWithoutAnAddressOrAProxy()
-{
-    LoopbackServer server;
-    ProxyTester homeless{QUrl()};
-    QVERIFY(!homeless.start(proxyAt(server)));
-    ProxyTester tester(page);
-    QVERIFY(!tester.start(QNetworkProxy(QNetworkProxy::NoProxy)));
-    QCOMPARE(tester.state(), ProxyTester::Idle);
-}
-
-void tst_ProxyTester::aDeadProxyIsAnError()
-{
-    LoopbackServer server;
-    server.stop();
-    ProxyTester tester(page);
-    for (const auto type : {QNetworkProxy::HttpProxy, QNetworkProxy::Socks5Proxy}) {
-        QNetworkProxy proxy = proxyAt(server);
-        proxy.setType(type);
-        QVERIFY(tester.start(proxy));
-        QTRY_COMPARE(tester.state(), ProxyTester::Error);
-    }
-}
-
-void tst_ProxyTester::aTestCanBeStoppedAndRepeated()
-{
-    LoopbackServer server;
-    server.routeOthers([](const LoopbackRequest &) { return hanging(); });
-    ProxyTester tester(page);
-    tester.stop();
-    QVERIFY(tester.start(proxyAt(server)));
-    QTRY_COMPARE(server.requests().size(), 1);
-    tester.stop();
-    QCOMPARE(tester.state(), ProxyTester::Idle);
-    QTRY_COMPARE(server.openConnections(), 0);
-    server.routeOthers([](const LoopbackRequest &) { return LoopbackResponse::page("hello"); });
-    QSignalSpy changes(&tester, &ProxyTester::stateChanged);
-    QVERIFY(tester.start(proxyAt(server)));
-    QTRY_COMPARE(tester.state(), ProxyTester::Success);
-    QCOMPARE(changes.size(), 2);
-}
+};
 
 QTEST_GUILESS_MAIN(tst_ProxyTester)
 #include "tst_proxytester.moc"

@@ -31,6 +31,13 @@ LoopbackResponse LoopbackResponse::redirect(int status, const QByteArray &locati
     return response.with("Location", location);
 }
 
+LoopbackResponse LoopbackResponse::hanging()
+{
+    LoopbackResponse response;
+    response.hang = true;
+    return response;
+}
+
 LoopbackResponse LoopbackResponse::with(const QByteArray &header, const QByteArray &value) const
 {
     LoopbackResponse response = *this;

@@ -44,6 +44,7 @@ struct LoopbackResponse
     [[nodiscard]] static LoopbackResponse page(const QByteArray &body);
     [[nodiscard]] static LoopbackResponse error(int status);
     [[nodiscard]] static LoopbackResponse redirect(int status, const QByteArray &location);
+    [[nodiscard]] static LoopbackResponse hanging();
     // A copy with one more header.
     [[nodiscard]] LoopbackResponse with(const QByteArray &header, const QByteArray &value) const;
 };
