@@ -25,7 +25,7 @@ DownloadDialog::DownloadDialog(UpdateChecker *checker, QWidget *parent)
     , m_status(new QLabel(this))
     , m_bar(new QProgressBar(this))
     , m_progress(new QLabel(this))
-    , m_buttons(new QDialogButtonBox(QDialogButtonBox::Cancel, this))
+    , m_buttons(new QDialogButtonBox(this))
     , m_install(m_buttons->addButton(tr("Exit and install"), QDialogButtonBox::AcceptRole))
 {
     setWindowTitle(tr("Updating %1").arg(QCoreApplication::applicationName()));
@@ -41,7 +41,7 @@ DownloadDialog::DownloadDialog(UpdateChecker *checker, QWidget *parent)
     layout->setContentsMargins(24, 24, 24, 16);
     layout->setHorizontalSpacing(16);
     layout->setVerticalSpacing(8);
-    layout->addWidget(makeProgramIcon(this), 0, 0, 3, 1, Qt::AlignTop);
+    layout->addWidget(makeIconLabel(this), 0, 0, 3, 1, Qt::AlignTop);
     layout->addWidget(m_status, 0, 1);
     layout->addWidget(m_bar, 1, 1);
     layout->addWidget(m_progress, 2, 1);
@@ -57,9 +57,11 @@ DownloadDialog::DownloadDialog(UpdateChecker *checker, QWidget *parent)
 void DownloadDialog::createButtons()
 {
     m_install->setObjectName(QStringLiteral("installButton"));
-    // "Enter" must not end the program when the button comes amid other work.
-    for (QAbstractButton *button : m_buttons->buttons())
-        qobject_cast<QPushButton *>(button)->setAutoDefault(false);
+    m_install->setDefault(true);
+    // The focus stays here when the other button comes.
+    QPushButton *cancel = m_buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    cancel->setAutoDefault(false);
+    cancel->setFocus();
     connect(m_buttons, &QDialogButtonBox::accepted, this, &DownloadDialog::installRequested);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

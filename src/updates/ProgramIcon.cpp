@@ -6,10 +6,15 @@
 
 static constexpr QSize iconSize(48, 48);
 
-QLabel *makeProgramIcon(QWidget *dialog)
+QPixmap programIcon(const QWidget *window)
+{
+    return QIcon(QStringLiteral(":/img/main-icon.png")).pixmap(window->window()->windowHandle(), iconSize);
+}
+
+QLabel *makeIconLabel(QWidget *dialog)
 {
     auto *icon = new QLabel(dialog);
     icon->setObjectName(QStringLiteral("iconLabel"));
-    icon->setPixmap(QIcon(QStringLiteral(":/img/main-icon.png")).pixmap(dialog->window()->windowHandle(), iconSize));
+    icon->setPixmap(programIcon(dialog->parentWidget() ? dialog->parentWidget() : dialog));
     return icon;
 }

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 
 static constexpr int monthsInYear = 12;
+// Of each unit, as "more than 1 years" says little, and says it badly.
+static constexpr int least = 2;
 
 // A month is over on the same day of the next one, or on its last day where there is no such day.
 static int wholeMonths(const QDate &from, const QDate &to)
@@ -14,12 +16,12 @@ static int wholeMonths(const QDate &from, const QDate &to)
 
 QString releaseAge(const QDate &released, const QDate &today)
 {
-    if (!released.isValid() || !today.isValid() || released >= today)
+    if (!released.isValid() || !today.isValid() || released.daysTo(today) < least)
         return {};
     const int months = wholeMonths(released, today);
-    if (months >= monthsInYear)
+    if (months >= least * monthsInYear)
         return QCoreApplication::translate("UpdateDialog", "%n years", nullptr, months / monthsInYear);
-    if (months > 0)
+    if (months >= least)
         return QCoreApplication::translate("UpdateDialog", "%n months", nullptr, months);
     return QCoreApplication::translate("UpdateDialog", "%n days", nullptr, static_cast<int>(released.daysTo(today)));
 }

@@ -4,6 +4,6 @@
 #include <QDate>
 #include <QString>
 
-// How long ago a release was, for people: whole years, or below one year months, or below one month days. Empty when a
-// date is missing, or when it is not in the past.
+// How long ago a release was, for people: whole years, or below two years months, or below two months days. Empty below
+// two days, and when a date is missing.
 [[nodiscard]] QString releaseAge(const QDate &released, const QDate &today);

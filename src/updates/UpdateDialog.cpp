@@ -15,6 +15,8 @@
 namespace {
 
 constexpr QSize usualSize(560, 480);
+constexpr qreal notesMargin = 8;
+constexpr qreal listIndent = 20;
 constexpr qreal titleSize = 1.25; // times that of the other words
 
 // In the order in which they stand.
@@ -47,7 +49,7 @@ UpdateDialog::UpdateDialog(const ReleasedVersions &versions, const QDate &today,
     createButtons(occasion);
     auto *top = new QHBoxLayout;
     top->setSpacing(16);
-    top->addWidget(makeProgramIcon(this), 0, Qt::AlignTop);
+    top->addWidget(makeIconLabel(this), 0, Qt::AlignTop);
     top->addLayout(words, 1);
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
@@ -96,6 +98,9 @@ void UpdateDialog::createNotes()
     m_notes->setOpenLinks(false);
     m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_notes->setTabChangesFocus(true);
+    m_notes->document()->setDocumentMargin(notesMargin);
+    m_notes->document()->setIndentWidth(listIndent);
+    m_notes->document()->setDefaultStyleSheet(QStringLiteral("ul { margin-top: 0; margin-bottom: 0 }"));
     m_error->setObjectName(QStringLiteral("labelError"));
     m_error->setStyleSheet(QStringLiteral("#labelError { color: red }"));
     m_error->setTextFormat(Qt::PlainText);

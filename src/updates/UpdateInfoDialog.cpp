@@ -15,7 +15,8 @@ UpdateInfoDialog::UpdateInfoDialog(QWidget *parent)
     auto *label = new QLabel(tr("Checking for update..."), this);
     label->setAlignment(Qt::AlignCenter);
     label->setMinimumWidth(leastWidth);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    auto *buttons = new QDialogButtonBox(this);
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     buttons->setCenterButtons(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *layout = new QVBoxLayout(this);

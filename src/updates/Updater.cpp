@@ -4,11 +4,13 @@
 #include "network/Endpoints.h"
 #include "settings/SettingsChange.h"
 #include "updates/DownloadDialog.h"
+#include "updates/ProgramIcon.h"
 #include "updates/UpdateDialog.h"
 #include "updates/UpdateInfoDialog.h"
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTextDocument>
 
@@ -157,12 +159,12 @@ void Updater::checkerStateChanged()
         break;
     case UpdateChecker::UpToDate:
         if (m_byUser)
-            tell(QMessageBox::Information, tr("You have the latest version."));
+            tell(tr("You have the latest version."));
         break;
     case UpdateChecker::Error:
         finish(&m_download);
         if (m_byUser)
-            tell(QMessageBox::Critical, tr("Failed to update"), m_checker.error());
+            tell(tr("Failed to update"), m_checker.error());
         break;
     case UpdateChecker::Normal:
         break;
@@ -243,9 +245,12 @@ void Updater::showDownload()
     m_download->show();
 }
 
-void Updater::tell(QMessageBox::Icon icon, const QString &text, const QString &detail)
+void Updater::tell(const QString &text, const QString &detail)
 {
-    m_box = new QMessageBox(icon, QCoreApplication::applicationName(), text, QMessageBox::Close, m_window);
+    m_box = new QMessageBox(QMessageBox::NoIcon, tr("Update"), text, QMessageBox::NoButton, m_window);
+    m_box->addButton(tr("Close"), QMessageBox::RejectRole);
+    if (m_window)
+        m_box->setIconPixmap(programIcon(m_window));
     m_box->setAttribute(Qt::WA_DeleteOnClose);
     m_box->setTextFormat(Qt::PlainText);
     // The format does not count for this text, in which words of the network may stand.

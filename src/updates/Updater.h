@@ -5,7 +5,6 @@
 #include "updates/UpdateEnvironment.h"
 
 #include <QDateTime>
-#include <QMessageBox>
 #include <QNetworkProxy>
 #include <QObject>
 #include <QPointer>
@@ -15,6 +14,7 @@
 #include <functional>
 
 class DownloadDialog;
+class QMessageBox;
 class UpdateDialog;
 class UpdateInfoDialog;
 
@@ -74,7 +74,7 @@ private:
     void offer();
     void takeAnswer(int answer, const QString &version);
     void showDownload();
-    void tell(QMessageBox::Icon icon, const QString &text, const QString &detail = {});
+    void tell(const QString &text, const QString &detail = {});
     void closeDialogs();
 
     std::function<QDateTime()> m_now;
