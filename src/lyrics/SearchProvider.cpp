@@ -14,15 +14,14 @@ namespace {
 struct Engine
 {
     Endpoint endpoint;
-    const char *name;
     const char *target;
 };
 
 constexpr std::array<Engine, 4> engines{{
-    {Endpoint::Google, "Google", "/search?q={{QUERY}}"},
-    {Endpoint::Bing, "Bing", "/?q={{QUERY}}"},
-    {Endpoint::Yahoo, "Yahoo", "/search?p={{QUERY}}"},
-    {Endpoint::Yandex, "Yandex", "/search/?q={{QUERY}}"},
+    {Endpoint::Google, "/search?q={{QUERY}}"},
+    {Endpoint::Bing, "/?q={{QUERY}}"},
+    {Endpoint::Yahoo, "/search?p={{QUERY}}"},
+    {Endpoint::Yandex, "/search/?q={{QUERY}}"},
 }};
 
 // Exactly as QUrlQuery does it, which leaves a plus sign and a written escape ("%41") as they are. This is deliberate.
@@ -40,7 +39,7 @@ SearchProvider::SearchProvider(QObject *parent)
     : QObject(parent)
 {
     for (const Engine &engine : engines) {
-        m_names.append(QString::fromLatin1(engine.name));
+        m_names.append(endpointKey(engine.endpoint));
         m_templates.append(endpointBase(engine.endpoint).toEncoded() + engine.target);
     }
 }

@@ -73,7 +73,6 @@ private slots:
     void init()
     {
         m_server = std::make_unique<LoopbackServer>();
-        QVERIFY(m_server->isListening());
         m_server->route("/page"_s, LoopbackResponse::page("la"));
         m_server->routeOthers([](const LoopbackRequest &request) {
             const int hops = request.path.section(QLatin1Char('/'), 2).toInt();
@@ -202,9 +201,10 @@ private slots:
         QCOMPARE(results, (QStringList{"failed"_s, "la"_s}));
     }
 
+    // Each page may be redirected as often as the one before.
     void worksWithoutASharedManager()
     {
-        PageSite site(nullptr, m_server->url("/page"));
+        PageSite site(nullptr, m_server->url("/hops/15"));
         QCOMPARE(result(site), "la"_s);
         QCOMPARE(result(site), "la"_s);
         QCOMPARE(m_server->mostConnections(), 1);

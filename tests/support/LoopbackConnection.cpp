@@ -42,7 +42,6 @@ LoopbackConnection::LoopbackConnection(QTcpSocket *socket, LoopbackServer *serve
     : QObject(server)
     , m_server(server)
     , m_socket(socket)
-    , m_peer(QStringLiteral("%1:%2").arg(socket->peerAddress().toString()).arg(socket->peerPort()))
 {
     socket->setParent(this);
     connect(socket, &QTcpSocket::readyRead, this, &LoopbackConnection::receive);
@@ -78,7 +77,6 @@ bool LoopbackConnection::takeRequest(LoopbackRequest *request)
     if (m_received.size() < bodyStart + bodyBytes)
         return false;
     request->body = m_received.mid(bodyStart, bodyBytes);
-    request->peer = m_peer;
     m_received.remove(0, bodyStart + bodyBytes);
     return true;
 }

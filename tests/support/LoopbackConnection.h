@@ -32,7 +32,6 @@ private:
 
     LoopbackServer *m_server;
     QTcpSocket *m_socket;
-    QString m_peer;
     QByteArray m_received;
     LoopbackResponse m_response;
     QTimer m_timer; // the delay before an answer, then the drip

@@ -21,7 +21,6 @@ struct LoopbackRequest
     QUrlQuery query;
     LoopbackHeaders headers; // in the order in which they came
     QByteArray body;
-    QString peer; // "address:port" of the client; the same for all requests of one connection
 
     // The value of the first header with this name, in any letter case; null when there is none.
     [[nodiscard]] QByteArray header(const QByteArray &name) const;

@@ -14,18 +14,14 @@ LoopbackServer::LoopbackServer(QObject *parent)
     , m_others([](const LoopbackRequest &) { return LoopbackResponse::error(404); })
 {
     connect(&m_server, &QTcpServer::newConnection, this, &LoopbackServer::acceptConnections);
-    m_server.listen(QHostAddress::LocalHost);
+    if (!m_server.listen(QHostAddress::LocalHost))
+        qFatal("cannot listen: %s", qPrintable(m_server.errorString()));
     m_base = QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort());
 }
 
 LoopbackServer::~LoopbackServer()
 {
     stop();
-}
-
-bool LoopbackServer::isListening() const
-{
-    return m_server.isListening();
 }
 
 QString LoopbackServer::base() const

@@ -28,11 +28,10 @@ class LoopbackServer : public QObject
 public:
     using Handler = std::function<LoopbackResponse(const LoopbackRequest &)>;
 
-    // Listens at once; isListening() tells whether that worked.
+    // Listens at once; ends the test when that does not work.
     explicit LoopbackServer(QObject *parent = nullptr);
     ~LoopbackServer() override;
 
-    [[nodiscard]] bool isListening() const;
     // "http://127.0.0.1:<port>", without a trailing slash. Stays the same after stop().
     [[nodiscard]] QString base() const;
     // base() followed by an encoded path (and query).

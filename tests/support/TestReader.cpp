@@ -7,7 +7,6 @@
 #include <QHash>
 
 #include <csignal>
-#include <functional>
 
 #include <unistd.h>
 
@@ -30,42 +29,21 @@ namespace {
 
 void misbehave(const QString &name)
 {
+    const QHash<QString, int> signalsByName{{QStringLiteral("crash"), SIGKILL},
+                                            {QStringLiteral("crash-by-itself"), SIGXCPU}};
+    if (signalsByName.contains(name))
+        std::raise(signalsByName.value(name));
+    if (name == QLatin1String("loop"))
+        loop();
     tags::ReadAnswer wrongNumber;
     wrongNumber.number = 4711;
-    const QHash<QString, std::function<void()>> manners{
-        {QStringLiteral("crash"),
-         [] {
-             std::raise(SIGKILL);
-         }},
-        {QStringLiteral("crash-by-itself"),
-         [] {
-             std::raise(SIGXCPU);
-         }},
-        {QStringLiteral("stall"),
-         [] {
-             sayAndWait({});
-         }},
-        {QStringLiteral("loop"), loop},
-        {QStringLiteral("drip"),
-         [] {
-             sayAndWait(QByteArray(3, '\0'));
-         }},
-        {QStringLiteral("endless"),
-         [] {
-             sayAndWait(QByteArray(8, '\xff'));
-         }},
-        {QStringLiteral("noise"),
-         [] {
-             sayAndWait(QByteArray("\0\0\0\x04noise", 9));
-         }},
-        {QStringLiteral("wrong-number"),
-         [&] {
-             sayAndWait(encoded(wrongNumber));
-         }},
-    };
-    const auto found = manners.find(name);
-    if (found != manners.end())
-        (*found)();
+    const QHash<QString, QByteArray> answers{{QStringLiteral("stall"), {}},
+                                             {QStringLiteral("drip"), QByteArray(3, '\0')},
+                                             {QStringLiteral("endless"), QByteArray(8, '\xff')},
+                                             {QStringLiteral("noise"), QByteArray("\0\0\0\x04noise", 9)},
+                                             {QStringLiteral("wrong-number"), encoded(wrongNumber)}};
+    if (answers.contains(name))
+        sayAndWait(answers.value(name));
 }
 
 } // namespace
@@ -76,6 +54,8 @@ int main(int argc, char **argv)
     return tags::runReader(argc, argv, [&filesRead](const tags::ReadRequest &request) {
         const QString name = QFileInfo(request.path).completeBaseName().section(QLatin1String(" - "), -1);
         misbehave(name);
+        if (name == QLatin1String("slow") && request.seconds < 10) // on a disk that has to start first
+            sayAndWait({});
         if (name == QLatin1String("crash-when-tired") && filesRead > 0)
             std::raise(SIGKILL);
         ++filesRead;
