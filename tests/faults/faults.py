@@ -10,6 +10,7 @@ kinds and faults. Exit status 0 when nothing was harmed, 77 when this machine do
   error   the same calls fail with ENOSPC or EIO, once, or from then on
   full    a file system without room for a copy, and one without any room
   limit   a limit on the size of files
+  order   what must be on the disk before what, which only a power cut would show, read from the calls of one save
 
 Old is byte for byte as it was; new is byte for byte what an undisturbed save makes. That one is judged first, by
 programs that are not ours: equal packets and a decode without a complaint (ffmpeg), flac -t, lyrics and all other tags
@@ -32,6 +33,7 @@ import mutagen
 from mutagen.id3 import TIT2, TPE1
 
 SAVED = 1  # of UpdateResult
+ORDERED = "fsync,newfstatat,stat,lstat,rename,renameat,unlink,pwrite64,copy_file_range"
 CHANGING = ("pwrite64", "write", "copy_file_range", "ftruncate", "fallocate", "fsync", "sync_file_range", "fchmod",
             "fchown", "rename", "renameat", "unlink", "unlinkat", "openat")
 FAILING = ("pwrite64", "write", "copy_file_range", "ftruncate", "fallocate", "fsync", "sync_file_range", "renameat")
@@ -215,6 +217,28 @@ class Trial:
         limited = run(*self.command(), preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (size, size)))
         self.judge(limited.returncode, "limit on file size")
 
+    def order(self):
+        self.fresh()
+        log = self.root / "order"
+        run("strace", "-y", "-o", log, "-e", "trace=" + ORDERED, *self.command())
+        calls = log.read_text(errors="replace").splitlines()
+
+        def last(*parts):
+            return max((n for n, call in enumerate(calls) if all(part in call for part in parts)), default=-1)
+
+        song = "%s" % self.song
+        if "hard link" in self.kind.name:  # the entry, the song, the end of the entry
+            steps = [last("rename(", ".entry"), last("pwrite64(", "<%s>" % song), last("fsync(", "<%s>" % song),
+                     last("unlink(", ".entry")]
+        else:  # the content, a last look at the song by its name, the new name
+            steps = [last("fsync(", ".part>"), last('"%s"' % song, "AT_SYMLINK_NOFOLLOW"), last("renameat(", ".part")]
+        self.faults += 1
+        if -1 in steps or steps != sorted(steps):
+            self.harmed += 1
+            self.notes.append("the steps of a save are in another order: %s" % steps)
+        else:
+            self.news += 1
+
     def full(self):
         """In a mount namespace of its own: the song lies on a small file system, the program's folder does not."""
         for spare in (0, 64, 3 * 1024):  # kB free beside the song
@@ -248,6 +272,7 @@ def main():
             trial.kills()
             trial.errors()
             trial.limit()
+            trial.order()
             if "hard link" not in kind.name:
                 trial.full()
         print("%-18s %7d %7d %7d %7d" % (kind.name, trial.faults, trial.harmed, trial.olds, trial.news), flush=True)
