@@ -10,7 +10,7 @@
 // checked.
 struct ReleasedVersion
 {
-    QString version;      // digits and dots only, never empty
+    QString version;      // digits and dots only, 1 to 32 of them
     QString url;          // of the setup file, as it stands there; may be anything
     QString changes;      // the release notes, one change a line; may be empty, may hold markup
     QDate date;           // of the release; null when it is missing or not a date

@@ -280,6 +280,10 @@ void UpdateChecker::offerLatest()
         setError(tr("Can't get update: %1").arg(tr("The address of the setup file is not one that can be used.")));
         return;
     }
+    if (const QString problem = m_folder.prepare(); !problem.isEmpty()) {
+        fileFailed(problem);
+        return;
+    }
     m_setupPath = m_folder.path(name);
     m_partial.setTarget(m_setupPath);
     m_downloaded = 0;
@@ -325,7 +329,8 @@ void UpdateChecker::download()
     const bool possible = m_state == UpdateAvailable || m_state == Error;
     if (!possible || m_setupPath.isEmpty())
         return;
-    m_error.clear();
+    setError({});
+    m_isSizeAsked = true; // or it will not be any more
     m_redirects = 0;
     m_downloaded = 0;
     m_rest = m_partial.rest(latestVersion(), latest().url);
@@ -373,11 +378,9 @@ bool UpdateChecker::beginAnew()
     if (m_downloadSize == 0 && bytes > 0)
         setDownloadSize(bytes);
     m_rest.reset();
-    const QString problem = m_folder.prepare();
-    const ReleasedVersion &version = latest();
-    if (problem.isEmpty() && m_partial.start({version.version, version.url, m_downloadSize, validatorOf(*m_reply)}))
+    if (m_partial.start({latest().version, latest().url, m_downloadSize, validatorOf(*m_reply)}))
         return true;
-    fileFailed(problem.isEmpty() ? m_partial.errorString() : problem);
+    fileFailed(m_partial.errorString());
     return false;
 }
 
@@ -493,9 +496,8 @@ void UpdateChecker::install()
 {
     if (m_state != InstallAvailable || m_verifier)
         return;
-    const bool known = !m_setupPath.isEmpty() && !m_environment.keys.isEmpty();
-    if (!known || !isNewerVersion(latestVersion(), QCoreApplication::applicationVersion())) {
-        installFailed("there is no setup file, or no key to check it with");
+    if (m_setupPath.isEmpty() || m_environment.keys.isEmpty() || latest().signature.isEmpty()) {
+        installFailed("there is no setup file, no signature, or no key to check it with");
         return;
     }
     m_verifier = std::make_unique<SetupVerifier>(m_setupPath, latest(), m_environment.keys);

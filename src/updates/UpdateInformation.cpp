@@ -51,6 +51,22 @@ QString readText(QXmlStreamReader *reader)
     return reader->readElementText(QXmlStreamReader::SkipChildElements).trimmed();
 }
 
+// With the text of child elements. Qt's own way calls itself for each of them and can be made to overrun the stack.
+QString readWholeText(QXmlStreamReader *reader)
+{
+    QString text;
+    for (int depth = 1; depth > 0 && !reader->atEnd();) {
+        reader->readNext();
+        if (reader->isStartElement())
+            ++depth;
+        else if (reader->isEndElement())
+            --depth;
+        else if (reader->isCharacters())
+            text += reader->text();
+    }
+    return text;
+}
+
 ReleasedVersion readVersion(QXmlStreamReader *reader)
 {
     ReleasedVersion version;
@@ -61,7 +77,7 @@ ReleasedVersion readVersion(QXmlStreamReader *reader)
         else if (name == QLatin1String("url"))
             version.url = readText(reader);
         else if (name == QLatin1String("changes"))
-            version.changes = reader->readElementText(QXmlStreamReader::IncludeChildElements);
+            version.changes = readWholeText(reader);
         else if (name == QLatin1String("date"))
             version.date = readDate(readText(reader));
         else if (name == QLatin1String("signature"))
@@ -74,27 +90,20 @@ ReleasedVersion readVersion(QXmlStreamReader *reader)
 
 bool isVersion(const QString &text)
 {
-    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(QStringLiteral("[0-9.]+")));
+    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(QStringLiteral("[0-9.]{1,32}")));
     return pattern.match(text).hasMatch();
-}
-
-// The root's start has been read. Stops before a document type, which stands before the root.
-bool readRoot(QXmlStreamReader *reader)
-{
-    reader->setNamespaceProcessing(false);
-    while (!reader->atEnd() && !reader->isDTD() && !reader->isStartElement())
-        reader->readNext();
-    return reader->isStartElement() && reader->qualifiedName() == QLatin1String("UpdateInfo");
 }
 
 } // namespace
 
 ReleasedVersions readUpdateInformation(const QByteArray &document)
 {
-    if (hasTooManyAttributes(document))
+    // A document type must not even be read: 1 MiB of attribute declarations take QXmlStreamReader 15 s.
+    if (document.contains("<!DOCTYPE") || hasTooManyAttributes(document))
         return {};
-    QXmlStreamReader reader(withRoot(document));
-    if (!readRoot(&reader))
+    QXmlStreamReader reader(QString::fromUtf8(withRoot(document)));
+    reader.setNamespaceProcessing(false);
+    if (!reader.readNextStartElement() || reader.qualifiedName() != QLatin1String("UpdateInfo"))
         return {};
     ReleasedVersions versions;
     while (reader.readNextStartElement()) {
