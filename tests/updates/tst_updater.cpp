@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "updates/Updater.h"
+
+#include "network/Endpoints.h"
+#include "support/LoopbackServer.h"
+#include "support/TestFolder.h"
+#include "support/TestTable.h"
+#include "updates/DownloadDialog.h"
+#include "updates/UpdateDialog.h"
+#include "updates/UpdateInfoDialog.h"
+
+#include <QMessageBox>
+#include <QSettings>
+#include <QtTest>
+
+#include <optional>
+
+namespace {
+
+LoopbackResponse newest(const QByteArray &version)
+{
+    return LoopbackResponse::page("<VersionInfo><current>" + version +
+                                  "</current><url>http://127.0.0.1:9/setup.run</url></VersionInfo>");
+}
+
+// A window, an updater and the maker's site, at a time that the test sets.
+struct Rig
+{
+    explicit Rig(const LoopbackResponse &information = newest("2.0"), const QVariantMap &stored = {})
+    {
+        folder.holdSettings();
+        QSettings store;
+        store.setValue(QStringLiteral("endpoints/Maker"), site.base());
+        for (auto entry = stored.begin(); entry != stored.end(); ++entry)
+            store.setValue(entry.key(), entry.value());
+        reloadEndpoints();
+        site.route(QStringLiteral("/versewell/Versewell.xml"), information);
+        UpdateEnvironment environment;
+        environment.folder = folder.path(QStringLiteral("Update"));
+        environment.now = [this] {
+            return now;
+        };
+        updater.emplace(environment);
+        window.show();
+        updater->setParentWindow(&window);
+    }
+
+    [[nodiscard]] int checks() const { return site.requestCount(QStringLiteral("/versewell/Versewell.xml")); }
+    [[nodiscard]] UpdateChecker::States state() { return updater->checker()->state(); }
+    // All that can be seen beside the window, by class and, of a box, by text.
+    [[nodiscard]] QStringList shown() const
+    {
+        QStringList names;
+        for (const QDialog *dialog : window.findChildren<QDialog *>()) {
+            const auto *box = qobject_cast<const QMessageBox *>(dialog);
+            if (dialog->isVisible())
+                names.append(box ? box->text() : QString::fromLatin1(dialog->metaObject()->className()));
+        }
+        return names;
+    }
+    void answer(int result) { window.findChild<UpdateDialog *>()->done(result); }
+
+    LoopbackServer site;
+    TestFolder folder;
+    QDateTime now{QDate(2026, 11, 23), QTime(12, 0)};
+    QWidget window;
+    std::optional<Updater> updater;
+};
+
+const QStringList offered{QStringLiteral("UpdateDialog")};
+
+} // namespace
+
+class tst_Updater : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
+        QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
+        QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
+    }
+
+    void aCheckIsDueByThePeriod_data()
+    {
+        QTest::addColumn<QVariant>("period");
+        QTest::addColumn<qint64>("secondsLater");
+        QTest::addColumn<int>("checks");
+        const auto row = [](const char *sentence, const QVariant &period, qint64 secondsLater, int checks) {
+            QTest::newRow(sentence) << period << secondsLater << checks;
+        };
+        row("a day by default", {}, 86400, 2);
+        row("not a second earlier", {}, 86399, 1);
+        row("a minute", 1, 60, 2);
+        row("never", 0, 999999, 0);
+        row("a period below zero", -5, 999999, 0);
+        row("a period beyond every clock", QStringLiteral("9223372036854775807"), 999999, 1);
+    }
+
+    void aCheckIsDueByThePeriod()
+    {
+        QFETCH(QVariant, period);
+        QFETCH(qint64, secondsLater);
+        Rig rig(newest("1.5.6"));
+        QSettings().setValue(QStringLiteral("updater/period"), period); // as the preferences do, at any time
+        if (!period.isValid())
+            QSettings().remove(QStringLiteral("updater/period"));
+        QSignalSpy checked(&*rig.updater, &Updater::checked);
+        QVERIFY(!rig.updater->lastCheckUpdate().isValid());
+        rig.updater->checkIfDue();
+        if (rig.updater->lastCheckUpdate().isValid())
+            QTRY_COMPARE(rig.state(), UpdateChecker::UpToDate);
+        rig.now = rig.now.addSecs(secondsLater);
+        rig.updater->checkIfDue();
+        QTEST(checked.count(), "checks");
+    }
+
+    void aCheckShowsWhatItsOccasionAsksFor_data()
+    {
+        QTest::addColumn<LoopbackResponse>("information");
+        QTest::addColumn<QString>("skipped");
+        QTest::addColumn<QStringList>("bySchedule");
+        QTest::addColumn<QStringList>("byUser");
+        addRow("a newer version", newest("2.0"), "1.9"_s, offered, offered);
+        addRow("a skipped version", newest("2.0"), "2.0"_s, QStringList(), offered);
+        addRow("no newer version", newest("1.5.6"), ""_s, QStringList(), QStringList{"You have the latest version."_s});
+        addRow("a site that fails", LoopbackResponse::error(500), ""_s, QStringList(),
+               QStringList{"Failed to update"_s});
+        addRow("nonsense", LoopbackResponse::page("<x>"), ""_s, QStringList(), QStringList{"Failed to update"_s});
+    }
+
+    void aCheckShowsWhatItsOccasionAsksFor()
+    {
+        QFETCH(LoopbackResponse, information);
+        QFETCH(QString, skipped);
+        Rig rig(information, {{QStringLiteral("updater/skippedVersion"), skipped}});
+        rig.updater->checkIfDue();
+        QCOMPARE(rig.shown(), QStringList());
+        QTRY_VERIFY(rig.state() != UpdateChecker::Checking);
+        QTEST(rig.shown(), "bySchedule");
+        rig.updater->checkByUser();
+        QCOMPARE(rig.shown(), QStringList{QStringLiteral("UpdateInfoDialog")});
+        QTRY_VERIFY(rig.state() != UpdateChecker::Checking);
+        QTEST(rig.shown(), "byUser");
+    }
+
+    void theUserTakesOverAScheduledCheck()
+    {
+        Rig rig(LoopbackResponse::error(500));
+        rig.updater->checkIfDue();
+        rig.updater->checkByUser();
+        QTRY_COMPARE(rig.shown(), QStringList{QStringLiteral("Failed to update")});
+        QCOMPARE(rig.checks(), 1);
+    }
+
+    void theUserCanStopWaiting()
+    {
+        LoopbackResponse never;
+        never.hang = true;
+        Rig rig(never);
+        rig.updater->checkByUser();
+        rig.window.findChild<UpdateInfoDialog *>()->reject();
+        QCOMPARE(rig.state(), UpdateChecker::Normal);
+        QCOMPARE(rig.shown(), QStringList());
+    }
+
+    void aSkippedVersionIsNotOfferedAgain()
+    {
+        Rig rig;
+        rig.updater->checkIfDue();
+        QTRY_COMPARE(rig.shown(), offered);
+        rig.now = rig.now.addDays(2);
+        rig.updater->checkIfDue(); // not while it is offered
+        QCOMPARE(rig.state(), UpdateChecker::UpdateAvailable);
+        rig.answer(UpdateDialog::Skip);
+        QCOMPARE(QSettings().value(QStringLiteral("updater/skippedVersion")).toString(), QStringLiteral("2.0"));
+        rig.updater->checkIfDue();
+        QTRY_COMPARE(rig.state(), UpdateChecker::UpdateAvailable);
+        QCOMPARE(rig.shown(), QStringList());
+    }
+
+    void aDownloadCanBeCancelledAndFailsWithWords()
+    {
+        Rig rig;
+        rig.updater->checkByUser();
+        QTRY_COMPARE(rig.shown(), offered);
+        rig.answer(UpdateDialog::Install);
+        const QStringList downloading{QStringLiteral("DownloadDialog")};
+        QCOMPARE(rig.shown(), downloading);
+        rig.updater->checkByUser(); // leads back to the download
+        QCOMPARE(rig.state(), UpdateChecker::Downloading);
+        rig.window.findChild<DownloadDialog *>()->reject();
+        QCOMPARE(rig.state(), UpdateChecker::UpdateAvailable);
+        QCOMPARE(rig.shown(), QStringList());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        rig.updater->checkByUser();
+        QTRY_COMPARE(rig.shown(), offered);
+        rig.answer(UpdateDialog::Install);
+        QTRY_COMPARE(rig.shown(), QStringList{QStringLiteral("Failed to update")}); // nobody listens on port 9
+    }
+
+    void nothingIsShownOrAskedWithoutAWindow()
+    {
+        Rig rig;
+        rig.updater->checkByUser();
+        QTRY_COMPARE(rig.shown(), offered);
+        rig.window.hide();
+        QCOMPARE(rig.shown(), QStringList());
+        rig.now = rig.now.addDays(2);
+        rig.updater->checkIfDue();
+        QCOMPARE(rig.state(), UpdateChecker::UpdateAvailable);
+    }
+};
+
+QTEST_MAIN(tst_Updater)
+#include "tst_updater.moc"
