@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/Recovery.h"
+#include "support/TestTable.h"
 
 #include "app/RecoveryDialog.h"
 #include "app/TerminationSignals.h"
@@ -22,7 +23,7 @@ namespace {
 
 QPushButton *clearButton(RecoveryDialog *dialog)
 {
-    return dialog->findChild<QPushButton *>(QStringLiteral("btnClearSettings"));
+    return dialog->findChild<QPushButton *>("btnClearSettings"_s);
 }
 
 void answer(RecoveryDialog *dialog, QMessageBox::StandardButton button)
@@ -82,9 +83,9 @@ void tst_Recovery::init()
 {
     m_settingsFolder = std::make_unique<QTemporaryDir>();
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settingsFolder->path());
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
+    QCoreApplication::setOrganizationName("Quillmarsh"_s);
+    QCoreApplication::setApplicationName("Versewell"_s);
+    QCoreApplication::setApplicationVersion("1.5.6"_s);
 }
 
 void tst_Recovery::withoutShiftNothingIsShown()
@@ -105,28 +106,28 @@ void tst_Recovery::theDialogDecidesWhatFollows_data()
     QTest::addColumn<Person>("person");
     QTest::addColumn<AfterRecovery>("expected");
     QTest::addColumn<bool>("cleared");
-    QTest::newRow("OK alone") << Person(pressOk) << AfterRecovery::GoOn << false;
-    QTest::newRow("the question is denied") << Person(refuse) << AfterRecovery::GoOn << false;
-    QTest::newRow("the settings are cleared") << Person(clear) << AfterRecovery::StartAnew << true;
-    QTest::newRow("cleared, and closed otherwise") << Person(clearAndEscape) << AfterRecovery::StartAnew << true;
-    QTest::newRow("the program is to end meanwhile") << Person(endTheProgram) << AfterRecovery::End << false;
+    addRow("OK alone", Person(pressOk), AfterRecovery::GoOn, false);
+    addRow("the question is denied", Person(refuse), AfterRecovery::GoOn, false);
+    addRow("the settings are cleared", Person(clear), AfterRecovery::StartAnew, true);
+    addRow("cleared, and closed otherwise", Person(clearAndEscape), AfterRecovery::StartAnew, true);
+    addRow("the program is to end meanwhile", Person(endTheProgram), AfterRecovery::End, false);
 }
 
 void tst_Recovery::theDialogDecidesWhatFollows()
 {
     QFETCH(Person, person);
     QFETCH(bool, cleared);
-    const QVariantMap kept{{QStringLiteral("openGlMethod"), 3}};
+    const QVariantMap kept{{"openGlMethod"_s, 3}};
     QVariantMap all = kept;
-    all.insert(QStringLiteral("proxy/type"), 2);
-    all.insert(QStringLiteral("endpoints/Genius"), QStringLiteral("http://127.0.0.1:9"));
+    all.insert("proxy/type"_s, 2);
+    all.insert("endpoints/Genius"_s, "http://127.0.0.1:9"_s);
     for (auto entry = all.cbegin(); entry != all.cend(); ++entry)
         QSettings().setValue(entry.key(), entry.value());
     TerminationSignals signalsToEnd;
     QTimer::singleShot(0, this, [person, &signalsToEnd] {
         auto *dialog = qobject_cast<RecoveryDialog *>(QApplication::activeModalWidget());
         QVERIFY(QTest::qWaitForWindowActive(dialog));
-        QVERIFY(!dialog->findChild<QWidget *>(QStringLiteral("frameOpenGL"))->isVisible());
+        QVERIFY(!dialog->findChild<QWidget *>("frameOpenGL"_s)->isVisible());
         QVERIFY(!dialog->windowIcon().isNull());
         person(dialog, &signalsToEnd);
     });
@@ -135,18 +136,18 @@ void tst_Recovery::theDialogDecidesWhatFollows()
     for (const QString &key : QSettings().allKeys())
         left.insert(key, QSettings().value(key).toString());
     QCOMPARE(left.keys(), (cleared ? kept : all).keys());
-    QCOMPARE(left.value(QStringLiteral("openGlMethod")).toInt(), 3);
+    QCOMPARE(left.value("openGlMethod"_s).toInt(), 3);
 }
 
 void tst_Recovery::aStoreThatCannotBeWrittenIsReported()
 {
-    QVERIFY(QDir(m_settingsFolder->path()).mkpath(QStringLiteral("Quillmarsh/Versewell.conf/in the way")));
+    QVERIFY(QDir(m_settingsFolder->path()).mkpath("Quillmarsh/Versewell.conf/in the way"_s));
     RecoveryDialog dialog;
     dialog.show();
     QTest::ignoreMessage(QtWarningMsg, "The settings cannot be stored: their file cannot be written.");
     answer(&dialog, QMessageBox::Yes);
     QVERIFY(!dialog.isRestartNeeded());
-    QVERIFY(dialog.findChild<QLabel *>(QStringLiteral("lblCleared"))->isVisible());
+    QVERIFY(dialog.findChild<QLabel *>("lblCleared"_s)->isVisible());
 }
 
 QTEST_MAIN(tst_Recovery)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/FolderScanner.h"
+#include "support/TestTable.h"
 
 #include "support/AsOrdinaryUser.h"
 #include "support/TestFolder.h"
@@ -21,7 +22,7 @@ namespace {
 class Tree
 {
 public:
-    Tree() { scanner.setTypes({QStringLiteral("ogg"), QStringLiteral("mp3")}); }
+    Tree() { scanner.setTypes({"ogg"_s, "mp3"_s}); }
 
     // A name that ends with "/" is a folder.
     void make(const QStringList &names) const
@@ -80,17 +81,17 @@ private slots:
     {
         QTest::addColumn<QStringList>("tree");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("an empty folder") << words("") << words("");
-        QTest::newRow("only the types asked for, whatever their case")
-            << words("a.mp3|b.OGG|c.Mp3|d.txt|e.mp3.bak|mp3|f.mp") << words("a.mp3|b.OGG|c.Mp3");
-        QTest::newRow("by name, without regard to case")
-            << words("b.mp3|A.mp3|c.mp3|B2.mp3|10.mp3|9.mp3") << words("10.mp3|9.mp3|A.mp3|b.mp3|B2.mp3|c.mp3");
-        QTest::newRow("the files of a folder before those of its subfolders")
-            << words("z.mp3|b/y.mp3|b/a/x.mp3|a/w.mp3|empty/") << words("z.mp3|a/w.mp3|b/y.mp3|b/a/x.mp3");
-        QTest::newRow("names with odd characters") << words("#1 50%.mp3|new\nline.mp3|Слово.mp3|-rf.mp3|[x]*?.mp3")
-                                                   << words("#1 50%.mp3|-rf.mp3|[x]*?.mp3|new\nline.mp3|Слово.mp3");
-        QTest::newRow("hidden ones are left out") << words(".hidden.mp3|.folder/a.mp3|seen.mp3") << words("seen.mp3");
-        QTest::newRow("a folder that is called like a song") << words("a.mp3/b.mp3") << words("a.mp3/b.mp3");
+        addRow("an empty folder", words(""), words(""));
+        addRow("only the types asked for, whatever their case", words("a.mp3|b.OGG|c.Mp3|d.txt|e.mp3.bak|mp3|f.mp"),
+               words("a.mp3|b.OGG|c.Mp3"));
+        addRow("by name, without regard to case", words("b.mp3|A.mp3|c.mp3|B2.mp3|10.mp3|9.mp3"),
+               words("10.mp3|9.mp3|A.mp3|b.mp3|B2.mp3|c.mp3"));
+        addRow("the files of a folder before those of its subfolders", words("z.mp3|b/y.mp3|b/a/x.mp3|a/w.mp3|empty/"),
+               words("z.mp3|a/w.mp3|b/y.mp3|b/a/x.mp3"));
+        addRow("names with odd characters", words("#1 50%.mp3|new\nline.mp3|Слово.mp3|-rf.mp3|[x]*?.mp3"),
+               words("#1 50%.mp3|-rf.mp3|[x]*?.mp3|new\nline.mp3|Слово.mp3"));
+        addRow("hidden ones are left out", words(".hidden.mp3|.folder/a.mp3|seen.mp3"), words("seen.mp3"));
+        addRow("a folder that is called like a song", words("a.mp3/b.mp3"), words("a.mp3/b.mp3"));
     }
 
     void filesAreFoundInOrder()
@@ -112,30 +113,28 @@ private slots:
         songs.link("elsewhere/c.mp3", "music/file.mp3"); // comes before the file itself
         songs.link("music/a.mp3", "music/deep/again.mp3");
         songs.link("gone", "music/broken.mp3");
-        QCOMPARE(::link(QFile::encodeName(songs.path(QStringLiteral("music/a.mp3"))).constData(),
-                        QFile::encodeName(songs.path(QStringLiteral("music/hard.mp3"))).constData()),
+        QCOMPARE(::link(QFile::encodeName(songs.path("music/a.mp3"_s)).constData(),
+                        QFile::encodeName(songs.path("music/hard.mp3"_s)).constData()),
                  0); // a file of its own
-        QVERIFY(songs.scan({songs.url(QStringLiteral("music")), songs.url(QStringLiteral("elsewhere"))}));
+        QVERIFY(songs.scan({songs.url("music"_s), songs.url("elsewhere"_s)}));
         QCOMPARE(songs.found(), words("music/a.mp3|music/file.mp3|music/hard.mp3|music/deep/b.mp3"));
-        QVERIFY(songs.scan({songs.url(QStringLiteral("elsewhere"))})); // in a queue of its own
-        QCOMPARE(songs.found().last(), QStringLiteral("elsewhere/c.mp3"));
+        QVERIFY(songs.scan({songs.url("elsewhere"_s)})); // in a queue of its own
+        QCOMPARE(songs.found().last(), "elsewhere/c.mp3"_s);
     }
 
     void whatCannotBeOpenedIsLeftOut()
     {
         Tree songs;
         songs.make(words("good.mp3|secret.mp3|closed/a.mp3"));
-        QCOMPARE(mkfifo(QFile::encodeName(songs.path(QStringLiteral("pipe.mp3"))).constData(), 0600), 0);
+        QCOMPARE(mkfifo(QFile::encodeName(songs.path("pipe.mp3"_s)).constData(), 0600), 0);
         for (const char *name : {"secret.mp3", "closed"})
             QVERIFY(QFile::setPermissions(songs.path(QString::fromLatin1(name)), {}));
         QCOMPARE(chmod(QFile::encodeName(songs.path()).constData(), 0755), 0);
         {
             const AsOrdinaryUser user;
-            QVERIFY(
-                songs.scan({songs.url(QStringLiteral("gone")), songs.url(QStringLiteral("good.mp3")), songs.url()}));
+            QVERIFY(songs.scan({songs.url("gone"_s), songs.url("good.mp3"_s), songs.url()}));
         }
-        QVERIFY(QFile::setPermissions(songs.path(QStringLiteral("closed")),
-                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(QFile::setPermissions(songs.path("closed"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         QCOMPARE(songs.found(), words("good.mp3"));
     }
 
@@ -144,20 +143,20 @@ private slots:
         Tree songs;
         songs.make(words("good.mp3|deep/"));
         QSignalSpy leftOut(&songs.scanner, &FolderScanner::filesLeftOut);
-        const QByteArray notUtf8 = QFile::encodeName(songs.path(QStringLiteral("x"))) + "\xff\xfe";
+        const QByteArray notUtf8 = QFile::encodeName(songs.path("x"_s)) + "\xff\xfe";
         const QByteArray song = notUtf8 + ".mp3";
         const int file = open(song.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
         QVERIFY(file >= 0 && close(file) == 0);
         // A path beyond what can be opened in one go is made step by step.
         const QByteArray step(250, 'd');
         const int home = open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        QCOMPARE(chdir(QFile::encodeName(songs.path(QStringLiteral("deep"))).constData()), 0);
+        QCOMPARE(chdir(QFile::encodeName(songs.path("deep"_s)).constData()), 0);
         for (int depth = 0; depth < 20; ++depth)
             QVERIFY(mkdir(step.constData(), 0755) == 0 && chdir(step.constData()) == 0);
         QVERIFY(fchdir(home) == 0 && close(home) == 0);
         const bool scanned = songs.scan({songs.url()});
         QVERIFY(unlink(song.constData()) == 0); // QTemporaryDir cannot
-        QProcess::execute(QStringLiteral("rm"), {QStringLiteral("-r"), songs.path(QStringLiteral("deep"))});
+        QProcess::execute("rm"_s, {"-r"_s, songs.path("deep"_s)});
         QVERIFY(scanned);
         QCOMPARE(songs.found(), words("good.mp3"));
         QCOMPARE(leftOut.count(), 1);
@@ -170,17 +169,17 @@ private slots:
         Tree songs;
         songs.make(words("vanishing/a.mp3|zz/last.mp3"));
         for (int i = 0; i < 1000; ++i)
-            songs.make({QStringLiteral("%1.mp3").arg(i)});
-        const QString vanishing = songs.path(QStringLiteral("vanishing"));
+            songs.make({"%1.mp3"_s.arg(i)});
+        const QString vanishing = songs.path("vanishing"_s);
         songs.scanner.addFolder(songs.url());
         while (songs.scanner.lastCount() == 0 && songs.scanner.processing())
             QThread::yieldCurrentThread();
         QVERIFY(QDir(vanishing).removeRecursively());
         QTRY_VERIFY(!songs.scanner.processing());
         QStringList found = songs.found();
-        found.removeOne(QStringLiteral("vanishing/a.mp3")); // where this machine stood still, it was in time
+        found.removeOne("vanishing/a.mp3"_s); // where this machine stood still, it was in time
         QCOMPARE(found.size(), 1001);
-        QCOMPARE(found.last(), QStringLiteral("zz/last.mp3"));
+        QCOMPARE(found.last(), "zz/last.mp3"_s);
     }
 
     void foldersAreWalkedOneAfterAnother()
@@ -189,10 +188,10 @@ private slots:
         songs.make(words("a/1.mp3|b/2.mp3|c/"));
         QSignalSpy processing(&songs.scanner, &FolderScanner::processingChanged);
         QSignalSpy queue(&songs.scanner, &FolderScanner::foldersChanged);
-        const QUrl a = songs.url(QStringLiteral("a"));
-        const QUrl b = songs.url(QStringLiteral("b"));
+        const QUrl a = songs.url("a"_s);
+        const QUrl b = songs.url("b"_s);
         songs.scanner.addFolder(a);
-        songs.scanner.addFolders({b, a, b, songs.url(QStringLiteral("c"))});
+        songs.scanner.addFolders({b, a, b, songs.url("c"_s)});
         QVERIFY(songs.scanner.processing());
         QCOMPARE(songs.scanner.folders().size(), 3);
         QTRY_VERIFY(!songs.scanner.processing());
@@ -209,9 +208,9 @@ private slots:
     {
         Tree songs;
         songs.make(words("a/1.mp3|b/2.mp3"));
-        const QUrl a = songs.url(QStringLiteral("a"));
+        const QUrl a = songs.url("a"_s);
         songs.scanner.cancel();
-        songs.scanner.addFolders({a, songs.url(QStringLiteral("b"))});
+        songs.scanner.addFolders({a, songs.url("b"_s)});
         songs.scanner.cancel();
         QVERIFY(songs.scanner.processing());
         QCOMPARE(songs.scanner.folders(), QStringList());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/MainModel.h"
+#include "support/TestTable.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -50,7 +51,7 @@ constexpr qint64 programMegabytes = 200;
 void tst_HostileFiles::initTestCase()
 {
     QProcess maker;
-    maker.start(QStringLiteral("/usr/bin/python3"),
+    maker.start("/usr/bin/python3"_s,
                 {QStringLiteral(VERSEWELL_HOSTILE_MAKER), QStringLiteral(VERSEWELL_SAMPLES_DIR), m_folder.path()});
     QVERIFY2(maker.waitForFinished(200'000) && maker.exitCode() == 0, maker.readAllStandardError().constData());
 }
@@ -81,7 +82,7 @@ void tst_HostileFiles::read(MainModel &model, const QString &part) const
 
 void tst_HostileFiles::whatIsNoFileStaysOut()
 {
-    const QList<QUrl> urls = files(QStringLiteral("special"));
+    const QList<QUrl> urls = files("special"_s);
     QCOMPARE(urls.size(), 5);
     MainModel model;
     model.add(urls);
@@ -91,7 +92,7 @@ void tst_HostileFiles::whatIsNoFileStaysOut()
 void tst_HostileFiles::hostileFilesAreGivenUp()
 {
     MainModel model;
-    read(model, QStringLiteral("refused"));
+    read(model, "refused"_s);
     for (int row = 0; row < model.rowCount(); ++row) {
         const ModelItem *item = model.itemAt(row);
         qInfo("  %s: %s", qPrintable(item->filename()), qPrintable(item->errorString()));
@@ -103,7 +104,7 @@ void tst_HostileFiles::hostileFilesAreGivenUp()
 void tst_HostileFiles::brokenFilesAreRead()
 {
     MainModel model;
-    read(model, QStringLiteral("odd"));
+    read(model, "odd"_s);
     int withReason = 0;
     for (int row = 0; row < model.rowCount(); ++row) {
         const ModelItem *item = model.itemAt(row);

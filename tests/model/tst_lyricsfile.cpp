@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/LyricsFile.h"
+#include "support/TestTable.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,17 +20,14 @@ private slots:
         QTest::addColumn<QByteArray>("locale");
         QTest::addColumn<QString>("lyrics");
         QTest::addColumn<QByteArray>("bytes");
-        const QString cafe = QStringLiteral("café\r\nla");
-        const QString russian = QStringLiteral("Слово");
-        QTest::newRow("only the last suffix goes") << "No. 5.live.mp3"
-                                                   << "No. 5.live.txt" << QByteArray("UTF-8") << cafe << cafe.toUtf8();
-        QTest::newRow("the locale's encoding where it can hold the text")
-            << "a.mp3"
-            << "a.txt" << QByteArray("ISO-8859-1") << cafe << cafe.toLatin1();
-        QTest::newRow("else UTF-8") << "a.mp3"
-                                    << "a.txt" << QByteArray("ISO-8859-1") << russian << russian.toUtf8();
-        QTest::newRow("an odd name, no lyrics") << "#1 %41\n.ogg"
-                                                << "#1 %41\n.txt" << QByteArray("UTF-8") << "" << QByteArray();
+        const QString cafe = "café\r\nla"_s;
+        const QString russian = "Слово"_s;
+        addRow("only the last suffix goes", "No. 5.live.mp3", "No. 5.live.txt", QByteArray("UTF-8"), cafe,
+               cafe.toUtf8());
+        addRow("the locale's encoding where it can hold the text", "a.mp3", "a.txt", QByteArray("ISO-8859-1"), cafe,
+               cafe.toLatin1());
+        addRow("else UTF-8", "a.mp3", "a.txt", QByteArray("ISO-8859-1"), russian, russian.toUtf8());
+        addRow("an odd name, no lyrics", "#1 %41\n.ogg", "#1 %41\n.txt", QByteArray("UTF-8"), "", QByteArray());
     }
 
     void lyricsAreWrittenBesideTheSong()
@@ -55,12 +53,12 @@ private slots:
     void whatCannotBeWrittenIsLeftAlone()
     {
         const QTemporaryDir folder;
-        QVERIFY(!writeLyricsFile(folder.filePath(QStringLiteral("gone/a.mp3")), QStringLiteral("la")));
+        QVERIFY(!writeLyricsFile(folder.filePath("gone/a.mp3"_s), "la"_s));
         // A folder stands where the text file would be.
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("a.txt")));
-        QVERIFY(!writeLyricsFile(folder.filePath(QStringLiteral("a.mp3")), QStringLiteral("la")));
+        QVERIFY(QDir(folder.path()).mkdir("a.txt"_s));
+        QVERIFY(!writeLyricsFile(folder.filePath("a.mp3"_s), "la"_s));
         QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-                 QStringList{QStringLiteral("a.txt")});
+                 QStringList{"a.txt"_s});
     }
 };
 

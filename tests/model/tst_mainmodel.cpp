@@ -4,6 +4,7 @@
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/LyricsSearch.h"
 #include "settings/Settings.h"
+#include "support/TestTable.h"
 #include "tags/TagWriter.h"
 
 #include <QAbstractItemModelTester>
@@ -28,15 +29,15 @@ public:
     {
     }
 
-    QString name() const override { return QStringLiteral("Scripted"); }
-    QString siteUrl() const override { return QStringLiteral("http://127.0.0.1"); }
+    QString name() const override { return "Scripted"_s; }
+    QString siteUrl() const override { return "http://127.0.0.1"_s; }
     LyricsProvider *clone(QObject *parent) const override { return new ScriptedProvider(m_songs, parent); }
 
 protected:
     ProviderStep firstStep(const QString &, const QString &title) override
     {
         if (title == QLatin1String("fail"))
-            return ProviderStep::failure(QStringLiteral("the site is down"));
+            return ProviderStep::failure("the site is down"_s);
         return ProviderStep::lyrics(m_songs.value(title));
     }
 
@@ -51,7 +52,7 @@ struct Stage
     {
         search.addProvider(std::make_unique<ScriptedProvider>(songs));
         model.setReaderProgram(QStringLiteral(VERSEWELL_READER));
-        model.setSupportedExtensions({QStringLiteral("ogg"), QStringLiteral("mp3")});
+        model.setSupportedExtensions({"ogg"_s, "mp3"_s});
         model.setSettings(&settings);
         model.setSearch(&search);
     }
@@ -73,7 +74,7 @@ struct Stage
     {
         QList<QUrl> urls;
         for (int i = 0; i < count; ++i)
-            urls.append(song(QStringLiteral("A - S%1.mp3").arg(i, 3, 10, QLatin1Char('0'))));
+            urls.append(song("A - S%1.mp3"_s.arg(i, 3, 10, QLatin1Char('0'))));
         return urls;
     }
     bool isLoaded(int row) const { return model.itemAt(row)->tagsLoaded(); }
@@ -98,13 +99,12 @@ private slots:
     void onlyRegularLocalFilesAreAddedAndEachOnce()
     {
         Stage stage;
-        const QUrl first = stage.song(QStringLiteral("#1 100%41\n.mp3"));
-        const QUrl second = stage.song(QStringLiteral("b.mp3"));
+        const QUrl first = stage.song("#1 100%41\n.mp3"_s);
+        const QUrl second = stage.song("b.mp3"_s);
         QSignalSpy inserted(&stage.model, &MainModel::rowsInserted);
         QSignalSpy counts(&stage.model, &MainModel::activeCountChanged);
-        stage.model.add({first, QUrl::fromLocalFile(stage.folder.path()), QUrl(),
-                         QUrl(QStringLiteral("http://h/b.mp3")),
-                         QUrl::fromLocalFile(stage.folder.filePath(QStringLiteral("gone.mp3"))), second, first});
+        stage.model.add({first, QUrl::fromLocalFile(stage.folder.path()), QUrl(), QUrl("http://h/b.mp3"_s),
+                         QUrl::fromLocalFile(stage.folder.filePath("gone.mp3"_s)), second, first});
         QCOMPARE(stage.model.urls(), (QList<QUrl>{first, second}));
         QCOMPARE(inserted.count(), 1);
         QCOMPARE(counts.count(), 1);
@@ -113,9 +113,8 @@ private slots:
         QCOMPARE(stage.state(1), ModelItem::ProcessWaiting);
         QCOMPARE(stage.model.data(stage.model.index(1), MainModel::fileThumbnailRole).toString(), QString());
         QTRY_COMPARE(stage.model.data(stage.model.index(1), MainModel::fileThumbnailRole).toString(),
-                     QStringLiteral("image://file-cover/2"));
-        QCOMPARE(stage.model.data(stage.model.index(0), MainModel::filenameRole).toString(),
-                 QStringLiteral("#1 100%41\n.mp3"));
+                     "image://file-cover/2"_s);
+        QCOMPARE(stage.model.data(stage.model.index(0), MainModel::filenameRole).toString(), "#1 100%41\n.mp3"_s);
     }
 
     // As they come from the scanner: not looked at again, in blocks, and no read is overtaken.
@@ -123,9 +122,9 @@ private slots:
     {
         Stage stage;
         stage.model.setAutoStart(false);
-        QList<QUrl> files{stage.song(QStringLiteral("first.mp3"))};
+        QList<QUrl> files{stage.song("first.mp3"_s)};
         for (int i = 0; i < 2500; ++i)
-            files.append(QUrl::fromLocalFile(QStringLiteral("/gone/%1.mp3").arg(i)));
+            files.append(QUrl::fromLocalFile("/gone/%1.mp3"_s.arg(i)));
         files.append(files.last());
         stage.model.add(files, MainModel::IsRegularFile);
         files.removeLast();
@@ -136,56 +135,63 @@ private slots:
         QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(20));
     }
 
-    // Its files are looked at elsewhere; until then they are kept, and come behind those added meanwhile.
+    // Its files are looked at elsewhere; until then they are kept, and come behind those added meanwhile. Those whose
+    // disk is away are kept on, until the list is emptied.
     void aListIsRestoredInItsOrder()
     {
         Stage stage;
         const QList<QUrl> songs = stage.songs(3);
-        const QList<QUrl> list{songs.at(2), QUrl::fromLocalFile(stage.folder.path()), songs.at(0),
-                               QUrl::fromLocalFile(QStringLiteral("/gone.mp3"))};
+        const QUrl away = QUrl::fromLocalFile("/no such stick/album/song.mp3"_s);
+        const QUrl gone = QUrl::fromLocalFile(stage.folder.filePath("gone.mp3"_s));
+        const QList<QUrl> list{away, songs.at(2), QUrl::fromLocalFile(stage.folder.path()), songs.at(0), gone};
         stage.model.restore(list);
         QCOMPARE(stage.model.urls(), list);
         stage.model.add({songs.at(1)});
         QCOMPARE(stage.model.rowCount(), 1);
-        QTRY_COMPARE(stage.model.urls(), (QList<QUrl>{songs.at(1), songs.at(2), songs.at(0)}));
+        const QList<QUrl> rows{songs.at(1), songs.at(2), songs.at(0)};
+        QTRY_COMPARE(stage.model.urls(), rows + QList<QUrl>{away});
         QCOMPARE(stage.model.rowCount(), 3);
+        QTRY_VERIFY(stage.isLoaded(2));
+        QVERIFY(stage.model.removeRows(0, 3));
+        QCOMPARE(stage.model.urls(), QList<QUrl>{away});
+        stage.model.removeAll();
+        QCOMPARE(stage.model.urls(), QList<QUrl>());
     }
 
     void dropsAreSortedIntoFilesAndFolders()
     {
         Stage stage;
-        QCOMPARE(stage.model.supportedTypesMask(QStringLiteral(" ")), QStringLiteral("*.ogg *.mp3"));
-        const QUrl loud = stage.song(QStringLiteral("SONG.MP3"));
-        const QUrl backup = stage.song(QStringLiteral("song.mp3.bak"));
+        QCOMPARE(stage.model.supportedTypesMask(" "_s), "*.ogg *.mp3"_s);
+        const QUrl loud = stage.song("SONG.MP3"_s);
+        const QUrl backup = stage.song("song.mp3.bak"_s);
         const QUrl folder = QUrl::fromLocalFile(stage.folder.path());
         QSignalSpy scans(&stage.model, &MainModel::scanFolders);
-        stage.model.addUrlsFromDrop({backup, loud, folder, QUrl(QStringLiteral("http://h/c.mp3"))});
+        stage.model.addUrlsFromDrop({backup, loud, folder, QUrl("http://h/c.mp3"_s)});
         QCOMPARE(stage.model.rowCount(), 0); // the disk is not asked here
         QTRY_COMPARE(scans.count(), 1);
-        QCOMPARE(stage.model.urls(), QList<QUrl>{loud});
+        QTRY_COMPARE(stage.model.urls(), QList<QUrl>{loud});
         QCOMPARE(scans.at(0).at(0).value<QList<QUrl>>(), QList<QUrl>{folder});
     }
 
     void songsGoTheirWayThroughTheStates()
     {
-        Stage stage({{QStringLiteral("Found"), QStringLiteral("la la")}});
+        Stage stage({{"Found"_s, "la la"_s}});
         QSignalSpy searches(&stage.model, &MainModel::searchStarted);
-        stage.model.add({stage.song(QStringLiteral("A - Found.mp3")), stage.song(QStringLiteral("A - Unknown.mp3")),
-                         stage.song(QStringLiteral("A - fail.mp3")), stage.song(QStringLiteral("track07.mp3")),
-                         stage.song(QStringLiteral("has.mp3"), "lyrics.mp3")});
+        stage.model.add({stage.song("A - Found.mp3"_s), stage.song("A - Unknown.mp3"_s), stage.song("A - fail.mp3"_s),
+                         stage.song("track07.mp3"_s), stage.song("has.mp3"_s, "lyrics.mp3")});
         QCOMPARE(stage.model.activeCount(), 5);
         QTRY_VERIFY(stage.isSettled() && stage.state(0) == ModelItem::ProcessComplete);
-        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la la"));
-        QCOMPARE(stage.model.itemAt(0)->lyricsTitle(), QStringLiteral("Found"));
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), "la la"_s);
+        QCOMPARE(stage.model.itemAt(0)->lyricsTitle(), "Found"_s);
         QCOMPARE(stage.state(1), ModelItem::ProcessComplete);
         QCOMPARE(stage.model.itemAt(1)->errorString(), QString());
         QCOMPARE(stage.state(2), ModelItem::ProcessComplete);
-        QCOMPARE(stage.model.itemAt(2)->errorString(), QStringLiteral("the site is down"));
+        QCOMPARE(stage.model.itemAt(2)->errorString(), "the site is down"_s);
         QCOMPARE(stage.state(3), ModelItem::ProcessNotSuitable);
         QCOMPARE(stage.state(4), ModelItem::ProcessComplete);
         QVERIFY(stage.model.itemAt(4)->lyricsEmbedded());
         QCOMPARE(searches.count(), 3);
-        QCOMPARE(searches.at(0), (QVariantList{QStringLiteral("A"), QStringLiteral("Found")}));
+        QCOMPARE(searches.at(0), (QVariantList{"A"_s, "Found"_s}));
     }
 
     void lyricsAreDecodedAndWritten_data()
@@ -193,12 +199,9 @@ private slots:
         QTest::addColumn<bool>("prependNewLine");
         QTest::addColumn<QString>("found");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("as they are") << false << "la\nla"
-                                     << "la\nla";
-        QTest::newRow("character references become characters")
-            << false << "rock &amp; r&#111;ll &#x44f;" << QStringLiteral("rock & roll я");
-        QTest::newRow("with a line break in front") << true << "la"
-                                                    << "\r\nla";
+        addRow("as they are", false, "la\nla", "la\nla");
+        addRow("character references become characters", false, "rock &amp; r&#111;ll &#x44f;", "rock & roll я"_s);
+        addRow("with a line break in front", true, "la", "\r\nla");
     }
 
     void lyricsAreDecodedAndWritten()
@@ -206,31 +209,31 @@ private slots:
         QFETCH(bool, prependNewLine);
         QFETCH(QString, found);
         QFETCH(QString, stored);
-        Stage stage({{QStringLiteral("Song"), found}});
+        Stage stage({{"Song"_s, found}});
         stage.settings.setPrependNewLine(prependNewLine);
         stage.settings.setGenerateLyricsFileAuto(true);
-        const QUrl url = stage.song(QStringLiteral("A - Song.m4a"), "plain.m4a");
+        const QUrl url = stage.song("A - Song.m4a"_s, "plain.m4a");
         stage.model.setAutoStart(false);
         stage.model.add({url});
         QTRY_VERIFY(stage.isLoaded(0));
         QCOMPARE(stage.state(0), ModelItem::ProcessIdle);
-        stage.model.itemAt(0)->setTitleTag(QStringLiteral("Song"));
+        stage.model.itemAt(0)->setTitleTag("Song"_s);
         QVERIFY(stage.model.startSearch(1));
         QTRY_VERIFY(stage.isSettled() && stage.state(0) == ModelItem::ProcessComplete);
         QCOMPARE(stage.model.itemAt(0)->lyricsTag(), stored);
         MediaFileTags tags;
         QVERIFY(tags.read(url.toLocalFile()));
-        QCOMPARE(tags.value(QStringLiteral("lyrics")), stored);
-        QCOMPARE(tags.value(QStringLiteral("title")), QStringLiteral("Song"));
-        QFile text(stage.folder.filePath(QStringLiteral("A - Song.txt")));
+        QCOMPARE(tags.value("lyrics"_s), stored);
+        QCOMPARE(tags.value("title"_s), "Song"_s);
+        QFile text(stage.folder.filePath("A - Song.txt"_s));
         QVERIFY(text.open(QIODevice::ReadOnly));
         QCOMPARE(QString::fromUtf8(text.readAll()), stored);
     }
 
     void aFailedWriteKeepsTheLyricsAndSaysWhy()
     {
-        Stage stage({{QStringLiteral("Song"), QStringLiteral("la")}});
-        const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
+        Stage stage({{"Song"_s, "la"_s}});
+        const QUrl url = stage.song("A - Song.mp3"_s);
         stage.model.setAutoStart(false);
         stage.model.add({url});
         QTRY_VERIFY(stage.isLoaded(0));
@@ -244,7 +247,7 @@ private slots:
         QVERIFY(stage.model.hasUnsavedLyrics(1));
         QVERIFY(!stage.model.itemAt(0)->errorString().isEmpty());
         QVERIFY(stage.model.itemAt(0)->unsaved() && stage.model.itemAt(0)->bad());
-        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("la"));
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), "la"_s);
         QVERIFY(!QFile::exists(url.toLocalFile()));
         QCOMPARE(states.count(), 4);
         QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
@@ -254,59 +257,107 @@ private slots:
 
     void anUnreadableSongIsLeftAloneUntilItIsForced()
     {
-        Stage stage({{QStringLiteral("crash"), QStringLiteral("la")}, {QStringLiteral("zeros"), QStringLiteral("la")}});
-        const QUrl crashing = stage.song(QStringLiteral("A - crash.mp3")); // the reader of the tests dies on this name
-        QFile zeros(stage.folder.filePath(QStringLiteral("A - zeros.mp3")));
+        Stage stage({{"crash"_s, "la"_s}, {"zeros"_s, "la"_s}});
+        const QUrl crashing = stage.song("A - crash.mp3"_s); // the reader of the tests dies on this name
+        QFile zeros(stage.folder.filePath("A - zeros.mp3"_s));
         QVERIFY(zeros.open(QIODevice::WriteOnly) && zeros.resize(100 << 20));
         const QUrl endless = QUrl::fromLocalFile(zeros.fileName());
         QSignalSpy searches(&stage.model, &MainModel::searchStarted);
-        stage.model.add({crashing, endless, stage.song(QStringLiteral("A - whole.mp3"))});
+        stage.model.add({crashing, endless, stage.song("A - whole.mp3"_s)});
         QTRY_VERIFY(stage.isLoaded(2));
         QTRY_COMPARE(stage.model.activeCount(), 0);
         for (int row = 0; row < 2; ++row) {
             ModelItem *item = stage.model.itemAt(row);
             QCOMPARE(item->processState(), ModelItem::ProcessNotSuitable);
             QVERIFY(item->unreadable() && item->bad() && !item->editable() && !item->errorString().isEmpty());
-            item->setEditedLyricsTag(QStringLiteral("typed"));
+            item->setEditedLyricsTag("typed"_s);
             QVERIFY(!stage.model.writeTags(item->id()));
         }
         QCOMPARE(searches.count(), 1);
         QCOMPARE(zeros.size(), 100 << 20);
         // The one is mended meanwhile, the other one is not.
         QVERIFY(zeros.remove());
-        stage.song(QStringLiteral("A - zeros.mp3"));
+        stage.song("A - zeros.mp3"_s);
         QVERIFY(stage.model.startSearch(1) && stage.model.startSearch(2) && stage.model.startSearch(2));
         QTRY_COMPARE(stage.model.activeCount(), 0);
         QTRY_VERIFY(stage.isSettled());
         QCOMPARE(stage.state(0), ModelItem::ProcessNotSuitable);
         QTRY_COMPARE(stage.state(1), ModelItem::ProcessComplete);
         QCOMPARE(stage.model.itemAt(1)->errorString(), QString());
-        QCOMPARE(stage.model.itemAt(1)->lyricsTag(), QStringLiteral("la"));
+        QCOMPARE(stage.model.itemAt(1)->lyricsTag(), "la"_s);
+    }
+
+    // Read late, but read; and nobody waits for it.
+    void aSongOnASlowDiskIsTriedOnceMore()
+    {
+        Stage stage;
+        stage.model.setAutoStart(false);
+        stage.model.add({stage.song("A - slow.mp3"_s), stage.song("A - stall.mp3"_s), stage.song("A - quick.mp3"_s)});
+        QVector<quint16> order;
+        for (const quint16 id : {1, 2, 3})
+            connect(stage.model.item(id), &ModelItem::tagsLoadedChanged, this, [&order, id] { order.append(id); });
+        QTRY_COMPARE_WITH_TIMEOUT(order, (QVector<quint16>{3, 1}), 20'000);
+        stage.model.add({stage.song("A - late.mp3"_s)}); // while the other one is tried again
+        QTRY_VERIFY_WITH_TIMEOUT(stage.isLoaded(3), 20'000);
+        QVERIFY(!stage.model.itemAt(1)->unreadable()); // not given up yet
+        QVERIFY(stage.model.removeRows(1, 1));
+        stage.model.add({stage.song("A - later.mp3"_s)});
+        QTRY_VERIFY(stage.isLoaded(3));
+    }
+
+    void whatAnotherProgramHasStoredStays()
+    {
+        Stage stage({{"The Song"_s, "found"_s}});
+        stage.model.setAutoStart(false);
+        const QUrl url = stage.song("A - Song.mp3"_s, "plain-v23.mp3");
+        stage.model.add({url});
+        QTRY_VERIFY(stage.isLoaded(0));
+        const auto stored = [&url](const char *key) {
+            MediaFileTags tags;
+            return tags.read(url.toLocalFile()) ? tags.value(QLatin1String(key)) : QString();
+        };
+        ModelItem *item = stage.model.itemAt(0);
+        const auto save = [&](const QString &title) {
+            item->setTitleTag(title);
+            QVERIFY(stage.model.writeTags(1));
+            QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete);
+        };
+        QCOMPARE(tags::updateTags(url.toLocalFile(), {"Theirs"_s, {}, "their words"_s}, {}), tags::UpdateResult::Saved);
+        QVERIFY(stage.model.startSearch(1));
+        QTRY_VERIFY(stage.search.searchCount() == 0 && stage.state(0) == ModelItem::ProcessComplete);
+        QVERIFY(item->unsaved() && item->lyricsTag() == "found"_s && !item->errorString().isEmpty());
+        QCOMPARE(stored("lyrics"), "their words"_s);
+        save("New"_s); // who saves once more means it
+        QCOMPARE(stored("lyrics"), "found"_s);
+        QCOMPARE(stored("artist"), "Theirs"_s);
+        QCOMPARE(stored("title"), "New"_s);
+        save("The Song"_s); // as it was read first, and edited all the same
+        QCOMPARE(stored("title"), "The Song"_s);
     }
 
     void wordsTypedDuringASearchStay()
     {
-        Stage stage({{QStringLiteral("Song"), QStringLiteral("found")}});
+        Stage stage({{"Song"_s, "found"_s}});
         stage.model.setAutoStart(false);
-        stage.model.add({stage.song(QStringLiteral("A - Song.mp3"))});
+        stage.model.add({stage.song("A - Song.mp3"_s)});
         QTRY_VERIFY(stage.isLoaded(0));
         QVERIFY(stage.model.startSearch(1));
         QCOMPARE(stage.state(0), ModelItem::ProcessWorking);
-        stage.model.itemAt(0)->setEditedLyricsTag(QStringLiteral("typed"));
+        stage.model.itemAt(0)->setEditedLyricsTag("typed"_s);
         QVERIFY(stage.model.writeTags(1));
         QTRY_VERIFY(stage.search.searchCount() == 0 && stage.isSettled());
-        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("typed"));
-        stage.model.lyricsSearchFinished(1, QStringLiteral("A"), QStringLiteral("Song"), {}, {});
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), "typed"_s);
+        stage.model.lyricsSearchFinished(1, "A"_s, "Song"_s, {}, {});
         QVERIFY(stage.model.itemAt(0)->foundNothing() && stage.isSettled()); // what is there is not written again
         QVERIFY(stage.model.startSearch(1));                                 // what is searched for later counts again
-        QTRY_COMPARE(stage.model.itemAt(0)->lyricsTag(), QStringLiteral("found"));
+        QTRY_COMPARE(stage.model.itemAt(0)->lyricsTag(), "found"_s);
     }
 
     void theLastOfTwoWritesCounts()
     {
         Stage stage;
         stage.model.setAutoStart(false);
-        const QUrl url = stage.song(QStringLiteral("A - Song.mp3"));
+        const QUrl url = stage.song("A - Song.mp3"_s);
         stage.model.add({url});
         QTRY_VERIFY(stage.isLoaded(0));
         ModelItem *item = stage.model.itemAt(0);
@@ -316,47 +367,58 @@ private slots:
             QVERIFY(stage.model.writeTags(1));
             QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(30)));
         };
-        const QString elsewhere = stage.folder.filePath(QStringLiteral("elsewhere"));
+        const QString elsewhere = stage.folder.filePath("elsewhere"_s);
         QVERIFY(QFile::rename(url.toLocalFile(), elsewhere));
-        write(QStringLiteral("first"));
+        write("first"_s);
         QVERIFY(stage.model.hasUnsavedLyrics(1)); // that it has failed is not known yet
         QVERIFY(QFile::rename(elsewhere, url.toLocalFile()));
-        write(QStringLiteral("second"));
+        write("second"_s);
         QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete); // the model hears of both only now
         QCOMPARE(states.count(), 2);
         QCOMPARE(item->errorString(), QString());
         QVERIFY(!stage.model.hasUnsavedLyrics(1) && stage.model.idsWithUnsavedLyrics().isEmpty());
         MediaFileTags tags;
         QVERIFY(tags.read(url.toLocalFile()));
-        QCOMPARE(tags.value(QStringLiteral("lyrics")), QStringLiteral("second"));
+        QCOMPARE(tags.value("lyrics"_s), "second"_s);
     }
 
-    void songsWithoutLyricsAreNotExported()
+    void exportsComeBeforeTheWritesAndTellTheirEnd()
     {
         Stage stage;
         stage.model.setAutoStart(false);
-        stage.model.add({stage.song(QStringLiteral("A - Song.mp3"), "lyrics.mp3")});
-        QFile notes(stage.folder.filePath(QStringLiteral("A - Song.txt")));
-        QVERIFY(notes.open(QIODevice::ReadWrite) && notes.write("my own notes") > 0 && notes.flush());
+        stage.settings.setGenerateLyricsFileAuto(true);
+        stage.model.add({stage.song("A - Song.mp3"_s, "lyrics.mp3")});
+        const QString notes = stage.folder.filePath("A - Song.txt"_s);
         QVERIFY(!stage.model.generateLyricsFile(1)); // not read yet
         QTRY_VERIFY(stage.isLoaded(0));
-        stage.model.itemAt(0)->setEditedLyricsTag(QString());
-        QVERIFY(!stage.model.generateLyricsFile(1));
-        QVERIFY(notes.seek(0));
-        QCOMPARE(notes.readAll(), QByteArray("my own notes"));
+        QSignalSpy exported(&stage.model, &MainModel::lyricsExported);
+        QSignalSpy failed(&stage.model, &MainModel::automaticExportFailed);
+        QVERIFY(QDir().mkdir(notes)); // in its way
+        QVERIFY(stage.model.generateLyricsFile(1) && stage.model.writeTags(1));
+        QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(30))); // as at the end of the program
+        QVERIFY(QDir().rmdir(notes));
+        QTRY_COMPARE(failed.count(), 1);
+        QCOMPARE(failed.first(), QVariantList{notes});
+        QCOMPARE(exported.first(), (QVariantList{1, notes, false}));
+        QVERIFY(stage.model.generateLyricsFile(1));
+        QTRY_COMPARE(exported.count(), 2);
+        QCOMPARE(exported.last(), (QVariantList{1, notes, true}));
+        QVERIFY(QFileInfo(notes).size() > 0);
+        stage.model.itemAt(0)->setEditedLyricsTag({});
+        QVERIFY(!stage.model.generateLyricsFile(1) && QFileInfo(notes).size() > 0);
     }
 
     void anOvertakenReadComesBackWithAForcedSearch()
     {
         Stage stage;
-        stage.model.add({stage.song(QStringLiteral("named in its tags.mp3"), "plain-v23.mp3")});
+        stage.model.add({stage.song("named in its tags.mp3"_s, "plain-v23.mp3")});
         stage.model.add(stage.songs(3)); // overtakes the read of the first
-        stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
+        stage.model.add({stage.song("A - late.mp3"_s)});
         for (int row = 1; row < 5; ++row)
             QTRY_VERIFY(stage.isLoaded(row));
         QTRY_COMPARE(stage.model.activeCount(), 1);
         QVERIFY(!stage.isLoaded(0));
-        stage.model.add({stage.song(QStringLiteral("A - later.mp3"))});
+        stage.model.add({stage.song("A - later.mp3"_s)});
         QVERIFY(stage.model.startSearch(1)); // while another read is under way
         QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(5));
         QTRY_COMPARE(stage.model.activeCount(), 0);
@@ -367,7 +429,7 @@ private slots:
     {
         Stage stage;
         stage.model.add(stage.songs(4));
-        stage.model.add({stage.song(QStringLiteral("A - late.mp3"))});
+        stage.model.add({stage.song("A - late.mp3"_s)});
         QVERIFY(stage.model.removeRows(1, 1)); // is read
         QVERIFY(stage.model.removeRows(0, 1)); // was overtaken
         for (int row = 0; row < 3; ++row)
@@ -393,16 +455,15 @@ private slots:
         QTRY_COMPARE(stage.model.activeCount(), 0);
         QCOMPARE(most, 10);
         QCOMPARE(started.count(), 25);
-        QCOMPARE(started.at(10).at(1).toString(), QStringLiteral("S000"));
-        QCOMPARE(started.at(24).at(1).toString(), QStringLiteral("S014"));
+        QCOMPARE(started.at(10).at(1).toString(), "S000"_s);
+        QCOMPARE(started.at(24).at(1).toString(), "S014"_s);
     }
 
     void anUnsuitableSongDoesNotStopTheOthers()
     {
         Stage stage;
         stage.model.setAutoStart(false);
-        stage.model.add(
-            {stage.song(QStringLiteral("first.mp3"), "plain-v23.mp3"), stage.song(QStringLiteral("A - S.mp3"))});
+        stage.model.add({stage.song("first.mp3"_s, "plain-v23.mp3"), stage.song("A - S.mp3"_s)});
         QTRY_VERIFY(stage.isLoaded(1));
         ModelItem *first = stage.model.itemAt(0);
         first->setArtistTag(QString());
@@ -419,8 +480,8 @@ private slots:
         QVector<int> odd;
         for (int row = 1; row < 200; row += 2)
             odd.append(row);
-        QTest::newRow("first, last and a few between") << QVector<int>{0, 3, 4, 5, 100, 199};
-        QTest::newRow("so many ranges that it is one reset") << odd;
+        addRow("first, last and a few between", QVector<int>{0, 3, 4, 5, 100, 199});
+        addRow("so many ranges that it is one reset", odd);
     }
 
     void rowsCanBeRemoved()
@@ -440,7 +501,7 @@ private slots:
             QTRY_VERIFY(stage.isLoaded(row));
         // The row of an item is found by its id after all that.
         QSignalSpy changes(&stage.model, &MainModel::dataChanged);
-        stage.model.itemAt(expected.size() - 1)->setErrorString(QStringLiteral("e"));
+        stage.model.itemAt(expected.size() - 1)->setErrorString("e"_s);
         QCOMPARE(changes.last().at(0).toModelIndex().row(), expected.size() - 1);
         stage.model.removeAll();
         QCOMPARE(stage.model.rowCount(), 0);
@@ -450,7 +511,7 @@ private slots:
     void idsWrapAndRunOut()
     {
         Stage stage;
-        const QUrl file = stage.song(QStringLiteral("A - S.mp3"));
+        const QUrl file = stage.song("A - S.mp3"_s);
         const auto variants = [&file](int first, int count) {
             QList<QUrl> urls;
             for (int i = first; i < first + count; ++i) {
@@ -487,18 +548,16 @@ private slots:
     {
         QTest::addColumn<QByteArray>("nautilus");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("nautilus has it") << QByteArray("exit 0") << QStringList{QStringLiteral("nautilus a b.mp3")};
-        QTest::newRow("nautilus crashes")
-            << QByteArray("kill -9 $$")
-            << QStringList{QStringLiteral("nautilus a b.mp3"), QStringLiteral("xdg-open music")};
-        QTest::newRow("there is no nautilus") << QByteArray() << QStringList{QStringLiteral("xdg-open music")};
+        addRow("nautilus has it", QByteArray("exit 0"), QStringList{"nautilus a b.mp3"_s});
+        addRow("nautilus crashes", QByteArray("kill -9 $$"), QStringList{"nautilus a b.mp3"_s, "xdg-open music"_s});
+        addRow("there is no nautilus", QByteArray(), QStringList{"xdg-open music"_s});
     }
 
     void filesAreShownInTheFileManager()
     {
         QFETCH(QByteArray, nautilus);
         Stage stage;
-        const QString log = stage.folder.filePath(QStringLiteral("log"));
+        const QString log = stage.folder.filePath("log"_s);
         const auto install = [&](const QString &name, const QByteArray &end) {
             QFile program(stage.folder.filePath(name));
             QVERIFY(program.open(QIODevice::WriteOnly));
@@ -507,10 +566,10 @@ private slots:
             program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         };
         if (!nautilus.isEmpty())
-            install(QStringLiteral("nautilus"), nautilus);
-        install(QStringLiteral("xdg-open"), "exit 0");
-        QVERIFY(QDir(stage.folder.path()).mkdir(QStringLiteral("music")));
-        stage.model.add({stage.song(QStringLiteral("music/a b.mp3"))});
+            install("nautilus"_s, nautilus);
+        install("xdg-open"_s, "exit 0");
+        QVERIFY(QDir(stage.folder.path()).mkdir("music"_s));
+        stage.model.add({stage.song("music/a b.mp3"_s)});
 
         const QByteArray path = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(stage.folder.path()));

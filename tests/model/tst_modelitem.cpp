@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/ModelItem.h"
+#include "support/TestTable.h"
 
 #include "support/TestFolder.h"
 #include "tags/MediaFileTags.h"
@@ -22,9 +23,8 @@ private slots:
         QTest::addColumn<QString>("title");
         const auto row = [](const char *name, const char *file, const char *artistTag, const char *titleTag,
                             const char *artist, const char *title) {
-            QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(artistTag)
-                                << QString::fromLatin1(titleTag) << QString::fromLatin1(artist)
-                                << QString::fromLatin1(title);
+            addRow(name, QString::fromLatin1(file), QString::fromLatin1(artistTag), QString::fromLatin1(titleTag),
+                   QString::fromLatin1(artist), QString::fromLatin1(title));
         };
         row("both from the tags, trimmed", "/m/X - Y.mp3", "  Nora ", "\tHarbour\n", "Nora", "Harbour");
         row("both from the file name", "/m/Nora - Harbour.mp3", "", "  ", "Nora", "Harbour");
@@ -56,8 +56,8 @@ private slots:
         QTest::addColumn<bool>("valid");
         QTest::addColumn<bool>("exists");
         QTest::addColumn<QString>("ext");
-        QTest::newRow("a file") << "song.live.mp3" << true << true << "mp3";
-        QTest::newRow("a folder") << "folder.mp3" << false << true << "mp3";
+        addRow("a file", "song.live.mp3", true, true, "mp3");
+        addRow("a folder", "folder.mp3", false, true, "mp3");
     }
 
     void fileProperties()
@@ -65,40 +65,40 @@ private slots:
         QFETCH(QString, relative);
         QFETCH(bool, valid);
         const TestFolder folder;
-        folder.write(QStringLiteral("song.live.mp3"));
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.mp3")));
+        folder.write("song.live.mp3"_s);
+        QVERIFY(QDir(folder.path()).mkdir("folder.mp3"_s));
 
         ModelItem item(QUrl::fromLocalFile(folder.path(relative)));
         QCOMPARE(item.valid(), valid);
         QTEST(item.fileExists(), "exists");
         QCOMPARE(item.bad(), !valid);
-        QVERIFY(QFile::rename(folder.path(relative), folder.path(QStringLiteral("away"))));
+        QVERIFY(QFile::rename(folder.path(relative), folder.path("away"_s)));
         QCOMPARE(item.valid(), valid); // from memory
         item.forgetFile();
         QVERIFY(!item.valid() && !item.fileExists());
-        QVERIFY(QFile::rename(folder.path(QStringLiteral("away")), folder.path(relative)));
+        QVERIFY(QFile::rename(folder.path("away"_s), folder.path(relative)));
         QTEST(item.ext(), "ext");
         QCOMPARE(item.filename(), relative);
         QCOMPARE(item.path(), folder.path());
         item.setTags({});
         QVERIFY2(item.bad(), "read, and without any playing time");
 
-        item.setUrl(QUrl(QStringLiteral("http://h/a/song.mp3")));
+        item.setUrl(QUrl("http://h/a/song.mp3"_s));
         QVERIFY(!item.valid() && !item.fileExists() && item.bad());
         QCOMPARE(item.filename() + item.path() + item.ext(), QString());
     }
 
     void tagsAreTakenAndAnnounced()
     {
-        ModelItem item(QUrl::fromLocalFile(QStringLiteral("/m/a.flac")));
+        ModelItem item(QUrl::fromLocalFile("/m/a.flac"_s));
         QSignalSpy titles(&item, &ModelItem::titleTagChanged);
         QSignalSpy artists(&item, &ModelItem::artistTagChanged);
         QSignalSpy lyrics(&item, &ModelItem::lyricsTagChanged);
         QSignalSpy loaded(&item, &ModelItem::tagsLoadedChanged);
-        item.setTags(tagsWith(QStringLiteral("Nora"), QStringLiteral("Harbour"), QStringLiteral("la la")));
-        QCOMPARE(titles.value(0), QVariantList{QStringLiteral("Harbour")});
-        QCOMPARE(artists.value(0), QVariantList{QStringLiteral("Nora")});
-        QCOMPARE(lyrics.value(0), QVariantList{QStringLiteral("la la")});
+        item.setTags(tagsWith("Nora"_s, "Harbour"_s, "la la"_s));
+        QCOMPARE(titles.value(0), QVariantList{"Harbour"_s});
+        QCOMPARE(artists.value(0), QVariantList{"Nora"_s});
+        QCOMPARE(lyrics.value(0), QVariantList{"la la"_s});
         QCOMPARE(loaded.value(0), QVariantList{true});
         QVERIFY(item.lyricsEmbedded());
         QVERIFY(item.duration() > 0);
@@ -108,26 +108,26 @@ private slots:
     {
         ModelItem item;
         QSignalSpy changes(&item, &ModelItem::changed);
-        item.setTitleTag(QStringLiteral("T"));
-        item.setArtistTag(QStringLiteral("A"));
-        item.setLyricsTag(QStringLiteral("L"));
+        item.setTitleTag("T"_s);
+        item.setArtistTag("A"_s);
+        item.setLyricsTag("L"_s);
         QCOMPARE(changes.count(), 0);
         item.setTags({});
         QCOMPARE(item.titleTag() + item.artistTag() + item.lyricsTag(), QString());
-        item.setTitleTag(QStringLiteral("T"));
-        QCOMPARE(item.titleTag(), QStringLiteral("T"));
+        item.setTitleTag("T"_s);
+        QCOMPARE(item.titleTag(), "T"_s);
     }
 
     void lyricsForgetTheirNamesWhenEdited()
     {
         ModelItem item;
         item.setTags({});
-        item.setFoundLyricsTag(QStringLiteral("A"), QStringLiteral("T"), QStringLiteral("found"));
-        QCOMPARE(item.lyricsArtist() + item.lyricsTitle() + item.lyricsTag(), QStringLiteral("ATfound"));
+        item.setFoundLyricsTag("A"_s, "T"_s, "found"_s);
+        QCOMPARE(item.lyricsArtist() + item.lyricsTitle() + item.lyricsTag(), "ATfound"_s);
         QVERIFY(!item.lyricsEmbedded());
         QSignalSpy lyrics(&item, &ModelItem::lyricsTagChanged);
-        item.setEditedLyricsTag(QStringLiteral("typed"));
-        QCOMPARE(lyrics.value(0), QVariantList{QStringLiteral("typed")});
+        item.setEditedLyricsTag("typed"_s);
+        QCOMPARE(lyrics.value(0), QVariantList{"typed"_s});
         QVERIFY(item.lyricsArtist().isNull() && item.lyricsTitle().isNull());
         QVERIFY(!item.lyricsEmbedded());
     }
@@ -137,27 +137,25 @@ private slots:
         ModelItem item;
         QSignalSpy changes(&item, &ModelItem::changed);
         QStringList heard;
-        connect(&item, &ModelItem::activeChanged, this, [&] { heard << QStringLiteral("active"); });
-        connect(&item, &ModelItem::writingTagsChanged, this, [&] { heard << QStringLiteral("writing"); });
+        connect(&item, &ModelItem::activeChanged, this, [&] { heard << "active"_s; });
+        connect(&item, &ModelItem::writingTagsChanged, this, [&] { heard << "writing"_s; });
         connect(&item, &ModelItem::processStateChanged, this, [&] { heard << item.processStateText(); });
         item.setProcessState(ModelItem::ProcessWaiting);
         item.setProcessState(ModelItem::ProcessWaiting);
         item.setProcessState(ModelItem::ProcessWorking);
         item.setProcessState(ModelItem::ProcessWritingTags);
         item.setProcessState(ModelItem::ProcessComplete);
-        const QStringList expected{QStringLiteral("active"),       QStringLiteral("queued to search..."),
-                                   QStringLiteral("searching..."), QStringLiteral("active"),
-                                   QStringLiteral("writing"),      QStringLiteral("writing tags"),
-                                   QStringLiteral("writing"),      QStringLiteral("complete")};
+        const QStringList expected{"active"_s,  "queued to search..."_s, "searching..."_s, "active"_s,
+                                   "writing"_s, "writing tags"_s,        "writing"_s,      "complete"_s};
         QCOMPARE(heard, expected);
         QVERIFY(item.editable());
         // Every signal but the first two kinds is followed by this one.
         QCOMPARE(changes.count(), 4);
         item.setTags({});
         QCOMPARE(changes.count(), 8);
-        item.setUrl(QUrl::fromLocalFile(QStringLiteral("/a")));
-        item.setErrorString(QStringLiteral("e"));
-        item.setErrorString(QStringLiteral("e"));
+        item.setUrl(QUrl::fromLocalFile("/a"_s));
+        item.setErrorString("e"_s);
+        item.setErrorString("e"_s);
         QCOMPARE(changes.count(), 10);
     }
 
@@ -167,9 +165,9 @@ private:
         MediaFileTags tags;
         if (!lyrics.isNull())
             tags.read(QStringLiteral(VERSEWELL_SAMPLES_DIR "/plain.flac")); // lyrics need a tag to live in
-        tags.setValue(QStringLiteral("artist"), artist);
-        tags.setValue(QStringLiteral("title"), title);
-        tags.setValue(QStringLiteral("lyrics"), lyrics);
+        tags.setValue("artist"_s, artist);
+        tags.setValue("title"_s, title);
+        tags.setValue("lyrics"_s, lyrics);
         return tags;
     }
 };

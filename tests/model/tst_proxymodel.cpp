@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/ProxyModel.h"
+#include "support/TestTable.h"
 
 #include "model/MainModel.h"
 #include "support/TestFolder.h"
@@ -23,13 +24,13 @@ public:
         if (!QTest::qWaitFor([this, count] { return count == 0 || model.itemAt(count - 1)->tagsLoaded(); }, 20000))
             qFatal("the tags were not read");
         for (const int row : withLyrics)
-            model.itemAt(row)->setFoundLyricsTag({}, {}, QStringLiteral("la"));
+            model.itemAt(row)->setFoundLyricsTag({}, {}, "la"_s);
     }
     void add(int first, int count)
     {
         QList<QUrl> urls;
         for (int i = first; i < first + count; ++i) {
-            urls.append(QUrl::fromLocalFile(folder.write(QStringLiteral("%1.mp3").arg(i))));
+            urls.append(QUrl::fromLocalFile(folder.write("%1.mp3"_s.arg(i))));
         }
         model.add(urls);
     }
@@ -121,7 +122,7 @@ private slots:
         stage.proxy.setShowFound(false);
         stage.proxy.setCurrentIndex(3);
         stage.proxy.selectAll();
-        stage.model.itemAt(1)->setFoundLyricsTag({}, {}, QStringLiteral("la"));
+        stage.model.itemAt(1)->setFoundLyricsTag({}, {}, "la"_s);
         QCOMPARE(stage.shown(), (Songs{0, 2, 3, 4}));
         QCOMPARE(stage.current(), 3);
         QCOMPARE(stage.currents.last(), QVariantList{2});
@@ -143,19 +144,19 @@ private slots:
         QTest::addColumn<Qt::KeyboardModifier>("modifier");
         QTest::addColumn<QVector<int>>("selected");
         QTest::addColumn<int>("currentAfter");
-        QTest::newRow("a plain click") << 2 << 4 << Qt::NoModifier << Songs{4} << 4;
-        QTest::newRow("on the current row: nothing is replaced") << 2 << 2 << Qt::NoModifier << Songs{2} << 2;
-        QTest::newRow("on empty space without a current row")
-            << -1 << -1 << Qt::NoModifier << Songs{} << -1; // empties what Control has selected
-        QTest::newRow("on empty space") << 2 << -1 << Qt::NoModifier << Songs{} << -1;
-        QTest::newRow("beyond the rows") << 2 << 9 << Qt::NoModifier << Songs{2} << 2;
-        QTest::newRow("Control adds") << 2 << 0 << Qt::ControlModifier << Songs{0, 2} << 2;
-        QTest::newRow("Control takes away") << 2 << 2 << Qt::ControlModifier << Songs{} << 2;
-        QTest::newRow("Control beyond the rows") << 2 << -1 << Qt::ControlModifier << Songs{2} << 2;
-        QTest::newRow("Shift downwards") << 2 << 4 << Qt::ShiftModifier << Songs{2, 3, 4} << 2;
-        QTest::newRow("Shift upwards") << 2 << 0 << Qt::ShiftModifier << Songs{0, 1, 2} << 2;
-        QTest::newRow("Shift without a current row") << -1 << 3 << Qt::ShiftModifier << Songs{} << -1;
-        QTest::newRow("another modifier") << 2 << 4 << Qt::AltModifier << Songs{2} << 2;
+        addRow("a plain click", 2, 4, Qt::NoModifier, Songs{4}, 4);
+        addRow("on the current row: nothing is replaced", 2, 2, Qt::NoModifier, Songs{2}, 2);
+        addRow("on empty space without a current row", -1, -1, Qt::NoModifier, Songs{},
+               -1); // empties what Control has selected
+        addRow("on empty space", 2, -1, Qt::NoModifier, Songs{}, -1);
+        addRow("beyond the rows", 2, 9, Qt::NoModifier, Songs{2}, 2);
+        addRow("Control adds", 2, 0, Qt::ControlModifier, Songs{0, 2}, 2);
+        addRow("Control takes away", 2, 2, Qt::ControlModifier, Songs{}, 2);
+        addRow("Control beyond the rows", 2, -1, Qt::ControlModifier, Songs{2}, 2);
+        addRow("Shift downwards", 2, 4, Qt::ShiftModifier, Songs{2, 3, 4}, 2);
+        addRow("Shift upwards", 2, 0, Qt::ShiftModifier, Songs{0, 1, 2}, 2);
+        addRow("Shift without a current row", -1, 3, Qt::ShiftModifier, Songs{}, -1);
+        addRow("another modifier", 2, 4, Qt::AltModifier, Songs{2}, 2);
     }
 
     void clicksSelect()
@@ -218,7 +219,7 @@ private slots:
         connect(&stage.proxy, &ProxyModel::showFoundChanged, this, note("flag"));
         connect(&stage.proxy, &ProxyModel::currentIndexChanged, this, note("row"));
         stage.proxy.setShowFound(false);
-        QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("count hidden flag row"));
+        QCOMPARE(order.join(QLatin1Char(' ')), "count hidden flag row"_s);
     }
 
     // In ranges and, when there are too many of them, in one reset: both end on the same song.
@@ -242,10 +243,10 @@ private slots:
         QTest::addColumn<bool>("all");
         QTest::addColumn<QVector<int>>("left");
         QTest::addColumn<int>("current");
-        QTest::newRow("the selected ones") << false << false << Songs{0, 3, 4} << 4;
-        QTest::newRow("the selected ones among those shown") << true << false << Songs{0, 1, 2, 4} << 4;
-        QTest::newRow("all") << false << true << Songs{} << -1;
-        QTest::newRow("all that are shown") << true << true << Songs{1, 2} << -1;
+        addRow("the selected ones", false, false, Songs{0, 3, 4}, 4);
+        addRow("the selected ones among those shown", true, false, Songs{0, 1, 2, 4}, 4);
+        addRow("all", false, true, Songs{}, -1);
+        addRow("all that are shown", true, true, Songs{1, 2}, -1);
     }
 
     void rowsAreRemoved()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestTable.h"
 #include "tags/CheckedFileStream.h"
 
 #include <taglib/tbytevectorstream.h>
@@ -15,17 +16,6 @@
 #include <memory>
 
 using tags::CheckedFileStream;
-
-class tst_CheckedFileStream : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void changesAreThoseOfMemory_data();
-    void changesAreThoseOfMemory();
-    void theFirstErrorStays();
-    void budgetsEndReading();
-};
 
 namespace {
 
@@ -65,94 +55,101 @@ private:
 
 } // namespace
 
-void tst_CheckedFileStream::changesAreThoseOfMemory_data()
+class tst_CheckedFileStream : public QObject
 {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("growth");
-    QTest::newRow("small file, small changes") << 100 << 60;
-    QTest::newRow("around a page") << 4096 << 8192;
-    QTest::newRow("several blocks, each move crosses them") << 3 * 1024 * 1024 + 17 << 4000;
-    QTest::newRow("a move of more than a block") << 2 * 1024 * 1024 << 1536 * 1024;
-}
+    Q_OBJECT
 
-// Whatever is done, the file is as a stream in memory would be; reading in between shows that nothing stale is seen.
-void tst_CheckedFileStream::changesAreThoseOfMemory()
-{
-    QFETCH(int, size);
-    QFETCH(int, growth);
-    const TagLib::ByteVector content = pattern(size, 1);
-    const TestFile target(content);
-    const auto file = target.open(CheckedFileStream::Access::ReadWrite);
-    TagLib::ByteVectorStream memory(content);
-    QRandomGenerator random(7);
-    for (int round = 0; round < 60; ++round) {
-        const auto place = static_cast<unsigned long>(random.bounded(static_cast<int>(memory.length()) + 1));
-        const auto rest = static_cast<unsigned long>(memory.length()) - place;
-        const auto replaced = std::min<unsigned long>(rest, static_cast<unsigned long>(random.bounded(growth)));
-        const TagLib::ByteVector data = pattern(random.bounded(growth), static_cast<quint32>(round));
-        const int kind = random.bounded(4);
-        TagLib::ByteVector seen[2];
-        int number = 0;
-        for (TagLib::IOStream *stream : {file->stream(), static_cast<TagLib::IOStream *>(&memory)}) {
-            if (kind == 0)
-                stream->insert(data, place, replaced);
-            else if (kind == 1)
-                stream->removeBlock(place, replaced);
-            else if (kind == 2)
-                stream->truncate(stream->length() - static_cast<long>(replaced / 8));
-            stream->seek(std::min(static_cast<long>(place / 2), stream->length()), TagLib::IOStream::Beginning);
-            if (kind == 3)
-                stream->writeBlock(data);
-            stream->seek(-std::min(50L, stream->length()), TagLib::IOStream::End);
-            seen[number++] = stream->readBlock(37);
-        }
-        QVERIFY2(seen[0] == seen[1], qPrintable(QStringLiteral("round %1").arg(round)));
-        QCOMPARE(file->stream()->length(), memory.length());
+private slots:
+    void changesAreThoseOfMemory_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("growth");
+        addRow("small file, small changes", 100, 60);
+        addRow("around a page", 4096, 8192);
+        addRow("several blocks, each move crosses them", 3 * 1024 * 1024 + 17, 4000);
+        addRow("a move of more than a block", 2 * 1024 * 1024, 1536 * 1024);
     }
-    QVERIFY(everything(*file->stream()) == everything(memory));
-    QCOMPARE(file->error(), 0);
-}
 
-void tst_CheckedFileStream::theFirstErrorStays()
-{
-    const TagLib::ByteVector content = pattern(100'000, 2);
-    const TestFile target(content);
-    const auto readOnly = target.open(CheckedFileStream::Access::Read);
-    readOnly->stream()->insert(content, 0, 0);
-    QCOMPARE(readOnly->error(), EBADF);
-    QVERIFY(everything(*target.open(CheckedFileStream::Access::Read)->stream()) == content);
+    // Whatever is done, the file is as a stream in memory would be; reading in between shows that nothing stale is
+    // seen.
+    void changesAreThoseOfMemory()
+    {
+        QFETCH(int, size);
+        QFETCH(int, growth);
+        const TagLib::ByteVector content = pattern(size, 1);
+        const TestFile target(content);
+        const auto file = target.open(CheckedFileStream::Access::ReadWrite);
+        TagLib::ByteVectorStream memory(content);
+        QRandomGenerator random(7);
+        for (int round = 0; round < 60; ++round) {
+            const auto place = static_cast<unsigned long>(random.bounded(static_cast<int>(memory.length()) + 1));
+            const auto rest = static_cast<unsigned long>(memory.length()) - place;
+            const auto replaced = std::min<unsigned long>(rest, static_cast<unsigned long>(random.bounded(growth)));
+            const TagLib::ByteVector data = pattern(random.bounded(growth), static_cast<quint32>(round));
+            const int kind = random.bounded(4);
+            TagLib::ByteVector seen[2];
+            int number = 0;
+            for (TagLib::IOStream *stream : {file->stream(), static_cast<TagLib::IOStream *>(&memory)}) {
+                if (kind == 0)
+                    stream->insert(data, place, replaced);
+                else if (kind == 1)
+                    stream->removeBlock(place, replaced);
+                else if (kind == 2)
+                    stream->truncate(stream->length() - static_cast<long>(replaced / 8));
+                stream->seek(std::min(static_cast<long>(place / 2), stream->length()), TagLib::IOStream::Beginning);
+                if (kind == 3)
+                    stream->writeBlock(data);
+                stream->seek(-std::min(50L, stream->length()), TagLib::IOStream::End);
+                seen[number++] = stream->readBlock(37);
+            }
+            QVERIFY2(seen[0] == seen[1], qPrintable("round %1"_s.arg(round)));
+            QCOMPARE(file->stream()->length(), memory.length());
+        }
+        QVERIFY(everything(*file->stream()) == everything(memory));
+        QCOMPARE(file->error(), 0);
+    }
 
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before = {};
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit tight = {content.size(), before.rlim_max};
-    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &tight), 0);
-    const auto file = target.open(CheckedFileStream::Access::ReadWrite);
-    file->stream()->insert(pattern(10, 3), 0, 0);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    QCOMPARE(file->error(), EFBIG);
-    file->stream()->truncate(5); // would work, but must not be done any more
-    QCOMPARE(target.open(CheckedFileStream::Access::Read)->stream()->length(), static_cast<long>(content.size()));
-}
+    void theFirstErrorStays()
+    {
+        const TagLib::ByteVector content = pattern(100'000, 2);
+        const TestFile target(content);
+        const auto readOnly = target.open(CheckedFileStream::Access::Read);
+        readOnly->stream()->insert(content, 0, 0);
+        QCOMPARE(readOnly->error(), EBADF);
+        QVERIFY(everything(*target.open(CheckedFileStream::Access::Read)->stream()) == content);
 
-void tst_CheckedFileStream::budgetsEndReading()
-{
-    const TestFile target(pattern(50'000, 4));
-    const auto file = target.open(CheckedFileStream::Access::Read);
-    file->setReadBudget({10, 60'000});
-    TagLib::IOStream &stream = *file->stream();
-    QVERIFY(everything(stream).size() == 50'000);
-    QVERIFY_EXCEPTION_THROWN(everything(stream), tags::ReadBudgetSpent);
-    file->setReadBudget({10, 60'000});
-    const auto loop = [&stream] {
-        for (int round = 0; round < 100; ++round)
-            stream.seek(0, TagLib::IOStream::Beginning);
-    };
-    QVERIFY_EXCEPTION_THROWN(loop(), tags::ReadBudgetSpent);
-    file->liftReadBudget();
-    loop();
-    QVERIFY(everything(stream).size() == 50'000);
-}
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before = {};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
+        const rlimit tight = {content.size(), before.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &tight), 0);
+        const auto file = target.open(CheckedFileStream::Access::ReadWrite);
+        file->stream()->insert(pattern(10, 3), 0, 0);
+        ::setrlimit(RLIMIT_FSIZE, &before);
+        QCOMPARE(file->error(), EFBIG);
+        file->stream()->truncate(5); // would work, but must not be done any more
+        QCOMPARE(target.open(CheckedFileStream::Access::Read)->stream()->length(), static_cast<long>(content.size()));
+    }
+
+    void budgetsEndReading()
+    {
+        const TestFile target(pattern(50'000, 4));
+        const auto file = target.open(CheckedFileStream::Access::Read);
+        file->setReadBudget({10, 60'000});
+        TagLib::IOStream &stream = *file->stream();
+        QVERIFY(everything(stream).size() == 50'000);
+        QVERIFY_EXCEPTION_THROWN(everything(stream), tags::ReadBudgetSpent);
+        file->setReadBudget({10, 60'000});
+        const auto loop = [&stream] {
+            for (int round = 0; round < 100; ++round)
+                stream.seek(0, TagLib::IOStream::Beginning);
+        };
+        QVERIFY_EXCEPTION_THROWN(loop(), tags::ReadBudgetSpent);
+        file->liftReadBudget();
+        loop();
+        QVERIFY(everything(stream).size() == 50'000);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_CheckedFileStream)
 #include "tst_checkedfilestream.moc"

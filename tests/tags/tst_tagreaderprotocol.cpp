@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestTable.h"
 #include "tags/TagReaderProtocol.h"
 #include "tags/TagText.h"
 
@@ -13,7 +14,7 @@ ReadAnswer fullAnswer()
 {
     ReadAnswer answer{7, {ReadFailure::TooMuchRead, 123, {}, QImage(50, 33, QImage::Format_RGB32)}};
     for (std::size_t i = 0; i < allKeys.size(); ++i)
-        answer.summary.values[i] = QStringLiteral("é歌😀 \t\r\n") + allKeys[i];
+        answer.summary.values[i] = "é歌😀 \t\r\n"_s + allKeys[i];
     answer.summary.thumbnail.fill(QColor(1, 2, 3));
     return answer;
 }
@@ -44,92 +45,85 @@ class tst_TagReaderProtocol : public QObject
     Q_OBJECT
 
 private slots:
-    void answersComeBack();
-    void requestsComeBack();
-    void nonsenseIsRefused_data();
-    void nonsenseIsRefused();
-    void textsAreBounded();
-    void messagesAreCut();
-};
-
-void tst_TagReaderProtocol::answersComeBack()
-{
-    const ReadAnswer sent = fullAnswer();
-    const auto got = parseAnswer(message(sent));
-    QVERIFY(got);
-    QCOMPARE(got->number, sent.number);
-    QCOMPARE(got->summary.failure, sent.summary.failure);
-    QCOMPARE(got->summary.duration, sent.summary.duration);
-    QVERIFY(got->summary.values == sent.summary.values);
-    QCOMPARE(got->summary.thumbnail, sent.summary.thumbnail.convertToFormat(QImage::Format_ARGB32));
-    // Cut anywhere, or with anything behind it, it is nothing.
-    const QByteArray whole = message(sent);
-    for (int size = 0; size < whole.size(); size += size < 1000 ? 1 : 97)
-        QVERIFY2(!parseAnswer(whole.left(size)), qPrintable(QString::number(size)));
-    QVERIFY(!parseAnswer(whole + 'x'));
-}
-
-void tst_TagReaderProtocol::requestsComeBack()
-{
-    const QString path = QStringLiteral("/a b/\n歌.mp3");
-    const auto got = parseRequest(encoded(ReadRequest{9, path, false}).mid(4));
-    QVERIFY(got);
-    QCOMPARE(got->number, 9U);
-    QCOMPARE(got->path, path);
-    QCOMPARE(got->decodeCover, false);
-    QVERIFY(encoded(ReadRequest{9, QString(maximumRequestBytes, QLatin1Char('a')), true}).isEmpty());
-}
-
-void tst_TagReaderProtocol::nonsenseIsRefused_data()
-{
-    QTest::addColumn<QByteArray>("message");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("as it should be") << forged(0, 0, QStringLiteral("x")) << true;
-    QTest::newRow("nothing") << QByteArray() << false;
-    QTest::newRow("a failure that only the program finds")
-        << forged(static_cast<quint8>(ReadFailure::Died), 0, QString()) << false;
-    QTest::newRow("a failure that there is not") << forged(255, 0, QString()) << false;
-    QTest::newRow("a negative duration") << forged(0, -1, QString()) << false;
-    QTest::newRow("a cover") << forged(0, 0, QString(), QSize(50, 20), 4000) << true;
-    QTest::newRow("a cover too large for a row") << forged(0, 0, QString(), QSize(51, 51), 51 * 51 * 4) << false;
-    QTest::newRow("a cover of half its pixels") << forged(0, 0, QString(), QSize(50, 20), 2000) << false;
-    QTest::newRow("a cover without size") << forged(0, 0, QString(), QSize(-1, -1), 4) << false;
-    QTest::newRow("a cover whose size overflows") << forged(0, 0, QString(), QSize(1 << 30, 4), 0) << false;
-    QByteArray longText = forged(0, 0, QString());
-    longText.replace(9, 4, QByteArray("\x7f\xff\xff\xf0", 4)); // two thousand million bytes of title
-    QTest::newRow("a text longer than the message") << longText << false;
-}
-
-void tst_TagReaderProtocol::nonsenseIsRefused()
-{
-    QFETCH(QByteArray, message);
-    QTEST(parseAnswer(message).has_value(), "valid");
-}
-
-void tst_TagReaderProtocol::textsAreBounded()
-{
-    const QString text = QStringLiteral("\x07") + QString(80'000, QLatin1Char('a')) + QChar(QChar::Null);
-    const auto answer = parseAnswer(forged(0, 0, text));
-    QVERIFY(answer);
-    QCOMPARE(*valueIn(answer->summary.values, keys::title), QString(maximumFieldLength, QLatin1Char('a')));
-    QCOMPARE(*valueIn(answer->summary.values, keys::lyrics), QString(80'000, QLatin1Char('a')));
-}
-
-void tst_TagReaderProtocol::messagesAreCut()
-{
-    MessageBuffer buffer(16);
-    const QByteArray bytes("\0\0\0\x03one\0\0\0\0\0\0\0\x03two\0\0\0\x11", 22);
-    QList<QByteArray> messages;
-    for (const char byte : bytes) {
-        buffer.append(&byte, 1);
-        while (const auto next = buffer.next())
-            messages.append(*next);
+    void answersComeBack()
+    {
+        const ReadAnswer sent = fullAnswer();
+        const auto got = parseAnswer(message(sent));
+        QVERIFY(got);
+        QCOMPARE(got->number, sent.number);
+        QCOMPARE(got->summary.failure, sent.summary.failure);
+        QCOMPARE(got->summary.duration, sent.summary.duration);
+        QVERIFY(got->summary.values == sent.summary.values);
+        QCOMPARE(got->summary.thumbnail, sent.summary.thumbnail.convertToFormat(QImage::Format_ARGB32));
+        // Cut anywhere, or with anything behind it, it is nothing.
+        const QByteArray whole = message(sent);
+        for (int size = 0; size < whole.size(); size += size < 1000 ? 1 : 97)
+            QVERIFY2(!parseAnswer(whole.left(size)), qPrintable(QString::number(size)));
+        QVERIFY(!parseAnswer(whole + 'x'));
     }
-    QCOMPARE(messages, (QList<QByteArray>{"one", "", "two"}));
-    QVERIFY(buffer.isBroken());
-    buffer.append("\0\0\0\0", 4);
-    QVERIFY(!buffer.next());
-}
+
+    void requestsComeBack()
+    {
+        const QString path = "/a b/\n歌.mp3"_s;
+        const auto got = parseRequest(encoded(ReadRequest{9, path, false}).mid(4));
+        QVERIFY(got);
+        QCOMPARE(got->number, 9U);
+        QCOMPARE(got->path, path);
+        QCOMPARE(got->decodeCover, false);
+        QVERIFY(encoded(ReadRequest{9, QString(maximumRequestBytes, QLatin1Char('a')), true}).isEmpty());
+    }
+
+    void nonsenseIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        QTest::addColumn<bool>("valid");
+        addRow("as it should be", forged(0, 0, "x"_s), true);
+        addRow("nothing", QByteArray(), false);
+        addRow("a failure that only the program finds", forged(static_cast<quint8>(ReadFailure::Died), 0, QString()),
+               false);
+        addRow("a failure that there is not", forged(255, 0, QString()), false);
+        addRow("a negative duration", forged(0, -1, QString()), false);
+        addRow("a cover", forged(0, 0, QString(), QSize(50, 20), 4000), true);
+        addRow("a cover too large for a row", forged(0, 0, QString(), QSize(51, 51), 51 * 51 * 4), false);
+        addRow("a cover of half its pixels", forged(0, 0, QString(), QSize(50, 20), 2000), false);
+        addRow("a cover without size", forged(0, 0, QString(), QSize(-1, -1), 4), false);
+        addRow("a cover whose size overflows", forged(0, 0, QString(), QSize(1 << 30, 4), 0), false);
+        QByteArray longText = forged(0, 0, QString());
+        longText.replace(9, 4, QByteArray("\x7f\xff\xff\xf0", 4)); // two thousand million bytes of title
+        addRow("a text longer than the message", longText, false);
+    }
+
+    void nonsenseIsRefused()
+    {
+        QFETCH(QByteArray, message);
+        QTEST(parseAnswer(message).has_value(), "valid");
+    }
+
+    void textsAreBounded()
+    {
+        const QString text = "\x07"_s + QString(80'000, QLatin1Char('a')) + QChar(QChar::Null);
+        const auto answer = parseAnswer(forged(0, 0, text));
+        QVERIFY(answer);
+        QCOMPARE(*valueIn(answer->summary.values, keys::title), QString(maximumFieldLength, QLatin1Char('a')));
+        QCOMPARE(*valueIn(answer->summary.values, keys::lyrics), QString(80'000, QLatin1Char('a')));
+    }
+
+    void messagesAreCut()
+    {
+        MessageBuffer buffer(16);
+        const QByteArray bytes("\0\0\0\x03one\0\0\0\0\0\0\0\x03two\0\0\0\x11", 22);
+        QList<QByteArray> messages;
+        for (const char byte : bytes) {
+            buffer.append(&byte, 1);
+            while (const auto next = buffer.next())
+                messages.append(*next);
+        }
+        QCOMPARE(messages, (QList<QByteArray>{"one", "", "two"}));
+        QVERIFY(buffer.isBroken());
+        buffer.append("\0\0\0\0", 4);
+        QVERIFY(!buffer.next());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_TagReaderProtocol)
 #include "tst_tagreaderprotocol.moc"

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "model/MainModel.h"
+#include "support/TestTable.h"
+#include "ui/LyricsExport.h"
+#include "ui/StatusLine.h"
+
+#include <QMainWindow>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QToolButton>
+
+// What the status bar tells of work that was done elsewhere.
+class tst_StatusNotices : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void savesThatWaitAreToldOf()
+    {
+        QMainWindow window;
+        StatusLine line(window.statusBar());
+        tags::MendedSaves mended;
+        mended.waiting.append("/stick/song.mp3"_s);
+        QVERIFY(!mended.isEmpty());
+        line.showSavesMended(mended);
+        const auto *dismiss = window.findChild<QToolButton *>();
+        QVERIFY(dismiss && dismiss->accessibleDescription().contains(mended.waiting.first()));
+    }
+
+    void automaticExportsThatFailAreCountedUntilTheNextExport()
+    {
+        MainModel model;
+        LyricsExport exports(&model);
+        QVector<int> failed;
+        QStringList files;
+        connect(&exports, &LyricsExport::finished, this, [&](const LyricsExport::Result &result) {
+            failed.append(result.failed);
+            files.append(result.failedFile);
+        });
+        emit model.automaticExportFailed("/m/first.txt"_s);
+        emit model.automaticExportFailed("/m/second.txt"_s);
+        QCOMPARE(failed, (QVector<int>{1, 2}));
+        QCOMPARE(files.last(), "/m/first.txt"_s);
+        exports.add({});
+        QTRY_COMPARE(failed, (QVector<int>{1, 2, 0}));
+        emit model.automaticExportFailed("/m/third.txt"_s);
+        QCOMPARE(failed.last(), 1);
+    }
+};
+
+QTEST_MAIN(tst_StatusNotices)
+#include "tst_statusnotices.moc"
