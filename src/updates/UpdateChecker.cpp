@@ -422,9 +422,11 @@ bool UpdateChecker::hasFittingRange() const
 
 void UpdateChecker::writeReceived()
 {
-    const qint64 mostBytes = m_downloadSize > 0 ? m_downloadSize : m_environment.mostSetupBytes;
+    const qint64 before = m_downloaded;
+    const qint64 limit = m_environment.mostSetupBytes;
+    const qint64 mostBytes = m_downloadSize > 0 ? std::min(m_downloadSize, limit) : limit;
     for (QByteArray data = m_reply->read(chunkBytes); !data.isEmpty(); data = m_reply->read(chunkBytes)) {
-        if (m_downloaded + data.size() > std::min(mostBytes, m_environment.mostSetupBytes)) {
+        if (m_downloaded + data.size() > mostBytes) {
             downloadFailed(tr("The setup file is larger than it should be."));
             return;
         }
@@ -434,6 +436,8 @@ void UpdateChecker::writeReceived()
         }
         m_downloaded += data.size();
     }
+    if (m_downloaded == before)
+        return;
     emit downloadedChanged();
     emit progressChanged(progressOf(m_downloaded), progressOf(m_downloadSize));
 }

@@ -36,11 +36,35 @@ QByteArray signUpdate(const QStringList &arguments)
     return script.waitForFinished() && script.exitCode() == 0 ? script.readAllStandardOutput().trimmed() : QByteArray();
 }
 
-// The maker's site, and a checker that asks it. What happens is told in `trace`: the states, "offered" when a download
-// can be chosen, "open" when a file is handed to the desktop, and "exit".
+LoopbackResponse newest(const QByteArray &version, const QByteArray &signature = {},
+                        const QByteArray &url = "SITE/files/versewell_2.0.deb")
+{
+    return LoopbackResponse::page("<UpdateInfo><VersionInfo><current>" + version + "</current><url>" + url +
+                                  "</url><signature>" + signature + "</signature></VersionInfo></UpdateInfo>");
+}
+
+LoopbackResponse setup()
+{
+    return LoopbackResponse::page(setupContent).with("ETag", "\"1\"");
+}
+
+// With one thing about it set.
+template<typename Value>
+LoopbackResponse setup(Value LoopbackResponse::*member, const Value &value)
+{
+    LoopbackResponse response = setup();
+    response.*member = value;
+    return response;
+}
+
+const LoopbackResponse hanging = setup(&LoopbackResponse::hang, true);
+const LoopbackResponse dripping = setup(&LoopbackResponse::dripInterval, std::chrono::milliseconds(20));
+const LoopbackResponse withoutLength = setup(&LoopbackResponse::untilClose, true);
+// The maker's site, which offers version 2.0, and a checker that asks it. What happens is told in `trace`: the states,
+// "offered" when a download can be chosen, "open" when a file is handed to the desktop, and "exit".
 struct Maker
 {
-    explicit Maker(const QByteArray &publicKey)
+    Maker(const QByteArray &publicKey, const QByteArray &signature)
     {
         folder.holdSettings();
         QSettings().setValue(QStringLiteral("endpoints/Maker"), site.base());
@@ -52,6 +76,8 @@ struct Maker
             opened.append(folder.read(path));
             return isOpenable;
         };
+        inform(newest("2.0", signature));
+        serve(setup());
     }
 
     void start()
@@ -109,6 +135,8 @@ struct Maker
     // Steps "slot: expected trace", joined by " | "; "quiet" and "forced" are such checks.
     void run(const QString &steps)
     {
+        if (!checker)
+            start();
         for (const QString &step : steps.split(QStringLiteral(" | "))) {
             const QString slot = step.section(QLatin1Char(':'), 0, 0);
             checker->setQuiet(slot == QLatin1String("quiet"));
@@ -131,30 +159,6 @@ struct Maker
     bool isOpenable = true;
 };
 
-LoopbackResponse newest(const QByteArray &version, const QByteArray &signature = {},
-                        const QByteArray &url = "SITE/files/versewell_2.0.deb")
-{
-    return LoopbackResponse::page("<UpdateInfo><VersionInfo><current>" + version + "</current><url>" + url +
-                                  "</url><signature>" + signature + "</signature></VersionInfo></UpdateInfo>");
-}
-
-LoopbackResponse setup()
-{
-    return LoopbackResponse::page(setupContent).with("ETag", "\"1\"");
-}
-
-// With one thing about it set.
-template<typename Value>
-LoopbackResponse setup(Value LoopbackResponse::*member, const Value &value)
-{
-    LoopbackResponse response = setup();
-    response.*member = value;
-    return response;
-}
-
-const LoopbackResponse hanging = setup(&LoopbackResponse::hang, true);
-const LoopbackResponse dripping = setup(&LoopbackResponse::dripInterval, std::chrono::milliseconds(20));
-const LoopbackResponse withoutLength = setup(&LoopbackResponse::untilClose, true);
 const QString checked = QStringLiteral("check: Checking UpdateAvailable offered");
 const QString downloaded = checked + QStringLiteral(" | download: Downloading InstallAvailable");
 const QString failed = checked + QStringLiteral(" | download: Downloading Error");
@@ -253,9 +257,8 @@ void tst_UpdateChecker::statesFollowTheSite()
     QFETCH(LoopbackResponse, setupFile);
     QFETCH(QString, steps);
     QFETCH(QString, error);
-    Maker maker(m_publicKey);
+    Maker maker(m_publicKey, m_signature);
     maker.environment.limits.total = std::chrono::seconds(2);
-    maker.start();
     maker.inform(information);
     maker.serve(setupFile);
     maker.site.routeOthers([](const LoopbackRequest &) { return hanging; });
@@ -289,11 +292,9 @@ void tst_UpdateChecker::aBadDownloadLeavesNothing()
     QFETCH(LoopbackResponse, answer);
     QFETCH(QByteArray, headLength);
     QFETCH(QString, reason);
-    Maker maker(m_publicKey);
+    Maker maker(m_publicKey, m_signature);
     maker.environment.mostSetupBytes = headLength == "0" ? 100 : 4000;
     maker.environment.limits.idle = std::chrono::seconds(1);
-    maker.start();
-    maker.inform(newest("2.0"));
     maker.serve(answer, headLength);
     maker.run(failed);
     QCOMPARE(maker.checker->error(), "Can't get update: "_s + reason);
@@ -302,9 +303,7 @@ void tst_UpdateChecker::aBadDownloadLeavesNothing()
 
 void tst_UpdateChecker::redirectsAreFollowedTwentyTimes()
 {
-    Maker maker(m_publicKey);
-    maker.start();
-    maker.serve(setup());
+    Maker maker(m_publicKey, m_signature);
     maker.inform(newest("2.0", {}, "SITE/hop/19/a"));
     maker.redirectTo("/files/versewell_2.0.deb");
     maker.run(downloaded);
@@ -327,15 +326,12 @@ void tst_UpdateChecker::redirectsAreFollowedTwentyTimes()
 
 void tst_UpdateChecker::requestsSayWhoAsks()
 {
-    Maker maker(m_publicKey);
+    Maker maker(m_publicKey, m_signature);
     maker.environment.userAgentText = "a text"_s;
     maker.environment.now = [] {
         return QDateTime(QDate(2026, 1, 2), QTime(3, 4));
     };
-    maker.start();
-    maker.serve(setup());
-    maker.inform(newest("2.0"));
-    maker.run(downloaded + " | forced: Checking UpdateAvailable offered InstallAvailable Error"_s);
+    maker.run(downloaded + " | forced: Checking UpdateAvailable offered InstallAvailable open exit"_s);
     QCOMPARE(maker.checker->lastCheck(), maker.environment.now());
     QStringList asked;
     for (const LoopbackRequest &request : maker.site.requests()) {
@@ -374,17 +370,16 @@ void tst_UpdateChecker::onlyWhatTheMakerSignedIsOpened()
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, signature);
     QFETCH(QByteArray, key);
-    Maker maker(key);
+    Maker maker(key, signature);
     if (key.isEmpty())
         maker.environment.keys.clear();
-    maker.start();
     maker.inform(newest(version.toLatin1(), signature));
     maker.serve(LoopbackResponse::page(content));
     maker.run(downloaded + " | install: Error | install:"_s);
     QCOMPARE(maker.checker->error(), "Can't install update"_s);
     // It is downloaded again, and then good.
     maker.environment.keys = {QByteArray::fromBase64(m_publicKey)};
-    maker.start();
+    maker.checker.reset();
     maker.inform(newest("2.0", m_signature));
     maker.serve(setup());
     const bool isKept = key.isEmpty() || signature.isEmpty(); // as nothing speaks against it
@@ -395,11 +390,8 @@ void tst_UpdateChecker::onlyWhatTheMakerSignedIsOpened()
 
 void tst_UpdateChecker::aFileIsOpenedAsItWasChecked()
 {
-    Maker maker(m_publicKey);
+    Maker maker(m_publicKey, m_signature);
     maker.isOpenable = false;
-    maker.start();
-    maker.inform(newest("2.0", m_signature));
-    maker.serve(setup());
     maker.run(downloaded + " | install: open Error | check: Checking UpdateAvailable offered InstallAvailable"_s);
     // The same content, which somebody else has a name for.
     const QString path = maker.folder.path(maker.fileName(setupName));
@@ -463,14 +455,12 @@ void tst_UpdateChecker::theRestIsAskedForWhenItFits()
     QFETCH(LoopbackResponse, before);
     QFETCH(LoopbackResponse, later);
     QFETCH(QString, version);
-    Maker maker(m_publicKey);
-    maker.start();
-    maker.inform(newest("2.0"));
+    Maker maker(m_publicKey, m_signature);
     maker.serve(before);
     maker.run(checked + " | download: Downloading"_s);
     QTRY_VERIFY(maker.checker->downloaded() > 9);
     maker.run("abortDownload: offered UpdateAvailable"_s);
-    maker.start(); // as after a restart of the program
+    maker.checker.reset(); // as when the program starts again
     maker.inform(newest(version.toLatin1()));
     maker.site.forgetRequests();
     QStringList requests;
@@ -496,10 +486,7 @@ void tst_UpdateChecker::theRestIsAskedForWhenItFits()
 
 void tst_UpdateChecker::linksAreNotFollowed()
 {
-    Maker maker(m_publicKey);
-    maker.start();
-    maker.inform(newest("2.0", m_signature));
-    maker.serve(setup());
+    Maker maker(m_publicKey, m_signature);
     const QString precious = maker.folder.write("precious"_s, setupContent);
     for (const QString &end : {""_s, ".part"_s, ".part.source"_s}) {
         const QString link = maker.folder.path(maker.fileName(setupName + end));
@@ -516,10 +503,7 @@ void tst_UpdateChecker::linksAreNotFollowed()
 
 void tst_UpdateChecker::aFolderThatIsALinkIsNotUsed()
 {
-    Maker maker(m_publicKey);
-    maker.start();
-    maker.inform(newest("2.0"));
-    maker.serve(setup());
+    Maker maker(m_publicKey, m_signature);
     maker.folder.write("photos/holiday 1.2.jpg"_s);
     QVERIFY(QFile::link(maker.folder.path("photos"_s), maker.folder.path("Update"_s)));
     maker.run("check: Checking Error | download:"_s);
@@ -529,9 +513,7 @@ void tst_UpdateChecker::aFolderThatIsALinkIsNotUsed()
 
 void tst_UpdateChecker::aFullDiskCostsNothing()
 {
-    Maker maker(m_publicKey);
-    maker.start();
-    maker.inform(newest("2.0"));
+    Maker maker(m_publicKey, m_signature);
     maker.serve(LoopbackResponse::page(QByteArray(200000, 'a')));
     maker.run(checked);
     std::signal(SIGXFSZ, SIG_IGN);
@@ -547,8 +529,7 @@ void tst_UpdateChecker::aFullDiskCostsNothing()
 
 void tst_UpdateChecker::whatIsOldIsRemoved()
 {
-    Maker maker(m_publicKey);
-    maker.start();
+    Maker maker(m_publicKey, m_signature);
     maker.inform(newest("1.0"));
     const QStringList kept{"a-1.9.10.deb"_s, "a-2.0.deb.part"_s, "a2.deb"_s, "b"_s};
     for (const QString &name : kept + QStringList{"a-1.9.9.deb"_s, "a-1.9.deb.part"_s, ".a-1.8.deb"_s, "c-1.0/d/e"_s})
@@ -563,8 +544,7 @@ void tst_UpdateChecker::whatIsOldIsRemoved()
 
 void tst_UpdateChecker::noSiteIsAskedWhereThereIsNone()
 {
-    Maker maker(m_publicKey);
-    maker.start();
+    Maker maker(m_publicKey, m_signature);
     QSettings().setValue("endpoints/Maker"_s, "https://maker.example"_s);
     reloadEndpoints();
     maker.run("quiet: Checking UpToDate | check: Checking Error"_s);
