@@ -26,7 +26,7 @@ Rectangle {
     }
 
     function takeFocus() {
-        if (emptyList.visible && !emptyList.allHidden)
+        if (songs.count === 0 && !emptyList.allHidden)
             emptyList.takeFocus();
         else
             songs.takeFocus();

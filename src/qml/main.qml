@@ -13,6 +13,8 @@ Rectangle {
     property int listWidth: Measures.listWidth
     // The version of Qt as one number; 0 until the window sets it.
     property int qtVersion: 0
+    // Whether the window waits for a dialog; set by the window.
+    property bool blocked: false
     // Null while the window goes.
     readonly property var edit: mainWindow ? mainWindow.lyricsEdit : null
     // Null where nobody is to be asked whether usage events may be sent.
@@ -136,22 +138,25 @@ Rectangle {
 
     Shortcut {
         sequence: "F2"
+        enabled: !root.blocked
         onActivated: root.editLyrics()
     }
 
     Shortcut {
         sequence: "Ctrl+S"
+        enabled: !root.blocked
         onActivated: root.saveLyrics()
     }
 
     Shortcut {
         sequence: "Ctrl+R"
+        enabled: !root.blocked
         onActivated: root.forceSearch()
     }
 
     Shortcut {
         sequence: "Escape"
-        enabled: root.edit !== null && root.edit.active
+        enabled: !root.blocked && root.edit !== null && root.edit.active
         onActivated: root.leaveEdit()
     }
 

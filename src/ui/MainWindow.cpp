@@ -23,12 +23,12 @@
 #include "updates/Updater.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
@@ -187,10 +187,9 @@ void MainWindow::showEvent(QShowEvent *event)
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == windowHandle() && event->type() == QEvent::ShortcutOverride && QApplication::activeModalWidget()) {
-        event->accept();
-        return true;
-    }
+    const bool isBlocked = event->type() == QEvent::WindowBlocked;
+    if (watched == windowHandle() && (isBlocked || event->type() == QEvent::WindowUnblocked))
+        m_scene->setBlocked(isBlocked);
     return QMainWindow::eventFilter(watched, event);
 }
 

@@ -126,7 +126,7 @@ signals:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    // Keeps shortcuts from a window that waits for a dialog, which may not have the keyboard yet.
+    // Tells the scene when a dialog blocks the window: its shortcuts would work on behind it.
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 

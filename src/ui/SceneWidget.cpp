@@ -110,6 +110,12 @@ void SceneWidget::setListWidth(int width)
         rootObject()->setProperty(listWidthName, width);
 }
 
+void SceneWidget::setBlocked(bool blocked)
+{
+    if (rootObject())
+        rootObject()->setProperty("blocked", blocked);
+}
+
 int SceneWidget::leastWidth() const
 {
     return rootObject() ? rootObject()->property("leastWidth").toInt() : 0;
@@ -133,7 +139,8 @@ bool SceneWidget::focusNextPrevChild(bool next)
     QQuickItem *first = firstTabStop();
     if (!current || !first)
         return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): past the scene
-    const bool isAtEnd = next ? current->nextItemInFocusChain(true) == first : current == first;
+    QQuickItem *beyond = next ? first : first->nextItemInFocusChain(false);
+    const bool isAtEnd = current->nextItemInFocusChain(next) == beyond;
     // NOLINTNEXTLINE(bugprone-parent-virtual-call): QQuickWidget would keep the keyboard in the scene
     return isAtEnd ? QWidget::focusNextPrevChild(next) : QQuickWidget::focusNextPrevChild(next);
 }

@@ -33,6 +33,9 @@ public:
     [[nodiscard]] int listWidth() const;
     void setListWidth(int width);
 
+    // While the window is blocked by a dialog, the scene's shortcuts do nothing.
+    void setBlocked(bool blocked);
+
     // Leaves Del and Ctrl+A to the text of the scene that has the focus, although actions of the window have them as
     // shortcuts. Texts that can be edited ask for these keys by themselves, those that can only be read do not (Qt
     // 5.15): Del in the lyrics would remove songs from the list.

@@ -6,14 +6,13 @@
 #include "model/ProxyModel.h"
 #include "network/Endpoints.h"
 #include "settings/Settings.h"
+#include "support/TestTable.h"
 #include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
-#include "ui/LyricsEdit.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -26,7 +25,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QQuickWidget>
+#include <QQuickWindow>
 #include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
@@ -59,10 +58,10 @@ public:
     BrowserStandIn() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
     ~BrowserStandIn() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
 
-    QList<QUrl> urls;
+    QList<QByteArray> pages;
 
 public slots:
-    void open(const QUrl &url) { urls.append(url); }
+    void open(const QUrl &url) { pages.append(url.toEncoded()); }
 };
 
 } // namespace
@@ -72,39 +71,676 @@ class tst_MainWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void theSceneShowsTheSongs();
-    void theKeyboardReachesListAndLyrics();
-    void keysOfTheEditWorkFromTheList();
-    void theStatusBarSaysWhatIsGoingOn();
-    void noticesStandSideBySide();
-    void geometryAndPaneComeBack_data();
-    void geometryAndPaneComeBack();
-    void theMenusHaveTheirActions();
-    void textsHaveTheirKeysForThemselves_data();
-    void textsHaveTheirKeysForThemselves();
-    void filesAndFoldersAreDropped();
-    void theDialogsRememberTheirFolders();
-    void aSongIsTakenToClipboardAndBrowser();
-    void coloursFollowThePalette();
-    void quittingAsksWhileSongsAreSearchedFor_data();
-    void quittingAsksWhileSongsAreSearchedFor();
-    void aDraftIsAskedAbout_data();
-    void aDraftIsAskedAbout();
-    void aRightClickAwayFromADraftAsksAndOpensNoMenu();
-    void escapeOutsideTheLyricsAsksFirst();
-    void anUnchangedDraftGoesQuietly();
-    void rowsAreSelectedHiddenAndRemovedByKey();
-    void theListIsSavedWhenThatIsWanted_data();
-    void theListIsSavedWhenThatIsWanted();
+    void initTestCase()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
+        QCoreApplication::setOrganizationName("Quillmarsh"_s);
+        QCoreApplication::setApplicationName("Versewell"_s);
+        QCoreApplication::setApplicationVersion("1.5.6"_s);
+        qputenv("QMLSCENE_DEVICE", "softwarecontext");
+    }
+
+    void init()
+    {
+        QSettings().clear();
+        reloadEndpoints();
+        warnings.clear();
+        m_handler = qInstallMessageHandler(noteWarnings);
+        m_settings = std::make_unique<Settings>();
+        m_model = std::make_unique<MainModel>();
+        m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
+        m_proxy = std::make_unique<ProxyModel>();
+        m_proxy->setSourceModel(m_model.get());
+        m_scanner = std::make_unique<FolderScanner>();
+        openWindow();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_proxy.reset();
+        m_model.reset();
+        qInstallMessageHandler(m_handler);
+        QCOMPARE(warnings.filter("qml"_s), QStringList());
+    }
+
+    void theSceneShowsTheSongs()
+    {
+        QCOMPARE(m_window->sceneErrors(), QString());
+        m_model->add({sample("lyrics.mp3"), sample("untagged.mp3")});
+        QTRY_COMPARE(song(1)->processState(), ModelItem::ProcessNotSuitable);
+        m_proxy->setCurrentIndex(0);
+        QCOMPARE(textOf("lyricsText"), song(0)->lyricsTag());
+        song(0)->setEditedLyricsTag("<b>bold</b>"_s);
+        QCOMPARE(textOf("lyricsText"), "<b>bold</b>"_s);
+        QCOMPARE(part("lyricsText")->property("textFormat").toInt(), int(Qt::PlainText));
+        m_proxy->setCurrentIndex(1);
+        QCOMPARE(textOf("stateLine"), "A search needs an artist and a title."_s);
+        song(1)->setProcessState(ModelItem::ProcessComplete);
+        song(1)->setErrorString("<i>the site is down</i>"_s);
+        QCOMPARE(textOf("stateLine"), "<i>the site is down</i>"_s);
+        QCOMPARE(part("stateLine")->property("textFormat").toInt(), int(Qt::PlainText));
+        m_model->removeAll();
+        QTRY_VERIFY(!part("lyricsText")->isVisible());
+    }
+
+    void theKeyboardReachesListLyricsAndButtons()
+    {
+        m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
+        QTRY_VERIFY(song(2)->tagsLoaded());
+        song(0)->setEditedLyricsTag("la\n"_s.repeated(500));
+        QQuickItem *list = part("songList");
+        QQuickItem *lyrics = part("lyricsText");
+        const auto top = [lyrics] {
+            return lyrics->mapToScene({0, 0}).y();
+        };
+        // The way round leads through the window's own buttons, in both directions.
+        const auto goTo = [this](QQuickItem *item, Qt::Key key) {
+            bool reachedGear = false;
+            for (int tabs = 0; tabs < 40 && !item->hasActiveFocus(); ++tabs) {
+                press(key);
+                reachedGear = reachedGear || QApplication::focusWidget()->objectName() == QLatin1String("gearButton");
+            }
+            return item->hasActiveFocus() && reachedGear;
+        };
+        press(Qt::Key_End);
+        QCOMPARE(m_proxy->currentIndex(), 2);
+        press(Qt::Key_Up);
+        press(Qt::Key_Home);
+        QCOMPARE(m_proxy->currentIndex(), 0);
+        const double atBeginning = top();
+        QVERIFY(!goTo(lyrics, Qt::Key_Tab) && lyrics->hasActiveFocus());
+        press(Qt::Key_PageDown);
+        QVERIFY(top() < atBeginning - 100);
+        QVERIFY(goTo(list, Qt::Key_Tab));
+        QVERIFY(goTo(lyrics, Qt::Key_Backtab));
+        QVERIFY(!goTo(list, Qt::Key_Backtab) && list->hasActiveFocus());
+        press(Qt::Key_Down);
+        QCOMPARE(m_proxy->currentIndex(), 1);
+        QCOMPARE(top(), atBeginning); // another song begins at its beginning
+    }
+
+    void keysOfTheEditWorkFromTheList()
+    {
+        m_model->add({sample("lyrics.mp3")});
+        QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+        press(Qt::Key_F2);
+        QTRY_VERIFY(m_window->lyricsEdit()->active());
+        part("titleField")->forceActiveFocus();
+        press(Qt::Key_X);
+        press(Qt::Key_Escape);
+        QVERIFY(m_window->lyricsEdit()->active()); // the first Escape was the field's
+        QVERIFY(!part("titleField")->property("pending").toBool());
+        part("songList")->forceActiveFocus();
+        press(Qt::Key_Escape);
+        QVERIFY(!m_window->lyricsEdit()->active());
+    }
+
+    // A dialog that has just been opened need not have the keyboard yet.
+    void keysWaitBehindADialog()
+    {
+        addCopies(2);
+        action("actionAddFile")->trigger();
+        m_window->windowHandle()->requestActivate();
+        QTRY_COMPARE(QGuiApplication::focusWindow(), m_window->windowHandle());
+        press(Qt::Key_Delete);
+        press(Qt::Key_F2);
+        press(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(m_model->rowCount(), 2);
+        QVERIFY(!m_window->lyricsEdit()->active());
+        QCOMPARE(m_window->findChildren<QFileDialog *>().size(), 1);
+        m_window->findChild<QFileDialog *>()->reject();
+        QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
+        press(Qt::Key_F2);
+        QVERIFY(m_window->lyricsEdit()->active());
+    }
+
+    void theStatusBarSaysWhatIsGoingOn()
+    {
+        const auto *progress = m_window->findChild<QProgressBar *>();
+        QTRY_VERIFY(!progress->isVisible());
+        addCopies(4);
+        for (int row = 0; row < 4; ++row)
+            song(row)->setProcessState(ModelItem::ProcessWaiting);
+        QTRY_VERIFY(labels().contains("Searching... 4 left..."_s));
+        song(0)->setProcessState(ModelItem::ProcessComplete);
+        QTRY_VERIFY(labels().contains("Searching... 3 left..."_s));
+        QTRY_VERIFY(progress->isVisible());
+        QTRY_COMPARE(progress->maximum() - progress->value(), 3);
+        QVERIFY(progress->value() >= 1);
+        m_model->removeAll();
+        QTRY_VERIFY(!progress->isVisible());
+    }
+
+    void noticesStandSideBySide()
+    {
+        const auto exportLyrics = [this] {
+            action("actionExportLyrics")->trigger();
+        };
+        addCopies(3);
+        m_window->showSettingsDamaged("/home/<b>x</b>"_s);
+        emit m_model->filesLeftOut(4);
+        emit m_model->filesLeftOut(3);
+        m_proxy->selectAll();
+        exportLyrics();
+        QTRY_VERIFY(labels().contains("There are no lyrics to export"_s));
+        for (int row = 0; row < 3; ++row)
+            song(row)->setEditedLyricsTag("la"_s);
+        // A folder stands where the text file would.
+        QVERIFY(QDir(m_songs->path()).mkdir("1.txt"_s));
+        exportLyrics();
+        QTRY_VERIFY(labels().contains("The lyrics could not be written to "_s + m_songs->filePath("1.txt"_s)));
+        QVERIFY(QFile::exists(m_songs->filePath("2.txt"_s)));
+        QVERIFY(QFile::remove(m_songs->filePath("0.txt"_s)));
+        QVERIFY(QDir(m_songs->path()).mkdir("0.txt"_s));
+        exportLyrics();
+        QTRY_VERIFY(labels().contains("The lyrics of 2 song(s) could not be exported"_s));
+        QVERIFY(labels().contains("The list is full. Files left out: 7"_s));
+        QCOMPARE(labels().filter("settings file"_s).size(), 1);
+        QVERIFY(m_window->minimumSizeHint().width() < 640);
+        for (QToolButton *button : m_window->findChildren<QToolButton *>()) {
+            if (button->accessibleDescription().contains("settings file"_s))
+                button->click();
+        }
+        QTRY_COMPARE(labels().filter("settings file"_s).size(), 0);
+    }
+
+    void geometryAndPaneComeBack_data()
+    {
+        QTest::addColumn<QRect>("place");
+        QTest::addColumn<bool>("maximized");
+        addRow("a place on the screen", QRect(50, 60, 700, 500), false);
+        addRow("maximized", QRect(50, 60, 700, 500), true);
+        addRow("off the screen", QRect(5000, 4000, 700, 500), false);
+    }
+
+    void geometryAndPaneComeBack()
+    {
+        QFETCH(QRect, place);
+        QFETCH(bool, maximized);
+        m_window->setGeometry(place);
+        if (maximized)
+            m_window->showMaximized();
+        scene()->rootObject()->setProperty("listWidth", 321);
+        m_window.reset();
+        m_model->add({sample("lyrics.mp3")});
+        openWindow();
+        QTRY_COMPARE(m_window->isMaximized(), maximized);
+        QTRY_COMPARE(m_window->normalGeometry().size(), place.size());
+        const QRect screen = m_window->screen()->availableGeometry();
+        QVERIFY(screen.intersects(m_window->geometry()));
+        if (screen.contains(place))
+            QCOMPARE(m_window->normalGeometry(), place);
+        QTRY_COMPARE(textOf("lyricsText"), song(0)->lyricsTag());
+        QCOMPARE(scene()->rootObject()->property("listWidth").toInt(), 321);
+        QCOMPARE(part("songList")->width(), 321.0);
+    }
+
+    void nothingIsCutAtTheLeastSize()
+    {
+        addCopies(1);
+        scene()->rootObject()->setProperty("listWidth", 900);
+        m_window->resize(1, 1);
+        QTRY_COMPARE(m_window->size(), m_window->minimumSize());
+        QTRY_VERIFY(part("lyricsItem")->mapRectToScene(part("lyricsItem")->boundingRect()).right() <= scene()->width());
+        QVERIFY(part("songList")->width() >= 200 && part("lyricsItem")->width() >= 260);
+        QVERIFY(m_window->width() <= 640 && m_window->height() <= 400);
+    }
+
+    void theMenusHaveTheirActions()
+    {
+        QStringList menus;
+        for (const QAction *title : m_window->menuBar()->actions()) {
+            QStringList entries;
+            for (const QAction *entry : title->menu()->actions())
+                entries.append(entry->text() + entry->shortcut().toString());
+            menus.append(title->text() + QLatin1String(": ") + entries.join(QLatin1Char('|')));
+        }
+        QCOMPARE(menus,
+                 QStringList({"File: Add fileCtrl+O|Add folder||Export lyrics to TXT file||Preferences|Quit"_s,
+                              "Edit: Select allCtrl+A||Remove selectedDel|Remove with lyricsMeta+Alt+Del||Clear list"_s,
+                              "View: Hide file(s) with lyricsCtrl+L"_s, "Help: About"_s}));
+        QVERIFY(!action("actionAddFile")->icon().isNull());
+        QCOMPARE(action("actionTwitter")->toolTip(), "Twitter"_s);
+        m_proxy->setShowFound(false);
+        QVERIFY(action("actionHideWithLyrics")->isChecked());
+    }
+
+    void textsHaveTheirKeysForThemselves_data()
+    {
+        addTextColumns("element", "afterDelete");
+        addRow("a field", "TextInput {", "bc");
+        addRow("a text that is edited", "TextEdit {", "bc");
+        addRow("a text that is only read", "TextEdit { readOnly: true; selectByKeyboard: true;", "abc");
+    }
+
+    void textsHaveTheirKeysForThemselves()
+    {
+        QFETCH(QString, element);
+        QFETCH(QString, afterDelete);
+        addCopies(2);
+        QQmlComponent component(scene()->engine());
+        component.setData("import QtQuick 2.15\n" + element.toUtf8() + " text: 'abc' }", QUrl());
+        const std::unique_ptr<QObject> object(component.create());
+        auto *text = qobject_cast<QQuickItem *>(object.get());
+        QVERIFY(text);
+        text->setParentItem(scene()->rootObject());
+        text->forceActiveFocus();
+        text->setProperty("cursorPosition", 0);
+        press(Qt::Key_Delete);
+        QCOMPARE(m_model->rowCount(), 2);
+        QCOMPARE(text->property("text").toString(), afterDelete);
+        press(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(text->property("selectedText").toString(), afterDelete);
+        QCOMPARE(m_proxy->selectedCount(), 1);
+        press(Qt::Key_Backspace);
+        QCOMPARE(m_model->rowCount(), 2);
+        text->setParentItem(nullptr);
+        part("songList")->forceActiveFocus();
+        press(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(m_proxy->selectedCount(), 2);
+    }
+
+    void filesAndFoldersAreDropped()
+    {
+        QSignalSpy scans(m_model.get(), &MainModel::scanFolders);
+        m_model->setSupportedExtensions({"mp3"_s});
+        const QUrl folder = QUrl::fromLocalFile(m_folder.path());
+        QMimeData data;
+        data.setUrls({sample("lyrics.mp3"), folder, QUrl("http://127.0.0.1/a.mp3"_s)});
+        const QPoint middle = scene()->rect().center();
+        QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(scene(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(scene(), &drop);
+        QVERIFY(drop.isAccepted());
+        QTRY_COMPARE(scans.value(0).value(0).value<QList<QUrl>>(), QList<QUrl>{folder});
+        QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
+    }
+
+    void theDialogsRememberTheirFolders()
+    {
+        m_model->setSupportedExtensions({"mp3"_s, "ogg"_s});
+        const QString folder = QFileInfo(sample("lyrics.mp3").toLocalFile()).path();
+        QFileDialog *dialog = nullptr;
+        const auto open = [&](const char *name) {
+            action(name)->trigger();
+            dialog = m_window->findChild<QFileDialog *>();
+        };
+        const auto close = [&] {
+            dialog->reject();
+            QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
+        };
+        open("actionAddFile");
+        QCOMPARE(dialog->nameFilters(), QStringList{"Audio files (*.mp3 *.ogg)"_s});
+        close();
+        QVERIFY(!QSettings().contains("lastFileDir"_s));
+        open("actionAddFile");
+        emit dialog->filesSelected({sample("lyrics.mp3").toLocalFile(), sample("plain.flac").toLocalFile()});
+        close();
+        QTRY_COMPARE(m_model->rowCount(), 2);
+        QCOMPARE(QSettings().value("lastFileDir"_s).toString(), folder);
+        open("actionAddFile");
+        QCOMPARE(dialog->directory().absolutePath(), folder);
+        close();
+
+        QSignalSpy scans(m_scanner.get(), &FolderScanner::found);
+        m_scanner->setTypes({"flac"_s});
+        open("actionAddFolder");
+        emit dialog->fileSelected(folder);
+        close();
+        QCOMPARE(QSettings().value("lastFolderDir"_s).toString(), folder);
+        QVERIFY(!scans.isEmpty() || scans.wait());
+        QVERIFY(scans.at(0).at(0).value<QList<QUrl>>().contains(sample("plain.flac")));
+    }
+
+    void aSongIsTakenToClipboardAndBrowser()
+    {
+        BrowserStandIn browser;
+        QClipboard *clipboard = QGuiApplication::clipboard();
+        addCopies(2);
+        song(1)->setEditedLyricsTag("la"_s);
+        m_window->copyPathToClipboard(1);
+        QCOMPARE(clipboard->text(), song(1)->url().toLocalFile());
+        m_window->listLyricsToClipboard(song(1)->id());
+        m_window->listLyricsToClipboard(song(0)->id()); // no lyrics
+        m_window->listLyricsToClipboard(song(0)->id() + 65536);
+        m_window->copyPathToClipboard(-1);
+        m_window->copyPathToClipboard(2);
+        QCOMPARE(clipboard->text(), "la"_s);
+        m_window->searchLyricsInBrowser(0); // no names
+        m_window->searchLyricsInBrowser(7);
+        m_window->searchLyricsInBrowser(QUrl("file:///nowhere.mp3"_s));
+        QVERIFY(browser.pages.isEmpty());
+        song(0)->setTitleTag("R&B"_s);
+        song(1)->setTitleTag("T"_s);
+        song(1)->setArtistTag("A"_s);
+        m_settings->setSearchProvider("Nosuch"_s);
+        QVERIFY(textOf("browserButton").endsWith("Google"_s));
+        m_window->searchLyricsInBrowser(0);
+        m_settings->setSearchProvider("Yahoo"_s);
+        QVERIFY(textOf("browserButton").endsWith("Yahoo"_s));
+        m_window->searchLyricsInBrowser(song(1)->url());
+        m_window->on_actionFacebook_triggered(); // there is no site of the maker
+        QCOMPARE(browser.pages.size(), 2);
+        QVERIFY(browser.pages.at(0).endsWith("/search?q=R%26B"));
+        QVERIFY(browser.pages.at(1).endsWith("/search?p=A%20T"));
+        QSettings().setValue("endpoints/Maker"_s, "https://127.0.0.1"_s);
+        reloadEndpoints();
+        m_window->on_actionFacebook_triggered();
+        m_window->on_actionWebsite_triggered();
+        QCOMPARE(browser.pages.at(2),
+                 QByteArray("https://127.0.0.1/facebook/?zv_product=versewell&zv_version=1.5.6&zv_source=app"));
+        QVERIFY(browser.pages.last().endsWith("&zv_source=app-statusbar"));
+    }
+
+    void coloursFollowThePalette()
+    {
+        const auto color = [this] {
+            return scene()->rootObject()->property("color").value<QColor>();
+        };
+        const QColor before = color();
+        m_palette.setPalette(QPalette(Qt::darkBlue));
+        QVERIFY(color() != before);
+        QCOMPARE(color(), QPalette(Qt::darkBlue).color(QPalette::Window));
+        m_palette.setPalette(QPalette());
+    }
+
+    void withoutItsModuleThePreviewAloneIsLost()
+    {
+        QFile player(m_folder.filePath("Player.qml"_s));
+        QVERIFY(player.open(QIODevice::WriteOnly) && player.write("import NoSuchModule 1.0\nMediaPlayer {}\n") > 0);
+        player.close();
+        part("audioPreview")->setProperty("playerDocument", QUrl::fromLocalFile(player.fileName()));
+        m_model->add({sample("lyrics.mp3")});
+        QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+        QVERIFY(QMetaObject::invokeMethod(part("audioPreview"), "toggle"));
+        QVERIFY(part("audioPreview")->property("missing").toBool());
+        QVERIFY(!part("playButton")->isEnabled());
+        QCOMPARE(textOf("lyricsText"), song(0)->lyricsTag());
+        QCOMPARE(warnings.filter("\"NoSuchModule\" is not installed"_s).size(), warnings.size());
+        warnings.clear();
+    }
+
+    void allSelectedSongsAreSearchedForAgain()
+    {
+        m_model->setAutoStart(false);
+        QList<QUrl> urls;
+        for (int i = 0; i < 3000; ++i)
+            urls.append(QUrl::fromLocalFile("/gone/A - %1.mp3"_s.arg(i)));
+        m_model->add(urls, MainModel::IsRegularFile);
+        QTRY_COMPARE(m_model->rowCount(), 3000);
+        m_proxy->selectAll();
+        press(Qt::Key_R, Qt::ControlModifier);
+        m_model->removeRows(2999, 1); // perhaps before its turn
+        for (int row = 0; row < 2999; ++row)
+            QTRY_VERIFY(song(row)->processState() != ModelItem::ProcessIdle);
+    }
+
+    void theListKeepsItsPlaceWhenManySongsGo()
+    {
+        m_model->setAutoStart(false);
+        QList<QUrl> urls;
+        QVector<int> odd;
+        for (int i = 0; i < 400; ++i) {
+            urls.append(QUrl::fromLocalFile("/gone/%1.mp3"_s.arg(i)));
+            if (i % 2 == 1)
+                odd.append(i);
+        }
+        m_model->add(urls, MainModel::IsRegularFile);
+        m_proxy->setCurrentIndex(60);
+        part("songList")->setProperty("contentY", 1500);
+        QSignalSpy resets(m_proxy.get(), &QAbstractItemModel::modelReset);
+        m_model->removeScattered(odd);
+        QCOMPARE(resets.count(), 1);
+        QCOMPARE(m_proxy->currentItem()->url(), urls.at(60));
+        QTRY_COMPARE(part("songList")->property("contentY").toInt(), 1500);
+        QCOMPARE(part("songList")->property("currentIndex").toInt(), 30);
+    }
+
+    void quittingAsksWhileSongsAreSearchedFor_data()
+    {
+        QTest::addColumn<int>("active");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("quits");
+        addRow("nothing is searched for", 0, "", true);
+        addRow("yes", 3, "&Yes", true);
+        addRow("no", 3, "&No", false);
+        addRow("Escape", 3, "Escape", false);
+        addRow("the last search ends", 3, "end", true);
+    }
+
+    void quittingAsksWhileSongsAreSearchedFor()
+    {
+        QFETCH(int, active);
+        QFETCH(QString, answer);
+        QFETCH(bool, quits);
+        addCopies(3);
+        for (int row = 0; row < active; ++row)
+            song(row)->setProcessState(ModelItem::ProcessWaiting);
+        m_window->close();
+        auto *box = m_window->findChild<ExitWidget *>();
+        QCOMPARE(box != nullptr, active > 0);
+        if (box) {
+            QVERIFY(m_window->isVisible() && box->isVisible());
+            m_window->quit_app(); // once more
+            QVERIFY(labels().contains("Search for 3 songs is currently in progress."_s));
+            song(0)->setProcessState(ModelItem::ProcessComplete);
+            QVERIFY(labels().contains("Search for 2 songs is currently in progress."_s));
+            if (answer == "Escape"_s)
+                QTest::keyClick(box, Qt::Key_Escape);
+            for (QPushButton *button : box->findChildren<QPushButton *>()) {
+                QVERIFY(button->icon().isNull());
+                if (button->text() == answer)
+                    button->click();
+            }
+            if (answer == "end"_s)
+                m_model->removeAll();
+            QVERIFY(!box->isVisible());
+        }
+        QCOMPARE(m_window->isVisible(), !quits);
+        QTimer::singleShot(quits ? 5000 : 100, qApp, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), quits ? 0 : 1);
+    }
+
+    void aDraftIsAskedAbout_data()
+    {
+        QTest::addColumn<QString>("cause");
+        QTest::addColumn<int>("rowsLeft");
+        addRow("another row", "row", 3);
+        addRow("several rows", "several", 3);
+        addRow("the song is filtered away", "filter", 3);
+        addRow("removed by key", "key", 2);
+        addRow("the list is cleared", "actionClearList", 0);
+        addRow("removed with all that have lyrics", "actionRemoveWithLyrics", 2);
+        addRow("the window is closed", "close", 3);
+    }
+
+    void aDraftIsAskedAbout()
+    {
+        QFETCH(QString, cause);
+        QFETCH(int, rowsLeft);
+        LyricsEdit *edit = m_window->lyricsEdit();
+        addCopies(3);
+        const QUrl url = song(1)->url();
+        song(1)->setEditedLyricsTag("old"_s);
+        const auto act = [&] {
+            part("songList")->forceActiveFocus();
+            if (cause == "row"_s)
+                m_proxy->setCurrentIndex(0);
+            else if (cause == "several"_s)
+                m_proxy->selectAll();
+            else if (cause == "filter"_s)
+                m_proxy->setShowFound(false);
+            else if (cause == "key"_s)
+                press(Qt::Key_Delete);
+            else if (cause == "close"_s)
+                m_window->close();
+            else
+                action(qPrintable(cause))->trigger();
+        };
+        beginDraft(1);
+        part("artistField")->forceActiveFocus();
+        press(Qt::Key_N);
+        act();
+        answer(QMessageBox::Cancel);
+        QVERIFY(part("lyricsText")->hasActiveFocus());
+        press(Qt::Key_Backspace); // for the draft, not for the list
+        press(Qt::Key_X);
+        QVERIFY(edit->modified() && edit->text().contains(QLatin1Char('x')));
+        QCOMPARE(m_model->rowCount(), 3);
+        QVERIFY(m_window->isVisible() && !question());
+        QCOMPARE(m_proxy->currentItem(), song(1));
+        QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{song(1)->id()});
+        QCOMPARE(textOf("artistField"), "n"_s); // a name that was typed is still there as well
+        act();
+        answer(QMessageBox::Discard);
+        QVERIFY(!edit->active());
+        QCOMPARE(m_model->rowCount(), rowsLeft);
+        QCOMPARE(m_window->isVisible(), cause != "close"_s);
+        if (rowsLeft < 3 || !m_window->isVisible())
+            return;
+        QCOMPARE(song(1)->lyricsTag(), "old"_s);
+        m_proxy->setShowFound(true);
+        beginDraft(1);
+        part("artistField")->forceActiveFocus();
+        press(Qt::Key_Z);
+        act();
+        answer(QMessageBox::Save);
+        QTRY_COMPARE(song(1)->processState(), ModelItem::ProcessComplete);
+        MainModel again;
+        again.setReaderProgram(QStringLiteral(VERSEWELL_READER));
+        again.add({url});
+        QTRY_COMPARE(again.itemAt(0)->lyricsTag(), "new"_s);
+        QCOMPARE(again.itemAt(0)->artistTag(), "z"_s);
+    }
+
+    void aRightClickAwayFromADraftAsksAndOpensNoMenu()
+    {
+        addCopies(3);
+        beginDraft(0);
+        QTest::mouseClick(scene(), Qt::RightButton, {}, QPoint(150, 150));
+        QTRY_VERIFY(question());
+        const auto *menu = scene()->rootObject()->findChild<QObject *>("songMenu"_s);
+        QVERIFY(!menu->property("__popupVisible").toBool());
+        m_window->lyricsEdit()->cancel(); // behind the question, whose answer counts nevertheless
+        question()->button(QMessageBox::Save)->click();
+        QCOMPARE(song(0)->lyricsTag(), "new"_s);
+        QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+    }
+
+    void escapeOutsideTheLyricsAsksFirst()
+    {
+        addCopies(1);
+        beginDraft(0);
+        part("songList")->forceActiveFocus();
+        press(Qt::Key_Escape);
+        answer(QMessageBox::Cancel);
+        QCOMPARE(m_window->lyricsEdit()->text(), "new"_s);
+        m_window->lyricsEdit()->cancel();
+    }
+
+    void anUnchangedDraftGoesQuietly()
+    {
+        LyricsEdit *edit = m_window->lyricsEdit();
+        addCopies(3);
+        m_proxy->setCurrentIndex(1);
+        edit->begin(song(1));
+        m_model->removeRows(0, 1); // another song goes: the edited one is still shown
+        QTest::qWait(0);
+        QVERIFY(edit->active());
+        m_proxy->setCurrentIndex(1);
+        QTRY_VERIFY(!edit->active());
+        beginDraft(1);
+        m_model->removeRows(1, 1); // past all questions
+        QTRY_VERIFY(!edit->active());
+        QVERIFY(!question());
+    }
+
+    void unsavedLyricsAreAskedAbout_data()
+    {
+        QTest::addColumn<QString>("cause");
+        QTest::addColumn<int>("rowsLeft");
+        addRow("removed by key", "key", 2);
+        addRow("the list is cleared", "actionClearList", 0);
+        addRow("removed with all that have lyrics", "actionRemoveWithLyrics", 2);
+        addRow("the window is closed", "close", 3);
+    }
+
+    void unsavedLyricsAreAskedAbout()
+    {
+        QFETCH(QString, cause);
+        QFETCH(int, rowsLeft);
+        addCopies(3);
+        QVERIFY(QFile::remove(song(1)->url().toLocalFile()));
+        song(1)->setEditedLyricsTag("nowhere else"_s);
+        QVERIFY(m_model->writeTags(song(1)->id()));
+        QTRY_VERIFY(song(1)->unsaved());
+        m_proxy->setCurrentIndex(1);
+        const auto act = [&] {
+            if (cause == "key"_s)
+                press(Qt::Key_Delete);
+            else if (cause == "close"_s)
+                m_window->close();
+            else
+                action(qPrintable(cause))->trigger();
+        };
+        act();
+        answer(QMessageBox::Cancel);
+        QCOMPARE(m_model->rowCount(), 3);
+        QVERIFY(m_window->isVisible());
+        act();
+        answer(QMessageBox::Discard);
+        QCOMPARE(m_model->rowCount(), rowsLeft);
+        QCOMPARE(m_window->isVisible(), cause != "close"_s);
+        if (cause == "key"_s) // the next one takes the place, and the keyboard goes on with it
+            QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{song(1)->id()});
+    }
+
+    void rowsAreSelectedHiddenAndRemovedByKey()
+    {
+        m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
+        QTRY_VERIFY(song(2)->tagsLoaded());
+        press(Qt::Key_L, Qt::ControlModifier);
+        QCOMPARE(m_proxy->rowCount(), 2);
+        press(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(m_proxy->selectedCount(), 2);
+        press(Qt::Key_Delete);
+        QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
+        press(Qt::Key_L, Qt::ControlModifier);
+        QCOMPARE(m_proxy->rowCount(), 1);
+    }
+
+    void theListIsSavedWhenThatIsWanted_data()
+    {
+        QTest::addColumn<bool>("wanted");
+        addRow("wanted", true);
+        addRow("not wanted", false);
+    }
+
+    void theListIsSavedWhenThatIsWanted()
+    {
+        QFETCH(bool, wanted);
+        const QTemporaryDir folder;
+        const QString odd = folder.filePath("#1, 100%41\n.mp3"_s);
+        QVERIFY(QFile::copy(sample("untagged.mp3").toLocalFile(), odd));
+        const QList<QUrl> urls{QUrl::fromLocalFile(odd), sample("plain.flac")};
+        m_settings->setSaveFilesList(wanted);
+        m_model->add(urls);
+        m_window.reset();
+        QCOMPARE(QSettings().value("saveFilesList"_s).toBool(), wanted);
+        const QStringList saved = QSettings().value("filesList"_s).toStringList();
+        QCOMPARE(QUrl::fromStringList(saved), wanted ? urls : QList<QUrl>());
+    }
 
 private:
-    QQuickItem *sceneItem(const QString &name) const
+    QQuickWidget *scene() const { return m_window->findChild<QQuickWidget *>(); }
+    QQuickItem *part(const char *name) const
     {
-        return m_window->findChild<QQuickWidget *>()->rootObject()->findChild<QQuickItem *>(name);
+        return scene()->rootObject()->findChild<QQuickItem *>(QLatin1String(name));
     }
+    QString textOf(const char *name) const { return part(name)->property("text").toString(); }
     QStringList labels() const
     {
         QStringList texts;
@@ -112,11 +748,54 @@ private:
             texts.append(label->text());
         return texts;
     }
-
     QAction *action(const char *name) const { return m_window->findChild<QAction *>(QLatin1String(name)); }
-    QQuickWidget *scene() const { return m_window->findChild<QQuickWidget *>(); }
-    void openWindow();
-    void addCopies(int count);
+    QMessageBox *question() const { return m_window->findChild<QMessageBox *>(); }
+    ModelItem *song(int row) const { return m_model->itemAt(row); }
+    // A key as it comes from the screen: to the window, which gives it to whoever has the keyboard.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(m_window->windowHandle(), key, modifiers);
+    }
+    void openWindow()
+    {
+        m_window = std::make_unique<MainWindow>(
+            MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    // Songs without names, which nobody searches for, in a folder of their own.
+    void addCopies(int count)
+    {
+        m_songs = std::make_unique<QTemporaryDir>();
+        QList<QUrl> urls;
+        for (int i = 0; i < count; ++i) {
+            const QString file = m_songs->filePath("%1.mp3"_s.arg(i));
+            QVERIFY(QFile::copy(sample("untagged.mp3").toLocalFile(), file));
+            urls.append(QUrl::fromLocalFile(file));
+        }
+        m_model->add(urls);
+        for (int i = 0; i < count; ++i)
+            QTRY_COMPARE(song(i)->processState(), ModelItem::ProcessNotSuitable);
+    }
+
+    void beginDraft(int row)
+    {
+        m_proxy->setCurrentIndex(-1);
+        m_proxy->setCurrentIndex(row);
+        m_window->lyricsEdit()->begin(song(row));
+        m_window->lyricsEdit()->setText("new"_s);
+    }
+
+    // Answers the open question, after which the window has the keyboard again.
+    void answer(QMessageBox::StandardButton button)
+    {
+        QTRY_VERIFY(question());
+        question()->button(button)->click();
+        QTRY_VERIFY(!question());
+        m_window->activateWindow();
+        QTRY_VERIFY(!m_window->isVisible() || QGuiApplication::focusWindow() == m_window->windowHandle());
+    }
 
     QTemporaryDir m_folder;
     std::unique_ptr<QTemporaryDir> m_songs;
@@ -129,592 +808,6 @@ private:
     std::unique_ptr<MainWindow> m_window;
     QtMessageHandler m_handler = nullptr;
 };
-
-void tst_MainWindow::initTestCase()
-{
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
-    qputenv("QMLSCENE_DEVICE", "softwarecontext");
-}
-
-void tst_MainWindow::init()
-{
-    QSettings().clear();
-    reloadEndpoints();
-    warnings.clear();
-    m_handler = qInstallMessageHandler(noteWarnings);
-    m_settings = std::make_unique<Settings>();
-    m_model = std::make_unique<MainModel>();
-    m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
-    m_proxy = std::make_unique<ProxyModel>();
-    m_proxy->setSourceModel(m_model.get());
-    m_scanner = std::make_unique<FolderScanner>();
-    openWindow();
-}
-
-void tst_MainWindow::openWindow()
-{
-    m_window = std::make_unique<MainWindow>(
-        MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-// Songs without names, which nobody searches for, in a folder of their own.
-void tst_MainWindow::addCopies(int count)
-{
-    m_songs = std::make_unique<QTemporaryDir>();
-    QList<QUrl> urls;
-    for (int i = 0; i < count; ++i) {
-        const QString file = m_songs->filePath(QStringLiteral("%1.mp3").arg(i));
-        QVERIFY(QFile::copy(sample("untagged.mp3").toLocalFile(), file));
-        urls.append(QUrl::fromLocalFile(file));
-    }
-    m_model->add(urls);
-    for (int i = 0; i < count; ++i)
-        QTRY_COMPARE(m_model->itemAt(i)->processState(), ModelItem::ProcessNotSuitable);
-}
-
-void tst_MainWindow::cleanup()
-{
-    m_window.reset();
-    m_proxy.reset();
-    m_model.reset();
-    qInstallMessageHandler(m_handler);
-    QCOMPARE(warnings.filter(QStringLiteral("qml")), QStringList());
-}
-
-void tst_MainWindow::theSceneShowsTheSongs()
-{
-    QCOMPARE(m_window->sceneErrors(), QString());
-    m_model->add({sample("lyrics.mp3"), sample("untagged.mp3")});
-    QTRY_COMPARE(m_model->itemAt(1)->processState(), ModelItem::ProcessNotSuitable);
-    QQuickItem *list = sceneItem(QStringLiteral("songList"));
-    QQuickItem *lyrics = sceneItem(QStringLiteral("lyricsText"));
-    list->setProperty("currentIndex", 0);
-    QCOMPARE(lyrics->property("text").toString(), m_model->itemAt(0)->lyricsTag());
-    m_model->itemAt(0)->setEditedLyricsTag(QStringLiteral("<b>bold</b>"));
-    QCOMPARE(lyrics->property("text").toString(), QStringLiteral("<b>bold</b>"));
-    QCOMPARE(lyrics->property("textFormat").toInt(), int(Qt::PlainText));
-    list->setProperty("currentIndex", 1);
-    QQuickItem *state = sceneItem(QStringLiteral("stateLine"));
-    QCOMPARE(state->property("text").toString(), QStringLiteral("A search needs an artist and a title."));
-    m_model->itemAt(1)->setProcessState(ModelItem::ProcessComplete);
-    m_model->itemAt(1)->setErrorString(QStringLiteral("<i>the site is down</i>"));
-    QCOMPARE(state->property("text").toString(), QStringLiteral("<i>the site is down</i>"));
-    QCOMPARE(state->property("textFormat").toInt(), int(Qt::PlainText));
-    m_model->removeAll();
-    QTRY_VERIFY(!lyrics->isVisible());
-}
-
-void tst_MainWindow::theKeyboardReachesListAndLyrics()
-{
-    m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
-    QTRY_VERIFY(m_model->itemAt(2)->tagsLoaded());
-    m_model->itemAt(0)->setEditedLyricsTag(QStringLiteral("la\n").repeated(500));
-    QWidget *scene = m_window->findChild<QQuickWidget *>();
-    QQuickItem *list = sceneItem(QStringLiteral("songList"));
-    QQuickItem *lyrics = sceneItem(QStringLiteral("lyricsText"));
-    QTest::keyClick(scene, Qt::Key_End);
-    QCOMPARE(list->property("currentIndex").toInt(), 2);
-    QTest::keyClick(scene, Qt::Key_Up);
-    QTest::keyClick(scene, Qt::Key_Home);
-    QCOMPARE(list->property("currentIndex").toInt(), 0);
-    const auto top = [lyrics] {
-        return lyrics->mapToScene({0, 0}).y();
-    };
-    const double atBeginning = top();
-    for (int tabs = 0; tabs < 30 && !lyrics->hasActiveFocus(); ++tabs)
-        QTest::keyClick(scene, Qt::Key_Tab);
-    QTest::keyClick(scene, Qt::Key_PageDown);
-    QVERIFY(top() < atBeginning - 100);
-    bool reachedGear = false; // the way round leads through the window's own buttons
-    for (int tabs = 0; tabs < 30 && !list->hasActiveFocus(); ++tabs) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        reachedGear = reachedGear || QApplication::focusWidget()->objectName() == QLatin1String("gearButton");
-    }
-    QVERIFY(reachedGear);
-    scene->setFocus();
-    list->forceActiveFocus();
-    QTest::keyClick(scene, Qt::Key_Down);
-    QCOMPARE(list->property("currentIndex").toInt(), 1);
-    QCOMPARE(top(), atBeginning); // another song begins at its beginning
-}
-
-void tst_MainWindow::keysOfTheEditWorkFromTheList()
-{
-    m_model->add({sample("lyrics.mp3")});
-    QTRY_COMPARE(m_model->itemAt(0)->processState(), ModelItem::ProcessComplete);
-    const LyricsEdit *edit = m_window->lyricsEdit();
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_F2);
-    QTRY_VERIFY(edit->active());
-    QQuickItem *field = sceneItem(QStringLiteral("titleField"));
-    field->forceActiveFocus();
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_X);
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
-    QVERIFY(edit->active()); // the first Escape was the field's
-    QVERIFY(!field->property("pending").toBool());
-    sceneItem(QStringLiteral("songList"))->forceActiveFocus();
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
-    QVERIFY(!edit->active());
-}
-
-void tst_MainWindow::theStatusBarSaysWhatIsGoingOn()
-{
-    const auto *progress = m_window->findChild<QProgressBar *>();
-    QTRY_VERIFY(!progress->isVisible());
-    addCopies(4);
-    for (int row = 0; row < 4; ++row)
-        m_model->itemAt(row)->setProcessState(ModelItem::ProcessWaiting);
-    QTRY_VERIFY(labels().contains(QStringLiteral("Searching... 4 left...")));
-    m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
-    QTRY_VERIFY(labels().contains(QStringLiteral("Searching... 3 left...")));
-    QTRY_VERIFY(progress->isVisible());
-    QTRY_COMPARE(progress->maximum() - progress->value(), 3);
-    QVERIFY(progress->value() >= 1);
-    m_model->removeAll();
-    QTRY_VERIFY(!progress->isVisible());
-    QTRY_VERIFY(labels().filter(QStringLiteral("Searching")).isEmpty());
-}
-
-void tst_MainWindow::noticesStandSideBySide()
-{
-    const auto exportLyrics = [this] {
-        action("actionExportLyrics")->trigger();
-    };
-    addCopies(3);
-    QVERIFY(!action("actionRemoveSelected")->isEnabled() || m_proxy->selectedCount() > 0);
-    m_window->showSettingsDamaged(QStringLiteral("/home/<b>x</b>"));
-    emit m_model->filesLeftOut(4);
-    emit m_model->filesLeftOut(3);
-    m_proxy->selectAll();
-    exportLyrics();
-    QTRY_VERIFY(labels().contains(QStringLiteral("There are no lyrics to export")));
-    for (int row = 0; row < 3; ++row)
-        m_model->itemAt(row)->setEditedLyricsTag(QStringLiteral("la"));
-    // A folder stands where the text file would.
-    QVERIFY(QDir(m_songs->path()).mkdir(QStringLiteral("1.txt")));
-    exportLyrics();
-    QTRY_VERIFY(labels().contains(QLatin1String("The lyrics could not be written to ") +
-                                  m_songs->filePath(QStringLiteral("1.txt"))));
-    QVERIFY(QFile::exists(m_songs->filePath(QStringLiteral("2.txt"))));
-    QVERIFY(QFile::remove(m_songs->filePath(QStringLiteral("0.txt"))));
-    QVERIFY(QDir(m_songs->path()).mkdir(QStringLiteral("0.txt")));
-    exportLyrics();
-    QTRY_VERIFY(labels().contains(QStringLiteral("The lyrics of 2 song(s) could not be exported")));
-    QVERIFY(labels().contains(QStringLiteral("The list is full. Files left out: 7")));
-    QCOMPARE(labels().filter(QStringLiteral("settings file")).size(), 1);
-    QVERIFY(m_window->minimumSizeHint().width() < 640);
-    for (QToolButton *button : m_window->findChildren<QToolButton *>()) {
-        if (button->accessibleDescription().contains(QStringLiteral("settings file")))
-            button->click();
-    }
-    QTRY_COMPARE(labels().filter(QStringLiteral("settings file")).size(), 0);
-}
-
-void tst_MainWindow::geometryAndPaneComeBack_data()
-{
-    QTest::addColumn<QRect>("place");
-    QTest::addColumn<bool>("maximized");
-    QTest::newRow("a place on the screen") << QRect(50, 60, 700, 500) << false;
-    QTest::newRow("maximized") << QRect(50, 60, 700, 500) << true;
-    QTest::newRow("off the screen") << QRect(5000, 4000, 700, 500) << false;
-}
-
-void tst_MainWindow::geometryAndPaneComeBack()
-{
-    QFETCH(QRect, place);
-    QFETCH(bool, maximized);
-    m_window->setGeometry(place);
-    if (maximized)
-        m_window->showMaximized();
-    scene()->rootObject()->setProperty("listWidth", 321);
-    m_window.reset();
-    m_model->add({sample("lyrics.mp3")});
-    openWindow();
-    QTRY_COMPARE(m_window->isMaximized(), maximized);
-    QTRY_COMPARE(m_window->normalGeometry().size(), place.size());
-    const QRect screen = m_window->screen()->availableGeometry();
-    QVERIFY(screen.intersects(m_window->geometry()));
-    if (screen.contains(place))
-        QCOMPARE(m_window->normalGeometry(), place);
-    QTRY_COMPARE(sceneItem(QStringLiteral("lyricsText"))->property("text").toString(), m_model->itemAt(0)->lyricsTag());
-    QCOMPARE(scene()->rootObject()->property("listWidth").toInt(), 321);
-    QCOMPARE(sceneItem(QStringLiteral("songList"))->width(), 321.0);
-}
-
-void tst_MainWindow::theMenusHaveTheirActions()
-{
-    QStringList menus;
-    for (const QAction *title : m_window->menuBar()->actions()) {
-        QStringList entries;
-        for (const QAction *entry : title->menu()->actions())
-            entries.append(entry->text() + entry->shortcut().toString());
-        menus.append(title->text() + QLatin1String(": ") + entries.join(QLatin1Char('|')));
-    }
-    QCOMPARE(
-        menus,
-        QStringList(
-            {QStringLiteral("File: Add fileCtrl+O|Add folder||Export lyrics to TXT file||Preferences|Quit"),
-             QStringLiteral("Edit: Select allCtrl+A||Remove selectedDel|Remove with lyricsMeta+Alt+Del||Clear list"),
-             QStringLiteral("View: Hide file(s) with lyricsCtrl+L"), QStringLiteral("Help: About")}));
-    QVERIFY(!action("actionAddFile")->icon().isNull());
-    QCOMPARE(action("actionTwitter")->toolTip(), QStringLiteral("Twitter"));
-    m_proxy->setShowFound(false);
-    QVERIFY(action("actionHideWithLyrics")->isChecked());
-}
-
-void tst_MainWindow::textsHaveTheirKeysForThemselves_data()
-{
-    QTest::addColumn<QByteArray>("element");
-    QTest::addColumn<QString>("afterDelete");
-    QTest::newRow("a field") << QByteArray("TextInput {") << "bc";
-    QTest::newRow("a text that is edited") << QByteArray("TextEdit {") << "bc";
-    QTest::newRow("a text that is only read")
-        << QByteArray("TextEdit { readOnly: true; selectByKeyboard: true;") << "abc";
-}
-
-void tst_MainWindow::textsHaveTheirKeysForThemselves()
-{
-    QFETCH(QByteArray, element);
-    QFETCH(QString, afterDelete);
-    addCopies(2);
-    QQmlComponent component(scene()->engine());
-    component.setData("import QtQuick 2.15\n" + element + " text: 'abc' }", QUrl());
-    const std::unique_ptr<QObject> object(component.create());
-    auto *text = qobject_cast<QQuickItem *>(object.get());
-    QVERIFY(text);
-    text->setParentItem(scene()->rootObject());
-    text->forceActiveFocus();
-    text->setProperty("cursorPosition", 0);
-    QTest::keyClick(scene(), Qt::Key_Delete);
-    QCOMPARE(m_model->rowCount(), 2);
-    QCOMPARE(text->property("text").toString(), afterDelete);
-    QTest::keyClick(scene(), Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(text->property("selectedText").toString(), afterDelete);
-    QCOMPARE(m_proxy->selectedCount(), 1);
-    QTest::keyClick(scene(), Qt::Key_Backspace);
-    QCOMPARE(m_model->rowCount(), 2);
-    text->setParentItem(nullptr);
-    sceneItem(QStringLiteral("songList"))->forceActiveFocus();
-    QTest::keyClick(scene(), Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(m_proxy->selectedCount(), 2);
-}
-
-void tst_MainWindow::filesAndFoldersAreDropped()
-{
-    QSignalSpy scans(m_model.get(), &MainModel::scanFolders);
-    m_model->setSupportedExtensions({QStringLiteral("mp3")});
-    QMimeData data;
-    data.setUrls(
-        {sample("lyrics.mp3"), QUrl::fromLocalFile(m_folder.path()), QUrl(QStringLiteral("http://127.0.0.1/a.mp3"))});
-    const QPoint middle = scene()->rect().center();
-    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(scene(), &enter);
-    QVERIFY(enter.isAccepted());
-    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(scene(), &drop);
-    QVERIFY(drop.isAccepted());
-    QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
-    QCOMPARE(scans.value(0).value(0).value<QList<QUrl>>(), QList<QUrl>{QUrl::fromLocalFile(m_folder.path())});
-}
-
-void tst_MainWindow::theDialogsRememberTheirFolders()
-{
-    m_model->setSupportedExtensions({QStringLiteral("mp3"), QStringLiteral("ogg")});
-    const QString folder = QFileInfo(sample("lyrics.mp3").toLocalFile()).path();
-    const auto openDialog = [this](const char *name) {
-        action(name)->trigger();
-        return m_window->findChild<QFileDialog *>();
-    };
-    QFileDialog *dialog = openDialog("actionAddFile");
-    QCOMPARE(dialog->nameFilters(), QStringList{QStringLiteral("Audio files (*.mp3 *.ogg)")});
-    dialog->reject();
-    QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
-    QVERIFY(!QSettings().contains(QStringLiteral("lastFileDir")));
-    dialog = openDialog("actionAddFile");
-    emit dialog->filesSelected({sample("lyrics.mp3").toLocalFile(), sample("plain.flac").toLocalFile()});
-    dialog->reject();
-    QCOMPARE(m_model->rowCount(), 2);
-    QCOMPARE(QSettings().value(QStringLiteral("lastFileDir")).toString(), folder);
-    QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
-    dialog = openDialog("actionAddFile");
-    QCOMPARE(dialog->directory().absolutePath(), folder);
-    dialog->reject();
-    QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
-
-    QSignalSpy scans(m_scanner.get(), &FolderScanner::found);
-    m_scanner->setTypes({QStringLiteral("flac")});
-    dialog = openDialog("actionAddFolder");
-    emit dialog->fileSelected(folder);
-    dialog->reject();
-    QCOMPARE(QSettings().value(QStringLiteral("lastFolderDir")).toString(), folder);
-    QVERIFY(scans.wait());
-    QVERIFY(scans.at(0).at(0).value<QList<QUrl>>().contains(sample("plain.flac")));
-}
-
-void tst_MainWindow::aSongIsTakenToClipboardAndBrowser()
-{
-    BrowserStandIn browser;
-    QClipboard *clipboard = QGuiApplication::clipboard();
-    addCopies(2);
-    m_model->itemAt(1)->setEditedLyricsTag(QStringLiteral("la"));
-    m_window->copyPathToClipboard(1);
-    QCOMPARE(clipboard->text(), m_model->itemAt(1)->url().toLocalFile());
-    m_window->listLyricsToClipboard(m_model->itemAt(1)->id());
-    m_window->listLyricsToClipboard(m_model->itemAt(0)->id()); // no lyrics
-    m_window->listLyricsToClipboard(m_model->itemAt(0)->id() + 65536);
-    m_window->copyPathToClipboard(-1);
-    m_window->copyPathToClipboard(2);
-    QCOMPARE(clipboard->text(), QStringLiteral("la"));
-    m_window->searchLyricsInBrowser(0); // no names
-    m_window->searchLyricsInBrowser(7);
-    m_window->searchLyricsInBrowser(QUrl(QStringLiteral("file:///nowhere.mp3")));
-    QCOMPARE(browser.urls, QList<QUrl>());
-    m_model->itemAt(0)->setTitleTag(QStringLiteral("R&B"));
-    m_model->itemAt(1)->setTitleTag(QStringLiteral("T"));
-    m_model->itemAt(1)->setArtistTag(QStringLiteral("A"));
-    m_window->searchLyricsInBrowser(0);
-    m_settings->setSearchProvider(QStringLiteral("Yahoo"));
-    m_window->searchLyricsInBrowser(m_model->itemAt(1)->url());
-    QCOMPARE(browser.urls.size(), 2);
-    QVERIFY(browser.urls.at(0).toEncoded().endsWith("/search?q=R%26B"));
-    QVERIFY(browser.urls.at(1).toEncoded().endsWith("/search?p=A%20T"));
-    m_window->on_actionFacebook_triggered(); // there is no site of the maker
-    QCOMPARE(browser.urls.size(), 2);
-    QSettings().setValue(QStringLiteral("endpoints/Maker"), QStringLiteral("https://127.0.0.1"));
-    reloadEndpoints();
-    m_window->on_actionFacebook_triggered();
-    m_window->on_actionWebsite_triggered();
-    QCOMPARE(browser.urls.at(2).toEncoded(),
-             QByteArray("https://127.0.0.1/facebook/?zv_product=versewell&zv_version=1.5.6&zv_source=app"));
-    QVERIFY(browser.urls.last().toEncoded().endsWith("&zv_source=app-statusbar"));
-}
-
-void tst_MainWindow::coloursFollowThePalette()
-{
-    const QColor before = scene()->rootObject()->property("color").value<QColor>();
-    m_palette.setPalette(QPalette(Qt::darkBlue));
-    QVERIFY(scene()->rootObject()->property("color").value<QColor>() != before);
-    QCOMPARE(scene()->rootObject()->property("color").value<QColor>(), QPalette(Qt::darkBlue).color(QPalette::Window));
-    m_palette.setPalette(QPalette());
-}
-
-void tst_MainWindow::quittingAsksWhileSongsAreSearchedFor_data()
-{
-    QTest::addColumn<int>("active");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<bool>("quits");
-    QTest::newRow("nothing is searched for") << 0 << QString() << true;
-    QTest::newRow("yes") << 3 << "&Yes" << true;
-    QTest::newRow("no") << 3 << "&No" << false;
-    QTest::newRow("Escape") << 3 << "Escape" << false;
-    QTest::newRow("the last search ends") << 3 << "end" << true;
-}
-
-void tst_MainWindow::quittingAsksWhileSongsAreSearchedFor()
-{
-    QFETCH(int, active);
-    QFETCH(QString, answer);
-    QFETCH(bool, quits);
-    addCopies(3);
-    for (int row = 0; row < active; ++row)
-        m_model->itemAt(row)->setProcessState(ModelItem::ProcessWaiting);
-    m_window->close();
-    auto *question = m_window->findChild<ExitWidget *>();
-    QCOMPARE(question != nullptr, active > 0);
-    if (question) {
-        QVERIFY(m_window->isVisible() && question->isVisible());
-        m_window->quit_app(); // once more
-        QVERIFY(labels().contains(QStringLiteral("Search for 3 songs is currently in progress.")));
-        m_model->itemAt(0)->setProcessState(ModelItem::ProcessComplete);
-        QVERIFY(labels().contains(QStringLiteral("Search for 2 songs is currently in progress.")));
-        if (answer == QLatin1String("Escape"))
-            QTest::keyClick(question, Qt::Key_Escape);
-        for (QPushButton *button : question->findChildren<QPushButton *>()) {
-            if (button->text() == answer)
-                button->click();
-        }
-        if (answer == QLatin1String("end"))
-            m_model->removeAll();
-        QVERIFY(!question->isVisible());
-    }
-    QCOMPARE(m_window->isVisible(), !quits);
-    QTimer::singleShot(quits ? 5000 : 100, qApp, [] { QCoreApplication::exit(1); });
-    QCOMPARE(QCoreApplication::exec(), quits ? 0 : 1);
-}
-
-void tst_MainWindow::aDraftIsAskedAbout_data()
-{
-    QTest::addColumn<QString>("cause");
-    QTest::addColumn<int>("rowsLeft");
-    QTest::newRow("another row") << "row" << 3;
-    QTest::newRow("several rows") << "several" << 3;
-    QTest::newRow("the song is filtered away") << "filter" << 3;
-    QTest::newRow("removed by key") << "key" << 2;
-    QTest::newRow("the list is cleared") << "clear" << 0;
-    QTest::newRow("removed with all that have lyrics") << "removeWithLyrics" << 2;
-    QTest::newRow("the window is closed") << "close" << 3;
-}
-
-void tst_MainWindow::aDraftIsAskedAbout()
-{
-    QFETCH(QString, cause);
-    QFETCH(int, rowsLeft);
-    LyricsEdit *edit = m_window->lyricsEdit();
-    addCopies(3);
-    const QUrl url = m_model->itemAt(1)->url();
-    m_model->itemAt(1)->setEditedLyricsTag(QStringLiteral("old"));
-    const auto beginDraft = [&] {
-        m_proxy->setCurrentIndex(-1);
-        m_proxy->setCurrentIndex(1);
-        edit->begin(m_model->itemAt(1));
-        edit->setText(QStringLiteral("new"));
-    };
-    const auto act = [&] {
-        if (cause == QLatin1String("row"))
-            m_proxy->setCurrentIndex(0);
-        else if (cause == QLatin1String("several"))
-            m_proxy->selectAll();
-        else if (cause == QLatin1String("filter"))
-            m_proxy->setShowFound(false);
-        else if (cause == QLatin1String("key"))
-            QTest::keyClick(scene(), Qt::Key_Delete);
-        else if (cause == QLatin1String("clear"))
-            action("actionClearList")->trigger();
-        else if (cause == QLatin1String("removeWithLyrics"))
-            action("actionRemoveWithLyrics")->trigger();
-        else
-            m_window->close();
-    };
-    const auto answer = [this](QMessageBox::StandardButton button) {
-        QTRY_VERIFY(m_window->findChild<QMessageBox *>());
-        m_window->findChild<QMessageBox *>()->button(button)->click();
-        QTRY_VERIFY(!m_window->findChild<QMessageBox *>());
-        QApplication::setActiveWindow(m_window.get());
-    };
-    beginDraft();
-    act();
-    answer(QMessageBox::Cancel);
-    QTest::qWait(0);
-    QCOMPARE(edit->text(), QStringLiteral("new"));
-    QCOMPARE(m_model->rowCount(), 3);
-    QVERIFY(m_window->isVisible() && !m_window->findChild<QMessageBox *>());
-    QCOMPARE(m_proxy->currentItem(), m_model->itemAt(1));
-    QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{m_model->itemAt(1)->id()});
-    act();
-    answer(QMessageBox::Discard);
-    QVERIFY(!edit->active());
-    QCOMPARE(m_model->rowCount(), rowsLeft);
-    QCOMPARE(m_window->isVisible(), cause != QLatin1String("close"));
-    if (rowsLeft < 3 || !m_window->isVisible())
-        return;
-    QCOMPARE(m_model->itemAt(1)->lyricsTag(), QStringLiteral("old"));
-    m_proxy->setShowFound(true);
-    beginDraft();
-    act();
-    answer(QMessageBox::Save);
-    QTRY_COMPARE(m_model->itemAt(1)->processState(), ModelItem::ProcessComplete);
-    MainModel again;
-    again.setReaderProgram(QStringLiteral(VERSEWELL_READER));
-    again.add({url});
-    QTRY_COMPARE(again.itemAt(0)->lyricsTag(), QStringLiteral("new"));
-}
-
-void tst_MainWindow::aRightClickAwayFromADraftAsksAndOpensNoMenu()
-{
-    LyricsEdit *edit = m_window->lyricsEdit();
-    addCopies(3);
-    m_proxy->setCurrentIndex(0);
-    edit->begin(m_model->itemAt(0));
-    edit->setText(QStringLiteral("new"));
-    QTest::mouseClick(scene(), Qt::RightButton, {}, QPoint(150, 150));
-    QTRY_VERIFY(m_window->findChild<QMessageBox *>());
-    QVERIFY(!m_window->findChild<QQuickWidget *>()
-                 ->rootObject()
-                 ->findChild<QObject *>(QStringLiteral("songMenu"))
-                 ->property("__popupVisible")
-                 .toBool());
-    edit->cancel(); // behind the question, whose answer counts nevertheless
-    m_window->findChild<QMessageBox *>()->button(QMessageBox::Save)->click();
-    QCOMPARE(m_model->itemAt(0)->lyricsTag(), QStringLiteral("new"));
-    QTRY_COMPARE(m_model->itemAt(0)->processState(), ModelItem::ProcessComplete);
-}
-
-void tst_MainWindow::escapeOutsideTheLyricsAsksFirst()
-{
-    LyricsEdit *edit = m_window->lyricsEdit();
-    addCopies(1);
-    m_proxy->setCurrentIndex(0);
-    edit->begin(m_model->itemAt(0));
-    edit->setText(QStringLiteral("new"));
-    sceneItem(QStringLiteral("songList"))->forceActiveFocus();
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
-    QTRY_VERIFY(m_window->findChild<QMessageBox *>());
-    m_window->findChild<QMessageBox *>()->button(QMessageBox::Cancel)->click();
-    QCOMPARE(edit->text(), QStringLiteral("new"));
-    QTRY_VERIFY(!m_window->findChild<QMessageBox *>());
-    QApplication::setActiveWindow(m_window.get());
-    edit->cancel();
-}
-
-void tst_MainWindow::anUnchangedDraftGoesQuietly()
-{
-    LyricsEdit *edit = m_window->lyricsEdit();
-    addCopies(3);
-    m_proxy->setCurrentIndex(1);
-    edit->begin(m_model->itemAt(1));
-    m_model->removeRows(0, 1); // another song goes: the edited one is still shown
-    QTest::qWait(0);
-    QVERIFY(edit->active());
-    m_proxy->setCurrentIndex(1);
-    QTRY_VERIFY(!edit->active());
-    edit->begin(m_model->itemAt(1));
-    edit->setText(QStringLiteral("draft"));
-    m_model->setSearch(nullptr);
-    m_model->removeRows(1, 1); // past all questions
-    QTRY_VERIFY(!edit->active());
-    QVERIFY(!m_window->findChild<QMessageBox *>());
-}
-
-void tst_MainWindow::rowsAreSelectedHiddenAndRemovedByKey()
-{
-    m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
-    QTRY_VERIFY(m_model->itemAt(2)->tagsLoaded());
-    QWidget *scene = m_window->findChild<QQuickWidget *>();
-    QTest::keyClick(scene, Qt::Key_L, Qt::ControlModifier);
-    QCOMPARE(m_proxy->rowCount(), 2);
-    QTest::keyClick(scene, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(m_proxy->selectedCount(), 2);
-    QTest::keyClick(scene, Qt::Key_Delete);
-    QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
-    QTest::keyClick(scene, Qt::Key_L, Qt::ControlModifier);
-    QCOMPARE(m_proxy->rowCount(), 1);
-}
-
-void tst_MainWindow::theListIsSavedWhenThatIsWanted_data()
-{
-    QTest::addColumn<bool>("wanted");
-    QTest::newRow("wanted") << true;
-    QTest::newRow("not wanted") << false;
-}
-
-void tst_MainWindow::theListIsSavedWhenThatIsWanted()
-{
-    QFETCH(bool, wanted);
-    const QTemporaryDir folder;
-    const QString odd = folder.filePath(QStringLiteral("#1, 100%41\n.mp3"));
-    QVERIFY(QFile::copy(sample("untagged.mp3").toLocalFile(), odd));
-    const QList<QUrl> urls{QUrl::fromLocalFile(odd), sample("plain.flac")};
-    m_settings->setSaveFilesList(wanted);
-    m_model->add(urls);
-    m_window.reset();
-    QCOMPARE(QSettings().value(QStringLiteral("saveFilesList")).toBool(), wanted);
-    const QStringList saved = QSettings().value(QStringLiteral("filesList")).toStringList();
-    QCOMPARE(QUrl::fromStringList(saved), wanted ? urls : QList<QUrl>());
-}
 
 QTEST_MAIN(tst_MainWindow)
 #include "tst_mainwindow.moc"
