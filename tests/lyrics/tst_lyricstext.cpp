@@ -82,6 +82,8 @@ private slots:
         addRow("a longer name does not end a script", withoutScripts, "a<script>1</scripts>2</script>b", "ab");
         addRow("a script that is not closed stays", withoutScripts, "<style></style><script>1<style></style>",
                "<script>1<style></style>");
+        addRow("an ampersand uncovers names", decodeHtmlEntities, "&amp;lt;&amp;#39;&amp;#039;", "<''");
+        addRow("an ampersand uncovers no number", decodeHtmlEntities, "&amp;#8217;", "&#8217;");
         addRow("a pair written as halves", decodeHtmlEntities, "&#xD83C;&#xDFB5;", "🎵");
         addRow("NUL is kept for whoever removes it", decodeHtmlEntities, "a&#00;b", "a%1b"_s.arg(QChar(0)));
         addRow("any number of digits", decodeDecimalReferences, "&#9;&#1040;&#127925;&#0000000065;", "\tА🎵A");

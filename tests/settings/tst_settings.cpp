@@ -4,6 +4,7 @@
 #include "settings/SettingsChange.h"
 #include "settings/SettingsKeys.h"
 #include "support/TestFolder.h"
+#include "support/TestTable.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -25,23 +26,21 @@ struct Preference
     bool isFollowedByChanged;
 };
 
-const QVector<Preference> &preferences()
-{
-    static const QVector<Preference> all{{"lyricsFontSize", 12, 31, true},
-                                         {"language", QString(), QStringLiteral("pt_BR"), true},
-                                         {"proxyType", 0, 2, true},
-                                         {"proxyAddress", QString(), QStringLiteral("proxy.example"), true},
-                                         {"proxyPort", 0, 65535, true},
-                                         {"proxyAuthentication", false, true, true},
-                                         {"proxyUsername", QString(), QStringLiteral("noravale"), true},
-                                         {"proxyPassword", QString(), QStringLiteral("swordfish, \"ö=;"), true},
-                                         {"saveFilesList", false, true, false},
-                                         {"searchProvider", QString(), QStringLiteral("Яндекс, \"=;"), false},
-                                         {"generateLyricsFileAuto", false, true, false},
-                                         {"prependNewLine", false, true, false},
-                                         {"providersOrder", QString(), QStringLiteral("Genius::0;;X"), false}};
-    return all;
-}
+const QVector<Preference> preferences{
+    {"lyricsFontSize", 12, 31, true},
+    {"language", QString(), "pt_BR"_s, true},
+    {"proxyType", 0, 2, true},
+    {"proxyAddress", QString(), "proxy.example"_s, true},
+    {"proxyPort", 0, 65535, true},
+    {"proxyAuthentication", false, true, true},
+    {"proxyUsername", QString(), "noravale"_s, true},
+    {"proxyPassword", QString(), "swordfish, \"ö=;"_s, true},
+    {"saveFilesList", false, true, false},
+    {"searchProvider", QString(), "Яндекс, \"=;"_s, false},
+    {"generateLyricsFileAuto", false, true, false},
+    {"prependNewLine", false, true, false},
+    {"providersOrder", QString(), "Genius::0;;X"_s, false},
+};
 
 // "proxy/port" is the property proxyPort.
 QByteArray propertyOf(const QString &key)
@@ -71,9 +70,8 @@ private slots:
     void settersEmitOnceAndOnlyOnChange()
     {
         Settings settings;
-        QCOMPARE(settings.metaObject()->propertyCount() - settings.metaObject()->propertyOffset(),
-                 preferences().size());
-        for (const Preference &row : preferences()) {
+        QCOMPARE(settings.metaObject()->propertyCount() - settings.metaObject()->propertyOffset(), preferences.size());
+        for (const Preference &row : preferences) {
             const int property = settings.metaObject()->indexOfProperty(row.name);
             QSignalSpy own(&settings, settings.metaObject()->property(property).notifySignal());
             QSignalSpy changed(&settings, &Settings::changed);
@@ -91,7 +89,7 @@ private slots:
     {
         Settings written;
         written.load(); // from a store without any key
-        for (const Preference &row : preferences()) {
+        for (const Preference &row : preferences) {
             QCOMPARE(written.property(row.name), row.byDefault);
             QVERIFY(written.setProperty(row.name, row.other));
         }
@@ -105,7 +103,7 @@ private slots:
         QSignalSpy orders(&loaded, &Settings::providersOrderChanged);
         loaded.load();
         QCOMPARE(changes.count() + orders.count(), 0);
-        for (const Preference &row : preferences())
+        for (const Preference &row : preferences)
             QCOMPARE(loaded.property(row.name), row.other);
         QCOMPARE(loaded.proxy().password(), loaded.proxyPassword());
     }
@@ -118,7 +116,7 @@ private slots:
         const auto row = [](const char *name, const char *key, const QVariant &stored, const QVariant &expected) {
             QTest::newRow(name) << stored << key << expected;
         };
-        const QVariant list = QStringList{QStringLiteral("1"), QStringLiteral("2")};
+        const QVariant list = QStringList{"1"_s, "2"_s};
         row("just too small", "lyricsFontSize", 5, 12);
         row("smallest", "lyricsFontSize", 6, 6);
         row("largest", "lyricsFontSize", 40, 40);
@@ -127,9 +125,9 @@ private slots:
         row("no number", "proxy/type", huge(), 0);
         row("past the last port", "proxy/port", 65536 + 80, 0);
         row("a list where a number should be", "proxy/port", list, 0);
-        row("a secret in plain", "proxy/username", QStringLiteral("nora"), QString());
+        row("a secret in plain", "proxy/username", "nora"_s, QString());
         row("an endless secret", "proxy/username", huge(), QString());
-        row("a flag by another word", "saveFilesList", QStringLiteral("True"), true);
+        row("a flag by another word", "saveFilesList", "True"_s, true);
         row("a flag by its number", "saveFilesList", 1, true);
         for (const char *word : {"no", "off", "banana", "2", "false"})
             row(word, "saveFilesList", QString::fromLatin1(word), false);
@@ -156,40 +154,40 @@ private slots:
     {
         QTest::addColumn<QVariant>("stored");
         QTest::addColumn<int>("expected"); // 0: none
-        QTest::newRow("usual") << QVariant(QStringLiteral("300")) << 300;
-        QTest::newRow("none") << QVariant() << 0;
-        QTest::newRow("nearly nothing") << QVariant(3) << 0;
-        QTest::newRow("wider than any screen") << QVariant(2000000) << 0;
-        QTest::newRow("300 more than there are numbers") << QVariant((1LL << 32) + 300) << 0;
-        QTest::newRow("a word") << QVariant(QStringLiteral("wide")) << 0;
+        addRow("usual", QVariant("300"_s), 300);
+        addRow("none", QVariant(), 0);
+        addRow("nearly nothing", QVariant(3), 0);
+        addRow("wider than any screen", QVariant(2000000), 0);
+        addRow("300 more than there are numbers", QVariant((1LL << 32) + 300), 0);
+        addRow("a word", QVariant("wide"_s), 0);
     }
 
     void theWidthOfTheListIsBounded()
     {
         QFETCH(QVariant, stored);
-        QSettings().setValue(QStringLiteral("listWidth"), stored);
+        QSettings().setValue("listWidth"_s, stored);
         QTEST(storedListWidth(QSettings()).value_or(0), "expected");
     }
 
     // Nothing but the fixed key is needed; the figures are from outside.
     void aSecretOfAnotherRunIsRead()
     {
-        QSettings().setValue(QStringLiteral("proxy/password"), QStringLiteral("AwJvxEdKnzXGn5ZLqL4="));
+        QSettings().setValue("proxy/password"_s, "AwJvxEdKnzXGn5ZLqL4="_s);
         Settings settings;
-        settings.setProxyUsername(QStringLiteral("kept, as its key is absent"));
+        settings.setProxyUsername("kept, as its key is absent"_s);
         settings.load();
-        QCOMPARE(settings.proxyPassword(), QStringLiteral("swordfish"));
-        QCOMPARE(settings.proxyUsername(), QStringLiteral("kept, as its key is absent"));
+        QCOMPARE(settings.proxyPassword(), "swordfish"_s);
+        QCOMPARE(settings.proxyUsername(), "kept, as its key is absent"_s);
     }
 
     // A limit of the process stands in for a disk that becomes full after so many bytes.
     void aFailedSaveLosesNothing()
     {
-        QSettings().setValue(QStringLiteral("filesList"), QString(500, QLatin1Char('a')));
+        QSettings().setValue("filesList"_s, QString(500, QLatin1Char('a')));
         Settings settings;
         QVERIFY(settings.save());
         const QByteArray before = m_folder.read(m_path);
-        settings.setLanguage(QStringLiteral("fr"));
+        settings.setLanguage("fr"_s);
         signal(SIGXFSZ, SIG_IGN);
         rlimit usual = {};
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
@@ -204,8 +202,8 @@ private slots:
         }
         QCOMPARE(m_folder.names(QFileInfo(m_path).path()), QStringList{QFileInfo(m_path).fileName()});
         QVERIFY(settings.save());
-        QCOMPARE(QSettings().value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
-        QCOMPARE(QSettings().value(QStringLiteral("filesList")).toString().size(), 500);
+        QCOMPARE(QSettings().value("language"_s).toString(), "fr"_s);
+        QCOMPARE(QSettings().value("filesList"_s).toString().size(), 500);
     }
 
     void whatOthersWroteMeanwhileStopsNoSave()
@@ -216,8 +214,8 @@ private slots:
         m_folder.write(m_path, before + "\n[other]\nname=x\nsize=@Size(1 2)\n");
         settings.setLyricsFontSize(21);
         QVERIFY(settings.save());
-        QCOMPARE(QSettings().value(QStringLiteral("lyricsFontSize")).toInt(), 21);
-        QCOMPARE(QSettings().value(QStringLiteral("other/name")).toString(), QStringLiteral("x"));
+        QCOMPARE(QSettings().value("lyricsFontSize"_s).toInt(), 21);
+        QCOMPARE(QSettings().value("other/name"_s).toString(), "x"_s);
         QVERIFY(m_folder.read(m_path + QLatin1String(".bad")).contains("@Size"));
         QVERIFY(QFile::remove(m_path + QLatin1String(".bad")));
     }
@@ -225,10 +223,10 @@ private slots:
     void whatIsStoredAlreadyIsNotWritten()
     {
         SettingsChange change;
-        change.set(SettingsKey::FirstStart, QStringLiteral("1.5.6"));
+        change.set(SettingsKey::FirstStart, "1.5.6"_s);
         change.set(SettingsKey::PrependNewLine, true);
         change.set(SettingsKey::ListWidth, 300);
-        change.set(SettingsKey::FilesList, QStringList{QStringLiteral("file:///a"), QStringLiteral("file:///b")});
+        change.set(SettingsKey::FilesList, QStringList{"file:///a"_s, "file:///b"_s});
         QVERIFY(change.commit());
         // A comment, which no write would keep, tells whether there was one.
         const QByteArray padded = m_folder.read(m_path) + "; a note\n";
@@ -244,7 +242,7 @@ private slots:
     void aLinkedFileStaysLinked()
     {
         QVERIFY(QFile::remove(m_path) || !QFile::exists(m_path));
-        QFile file(m_folder.write(QStringLiteral("elsewhere.conf")));
+        QFile file(m_folder.write("elsewhere.conf"_s));
         QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) && file.link(m_path));
         QVERIFY(Settings().save());
         QVERIFY(QFileInfo(m_path).isSymLink() && QFileInfo(file).size() > 0);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsCipher.h"
+#include "support/TestTable.h"
 
 #include <QSet>
 #include <QTest>
@@ -59,31 +60,28 @@ private slots:
     void fixedVectorsHoldInBothDirections_data()
     {
         QTest::addColumn<quint64>("usedKey");
-        QTest::addColumn<QString>("plain");
+        addTextColumns("plain", "text");
         QTest::addColumn<Compression>("compression");
         QTest::addColumn<Protection>("protection");
-        QTest::addColumn<QByteArray>("text");
-        const auto row = [](const char *name, quint64 usedKey, const QString &plain, Compression compression,
-                            Protection protection, const char *text) {
-            QTest::newRow(name) << usedKey << plain << compression << protection << QByteArray(text);
+        const auto row = [](const char *name, const QString &plain, const char *text,
+                            Compression compression = SettingsCipher::CompressionAuto,
+                            Protection protection = SettingsCipher::ProtectionChecksum, quint64 usedKey = key) {
+            addRow(name, usedKey, plain, text, compression, protection);
         };
-        using Cipher = SettingsCipher;
-        const QString word = QStringLiteral("swordfish");
-        const QString repeated = QString(64, QLatin1Char('a'));
-        const auto automatic = Cipher::CompressionAuto;
-        const auto checksum = Cipher::ProtectionChecksum;
-        row("an empty text", key, {}, automatic, checksum, "AwI1gRE=");
-        row("a word", key, word, automatic, checksum, "AwJvxEdKnzXGn5ZLqL4=");
-        row("letters of two, three and four bytes", key, QStringLiteral(u"p\u00e4ss \u0444 \U0001d11e"), automatic,
-            checksum, "AwKQa5mX9pdlK2QBFUsZQUTn");
-        row("a NUL inside", key, QStringLiteral("a\0b"), automatic, checksum, "AwJmC9LNb8g=");
-        row("no protection", key, word, automatic, Cipher::ProtectionNone, "AwB4v1hJmTjfi5dL");
-        row("a hash", key, word, Cipher::CompressionNever, Cipher::ProtectionHash,
-            "AwTvFNO1CgUp/RLzPG4qmkfelNBGYHzKPG5zo1VCkz4=");
-        row("compressed as it is shorter", key, repeated, automatic, checksum, "AwNcBHgGpGGg5VCvc6kHwkNqiCT1");
-        row("compressed, with a hash", key, repeated, Cipher::CompressionAlways, Cipher::ProtectionHash,
-            "AwVcyvYsvu/CgFmEsWwmdBCEL88JjzL3dktkqOLXOVjV6IcnOly/");
-        row("another key", 1, word, automatic, checksum, "AwJDXE88SyRWMlU8Tyc=");
+        const auto automatic = SettingsCipher::CompressionAuto;
+        const QString word = "swordfish"_s;
+        const QString repeated(64, QLatin1Char('a'));
+        row("an empty text", {}, "AwI1gRE=");
+        row("a word", word, "AwJvxEdKnzXGn5ZLqL4=");
+        row("letters of two, three and four bytes", "päss ф 𝄞"_s, "AwKQa5mX9pdlK2QBFUsZQUTn");
+        row("a NUL inside", "a\0b"_s, "AwJmC9LNb8g=");
+        row("no protection", word, "AwB4v1hJmTjfi5dL", automatic, SettingsCipher::ProtectionNone);
+        row("a hash", word, "AwTvFNO1CgUp/RLzPG4qmkfelNBGYHzKPG5zo1VCkz4=", SettingsCipher::CompressionNever,
+            SettingsCipher::ProtectionHash);
+        row("compressed as it is shorter", repeated, "AwNcBHgGpGGg5VCvc6kHwkNqiCT1");
+        row("compressed, with a hash", repeated, "AwVcyvYsvu/CgFmEsWwmdBCEL88JjzL3dktkqOLXOVjV6IcnOly/",
+            SettingsCipher::CompressionAlways, SettingsCipher::ProtectionHash);
+        row("another key", word, "AwJDXE88SyRWMlU8Tyc=", automatic, SettingsCipher::ProtectionChecksum, 1);
     }
 
     void fixedVectorsHoldInBothDirections()
@@ -92,15 +90,15 @@ private slots:
         QFETCH(QString, plain);
         QFETCH(Compression, compression);
         QFETCH(Protection, protection);
-        QFETCH(QByteArray, text);
+        QFETCH(QString, text);
+        const QByteArray expected = QByteArray::fromBase64(text.toLatin1());
         SettingsCipher cipher;
         cipher.setKey(usedKey);
-        QCOMPARE(cipher.decryptToString(QString::fromLatin1(text)), plain);
-        QCOMPARE(cipher.decryptToByteArray(QByteArray::fromBase64(text)), plain.toUtf8());
+        QCOMPARE(cipher.decryptToString(text), plain);
+        QCOMPARE(cipher.decryptToByteArray(expected), plain.toUtf8());
         QCOMPARE(cipher.lastError(), SettingsCipher::ErrorNoError);
         cipher.setCompressionMode(compression);
         cipher.setIntegrityProtectionMode(protection);
-        const QByteArray expected = QByteArray::fromBase64(text);
         QCOMPARE(withRandomByteOf(expected, cipher.encryptToByteArray(plain)), expected);
         QCOMPARE(withRandomByteOf(expected, QByteArray::fromBase64(cipher.encryptToString(plain).toLatin1())),
                  expected);
@@ -163,14 +161,13 @@ private slots:
         QByteArray wrongHash;
         for (char byte = 0; byte < 20; ++byte)
             wrongHash.append(byte);
-        QTest::newRow("both integrity flags: the checksum alone counts")
-            << both << char(6) << wrongHash + "swordfish" << SettingsCipher::ErrorNoError;
-        QTest::newRow("the same as a hash") << both << char(4) << QByteArray() << SettingsCipher::ErrorIntegrityFailed;
-        QTest::newRow("too short for a hash")
-            << word << char(4) << QByteArray() << SettingsCipher::ErrorIntegrityFailed;
-        QTest::newRow("bits without a meaning")
-            << word << char(0x7a) << QByteArray("swordfish") << SettingsCipher::ErrorNoError;
-        QTest::newRow("a text that is no zlib data") << word << char(3) << QByteArray() << SettingsCipher::ErrorNoError;
+        const auto none = SettingsCipher::ErrorNoError;
+        const auto failed = SettingsCipher::ErrorIntegrityFailed;
+        addRow("both integrity flags: the checksum alone counts", both, char(6), wrongHash + "swordfish", none);
+        addRow("the same as a hash", both, char(4), QByteArray(), failed);
+        addRow("too short for a hash", word, char(4), QByteArray(), failed);
+        addRow("bits without a meaning", word, char(0x7a), QByteArray("swordfish"), none);
+        addRow("a text that is no zlib data", word, char(3), QByteArray(), none);
     }
 
     void flagsDecideHowTheBodyIsRead()
@@ -189,14 +186,14 @@ private slots:
         QTest::addColumn<QByteArray>("expected");
         const QByteArray plain(1000, 'a');
         const QByteArray good = qCompress(plain, 9);
-        QTest::newRow("a length and nothing else") << QByteArray(4, '\0') << QByteArray();
-        QTest::newRow("no zlib data") << withClaimedLength(QByteArray(100, 'a'), 1000) << QByteArray();
-        QTest::newRow("cut zlib data") << good.left(good.size() - 1) << QByteArray();
-        QTest::newRow("claims too much, but not too much to be had") << withClaimedLength(good, mebibyte) << plain;
+        addRow("a length and nothing else", QByteArray(4, '\0'), QByteArray());
+        addRow("no zlib data", withClaimedLength(QByteArray(100, 'a'), 1000), QByteArray());
+        addRow("cut zlib data", good.left(good.size() - 1), QByteArray());
+        addRow("claims too much, but not too much to be had", withClaimedLength(good, mebibyte), plain);
         // Whoever believes the length allocates it, and then finds the text; so 4 GiB, which nobody can, show nothing.
-        QTest::newRow("claims 1 GiB") << withClaimedLength(good, 1024 * mebibyte) << QByteArray();
-        QTest::newRow("claims little and becomes 64 MiB")
-            << withClaimedLength(qCompress(QByteArray(64 * mebibyte, 'a'), 9), 10) << QByteArray();
+        addRow("claims 1 GiB", withClaimedLength(good, 1024 * mebibyte), QByteArray());
+        addRow("claims little and becomes 64 MiB", withClaimedLength(qCompress(QByteArray(64 * mebibyte, 'a'), 9), 10),
+               QByteArray());
     }
 
     void hostileCompressedBodiesAreBounded()
