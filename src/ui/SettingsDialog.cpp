@@ -8,12 +8,14 @@
 #include "network/ProxyTester.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
+#include "ui/AppPalette.h"
 #include "ui/LanguageNames.h"
 #include "ui/Pictures.h"
 #include "ui/UsageConsent.h"
 #include "ui_SettingsDialog.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QIntValidator>
 #include <QLocale>
 #include <QSettings>
@@ -27,6 +29,8 @@ namespace {
 
 constexpr std::chrono::seconds proxyTestDelay(3); // after the last change
 constexpr int proxyTypeCount = 3;
+// How much of the text's colour is in the outline of a site's check box.
+constexpr double outlineStrength = 0.6;
 
 // The order of sites as a text: "First;;Second::0", the second one being disabled.
 const QString siteSeparator = QStringLiteral(";;");
@@ -66,6 +70,7 @@ SettingsDialog::SettingsDialog(Settings *settings, UsageConsent *consent, QWidge
     setUpProxyTest();
     fillSelectors();
     setUpReports();
+    outlineOrderChecks();
     writeUi();
     trackChanges();
 }
@@ -129,6 +134,23 @@ void SettingsDialog::setUpReports()
         return;
     m_form->usageStatisticsCheckBox->setEnabled(false);
     m_form->usageStatisticsCheckBox->setToolTip(tr("Switched off by DO_NOT_TRACK"));
+}
+
+// The style draws the outline of a check box in a shade of the window's colour, which is hardly seen where that is
+// dark.
+void SettingsDialog::outlineOrderChecks()
+{
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, AppPalette::mixedColor(colors.color(QPalette::Text), colors.color(QPalette::Base),
+                                                             outlineStrength));
+    m_form->orderList->setPalette(colors);
+}
+
+void SettingsDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        outlineOrderChecks();
+    QDialog::changeEvent(event);
 }
 
 // Changes

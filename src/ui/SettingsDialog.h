@@ -33,6 +33,9 @@ public:
     void accept() override;
     void done(int result) override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 signals:
     // The user changed something.
     void contentChanged();
@@ -62,6 +65,7 @@ private:
     void setUpProxyTest();
     void fillSelectors();
     void setUpReports();
+    void outlineOrderChecks();
     void restrictPort();
     [[nodiscard]] QString proxyAddress() const;
     [[nodiscard]] QString proxyTestWords() const;
