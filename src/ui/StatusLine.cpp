@@ -91,7 +91,7 @@ void StatusLine::showSavesMended(const tags::MendedSaves &mended)
     say(tr("A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1",
            "%1 is the paths of files"),
         mended.waiting);
-    showNotice(SavesMended, sentences.join(QLatin1Char(' ')));
+    showNotice(SavesMended, sentences.join(QLatin1String(". ")));
 }
 
 void StatusLine::showWritesFailed(const QString &reason, int count)
