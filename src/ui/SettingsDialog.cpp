@@ -11,6 +11,7 @@
 #include "ui/AppPalette.h"
 #include "ui/LanguageNames.h"
 #include "ui/Pictures.h"
+#include "ui/QuestionBox.h"
 #include "ui/UsageConsent.h"
 #include "ui_SettingsDialog.h"
 
@@ -65,6 +66,7 @@ SettingsDialog::SettingsDialog(Settings *settings, UsageConsent *consent, QWidge
     initPictures();
     m_form->setupUi(this);
     restrictPort();
+    removeIcons(m_form->buttonBox);
     m_form->icoExclamation->hide();
     alignProxyLabels();
     setUpProxyTest();
@@ -136,13 +138,15 @@ void SettingsDialog::setUpReports()
     m_form->usageStatisticsCheckBox->setToolTip(tr("Switched off by DO_NOT_TRACK"));
 }
 
-// The style draws the outline of a check box in a shade of the window's colour, which is hardly seen where that is
-// dark.
+// The style draws the outline of a check box in a darker shade of the window's colour, which is hardly seen where that
+// is dark already.
 void SettingsDialog::outlineOrderChecks()
 {
     QPalette colors = palette();
-    colors.setColor(QPalette::Window, AppPalette::mixedColor(colors.color(QPalette::Text), colors.color(QPalette::Base),
-                                                             outlineStrength));
+    const QColor text = colors.color(QPalette::Text);
+    const QColor ground = colors.color(QPalette::Base);
+    if (ground.lightness() < text.lightness())
+        colors.setColor(QPalette::Window, AppPalette::mixedColor(text, ground, outlineStrength));
     m_form->orderList->setPalette(colors);
 }
 

@@ -2,6 +2,7 @@
 #include "ui/UsageExample.h"
 
 #include "tracking/AppTracker.h"
+#include "ui/QuestionBox.h"
 
 #include <QDialogButtonBox>
 #include <QFontDatabase>
@@ -32,6 +33,7 @@ UsageExample::UsageExample(AppTracker *tracker, QWidget *parent)
     m_content->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_content->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    removeIcons(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(12);
