@@ -85,7 +85,9 @@ struct Maker
         checker = std::make_unique<UpdateChecker>(environment);
         QObject::connect(checker.get(), &UpdateChecker::stateChanged, [this] {
             static const QMetaEnum states = QMetaEnum::fromType<UpdateChecker::States>();
-            trace.append(QString::fromLatin1(states.valueToKey(checker->state())));
+            const QString state = QString::fromLatin1(states.valueToKey(checker->state()));
+            const bool isError = checker->state() == UpdateChecker::Error;
+            trace.append(isError ? state + QStringLiteral(": ") + checker->error() : state);
         });
         QObject::connect(checker->downloadAction(), &QAction::changed, [this] {
             if (checker->downloadAction()->isVisible())
@@ -144,7 +146,7 @@ struct Maker
                 checker->check(!checker->isQuiet());
             else
                 QVERIFY2(QMetaObject::invokeMethod(checker.get(), slot.toLatin1().constData()), qPrintable(slot));
-            await(step.section(QLatin1Char(':'), 1).trimmed());
+            await(step.section(QLatin1Char(':'), 1, -1).trimmed());
             if (QTest::currentTestFailed())
                 return;
         }
@@ -161,7 +163,7 @@ struct Maker
 
 const QString checked = QStringLiteral("check: Checking UpdateAvailable offered");
 const QString downloaded = checked + QStringLiteral(" | download: Downloading InstallAvailable");
-const QString failed = checked + QStringLiteral(" | download: Downloading Error");
+const QString failed = checked + QStringLiteral(" | download: Downloading Error: Can't get update: ");
 
 } // namespace
 
@@ -170,25 +172,354 @@ class tst_UpdateChecker : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void statesFollowTheSite_data();
-    void statesFollowTheSite();
-    void aBadDownloadLeavesNothing_data();
-    void aBadDownloadLeavesNothing();
-    void redirectsAreFollowedTwentyTimes();
-    void requestsSayWhoAsks();
-    void onlyWhatTheMakerSignedIsOpened_data();
-    void onlyWhatTheMakerSignedIsOpened();
-    void aFileIsOpenedAsItWasChecked();
-    void anAddressMustEndInAName_data();
-    void anAddressMustEndInAName();
-    void theRestIsAskedForWhenItFits_data();
-    void theRestIsAskedForWhenItFits();
-    void linksAreNotFollowed();
-    void aFolderThatIsALinkIsNotUsed();
-    void aFullDiskCostsNothing();
-    void whatIsOldIsRemoved();
-    void noSiteIsAskedWhereThereIsNone();
+    void initTestCase()
+    {
+        QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
+        QCoreApplication::setApplicationVersion(QStringLiteral("1.9.9"));
+        m_key = m_keys.path(QStringLiteral("key"));
+        m_publicKey = signUpdate({QStringLiteral("new-key"), m_key});
+        m_signature = signUpdate({m_key, QStringLiteral("2.0"), m_keys.write(QStringLiteral("setup"), setupContent)});
+        QCOMPARE(QByteArray::fromBase64(m_signature).size(), 64);
+    }
+
+    void statesFollowTheSite_data()
+    {
+        addColumns<LoopbackResponse>("information", "setupFile");
+        addTextColumns("steps");
+
+        const LoopbackResponse two = newest("2.0", m_signature);
+        const QString noAddress =
+            "Can't get update: The address of the setup file is not one that can be used. | download:"_s;
+        const QString noPage = "The server has no such page (HTTP 404)."_s;
+        const QString outOfOrder = "Checking Error: Can't check for update: The server is out of order (HTTP 500)."_s;
+        addRow("nothing is newer", newest("1.9.9"), setup(), "check: Checking UpToDate | check: Checking UpToDate"_s);
+        addRow("not newer modulo 256", newest("1.265.9"), setup(), "check: Checking UpToDate"_s);
+        addRow("step by step", two, setup(), downloaded + " | install: open exit"_s);
+        addRow("forced, all at once", two, setup(),
+               "forced: Checking UpdateAvailable offered Downloading InstallAvailable open exit"_s);
+        addRow("nothing works out of order", two, setup(),
+               "install: | download: | abortCheck: | abortDownload: | "_s + checked +
+                   " | install: | abortCheck: | abortDownload:"_s);
+        addRow("a complete file is not downloaded again", two, setup(),
+               downloaded + " | check: Checking UpdateAvailable offered InstallAvailable"_s +
+                   " | forced: Checking UpdateAvailable offered InstallAvailable open exit"_s);
+        addRow("the check is given up", hanging, setup(), "check: Checking | abortCheck: Normal | check: Checking"_s);
+        addRow("the download is given up", two, hanging,
+               checked + " | download: Downloading | abortDownload: offered UpdateAvailable"_s);
+        addRow("a forced download is given up", two, hanging,
+               "forced: Checking UpdateAvailable offered Downloading | abortDownload: Normal"_s);
+        addRow("the download begins before the size is known", newest("2.0", {}, "SITE/hanging"), setup(),
+               "check: Checking UpdateAvailable | download: Downloading | abortDownload: offered UpdateAvailable"_s);
+        addRow("a name that is no name", newest("2.0", {}, "SITE/-rf"), setup(),
+               "check: Checking Error: "_s + noAddress);
+        addRow("an address that is none", newest("2.0", {}, "file:///tmp/a"), setup(),
+               "check: Checking Error: "_s + noAddress);
+        addRow("a check drops the download", two, hanging,
+               checked + " | download: Downloading | "_s + checked + " | download: Downloading"_s);
+        addRow("a download slower than a page may be", two, dripping, downloaded);
+        addRow("the site is out of order", LoopbackResponse::error(500), setup(),
+               "quiet: Checking UpToDate | check: "_s + outOfOrder + " | check: "_s + outOfOrder);
+        addRow("nonsense is an error in a quiet check too", LoopbackResponse::page("<html>"), setup(),
+               "quiet: Checking Error: Failed to parse version information data."_s);
+        addRow("endless information", LoopbackResponse::page(QByteArray(1024 * 1024 + 1, ' ')), setup(),
+               "check: Checking Error: Can't check for update: The answer is larger than 1 MiB."_s);
+        addRow("a download is tried again", two, LoopbackResponse::error(404),
+               failed + noPage + " | download: Downloading Error: Can't get update: "_s + noPage);
+    }
+
+    void statesFollowTheSite()
+    {
+        QFETCH(LoopbackResponse, information);
+        QFETCH(LoopbackResponse, setupFile);
+        QFETCH(QString, steps);
+        Maker maker(m_publicKey, m_signature);
+        maker.environment.limits.total = std::chrono::seconds(2);
+        maker.inform(information);
+        maker.serve(setupFile);
+        maker.site.routeOthers([](const LoopbackRequest &) { return hanging; });
+        maker.run(steps);
+    }
+
+    void aBadDownloadLeavesNothing_data()
+    {
+        addColumns<LoopbackResponse>("answer");
+        addColumns<QByteArray>("headLength");
+        addTextColumns("reason");
+        const QString tooLarge = "The setup file is larger than it should be."_s;
+        const QString notWhole = "The server did not send the whole setup file."_s;
+        addRow("truncated", setup(&LoopbackResponse::cutAfter, qint64(50)), QByteArray(), "Connection closed"_s);
+        addRow("shorter than HEAD said", withoutLength, QByteArray("121"), notWhole);
+        addRow("longer than HEAD said", withoutLength, QByteArray("119"), tooLarge);
+        addRow("other lengths for HEAD and GET", setup(), QByteArray("119"),
+               "The setup file has another size than the server said."_s);
+        addRow("endless", withoutLength, QByteArray("0"), tooLarge);
+        addRow("huge", setup(), QByteArray("0"), tooLarge);
+        addRow("empty", LoopbackResponse::page({}), QByteArray(), notWhole);
+        addRow("another kind of answer", LoopbackResponse::error(203), QByteArray(), notWhole);
+        addRow("a part nobody asked for", LoopbackResponse{206, {}, "part"}, QByteArray("4"),
+               "The server sent something else than the setup file."_s);
+        addRow("silent", hanging, QByteArray(), "The server has been silent for 1 seconds."_s);
+    }
+
+    void aBadDownloadLeavesNothing()
+    {
+        QFETCH(LoopbackResponse, answer);
+        QFETCH(QByteArray, headLength);
+        QFETCH(QString, reason);
+        Maker maker(m_publicKey, m_signature);
+        maker.environment.mostSetupBytes = headLength == "0" ? 100 : 4000;
+        maker.environment.limits.idle = std::chrono::seconds(1);
+        maker.serve(answer, headLength);
+        maker.run(failed + reason);
+        QCOMPARE(maker.files(), QStringList());
+    }
+
+    void redirectsAreFollowedTwentyTimes()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.inform(newest("2.0", {}, "SITE/hop/19/a"));
+        maker.redirectTo("/files/versewell_2.0.deb");
+        maker.run(downloaded);
+        QCOMPARE(maker.folder.read(maker.fileName("a"_s)), setupContent);
+        maker.inform(newest("2.0", {}, "SITE/hop/20/b"));
+        maker.run(failed + "The server redirects too often."_s);
+        QCOMPARE(maker.files(), QStringList{"a"_s});
+        maker.redirectTo(informationPath.toLatin1() + "2");
+        maker.site.route(informationPath + "2"_s, newest("1.0"));
+        maker.inform(LoopbackResponse::redirect(307, "/hop/18/c"));
+        maker.run("check: Checking UpToDate"_s);
+        maker.inform(LoopbackResponse::redirect(307, "/hop/19/c"));
+        maker.run("check: Checking Error: Can't check for update: The server redirects too often."_s);
+        maker.inform(LoopbackResponse::redirect(302, "file:///etc/passwd"));
+        maker.run(
+            "check: Checking Error: Can't check for update: The server redirects to something that is not a web page."_s);
+    }
+
+    void requestsSayWhoAsks()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.environment.userAgentText = "a text"_s;
+        maker.environment.now = [] {
+            return QDateTime(QDate(2026, 1, 2), QTime(3, 4));
+        };
+        maker.run(downloaded + " | forced: Checking UpdateAvailable offered InstallAvailable open exit"_s);
+        QCOMPARE(maker.checker->lastCheck(), maker.environment.now());
+        QStringList asked;
+        for (const LoopbackRequest &request : maker.site.requests()) {
+            asked.append(QString::fromLatin1(request.method + ' ' + request.header("Accept-Encoding")));
+            QCOMPARE(request.header("Allow-Redirect"), QByteArray("true"));
+            const QByteArray kind = asked.size() > 3 ? "UpdateChecker [forced] (" : "UpdateChecker (";
+            QCOMPARE(request.header("User-Agent"), kind + "Versewell v1.9.9 / Linux / a text )");
+        }
+        QCOMPARE(asked.mid(0, 3), (QStringList{"GET gzip, deflate"_s, "HEAD identity"_s, "GET identity"_s}));
+    }
+
+    void onlyWhatTheMakerSignedIsOpened_data()
+    {
+        addTextColumns("version");
+        addColumns<QByteArray>("content", "signature", "key");
+        const QByteArray other = signUpdate({"new-key"_s, m_keys.path("other"_s)});
+        const QByteArray signedByOther = signUpdate({m_keys.path("other"_s), "2.0"_s, m_keys.path("setup"_s)});
+        QByteArray tampered = setupContent;
+        tampered[60] = 'b';
+        const QByteArray none;
+        addRow("tampered", "2.0"_s, tampered, m_signature, m_publicKey);
+        addRow("a bit longer", "2.0"_s, setupContent + '\0', m_signature, m_publicKey);
+        addRow("signed as another version", "2.1"_s, setupContent, m_signature, m_publicKey);
+        addRow("signed as the same version, written otherwise", "2.00"_s, setupContent, m_signature, m_publicKey);
+        addRow("signed by somebody else", "2.0"_s, setupContent, signedByOther, m_publicKey);
+        addRow("a key of somebody else", "2.0"_s, setupContent, m_signature, other);
+        addRow("without a signature", "2.0"_s, setupContent, none, m_publicKey);
+        addRow("half a signature", "2.0"_s, setupContent, m_signature.left(44), m_publicKey);
+        addRow("nonsense behind the signature", "2.0"_s, setupContent, m_signature + '!', m_publicKey);
+        addRow("without a key", "2.0"_s, setupContent, m_signature, none);
+    }
+
+    void onlyWhatTheMakerSignedIsOpened()
+    {
+        QFETCH(QString, version);
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, signature);
+        QFETCH(QByteArray, key);
+        Maker maker(key, signature);
+        if (key.isEmpty())
+            maker.environment.keys.clear();
+        maker.inform(newest(version.toLatin1(), signature));
+        maker.serve(LoopbackResponse::page(content));
+        maker.run(downloaded + " | install: Error: Can't install update | install:"_s);
+        // It is downloaded again, and then good.
+        maker.environment.keys = {QByteArray::fromBase64(m_publicKey)};
+        maker.checker.reset();
+        maker.inform(newest("2.0", m_signature));
+        maker.serve(setup());
+        const bool isKept = key.isEmpty() || signature.isEmpty(); // as nothing speaks against it
+        maker.run((isKept ? "check: Checking UpdateAvailable offered InstallAvailable"_s : downloaded) +
+                  " | install: open exit"_s);
+        QCOMPARE(maker.opened, QList<QByteArray>{setupContent});
+    }
+
+    void aFileIsOpenedAsItWasChecked()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.isOpenable = false;
+        maker.run(downloaded + " | install: open Error: Can't install update | "_s + checked + " InstallAvailable"_s);
+        // The same content, which somebody else has a name for.
+        const QString path = maker.folder.path(maker.fileName(setupName));
+        const QString other = maker.folder.write("other"_s, setupContent);
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(::link(qPrintable(other), qPrintable(path)), 0);
+        maker.run("install: Error: Can't install update"_s);
+    }
+
+    void anAddressMustEndInAName_data()
+    {
+        addTextColumns("path", "name");
+        const QString most = QString(124, QLatin1Char('a')) + ".deb"_s;
+        addRow("128 characters", most, most);
+        addRow("all that is allowed", "a/_aZ-9.+?b=c#d/e"_s, "_aZ-9.+"_s);
+        addRow("129 characters", "a"_s + most, ""_s);
+        addRow("300 characters", QString(300, QLatin1Char('a')), ""_s);
+        addRow("a path in disguise", "..%2F..%2Fx"_s, ""_s);
+        addRow("an option", "-rf"_s, ""_s);
+        addRow("a hidden file", ".profile"_s, ""_s);
+        addRow("the folder above", "a/.."_s, ""_s);
+        addRow("nothing", "a/"_s, ""_s);
+        addRow("a line break", "a%0Ab"_s, ""_s);
+        addRow("other letters", "caf%C3%A9"_s, ""_s);
+    }
+
+    void anAddressMustEndInAName()
+    {
+        QFETCH(QString, path);
+        QTEST(setupFileName(QUrl("http://a.example/"_s + path)), "name");
+    }
+
+    // A download is given up in the middle, and begun once more when the site answers otherwise.
+    void theRestIsAskedForWhenItFits_data()
+    {
+        addColumns<LoopbackResponse>("before", "later");
+        addTextColumns("version", "requests");
+        // REST stands for the place from which on the rest was asked for.
+        const LoopbackResponse whole = setup();
+        const LoopbackResponse part{206, {{"ETag", "\"1\""}, {"Content-Range", "bytes REST-119/120"}}, setupContent};
+        LoopbackResponse wrongPart = part;
+        wrongPart.headers[1].second = "bytes 0-119/120";
+        LoopbackResponse longerFile = part;
+        longerFile.headers[1].second = "bytes REST-119/121";
+        LoopbackResponse otherTag = part;
+        otherTag.headers[0].second = "\"2\"";
+        LoopbackResponse weak = dripping;
+        weak.headers.last().second = "W/\"1\"";
+        addRow("the server goes on", dripping, part, "2.0"_s, "HEAD, rest"_s);
+        addRow("the server sends all", dripping, whole, "2.0"_s, "HEAD, rest"_s);
+        addRow("another part", dripping, wrongPart, "2.0"_s, "HEAD, rest, whole"_s);
+        addRow("a part of a longer file", dripping, longerFile, "2.0"_s, "HEAD, rest, whole"_s);
+        addRow("a part of another content", dripping, otherTag, "2.0"_s, "HEAD, rest, whole"_s);
+        addRow("no such part", dripping, LoopbackResponse::error(416), "2.0"_s, "HEAD, rest, whole"_s);
+        addRow("another version of the same name", dripping, part, "2.1"_s, "HEAD, whole"_s);
+        addRow("content that has no sure mark", weak, part, "2.0"_s, "HEAD, whole"_s);
+    }
+
+    void theRestIsAskedForWhenItFits()
+    {
+        QFETCH(LoopbackResponse, before);
+        QFETCH(LoopbackResponse, later);
+        QFETCH(QString, version);
+        Maker maker(m_publicKey, m_signature);
+        maker.serve(before);
+        maker.run(checked + " | download: Downloading"_s);
+        QTRY_VERIFY(maker.checker->downloaded() > 9);
+        maker.run("abortDownload: offered UpdateAvailable"_s);
+        maker.checker.reset(); // as when the program starts again
+        maker.inform(newest(version.toLatin1()));
+        maker.site.forgetRequests();
+        QStringList requests;
+        maker.site.route("/files/"_s + setupName, [&](const LoopbackRequest &request) {
+            const QByteArray range = request.header("Range");
+            requests.append(request.method == "HEAD" ? "HEAD"_s : range.isEmpty() ? "whole"_s : "rest"_s);
+            if (range.isEmpty())
+                return setup();
+            const QByteArray from = range.mid(6).chopped(1); // "bytes=12-"
+            LoopbackResponse answer = later;
+            if (answer.status == 206)
+                answer.body = answer.body.mid(from.toInt());
+            for (auto &header : answer.headers)
+                header.second.replace("REST", from);
+            return answer;
+        });
+        maker.run(downloaded);
+        QTEST(requests.join(", "_s), "requests");
+        QCOMPARE(maker.folder.read(maker.fileName(setupName)), setupContent);
+        QCOMPARE(maker.checker->downloaded(), 120);
+        QCOMPARE(maker.files(), QStringList{setupName});
+    }
+
+    void linksAreNotFollowed()
+    {
+        Maker maker(m_publicKey, m_signature);
+        const QString precious = maker.folder.write("precious"_s, setupContent);
+        for (const QString &end : {""_s, ".part"_s, ".part.source"_s}) {
+            const QString link = maker.folder.path(maker.fileName(setupName + end));
+            QVERIFY(QDir().mkpath(maker.folder.path("Update"_s)));
+            QVERIFY(QFile::link(precious, link));
+        }
+        maker.run(downloaded + " | install: open exit"_s);
+        QVERIFY(!QFileInfo(maker.folder.path(maker.fileName(setupName))).isSymLink());
+        QCOMPARE(maker.folder.read("precious"_s), setupContent);
+        QCOMPARE(maker.files(), QStringList{setupName});
+        const QFile::Permissions others = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+        QVERIFY(!(QFile::permissions(maker.folder.path("Update"_s)) & others));
+    }
+
+    void aFolderThatIsALinkIsNotUsed()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.folder.write("photos/holiday 1.2.jpg"_s);
+        QVERIFY(QFile::link(maker.folder.path("photos"_s), maker.folder.path("Update"_s)));
+        maker.run("check: Checking Error: Can't open file: The folder "_s + maker.environment.folder +
+                  " cannot be used. | download:"_s);
+        QCOMPARE(maker.folder.names("photos"_s), QStringList{"holiday 1.2.jpg"_s});
+    }
+
+    void aFullDiskCostsNothing()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.serve(LoopbackResponse::page(QByteArray(200000, 'a')));
+        maker.run(checked);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before = {};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit small = {100000, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        maker.run("download: Downloading Error: Can't get update: "_s + qt_error_string(EFBIG));
+        setrlimit(RLIMIT_FSIZE, &before);
+        QCOMPARE(maker.files(), QStringList());
+    }
+
+    void whatIsOldIsRemoved()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.inform(newest("1.0"));
+        const QStringList kept{"a-1.9.10.deb"_s, "a-2.0.deb.part"_s, "a2.deb"_s, "b"_s};
+        for (const QString &name :
+             kept + QStringList{"a-1.9.9.deb"_s, "a-1.9.deb.part"_s, ".a-1.8.deb"_s, "c-1.0/d/e"_s})
+            maker.folder.write(maker.fileName(name));
+        maker.folder.write("other/f"_s);
+        QVERIFY(QFile::link(maker.folder.path("other"_s), maker.folder.path("Update/g-1.0"_s)));
+        QVERIFY(QFile::link(maker.folder.path("other"_s), maker.folder.path("Update/c-1.0/d/h"_s)));
+        maker.run("check: Checking UpToDate"_s);
+        QCOMPARE(maker.files(), kept);
+        QCOMPARE(maker.folder.names("other"_s), QStringList{"f"_s});
+    }
+
+    void noSiteIsAskedWhereThereIsNone()
+    {
+        Maker maker(m_publicKey, m_signature);
+        QSettings().setValue("endpoints/Maker"_s, "https://maker.example"_s);
+        reloadEndpoints();
+        maker.run("quiet: Checking UpToDate | check: Checking Error: Can't check for update: "_s +
+                  "This build of the program knows no site to ask."_s);
+    }
 
 private:
     TestFolder m_keys;
@@ -196,360 +527,6 @@ private:
     QByteArray m_publicKey;
     QByteArray m_signature;
 };
-
-void tst_UpdateChecker::initTestCase()
-{
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.9.9"));
-    m_key = m_keys.path(QStringLiteral("key"));
-    m_publicKey = signUpdate({QStringLiteral("new-key"), m_key});
-    m_signature = signUpdate({m_key, QStringLiteral("2.0"), m_keys.write(QStringLiteral("setup"), setupContent)});
-    QCOMPARE(QByteArray::fromBase64(m_signature).size(), 64);
-}
-
-void tst_UpdateChecker::statesFollowTheSite_data()
-{
-    addColumns<LoopbackResponse>("information", "setupFile");
-    addTextColumns("steps", "error");
-
-    const LoopbackResponse two = newest("2.0", m_signature);
-    addRow("nothing is newer", newest("1.9.9"), setup(), "check: Checking UpToDate | check: Checking UpToDate"_s, ""_s);
-    addRow("not newer modulo 256", newest("1.265.9"), setup(), "check: Checking UpToDate"_s, ""_s);
-    addRow("step by step", two, setup(), downloaded + " | install: open exit"_s, ""_s);
-    addRow("forced, all at once", two, setup(),
-           "forced: Checking UpdateAvailable offered Downloading InstallAvailable open exit"_s, ""_s);
-    addRow("nothing works out of order", two, setup(),
-           "install: | download: | abortCheck: | abortDownload: | "_s + checked +
-               " | install: | abortCheck: | abortDownload:"_s,
-           ""_s);
-    addRow("a complete file is not downloaded again", two, setup(),
-           downloaded + " | check: Checking UpdateAvailable offered InstallAvailable"_s +
-               " | forced: Checking UpdateAvailable offered InstallAvailable open exit"_s,
-           ""_s);
-    addRow("the check is given up", hanging, setup(), "check: Checking | abortCheck: Normal | check: Checking"_s, ""_s);
-    addRow("the download is given up", two, hanging,
-           checked + " | download: Downloading | abortDownload: offered UpdateAvailable"_s, ""_s);
-    addRow("a forced download is given up", two, hanging,
-           "forced: Checking UpdateAvailable offered Downloading | abortDownload: Normal"_s, ""_s);
-    addRow("the download begins before the size is known", newest("2.0", {}, "SITE/hanging"), setup(),
-           "check: Checking UpdateAvailable | download: Downloading | abortDownload: offered UpdateAvailable"_s, ""_s);
-    addRow("a name that is no name", newest("2.0", {}, "SITE/-rf"), setup(), "check: Checking Error | download:"_s,
-           "Can't get update: The address of the setup file "_s);
-    addRow("an address that is none", newest("2.0", {}, "file:///tmp/a"), setup(),
-           "check: Checking Error | download:"_s, "Can't get update: The address of the setup file "_s);
-    addRow("a check drops the download", two, hanging,
-           checked + " | download: Downloading | "_s + checked + " | download: Downloading"_s, ""_s);
-    addRow("a download slower than a page may be", two, dripping, downloaded, ""_s);
-    addRow("the site is out of order", LoopbackResponse::error(500), setup(),
-           "quiet: Checking UpToDate | check: Checking Error | check: Checking Error"_s,
-           "Can't check for update: The server is out of order (HTTP 500)."_s);
-    addRow("nonsense is an error in a quiet check too", LoopbackResponse::page("<html>"), setup(),
-           "quiet: Checking Error"_s, "Failed to parse version information data."_s);
-    addRow("endless information", LoopbackResponse::page(QByteArray(1024 * 1024 + 1, ' ')), setup(),
-           "check: Checking Error"_s, "Can't check for update: The answer is larger than "_s);
-    addRow("a download is tried again", two, LoopbackResponse::error(404), failed + " | download: Downloading Error"_s,
-           "Can't get update: The server has no such page (HTTP 404)."_s);
-}
-
-void tst_UpdateChecker::statesFollowTheSite()
-{
-    QFETCH(LoopbackResponse, information);
-    QFETCH(LoopbackResponse, setupFile);
-    QFETCH(QString, steps);
-    QFETCH(QString, error);
-    Maker maker(m_publicKey, m_signature);
-    maker.environment.limits.total = std::chrono::seconds(2);
-    maker.inform(information);
-    maker.serve(setupFile);
-    maker.site.routeOthers([](const LoopbackRequest &) { return hanging; });
-    maker.run(steps);
-    QCOMPARE(error.isEmpty() ? maker.checker->error() : maker.checker->error().left(error.size()), error);
-}
-
-void tst_UpdateChecker::aBadDownloadLeavesNothing_data()
-{
-    addColumns<LoopbackResponse>("answer");
-    addColumns<QByteArray>("headLength");
-    addTextColumns("reason");
-    const QString tooLarge = "The setup file is larger than it should be."_s;
-    const QString notWhole = "The server did not send the whole setup file."_s;
-    addRow("truncated", setup(&LoopbackResponse::cutAfter, qint64(50)), QByteArray(), "Connection closed"_s);
-    addRow("shorter than HEAD said", withoutLength, QByteArray("121"), notWhole);
-    addRow("longer than HEAD said", withoutLength, QByteArray("119"), tooLarge);
-    addRow("other lengths for HEAD and GET", setup(), QByteArray("119"),
-           "The setup file has another size than the server said."_s);
-    addRow("endless", withoutLength, QByteArray("0"), tooLarge);
-    addRow("huge", setup(), QByteArray("0"), tooLarge);
-    addRow("empty", LoopbackResponse::page({}), QByteArray(), notWhole);
-    addRow("another kind of answer", LoopbackResponse::error(203), QByteArray(), notWhole);
-    addRow("a part nobody asked for", LoopbackResponse{206, {}, "part"}, QByteArray("4"),
-           "The server sent something else than the setup file."_s);
-    addRow("silent", hanging, QByteArray(), "The server has been silent for 1 seconds."_s);
-}
-
-void tst_UpdateChecker::aBadDownloadLeavesNothing()
-{
-    QFETCH(LoopbackResponse, answer);
-    QFETCH(QByteArray, headLength);
-    QFETCH(QString, reason);
-    Maker maker(m_publicKey, m_signature);
-    maker.environment.mostSetupBytes = headLength == "0" ? 100 : 4000;
-    maker.environment.limits.idle = std::chrono::seconds(1);
-    maker.serve(answer, headLength);
-    maker.run(failed);
-    QCOMPARE(maker.checker->error(), "Can't get update: "_s + reason);
-    QCOMPARE(maker.files(), QStringList());
-}
-
-void tst_UpdateChecker::redirectsAreFollowedTwentyTimes()
-{
-    Maker maker(m_publicKey, m_signature);
-    maker.inform(newest("2.0", {}, "SITE/hop/19/a"));
-    maker.redirectTo("/files/versewell_2.0.deb");
-    maker.run(downloaded);
-    QCOMPARE(maker.folder.read(maker.fileName("a"_s)), setupContent);
-    maker.inform(newest("2.0", {}, "SITE/hop/20/b"));
-    maker.run(failed);
-    QCOMPARE(maker.checker->error(), "Can't get update: The server redirects too often."_s);
-    QCOMPARE(maker.files(), QStringList{"a"_s});
-    maker.redirectTo(informationPath.toLatin1() + "2");
-    maker.site.route(informationPath + "2"_s, newest("1.0"));
-    maker.inform(LoopbackResponse::redirect(307, "/hop/18/c"));
-    maker.run("check: Checking UpToDate"_s);
-    maker.inform(LoopbackResponse::redirect(307, "/hop/19/c"));
-    maker.run("check: Checking Error"_s);
-    maker.inform(LoopbackResponse::redirect(302, "file:///etc/passwd"));
-    maker.run("check: Checking Error"_s);
-    QCOMPARE(maker.checker->error(),
-             "Can't check for update: The server redirects to something that is not a web page."_s);
-}
-
-void tst_UpdateChecker::requestsSayWhoAsks()
-{
-    Maker maker(m_publicKey, m_signature);
-    maker.environment.userAgentText = "a text"_s;
-    maker.environment.now = [] {
-        return QDateTime(QDate(2026, 1, 2), QTime(3, 4));
-    };
-    maker.run(downloaded + " | forced: Checking UpdateAvailable offered InstallAvailable open exit"_s);
-    QCOMPARE(maker.checker->lastCheck(), maker.environment.now());
-    QStringList asked;
-    for (const LoopbackRequest &request : maker.site.requests()) {
-        asked.append(QString::fromLatin1(request.method + ' ' + request.header("Accept-Encoding")));
-        QCOMPARE(request.header("Allow-Redirect"), QByteArray("true"));
-        const QByteArray kind = asked.size() > 3 ? "UpdateChecker [forced] (" : "UpdateChecker (";
-        QCOMPARE(request.header("User-Agent"), kind + "Versewell v1.9.9 / Linux / a text )");
-    }
-    QCOMPARE(asked.mid(0, 3), (QStringList{"GET gzip, deflate"_s, "HEAD identity"_s, "GET identity"_s}));
-}
-
-void tst_UpdateChecker::onlyWhatTheMakerSignedIsOpened_data()
-{
-    addTextColumns("version");
-    addColumns<QByteArray>("content", "signature", "key");
-    const QByteArray other = signUpdate({"new-key"_s, m_keys.path("other"_s)});
-    const QByteArray signedByOther = signUpdate({m_keys.path("other"_s), "2.0"_s, m_keys.path("setup"_s)});
-    QByteArray tampered = setupContent;
-    tampered[60] = 'b';
-    const QByteArray none;
-    addRow("tampered", "2.0"_s, tampered, m_signature, m_publicKey);
-    addRow("a bit longer", "2.0"_s, setupContent + '\0', m_signature, m_publicKey);
-    addRow("signed as another version", "2.1"_s, setupContent, m_signature, m_publicKey);
-    addRow("signed as the same version, written otherwise", "2.00"_s, setupContent, m_signature, m_publicKey);
-    addRow("signed by somebody else", "2.0"_s, setupContent, signedByOther, m_publicKey);
-    addRow("a key of somebody else", "2.0"_s, setupContent, m_signature, other);
-    addRow("without a signature", "2.0"_s, setupContent, none, m_publicKey);
-    addRow("half a signature", "2.0"_s, setupContent, m_signature.left(44), m_publicKey);
-    addRow("nonsense behind the signature", "2.0"_s, setupContent, m_signature + '!', m_publicKey);
-    addRow("without a key", "2.0"_s, setupContent, m_signature, none);
-}
-
-void tst_UpdateChecker::onlyWhatTheMakerSignedIsOpened()
-{
-    QFETCH(QString, version);
-    QFETCH(QByteArray, content);
-    QFETCH(QByteArray, signature);
-    QFETCH(QByteArray, key);
-    Maker maker(key, signature);
-    if (key.isEmpty())
-        maker.environment.keys.clear();
-    maker.inform(newest(version.toLatin1(), signature));
-    maker.serve(LoopbackResponse::page(content));
-    maker.run(downloaded + " | install: Error | install:"_s);
-    QCOMPARE(maker.checker->error(), "Can't install update"_s);
-    // It is downloaded again, and then good.
-    maker.environment.keys = {QByteArray::fromBase64(m_publicKey)};
-    maker.checker.reset();
-    maker.inform(newest("2.0", m_signature));
-    maker.serve(setup());
-    const bool isKept = key.isEmpty() || signature.isEmpty(); // as nothing speaks against it
-    maker.run((isKept ? "check: Checking UpdateAvailable offered InstallAvailable"_s : downloaded) +
-              " | install: open exit"_s);
-    QCOMPARE(maker.opened, QList<QByteArray>{setupContent});
-}
-
-void tst_UpdateChecker::aFileIsOpenedAsItWasChecked()
-{
-    Maker maker(m_publicKey, m_signature);
-    maker.isOpenable = false;
-    maker.run(downloaded + " | install: open Error | check: Checking UpdateAvailable offered InstallAvailable"_s);
-    // The same content, which somebody else has a name for.
-    const QString path = maker.folder.path(maker.fileName(setupName));
-    const QString other = maker.folder.write("other"_s, setupContent);
-    QVERIFY(QFile::remove(path));
-    QCOMPARE(::link(qPrintable(other), qPrintable(path)), 0);
-    maker.run("install: Error"_s);
-}
-
-void tst_UpdateChecker::anAddressMustEndInAName_data()
-{
-    addTextColumns("path", "name");
-    const QString most = QString(124, QLatin1Char('a')) + ".deb"_s;
-    addRow("128 characters", most, most);
-    addRow("all that is allowed", "a/_aZ-9.+?b=c#d/e"_s, "_aZ-9.+"_s);
-    addRow("129 characters", "a"_s + most, ""_s);
-    addRow("300 characters", QString(300, QLatin1Char('a')), ""_s);
-    addRow("a path in disguise", "..%2F..%2Fx"_s, ""_s);
-    addRow("an option", "-rf"_s, ""_s);
-    addRow("a hidden file", ".profile"_s, ""_s);
-    addRow("the folder above", "a/.."_s, ""_s);
-    addRow("nothing", "a/"_s, ""_s);
-    addRow("a line break", "a%0Ab"_s, ""_s);
-    addRow("other letters", "caf%C3%A9"_s, ""_s);
-}
-
-void tst_UpdateChecker::anAddressMustEndInAName()
-{
-    QFETCH(QString, path);
-    QTEST(setupFileName(QUrl("http://a.example/"_s + path)), "name");
-}
-
-// A download is given up in the middle, and begun once more when the site answers otherwise.
-void tst_UpdateChecker::theRestIsAskedForWhenItFits_data()
-{
-    addColumns<LoopbackResponse>("before", "later");
-    addTextColumns("version", "requests");
-    // REST stands for the place from which on the rest was asked for.
-    const LoopbackResponse whole = setup();
-    const LoopbackResponse part{206, {{"ETag", "\"1\""}, {"Content-Range", "bytes REST-119/120"}}, setupContent};
-    LoopbackResponse wrongPart = part;
-    wrongPart.headers[1].second = "bytes 0-119/120";
-    LoopbackResponse longerFile = part;
-    longerFile.headers[1].second = "bytes REST-119/121";
-    LoopbackResponse otherTag = part;
-    otherTag.headers[0].second = "\"2\"";
-    LoopbackResponse weak = dripping;
-    weak.headers.last().second = "W/\"1\"";
-    addRow("the server goes on", dripping, part, "2.0"_s, "HEAD, rest"_s);
-    addRow("the server sends all", dripping, whole, "2.0"_s, "HEAD, rest"_s);
-    addRow("another part", dripping, wrongPart, "2.0"_s, "HEAD, rest, whole"_s);
-    addRow("a part of a longer file", dripping, longerFile, "2.0"_s, "HEAD, rest, whole"_s);
-    addRow("a part of another content", dripping, otherTag, "2.0"_s, "HEAD, rest, whole"_s);
-    addRow("no such part", dripping, LoopbackResponse::error(416), "2.0"_s, "HEAD, rest, whole"_s);
-    addRow("another version of the same name", dripping, part, "2.1"_s, "HEAD, whole"_s);
-    addRow("content that has no sure mark", weak, part, "2.0"_s, "HEAD, whole"_s);
-}
-
-void tst_UpdateChecker::theRestIsAskedForWhenItFits()
-{
-    QFETCH(LoopbackResponse, before);
-    QFETCH(LoopbackResponse, later);
-    QFETCH(QString, version);
-    Maker maker(m_publicKey, m_signature);
-    maker.serve(before);
-    maker.run(checked + " | download: Downloading"_s);
-    QTRY_VERIFY(maker.checker->downloaded() > 9);
-    maker.run("abortDownload: offered UpdateAvailable"_s);
-    maker.checker.reset(); // as when the program starts again
-    maker.inform(newest(version.toLatin1()));
-    maker.site.forgetRequests();
-    QStringList requests;
-    maker.site.route("/files/"_s + setupName, [&](const LoopbackRequest &request) {
-        const QByteArray range = request.header("Range");
-        requests.append(request.method == "HEAD" ? "HEAD"_s : range.isEmpty() ? "whole"_s : "rest"_s);
-        if (range.isEmpty())
-            return setup();
-        const QByteArray from = range.mid(6).chopped(1); // "bytes=12-"
-        LoopbackResponse answer = later;
-        if (answer.status == 206)
-            answer.body = answer.body.mid(from.toInt());
-        for (auto &header : answer.headers)
-            header.second.replace("REST", from);
-        return answer;
-    });
-    maker.run(downloaded);
-    QTEST(requests.join(", "_s), "requests");
-    QCOMPARE(maker.folder.read(maker.fileName(setupName)), setupContent);
-    QCOMPARE(maker.checker->downloaded(), 120);
-    QCOMPARE(maker.files(), QStringList{setupName});
-}
-
-void tst_UpdateChecker::linksAreNotFollowed()
-{
-    Maker maker(m_publicKey, m_signature);
-    const QString precious = maker.folder.write("precious"_s, setupContent);
-    for (const QString &end : {""_s, ".part"_s, ".part.source"_s}) {
-        const QString link = maker.folder.path(maker.fileName(setupName + end));
-        QVERIFY(QDir().mkpath(maker.folder.path("Update"_s)));
-        QVERIFY(QFile::link(precious, link));
-    }
-    maker.run(downloaded + " | install: open exit"_s);
-    QVERIFY(!QFileInfo(maker.folder.path(maker.fileName(setupName))).isSymLink());
-    QCOMPARE(maker.folder.read("precious"_s), setupContent);
-    QCOMPARE(maker.files(), QStringList{setupName});
-    const QFile::Permissions others = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
-    QVERIFY(!(QFile::permissions(maker.folder.path("Update"_s)) & others));
-}
-
-void tst_UpdateChecker::aFolderThatIsALinkIsNotUsed()
-{
-    Maker maker(m_publicKey, m_signature);
-    maker.folder.write("photos/holiday 1.2.jpg"_s);
-    QVERIFY(QFile::link(maker.folder.path("photos"_s), maker.folder.path("Update"_s)));
-    maker.run("check: Checking Error | download:"_s);
-    QVERIFY2(maker.checker->error().startsWith("Can't open file: "_s), qPrintable(maker.checker->error()));
-    QCOMPARE(maker.folder.names("photos"_s), QStringList{"holiday 1.2.jpg"_s});
-}
-
-void tst_UpdateChecker::aFullDiskCostsNothing()
-{
-    Maker maker(m_publicKey, m_signature);
-    maker.serve(LoopbackResponse::page(QByteArray(200000, 'a')));
-    maker.run(checked);
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before = {};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit small = {100000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    maker.run("download: Downloading Error"_s);
-    setrlimit(RLIMIT_FSIZE, &before);
-    QCOMPARE(maker.checker->error(), "Can't get update: "_s + qt_error_string(EFBIG));
-    QCOMPARE(maker.files(), QStringList());
-}
-
-void tst_UpdateChecker::whatIsOldIsRemoved()
-{
-    Maker maker(m_publicKey, m_signature);
-    maker.inform(newest("1.0"));
-    const QStringList kept{"a-1.9.10.deb"_s, "a-2.0.deb.part"_s, "a2.deb"_s, "b"_s};
-    for (const QString &name : kept + QStringList{"a-1.9.9.deb"_s, "a-1.9.deb.part"_s, ".a-1.8.deb"_s, "c-1.0/d/e"_s})
-        maker.folder.write(maker.fileName(name));
-    maker.folder.write("other/f"_s);
-    QVERIFY(QFile::link(maker.folder.path("other"_s), maker.folder.path("Update/g-1.0"_s)));
-    QVERIFY(QFile::link(maker.folder.path("other"_s), maker.folder.path("Update/c-1.0/d/h"_s)));
-    maker.run("check: Checking UpToDate"_s);
-    QCOMPARE(maker.files(), kept);
-    QCOMPARE(maker.folder.names("other"_s), QStringList{"f"_s});
-}
-
-void tst_UpdateChecker::noSiteIsAskedWhereThereIsNone()
-{
-    Maker maker(m_publicKey, m_signature);
-    QSettings().setValue("endpoints/Maker"_s, "https://maker.example"_s);
-    reloadEndpoints();
-    maker.run("quiet: Checking UpToDate | check: Checking Error"_s);
-    QCOMPARE(maker.checker->error(), "Can't check for update: This build of the program knows no site to ask."_s);
-}
 
 QTEST_MAIN(tst_UpdateChecker)
 #include "tst_updatechecker.moc"
