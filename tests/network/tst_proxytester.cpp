@@ -90,17 +90,18 @@ private slots:
         LoopbackServer server;
         server.routeOthers([](const LoopbackRequest &) { return LoopbackResponse::hanging(); });
         ProxyTester tester(page);
+        QSignalSpy changes(&tester, &ProxyTester::stateChanged);
         tester.stop();
+        QVERIFY2(changes.isEmpty(), "there was nothing to stop");
         QVERIFY(tester.start(proxyAt(server)));
         QTRY_COMPARE(server.requests().size(), 1);
         tester.stop();
         QCOMPARE(tester.state(), ProxyTester::Idle);
         QTRY_COMPARE(server.openConnections(), 0);
         server.routeOthers([](const LoopbackRequest &) { return LoopbackResponse::page("hello"); });
-        QSignalSpy changes(&tester, &ProxyTester::stateChanged);
         QVERIFY(tester.start(proxyAt(server)));
         QTRY_COMPARE(tester.state(), ProxyTester::Success);
-        QCOMPARE(changes.size(), 2);
+        QCOMPARE(changes.size(), 4);
     }
 };
 
