@@ -19,6 +19,7 @@ import run_demo
 import songs
 import stage
 import tags
+from maker import MakerSite
 from server import Answer, Sites
 
 MAIN, PREFERENCES, ABOUT, RECOVERY = "Versewell", "Preferences", "About", "OpenGL settings"
@@ -27,6 +28,8 @@ FILE_MENU, HELP_MENU, ADD_FOLDER, GEAR = (20, 11), (145, 11), (48, 37), (1007, 3
 ROW_HEIGHT, FIRST_ROW = 60, (200, 92)
 NOWHERE = (620, 668)  # in the status bar, where nothing answers to the mouse
 WAIT_SECONDS = 30
+# What is older than the versions that its maker's site has.
+VERSION = "1.5.6"
 # The program asks a site so many times at once.
 CONNECTIONS = 6
 
@@ -270,11 +273,36 @@ def show_recovery(show):
     show.picture("recovery-question", show.focus("Clear settings"))
 
 
+def show_update(show):
+    """A check for a newer version by the user, and what follows."""
+    maker = show.sites.servers[0].site
+    program = show.start()
+    show.click(GEAR)
+    show.picture("update-menu")
+    show.keys("Down", "Down", "Return")
+    show.picture("update-checking", show.focus("Update"))
+    maker.may_tell.set()
+    show.picture("update-offer", show.focus("Update available!"))
+    show.keys("Return")
+    download = show.focus("Updating Versewell")
+    show.picture("update-download", download)
+    maker.may_send.set()
+    show.picture("update-ready", download)
+    show.keys("Return")  # nothing is installed that is not signed
+    show.picture("update-failed", show.focus("Update"))
+    show.keys("Escape")
+    maker.newer = []
+    show.choose(GEAR, "Down", "Down")
+    show.picture("update-none", show.focus("Update"))
+    stage.end(program)
+
+
 SHOWS = {
     show_adding: lambda sites: sites,
     show_work: lambda sites: [Gate(sites[0]), *sites[1:]],
     show_troubles: lambda sites: [*map(Breakdown, sites[:-1]), sites[-1]],
     show_recovery: lambda sites: sites,
+    show_update: lambda _sites: [MakerSite(VERSION)],
 }
 
 

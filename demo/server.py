@@ -82,13 +82,16 @@ class Handler(http.server.BaseHTTPRequestHandler):
             with self.server.lock:
                 self.server.open_requests -= 1
 
+    do_HEAD = do_GET
+
     def send(self, answer):
         self.send_response(answer.status)
         for name, value in {"Content-Type": "text/html; charset=utf-8", **answer.headers}.items():
             self.send_header(name, value)
         self.send_header("Content-Length", str(len(answer.body)))
         self.end_headers()
-        self.wfile.write(answer.body)
+        if self.command != "HEAD":
+            self.wfile.write(answer.body)
 
     def log_message(self, *_):
         pass

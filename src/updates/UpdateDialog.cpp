@@ -15,6 +15,7 @@
 namespace {
 
 constexpr QSize usualSize(560, 480);
+constexpr int buttonPadding = 12;
 constexpr qreal notesMargin = 8;
 constexpr qreal listIndent = 20;
 constexpr qreal titleSize = 1.25; // times that of the other words
@@ -112,8 +113,10 @@ void UpdateDialog::createButtons(Occasion occasion)
     m_skip->setObjectName(QStringLiteral("skipButton"));
     m_later->setObjectName(QStringLiteral("latterButton"));
     m_install->setObjectName(QStringLiteral("installButton"));
-    for (QPushButton *button : {m_skip, m_later, m_install})
+    for (QPushButton *button : {m_skip, m_later, m_install}) {
         button->setAutoDefault(occasion == Occasion::Asked);
+        button->setMinimumWidth(button->sizeHint().width() + buttonPadding); // some styles leave none
+    }
     if (occasion == Occasion::Asked) {
         m_install->setDefault(true);
         m_install->setFocus();

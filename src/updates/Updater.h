@@ -79,7 +79,7 @@ private:
 
     std::function<QDateTime()> m_now;
     UpdateChecker m_checker;
-    QTimer m_timer;
+    QTimer m_timer{this};
     QDateTime m_lastCheckUpdate;
     QString m_skippedVersion; // in this run, should it not be possible to store it
     bool m_byUser = false;    // what is going on

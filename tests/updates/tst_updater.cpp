@@ -13,6 +13,7 @@
 #include <QSettings>
 #include <QtTest>
 
+#include <chrono>
 #include <optional>
 
 namespace {
@@ -115,6 +116,15 @@ private slots:
         rig.now = rig.now.addSecs(secondsLater);
         rig.updater->checkIfDue();
         QTEST(checked.count(), "checks");
+    }
+
+    void itIsLookedEveryMinuteWhetherACheckIsDue()
+    {
+        Rig rig;
+        const QTimer *timer = rig.updater->findChild<QTimer *>();
+        QVERIFY(!timer->isActive()); // the program starts first
+        rig.updater->startUpdateTimer();
+        QVERIFY(timer->isActive() && timer->intervalAsDuration() == std::chrono::minutes(1));
     }
 
     void aCheckShowsWhatItsOccasionAsksFor_data()
