@@ -2,8 +2,10 @@
 #include "app/RecoveryDialog.h"
 
 #include "settings/SettingsChange.h"
+#include "ui/QuestionBox.h"
 #include "ui_RecoveryDialog.h"
 
+#include <QDialogButtonBox>
 #include <QMessageBox>
 
 namespace {
@@ -26,6 +28,7 @@ RecoveryDialog::RecoveryDialog(QWidget *parent)
     m_form->line->hide();
     m_form->lblCleared->hide();
     m_form->buttonBox->setStandardButtons(QDialogButtonBox::Ok);
+    removeIcons(m_form->buttonBox);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -46,6 +49,7 @@ void RecoveryDialog::on_btnClearSettings_clicked()
                                      QMessageBox::Yes | QMessageBox::No, this);
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setDefaultButton(QMessageBox::No);
+    removeIcons(question->findChild<QDialogButtonBox *>());
     connect(question, &QDialog::finished, this, [this](int answer) {
         if (answer == QMessageBox::Yes)
             clearSettings();

@@ -2,8 +2,10 @@
 #include "ui/AddDialogs.h"
 
 #include "settings/SettingsChange.h"
+#include "ui/QuestionBox.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QSettings>
 
@@ -12,6 +14,8 @@ static QFileDialog *makeDialog(const QString &title, SettingsKey folder, QFileDi
     auto *dialog = new QFileDialog(parent, title, storedValue(QSettings(), folder).toString());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(mode);
+    if (const auto *buttons = dialog->findChild<QDialogButtonBox *>()) // the desktop's own dialog has none
+        removeIcons(buttons);
     return dialog;
 }
 

@@ -202,36 +202,26 @@ Item {
             compare(proxyModel.selectedCount, 1);
         }
 
-        function test_typed_names_are_saved_with_the_lyrics_data() {
-            return [{ tag: "from the song", away: false, key: Qt.Key_Z, name: "z" }];
+        function test_typed_names_are_taken_over_data() {
+            return [
+                { tag: "saved with the lyrics", act: root.saveLyrics, searches: 0, key: Qt.Key_Y, name: "y" },
+                { tag: "by a search, which discards the draft", act: root.forceSearch, searches: 1, key: Qt.Key_Z, name: "z" }
+            ];
         }
 
-        function test_typed_names_are_saved_with_the_lyrics(row) {
+        function test_typed_names_are_taken_over(row) {
             proxyModel.currentIndex = 0;
             tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
             root.editLyrics();
             mainWindow.lyricsEdit.text = "draft";
             findChild(root, "artistField").forceActiveFocus();
             keyClick(row.key);
-            if (row.away)
-                proxyModel.currentIndex = 1;
             verify(mainWindow.song(0).artistTag !== row.name);
-            root.saveLyrics();
+            row.act();
             compare(mainWindow.song(0).artistTag, row.name);
-            tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
-        }
-
-        function test_a_search_discards_the_draft_and_takes_typed_names_over() {
-            proxyModel.currentIndex = 0;
-            tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
-            root.editLyrics();
-            mainWindow.lyricsEdit.text = "draft";
-            findChild(root, "artistField").forceActiveFocus();
-            keyClick(Qt.Key_Z);
-            root.forceSearch();
             verify(!mainWindow.lyricsEdit.active);
-            compare(mainWindow.song(0).artistTag, "z");
-            compare(searches.count, 1);
+            compare(searches.count, row.searches);
+            tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
         }
 
         function test_the_bars_are_there_when_they_have_something_to_say() {

@@ -554,6 +554,7 @@ private slots:
         addRow("removed by key", "key", 2);
         addRow("the list is cleared", "actionClearList", 0);
         addRow("removed with all that have lyrics", "actionRemoveWithLyrics", 2);
+        addRow("Escape outside of the lyrics", "Escape", 3);
         addRow("the window is closed", "close", 3);
     }
 
@@ -575,6 +576,8 @@ private slots:
                 m_proxy->setShowFound(false);
             else if (cause == "key"_s)
                 press(Qt::Key_Delete);
+            else if (cause == "Escape"_s)
+                press(Qt::Key_Escape);
             else if (cause == "close"_s)
                 m_window->close();
             else
@@ -628,17 +631,6 @@ private slots:
         question()->button(QMessageBox::Save)->click();
         QCOMPARE(song(0)->lyricsTag(), "new"_s);
         QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
-    }
-
-    void escapeOutsideTheLyricsAsksFirst()
-    {
-        addCopies(1);
-        beginDraft(0);
-        part("songList")->forceActiveFocus();
-        press(Qt::Key_Escape);
-        answer(QMessageBox::Cancel);
-        QCOMPARE(m_window->lyricsEdit()->text(), "new"_s);
-        m_window->lyricsEdit()->cancel();
     }
 
     void anUnchangedDraftGoesQuietly()
