@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::size_t blockBytes = 1024 * 1024;
+constexpr std::size_t blockBytes = 1024UL * 1024;
 
 // Differs between any two files, and changes with every write. The time of access is not in it.
 QByteArray identityOf(const struct stat &status)

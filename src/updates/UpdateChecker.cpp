@@ -19,7 +19,7 @@ namespace {
 
 constexpr qint64 chunkBytes = 65536;
 // What may wait in memory when the disk is slower than the site.
-constexpr qint64 bufferedBytes = 1024 * 1024;
+constexpr qint64 bufferedBytes = 1024LL * 1024;
 
 constexpr int wholeFile = 200;
 constexpr int partOfFile = 206;
