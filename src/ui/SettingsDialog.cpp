@@ -30,8 +30,9 @@ namespace {
 
 constexpr std::chrono::seconds proxyTestDelay(3); // after the last change
 constexpr int proxyTypeCount = 3;
-// How much of the text's colour is in the outline of a site's check box.
-constexpr double outlineStrength = 0.6;
+// How much of the text's colour goes into the outlines of the sites, which the style then darkens.
+constexpr double outlineOnDark = 0.6;
+constexpr double outlineOnLight = 0.3;
 
 // The order of sites as a text: "First;;Second::0", the second one being disabled.
 const QString siteSeparator = QStringLiteral(";;");
@@ -138,15 +139,14 @@ void SettingsDialog::setUpReports()
     m_form->usageStatisticsCheckBox->setToolTip(tr("Switched off by DO_NOT_TRACK"));
 }
 
-// The style draws the outline of a check box in a darker shade of the window's colour, which is hardly seen where that
-// is dark already.
+// The style draws the outline of a check box in a shade of the window's colour, which is hardly seen on the list's.
 void SettingsDialog::outlineOrderChecks()
 {
     QPalette colors = palette();
     const QColor text = colors.color(QPalette::Text);
     const QColor ground = colors.color(QPalette::Base);
-    if (ground.lightness() < text.lightness())
-        colors.setColor(QPalette::Window, AppPalette::mixedColor(text, ground, outlineStrength));
+    const double strength = ground.lightness() < text.lightness() ? outlineOnDark : outlineOnLight;
+    colors.setColor(QPalette::Window, AppPalette::mixedColor(text, ground, strength));
     m_form->orderList->setPalette(colors);
 }
 

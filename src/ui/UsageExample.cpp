@@ -19,9 +19,9 @@ UsageExample::UsageExample(AppTracker *tracker, QWidget *parent)
     , m_content(new QPlainTextEdit(this))
 {
     setWindowTitle(tr("Example of a usage event"));
-    auto *words = new QLabel(tr("This is sent whenever a search for a song begins; the song is made up here. The "
-                                "start and the end of the program, an update and clicks on the maker's pages are "
-                                "reported in the same way, without names of songs."),
+    auto *words = new QLabel(tr("This is sent whenever a search for a song begins; the song is made up here. The start "
+                                "and the end of the program, an update, clicks on the maker's pages and a window that "
+                                "cannot be drawn are reported in the same way, without names of songs."),
                              this);
     words->setTextFormat(Qt::PlainText);
     words->setWordWrap(true);
