@@ -83,6 +83,13 @@ private slots:
         QTEST(cleanLyrics(DarkLyricsProvider::songUnderAnchor(page, anchor).value_or(QString())), "lyrics");
     }
 
+    // Compared anew from each place, a heading that nearly is the anchor takes minutes.
+    void answersHostileAnchors()
+    {
+        const QString page = wrapped("<h3>"_s + repeated("\"") + "</h3>"_s);
+        QVERIFY(!DarkLyricsProvider::songUnderAnchor(page, QString(200 * 1000, QLatin1Char('"'))));
+    }
+
     void readsLikeThePlainExpressions()
     {
         const QString album = sitePage("darklyrics", "album.html");
