@@ -24,7 +24,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <limits>
 
 namespace {
 
@@ -39,11 +38,10 @@ const QString siteSeparator = QStringLiteral(";;");
 const QString markSeparator = QStringLiteral("::");
 const QString disabledMark = QStringLiteral("0");
 
-// Whether new versions are looked for by themselves. A period that cannot be read counts as the usual one.
+// Whether new versions are looked for by themselves, as the updater reads it.
 bool checksForUpdates()
 {
-    const QVariant period = storedValue(QSettings(), SettingsKey::UpdaterPeriod);
-    return numberOf(period, std::numeric_limits<int>::min(), 0) == std::nullopt;
+    return storedValue(QSettings(), SettingsKey::UpdaterPeriod).toLongLong() > 0;
 }
 
 void select(QComboBox *box, int index)
