@@ -19,5 +19,5 @@ void benchPages();
 // Songs searched on a site that takes 50 ms a page, beside the bound that six connections to a host set.
 void benchSearching();
 // The window: its first frame with an empty and a long list, beside a bare window with a scene; how long the event loop
-// stands still while songs load and the list is scrolled; memory of a row.
+// stands still while songs load and are searched for and the list is scrolled; memory of a row.
 void benchWindow();
