@@ -32,6 +32,7 @@ StatusLine::StatusLine(QStatusBar *bar)
     auto *layout = new QHBoxLayout(m_searches);
     layout->setContentsMargins(0, 0, 10, 0); // with the bar's own spacing, 16 pixels to the first notice
     layout->setSpacing(16);
+    m_searches->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     layout->addWidget(m_label);
     layout->addWidget(m_progress);
     m_bar->addWidget(m_searches);
