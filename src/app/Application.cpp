@@ -97,6 +97,7 @@ void Application::setNames()
     setOrganizationName(organisation);
     setApplicationVersion(QStringLiteral(VERSEWELL_VERSION));
     setOrganizationDomain(endpointBase(Endpoint::Maker).host());
+    setDesktopFileName(QStringLiteral(VERSEWELL_APP_ID)); // where desktops find the window's icon
 }
 
 QString Application::settingsFile()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/Application.h"
+#include "app/CommandLine.h"
 #include "app/GraphicsBackend.h"
 #include "app/Recovery.h"
 #include "app/TerminationSignals.h"
@@ -8,6 +9,7 @@
 #include "ui/FirstPaint.h"
 #include "ui/MainWindow.h"
 
+#include <QDir>
 #include <QMessageBox>
 #include <QThreadPool>
 
@@ -18,7 +20,7 @@
 
 namespace {
 
-enum ExitStatus { Done = 0, OtherInstanceRuns = 1, StartedAnew = 2, SceneNotLoaded = 3 };
+enum ExitStatus { Done = 0, OtherInstanceRuns = 1, StartedAnew = 2, SceneNotLoaded = 3, BadUsage = 64 };
 
 // A write that makes no progress for so long is given up at the end of the program.
 constexpr std::chrono::seconds writePatience(30);
@@ -78,6 +80,15 @@ int startAnew(Application &app)
     return StartedAnew;
 }
 
+// Held keys at the start, and Shift where the environment asks for it: not every desktop tells which keys are held. The
+// program that starts anew must not find it again.
+Qt::KeyboardModifiers heldKeys()
+{
+    const bool recovery = qgetenv("VERSEWELL_RECOVERY") == "1";
+    qunsetenv("VERSEWELL_RECOVERY");
+    return QGuiApplication::queryKeyboardModifiers() | (recovery ? Qt::ShiftModifier : Qt::NoModifier);
+}
+
 // Waits for the writes that are queued, and lets the model hear of them.
 void finishWrites()
 {
@@ -92,9 +103,19 @@ int main(int argc, char **argv)
     // Before anything of the window is made: in this role the program only reads tags.
     if (tags::isReaderCall(argc, argv))
         return tags::runReader(argc, argv);
+    if (const QByteArray answer = answerFor(argc, argv); !answer.isEmpty()) {
+        std::fputs(answer.constData(), stdout);
+        return Done;
+    }
     std::signal(SIGXFSZ, SIG_IGN); // a limit on file sizes is an error to report, not the end of the program
     // This very program, also after its file was replaced by another version.
     Application app(argc, argv, QStringLiteral("/proc/self/exe"));
+    const CommandLine line = readCommandLine(Application::arguments(), QDir::currentPath());
+    if (!line.unknownOption.isEmpty()) {
+        std::fprintf(stderr, "versewell: the option %s is not known; --help lists all.\n",
+                     qUtf8Printable(line.unknownOption));
+        return BadUsage;
+    }
     if (app.isOtherInstanceRunning()) {
         std::fputs("Versewell is running already.\n", stderr);
         return OtherInstanceRuns;
@@ -102,12 +123,13 @@ int main(int argc, char **argv)
     const TerminationSignals signalsToEnd; // from here on they end the program in order
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &app, &QCoreApplication::quit);
     chooseGraphicsBackend();
-    const AfterRecovery next = offerRecovery(QGuiApplication::queryKeyboardModifiers(), signalsToEnd);
+    const AfterRecovery next = offerRecovery(heldKeys(), signalsToEnd);
     if (next == AfterRecovery::StartAnew)
         return startAnew(app);
     if (next == AfterRecovery::End)
         return Done;
     app.restoreFilesList();
+    app.mainModel()->addUrls(line.songs);
     app.setUpLanguages();
     app.noteStart();
     const int status = runWindow(app, signalsToEnd);
