@@ -166,6 +166,13 @@ void SceneWidget::watchFocus()
         item->installEventFilter(this);
 }
 
+void SceneWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        engine()->retranslate();
+    QQuickWidget::changeEvent(event);
+}
+
 bool SceneWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_focusedText && event->type() == QEvent::ShortcutOverride) {
