@@ -49,10 +49,10 @@ public slots:
     void focusLyrics();
 
 protected:
-    // The Tab key goes round in the scene as one part of the window: its last item hands on to the window's buttons,
-    // and from these it comes in at the first one.
     // A change of the language changes the scene's texts at once.
     void changeEvent(QEvent *event) override;
+    // The Tab key goes round in the scene as one part of the window: its last item hands on to the window's buttons,
+    // and from these it comes in at the first one.
     bool focusNextPrevChild(bool next) override;
     void focusInEvent(QFocusEvent *event) override;
 
