@@ -5,178 +5,178 @@
     <name>AboutDialog</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Made by %1</source>
         <comment>%1 is the maker&apos;s name</comment>
-        <translation type="unfinished"></translation>
+        <translation>Entwickelt von %1</translation>
     </message>
 </context>
 <context>
     <name>AccessManager</name>
     <message>
         <source>Not a web address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Webadresse: %1</translation>
     </message>
     <message>
         <source>%1 asked for a pause and can be asked again in %2 s.</source>
         <comment>%1 is a host name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 bittet um eine Pause und kann in %2 s wieder angefragt werden.</translation>
     </message>
     <message>
         <source>The proxy wants a log-in of a kind that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy verlangt ein Anmeldeverfahren, das nicht unterstützt wird.</translation>
     </message>
 </context>
 <context>
     <name>AddDialogs</name>
     <message>
         <source>Select file(s) to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien zum Hinzufügen auswählen</translation>
     </message>
     <message>
         <source>Audio files</source>
-        <translation type="unfinished"></translation>
+        <translation>Audiodateien</translation>
     </message>
     <message>
         <source>Select folder to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner zum Hinzufügen auswählen</translation>
     </message>
 </context>
 <context>
     <name>AudioPreview</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>No preview: the Qt module QtMultimedia is missing (package qml-module-qtmultimedia).</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Hörprobe: Das Qt-Modul QtMultimedia fehlt (Paket qml-module-qtmultimedia).</translation>
     </message>
     <message>
         <source>This file cannot be played here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei kann hier nicht wiedergegeben werden.</translation>
     </message>
 </context>
 <context>
     <name>ConsentBar</name>
     <message>
         <source>May usage events be sent to the maker? Those about searches name artist and title.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dürfen Nutzungsdaten an den Hersteller gesendet werden? Bei Suchen enthalten sie Interpret und Titel.</translation>
     </message>
     <message>
         <source>What is sent?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was wird gesendet?</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel für Nutzungsdaten anzeigen</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>Yes, send usage events</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja, Nutzungsdaten senden</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>No, send nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein, nichts senden</translation>
     </message>
 </context>
 <context>
     <name>DetailsPane</name>
     <message numerus="yes">
         <source>Selected %n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei ausgewählt</numerusform>
+            <numerusform>%n Dateien ausgewählt</numerusform>
         </translation>
     </message>
     <message>
         <source>No file is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei ausgewählt</translation>
     </message>
     <message>
         <source>Artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret:</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
 </context>
 <context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;leer&gt;</translation>
     </message>
     <message>
         <source>Enter to apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Enter übernehmen</translation>
     </message>
 </context>
 <context>
     <name>EmptyList</name>
     <message>
         <source>All files here have lyrics and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien haben Songtexte und sind ausgeblendet</translation>
     </message>
     <message>
         <source>Drop music files or folders here</source>
-        <translation type="unfinished"></translation>
+        <translation>Musikdateien oder Ordner hier ablegen</translation>
     </message>
     <message>
         <source>Add files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien hinzufügen ...</translation>
     </message>
     <message>
         <source>Add a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen ...</translation>
     </message>
 </context>
 <context>
     <name>ExitWidget</name>
     <message>
         <source>Do you want to quit anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Programm trotzdem beenden?</translation>
     </message>
     <message numerus="yes">
         <source>Search for %n songs is currently in progress.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Suche für %n Song läuft noch.</numerusform>
+            <numerusform>Die Suche für %n Songs läuft noch.</numerusform>
         </translation>
     </message>
 </context>
@@ -185,107 +185,107 @@
     <message>
         <source>%1, %2, %3</source>
         <comment>title, artist and how the song stands</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>No title</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
     <message>
         <source>No artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Interpret</translation>
     </message>
     <message>
         <source>Show in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Dateiverwaltung anzeigen</translation>
     </message>
 </context>
 <context>
     <name>LimitedReply</name>
     <message>
         <source>The server refuses to answer (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server verweigert die Antwort (HTTP %1).</translation>
     </message>
     <message>
         <source>The server has no such page (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server kennt diese Seite nicht (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is asked too often (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server erhält zu viele Anfragen (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is out of order (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Server liegt eine Störung vor (HTTP %1).</translation>
     </message>
     <message>
         <source>The server cannot answer the request (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server kann die Anfrage nicht beantworten (HTTP %1).</translation>
     </message>
     <message>
         <source>The request was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anfrage wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The server has been silent for %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat seit %1 Sekunden nichts gesendet.</translation>
     </message>
     <message>
         <source>The server took longer than %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat länger als %1 Sekunden gebraucht.</translation>
     </message>
     <message>
         <source>The answer is packed in a way that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort ist mit einem unbekannten Verfahren komprimiert.</translation>
     </message>
     <message>
         <source>The answer arrived damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort ist beschädigt angekommen.</translation>
     </message>
     <message>
         <source>The connection broke before the whole answer had arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung ist abgebrochen, bevor die ganze Antwort angekommen war.</translation>
     </message>
     <message>
         <source>The answer is larger than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort ist größer als %1.</translation>
     </message>
 </context>
 <context>
     <name>ListPane</name>
     <message numerus="yes">
         <source>Scanning folder(s) for music files (found %n)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Suche nach Musikdateien (%n gefunden)</numerusform>
+            <numerusform>Suche nach Musikdateien (%n gefunden)</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message numerus="yes">
         <source>Hidden %n file(s) with lyrics</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mit Songtext ausgeblendet</numerusform>
+            <numerusform>%n mit Songtext ausgeblendet</numerusform>
         </translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Show hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeblendete Dateien anzeigen</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Remove hidden files from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeblendete Dateien aus der Liste entfernen</translation>
     </message>
 </context>
 <context>
@@ -293,27 +293,27 @@
     <message>
         <source>The lyrics of “%1” have been changed.</source>
         <comment>%1 is the title of a song</comment>
-        <translation type="unfinished"></translation>
+        <translation>Der Songtext von „%1“ wurde geändert.</translation>
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Änderungen speichern?</translation>
     </message>
 </context>
 <context>
     <name>LyricsItem</name>
     <message>
         <source>This lyrics for:</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext zu:</translation>
     </message>
     <message>
         <source>“%1” – “%2”</source>
         <comment>artist and title</comment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ – „%2“</translation>
     </message>
     <message>
         <source>These lyrics are very long; their beginning is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Songtext ist sehr lang; nur der Anfang wird angezeigt.</translation>
     </message>
 </context>
 <context>
@@ -321,142 +321,142 @@
     <message>
         <source>%1 redirects to something that is not a web page.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 leitet auf etwas um, das keine Webseite ist.</translation>
     </message>
     <message>
         <source>%1 redirects too often.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 leitet zu oft um.</translation>
     </message>
     <message>
         <source>%1 gave a page that holds no lyrics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite von %1 enthält keinen Songtext.</translation>
     </message>
 </context>
 <context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext</translation>
     </message>
 </context>
 <context>
     <name>LyricsToolbar</name>
     <message>
         <source>Edit lyrics (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext bearbeiten (F2)</translation>
     </message>
     <message>
         <source>Save lyrics (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext speichern (Strg+S)</translation>
     </message>
     <message>
         <source>Cancel editing (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten abbrechen (Esc)</translation>
     </message>
     <message>
         <source>Force to search lyrics (Ctrl+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Songtext erzwingen (Strg+R)</translation>
     </message>
     <message>
         <source>Copy lyrics to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext in die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Songtext mit %1 suchen</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinere Schrift</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Größere Schrift</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Add file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei hinzufügen</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>Hide file(s) with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien mit Songtext ausblenden</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Remove with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien mit Songtext entfernen</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste leeren</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl entfernen</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Website</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext als TXT-Datei exportieren</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
 </context>
 <context>
@@ -464,839 +464,843 @@
     <message>
         <source>%1 leads from one list of songs to the next.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 führt von einer Songliste nur zur nächsten.</translation>
     </message>
     <message>
         <source>%1 gave a page that is too intricate to read.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite von %1 ist zu verschachtelt, um sie auszuwerten.</translation>
     </message>
 </context>
 <context>
     <name>PlaybackSlider</name>
     <message>
         <source>Position in the song</source>
-        <translation type="unfinished"></translation>
+        <translation>Position im Song</translation>
     </message>
 </context>
 <context>
     <name>Proxy</name>
     <message>
         <source>The proxy does not take the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy nimmt die Verbindung nicht an.</translation>
     </message>
     <message>
         <source>The proxy closed the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy hat die Verbindung geschlossen.</translation>
     </message>
     <message>
         <source>The proxy was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy wurde nicht gefunden.</translation>
     </message>
     <message>
         <source>The proxy did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>The proxy refuses the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy weist den Benutzernamen oder das Passwort zurück.</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy funktioniert nicht.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Host not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechner nicht gefunden</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung verweigert</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitüberschreitung beim Verbindungsaufbau</translation>
     </message>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitüberschreitung bei der Socket-Operation</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk nicht erreichbar</translation>
     </message>
     <message>
         <source>The remote host closed the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gegenseite hat die Verbindung geschlossen</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erhöhen</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verringern</translation>
     </message>
 </context>
 <context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort:</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor</translation>
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Übergeordneter Ordner</translation>
     </message>
     <message>
         <source>Create New Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Ordner anlegen</translation>
     </message>
     <message>
         <source>List View</source>
-        <translation type="unfinished"></translation>
+        <translation>Listenansicht</translation>
     </message>
     <message>
         <source>Detail View</source>
-        <translation type="unfinished"></translation>
+        <translation>Detailansicht</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei&amp;name:</translation>
     </message>
     <message>
         <source>Files of type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateityp:</translation>
     </message>
     <message>
         <source>Directory:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner:</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>&amp;Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auswählen</translation>
     </message>
     <message>
         <source>Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>%1
 File not found.
 Please verify the correct file name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Datei nicht gefunden.
+Bitte prüfen Sie, ob der Dateiname stimmt.</translation>
     </message>
     <message>
         <source>%1
 Directory not found.
 Please verify the correct directory name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Ordner nicht gefunden.
+Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungsdatum</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schl&amp;ießen</translation>
     </message>
     <message>
         <source>Close without Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Speichern schließen</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechner %1 nicht gefunden</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung verweigert</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung geschlossen</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk nicht erreichbar</translation>
     </message>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechner nicht erreichbar</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitüberschreitung beim Verbindungsaufbau</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung verweigert</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler bei der Übertragung von %1 – Antwort des Servers: %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nein</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linkadresse kopieren</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>
     <name>ReadFailure</name>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>dies ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>the file is damaged: its tags have no end</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist beschädigt: Tags ohne Ende</translation>
     </message>
     <message>
         <source>the file is damaged: its tags do not fit in memory</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist beschädigt: Tags zu groß für den Arbeitsspeicher</translation>
     </message>
     <message>
         <source>the disk reported an error while the file was read</source>
-        <translation type="unfinished"></translation>
+        <translation>beim Lesen der Datei hat der Datenträger einen Fehler gemeldet</translation>
     </message>
     <message>
         <source>the file is damaged: reading its tags ended in a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist beschädigt: Absturz beim Lesen der Tags</translation>
     </message>
     <message>
         <source>reading the tags of the file took too long</source>
-        <translation type="unfinished"></translation>
+        <translation>das Lesen der Tags hat zu lange gedauert</translation>
     </message>
     <message>
         <source>reading the tags of the file gave nonsense</source>
-        <translation type="unfinished"></translation>
+        <translation>die gelesenen Tags ergeben keinen Sinn</translation>
     </message>
     <message>
         <source>the helper program that reads tags could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>das Hilfsprogramm zum Lesen der Tags konnte nicht gestartet werden</translation>
     </message>
 </context>
 <context>
     <name>RecoveryDialog</name>
     <message>
         <source>OpenGL settings</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL-Einstellungen</translation>
     </message>
     <message>
         <source>Select the method of OpenGL usage:</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der OpenGL-Nutzung auswählen:</translation>
     </message>
     <message>
         <source>Auto detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatische Erkennung</translation>
     </message>
     <message>
         <source>OpenGL ES 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL ES 2.0</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Software</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Desktop</translation>
     </message>
     <message>
         <source>Clear all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen löschen</translation>
     </message>
     <message>
         <source>Clear settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen löschen</translation>
     </message>
     <message>
         <source>All settings will be removed and returned to default values. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen werden gelöscht und auf ihre Standardwerte zurückgesetzt. Sind Sie sicher?</translation>
     </message>
     <message>
         <source>All settings were cleared. The program starts anew after OK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen wurden gelöscht. Nach „OK“ startet das Programm neu.</translation>
     </message>
     <message>
         <source>The settings cannot be cleared: their file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen können nicht gelöscht werden: Die Einstellungsdatei ist nicht beschreibbar.</translation>
     </message>
 </context>
 <context>
     <name>SceneWidget</name>
     <message>
         <source>The Qt module %1 is missing (package %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Qt-Modul %1 fehlt (Paket %2).</translation>
     </message>
 </context>
 <context>
     <name>SettingsDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache:</translation>
     </message>
     <message>
         <source>Restart is required to apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen werden nach einem Neustart wirksam</translation>
     </message>
     <message>
         <source>Font size for lyrics:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftgröße der Songtexte:</translation>
     </message>
     <message>
         <source>Search in browser with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser suchen mit:</translation>
     </message>
     <message>
         <source>insert a blank line at the beginning of lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerzeile am Anfang von Songtexten einfügen</translation>
     </message>
     <message>
         <source>save files list on quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiliste beim Beenden speichern</translation>
     </message>
     <message>
         <source>export lyrics to a TXT file automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtexte automatisch als TXT-Datei exportieren</translation>
     </message>
     <message>
         <source>look for new versions automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach neuen Versionen suchen</translation>
     </message>
     <message>
         <source>send usage events, with artists and titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Nutzungsdaten mit Interpreten und Titeln senden</translation>
     </message>
     <message>
         <source>Example...</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel ...</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel für Nutzungsdaten anzeigen</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Proxy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse:</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port:</translation>
     </message>
     <message>
         <source>Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentifizierung</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort:</translation>
     </message>
     <message>
         <source>Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Websites</translation>
     </message>
     <message>
         <source>Search order</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchreihenfolge</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivieren</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Switched off by DO_NOT_TRACK</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch DO_NOT_TRACK abgeschaltet</translation>
     </message>
     <message>
         <source>No proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird kein Proxy verwendet.</translation>
     </message>
     <message>
         <source>No address: no proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Adresse: Es wird kein Proxy verwendet.</translation>
     </message>
     <message>
         <source>The proxy is being tested...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy wird geprüft ...</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy funktioniert nicht.</translation>
     </message>
     <message>
         <source>No error within %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Fehler innerhalb von %1 Sekunden.</translation>
     </message>
     <message>
         <source>The proxy works.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy funktioniert.</translation>
     </message>
     <message>
         <source>Not tested yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht geprüft.</translation>
     </message>
     <message>
         <source>Disable</source>
-        <translation type="unfinished"></translation>
+        <translation>Deaktivieren</translation>
     </message>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Achtung! Alle Websites sind deaktiviert.</translation>
     </message>
 </context>
 <context>
     <name>SongList</name>
     <message>
         <source>Songs</source>
-        <translation type="unfinished"></translation>
+        <translation>Songs</translation>
     </message>
 </context>
 <context>
     <name>SongMenu</name>
     <message>
         <source>Force to search lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Songtext erzwingen</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext als TXT-Datei exportieren</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl entfernen</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle entfernen</translation>
     </message>
     <message>
         <source>Copy file&apos;s path to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateipfad in die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Songtext mit %1 suchen</translation>
     </message>
 </context>
 <context>
     <name>SongState</name>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht lesbar</translation>
     </message>
     <message>
         <source>has lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Songtext</translation>
     </message>
     <message>
         <source>no lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Songtext</translation>
     </message>
     <message>
         <source>This file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist nicht lesbar.</translation>
     </message>
     <message>
         <source>no names</source>
-        <translation type="unfinished"></translation>
+        <translation>Angaben fehlen</translation>
     </message>
     <message>
         <source>queued</source>
-        <translation type="unfinished"></translation>
+        <translation>in Warteschlange</translation>
     </message>
     <message>
         <source>searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft ...</translation>
     </message>
     <message>
         <source>saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>wird gespeichert ...</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlgeschlagen</translation>
     </message>
     <message>
         <source>no lyrics found</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Songtext gefunden</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gespeichert</translation>
     </message>
     <message>
         <source>search failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche fehlgeschlagen</translation>
     </message>
     <message>
         <source>in queue to search...</source>
-        <translation type="unfinished"></translation>
+        <translation>wartet auf die Suche ...</translation>
     </message>
     <message>
         <source>saving the lyrics...</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext wird gespeichert ...</translation>
     </message>
     <message>
         <source>A search needs an artist and a title.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Suche sind Interpret und Titel nötig.</translation>
     </message>
 </context>
 <context>
     <name>SplitterHandle</name>
     <message>
         <source>Width of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite der Liste</translation>
     </message>
 </context>
 <context>
     <name>StateLine</name>
     <message>
         <source>search for lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Songtext suchen</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress of the searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt der Suche</translation>
     </message>
     <message numerus="yes">
         <source>Searching... %n left...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Suche läuft ... noch %n ...</numerusform>
+            <numerusform>Suche läuft ... noch %n ...</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings file is damaged. What could be read is used, but no copy could be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei ist beschädigt. Was lesbar war, wird verwendet, aber es konnte keine Kopie angelegt werden.</translation>
     </message>
     <message>
         <source>The settings file was damaged. What could be read is kept; the damaged file is now %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei war beschädigt. Was lesbar war, bleibt erhalten; die beschädigte Datei ist jetzt %1</translation>
     </message>
     <message>
         <source>The settings cannot be read or stored; changes last for this run only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen können weder gelesen noch gespeichert werden; Änderungen gelten nur bis zum Beenden.</translation>
     </message>
     <message numerus="yes">
         <source>Files left out, since their names are damaged or too long: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ausgelassen, da der Name beschädigt oder zu lang ist: %n Datei</numerusform>
+            <numerusform>Ausgelassen, da der Name beschädigt oder zu lang ist: %n Dateien</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The list is full. Files left out: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Liste ist voll. Ausgelassen: %n Datei</numerusform>
+            <numerusform>Die Liste ist voll. Ausgelassen: %n Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>The last save was cut off. Songs that are again as they were before it: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte Speichervorgang wurde unterbrochen. Songs wieder im vorherigen Zustand: %1</translation>
     </message>
     <message>
         <source>Copies from before a save that was cut off: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Kopien des Stands vor einem unterbrochenen Speichervorgang: %1</translation>
     </message>
     <message>
         <source>A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ein Speichervorgang wurde unterbrochen und lässt sich nicht rückgängig machen, weil diese Songs nicht erreichbar sind; bei jedem Start wird es erneut versucht: %1</translation>
     </message>
     <message numerus="yes">
         <source>Songs that could not be written: %n (%1)</source>
         <comment>%1 is the reason</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nicht gespeichert: %n Song (%1)</numerusform>
+            <numerusform>Nicht gespeichert: %n Songs (%1)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The lyrics of %n song(s) could not be exported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Der Songtext von %n Song konnte nicht exportiert werden</numerusform>
+            <numerusform>Die Songtexte von %n Songs konnten nicht exportiert werden</numerusform>
         </translation>
     </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>Der Songtext konnte nicht geschrieben werden: %1</translation>
     </message>
     <message numerus="yes">
         <source>Lyrics exported to %n text file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Songtext in %n Textdatei exportiert</numerusform>
+            <numerusform>Songtexte in %n Textdateien exportiert</numerusform>
         </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Songtext zum Exportieren</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>TagWriter</name>
     <message>
         <source>the file is no longer there</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist nicht mehr vorhanden</translation>
     </message>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>dies ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>the file is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist schreibgeschützt</translation>
     </message>
     <message>
         <source>the file cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>no audio was found in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält keine Audiodaten</translation>
     </message>
     <message>
         <source>files of this format cannot hold lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien dieses Formats können keine Songtexte enthalten</translation>
     </message>
     <message>
         <source>the file is damaged, or built in an unusual way</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist beschädigt oder ungewöhnlich aufgebaut</translation>
     </message>
     <message>
         <source>there is not enough room on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>auf dem Datenträger ist nicht genügend Platz</translation>
     </message>
     <message>
         <source>the file would become too large</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei würde zu groß</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>der Datenträger meldet einen Fehler</translation>
     </message>
     <message>
         <source>other entries of its tags would be lost</source>
-        <translation type="unfinished"></translation>
+        <translation>andere Einträge der Tags würden verloren gehen</translation>
     </message>
     <message>
         <source>the audio would not stay as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>die Audiodaten würden verändert</translation>
     </message>
     <message>
         <source>another program has changed the file</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm hat die Datei geändert</translation>
     </message>
     <message>
         <source>the disk failed; the file will be restored at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenträgerfehler; die Datei wird beim nächsten Start wiederhergestellt</translation>
     </message>
     <message>
         <source>the file could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei konnte nicht gespeichert werden</translation>
     </message>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
     <message numerus="yes">
         <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Der Songtext von %n Song ist nicht in der Datei gespeichert und steht nur in der Liste.</numerusform>
+            <numerusform>Die Songtexte von %n Songs sind nicht in den Dateien gespeichert und stehen nur in der Liste.</numerusform>
         </translation>
     </message>
     <message>
         <source>Do you want to give them up?</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem verwerfen?</translation>
     </message>
 </context>
 <context>
@@ -1304,103 +1308,103 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Download update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung herunterladen</translation>
     </message>
     <message>
         <source>Cancel downloading</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen abbrechen</translation>
     </message>
     <message>
         <source>Exit and install update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Beenden und Aktualisierung installieren</translation>
     </message>
     <message>
         <source>The server redirects to something that is not a web page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server leitet auf etwas um, das keine Webseite ist.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server leitet zu oft um.</translation>
     </message>
     <message>
         <source>This build of the program knows no site to ask.</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Programmversion ist keine Website für Aktualisierungen hinterlegt.</translation>
     </message>
     <message>
         <source>Can&apos;t check for update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Aktualisierungen nicht möglich: %1</translation>
     </message>
     <message>
         <source>Failed to parse version information data.</source>
         <comment>Updater error message</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Versionsinformationen konnten nicht ausgewertet werden.</translation>
     </message>
     <message>
         <source>Can&apos;t get update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung kann nicht heruntergeladen werden: %1</translation>
     </message>
     <message>
         <source>The address of the setup file is not one that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse der Installationsdatei ist nicht verwendbar.</translation>
     </message>
     <message>
         <source>The setup file has another size than the server said.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Installationsdatei hat eine andere Größe als vom Server angegeben.</translation>
     </message>
     <message>
         <source>The server sent something else than the setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat etwas anderes als die Installationsdatei gesendet.</translation>
     </message>
     <message>
         <source>The setup file is larger than it should be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Installationsdatei ist größer, als sie sein sollte.</translation>
     </message>
     <message>
         <source>The server did not send the whole setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat die Installationsdatei nicht vollständig gesendet.</translation>
     </message>
     <message>
         <source>Can&apos;t open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei kann nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>Can&apos;t install update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung kann nicht installiert werden</translation>
     </message>
 </context>
 <context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 kann nicht verwendet werden.</translation>
     </message>
 </context>
 <context>
     <name>UsageExample</name>
     <message>
         <source>Example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel für Nutzungsdaten</translation>
     </message>
     <message>
         <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Daten werden zu Beginn jeder Suche nach einem Songtext gesendet; der Song ist hier erfunden. Start und Ende des Programms, eine Aktualisierung und Klicks auf die Seiten des Herstellers werden auf dieselbe Weise gemeldet, jedoch ohne Angaben zu Songs.</translation>
     </message>
     <message>
         <source>(random, made when you say yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(zufällig, wird erst bei Zustimmung erzeugt)</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Songs und Songtexte</translation>
     </message>
     <message>
         <source>The window could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Fenster konnte nicht aufgebaut werden.</translation>
     </message>
 </context>
 </TS>

@@ -5,178 +5,178 @@
     <name>AboutDialog</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Made by %1</source>
         <comment>%1 is the maker&apos;s name</comment>
-        <translation type="unfinished"></translation>
+        <translation>Réalisé par %1</translation>
     </message>
 </context>
 <context>
     <name>AccessManager</name>
     <message>
         <source>Not a web address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse web non valide : %1</translation>
     </message>
     <message>
         <source>%1 asked for a pause and can be asked again in %2 s.</source>
         <comment>%1 is a host name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 demande une pause et pourra de nouveau être interrogé dans %2 s.</translation>
     </message>
     <message>
         <source>The proxy wants a log-in of a kind that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy exige un type d’authentification qui n’est pas pris en charge.</translation>
     </message>
 </context>
 <context>
     <name>AddDialogs</name>
     <message>
         <source>Select file(s) to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner les fichiers à ajouter</translation>
     </message>
     <message>
         <source>Audio files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers audio</translation>
     </message>
     <message>
         <source>Select folder to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner le dossier à ajouter</translation>
     </message>
 </context>
 <context>
     <name>AudioPreview</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>No preview: the Qt module QtMultimedia is missing (package qml-module-qtmultimedia).</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’écoute possible : le module Qt QtMultimedia est absent (paquet qml-module-qtmultimedia).</translation>
     </message>
     <message>
         <source>This file cannot be played here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne peut pas être lu ici.</translation>
     </message>
 </context>
 <context>
     <name>ConsentBar</name>
     <message>
         <source>May usage events be sent to the maker? Those about searches name artist and title.</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoriser l’envoi de données d’utilisation au développeur ? Pour les recherches, elles contiennent l’artiste et le titre.</translation>
     </message>
     <message>
         <source>What is sent?</source>
-        <translation type="unfinished"></translation>
+        <translation>Qu’est-ce qui est envoyé ?</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un exemple de données d’utilisation</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>Yes, send usage events</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui, envoyer les données d’utilisation</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>No, send nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Non, ne rien envoyer</translation>
     </message>
 </context>
 <context>
     <name>DetailsPane</name>
     <message numerus="yes">
         <source>Selected %n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier sélectionné</numerusform>
+            <numerusform>%n fichiers sélectionnés</numerusform>
         </translation>
     </message>
     <message>
         <source>No file is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier sélectionné</translation>
     </message>
     <message>
         <source>Artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste :</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre :</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
 </context>
 <context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;vide&gt;</translation>
     </message>
     <message>
         <source>Enter to apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée pour appliquer</translation>
     </message>
 </context>
 <context>
     <name>EmptyList</name>
     <message>
         <source>All files here have lyrics and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers ont des paroles et sont masqués</translation>
     </message>
     <message>
         <source>Drop music files or folders here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici des fichiers de musique ou des dossiers</translation>
     </message>
     <message>
         <source>Add files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des fichiers...</translation>
     </message>
     <message>
         <source>Add a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier...</translation>
     </message>
 </context>
 <context>
     <name>ExitWidget</name>
     <message>
         <source>Do you want to quit anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous quitter quand même ?</translation>
     </message>
     <message numerus="yes">
         <source>Search for %n songs is currently in progress.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La recherche pour %n chanson est en cours.</numerusform>
+            <numerusform>La recherche pour %n chansons est en cours.</numerusform>
         </translation>
     </message>
 </context>
@@ -185,107 +185,107 @@
     <message>
         <source>%1, %2, %3</source>
         <comment>title, artist and how the song stands</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>No title</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans titre</translation>
     </message>
     <message>
         <source>No artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans artiste</translation>
     </message>
     <message>
         <source>Show in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
     </message>
 </context>
 <context>
     <name>LimitedReply</name>
     <message>
         <source>The server refuses to answer (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur refuse de répondre (HTTP %1).</translation>
     </message>
     <message>
         <source>The server has no such page (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette page n’existe pas sur le serveur (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is asked too often (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur reçoit trop de requêtes (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is out of order (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur est hors service (HTTP %1).</translation>
     </message>
     <message>
         <source>The server cannot answer the request (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur ne peut pas répondre à la requête (HTTP %1).</translation>
     </message>
     <message>
         <source>The request was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La requête a été annulée.</translation>
     </message>
     <message>
         <source>The server has been silent for %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur ne répond plus depuis %1 secondes.</translation>
     </message>
     <message>
         <source>The server took longer than %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a mis plus de %1 secondes à répondre.</translation>
     </message>
     <message>
         <source>The answer is packed in a way that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse est compressée par une méthode inconnue.</translation>
     </message>
     <message>
         <source>The answer arrived damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse est arrivée endommagée.</translation>
     </message>
     <message>
         <source>The connection broke before the whole answer had arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion a été interrompue avant la fin de la réponse.</translation>
     </message>
     <message>
         <source>The answer is larger than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse dépasse %1.</translation>
     </message>
 </context>
 <context>
     <name>ListPane</name>
     <message numerus="yes">
         <source>Scanning folder(s) for music files (found %n)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Recherche de fichiers audio (%n trouvé)</numerusform>
+            <numerusform>Recherche de fichiers audio (%n trouvés)</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message numerus="yes">
         <source>Hidden %n file(s) with lyrics</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier avec paroles masqué</numerusform>
+            <numerusform>%n fichiers avec paroles masqués</numerusform>
         </translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Show hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les fichiers masqués</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Remove hidden files from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer les fichiers masqués de la liste</translation>
     </message>
 </context>
 <context>
@@ -293,27 +293,27 @@
     <message>
         <source>The lyrics of “%1” have been changed.</source>
         <comment>%1 is the title of a song</comment>
-        <translation type="unfinished"></translation>
+        <translation>Les paroles de « %1 » ont été modifiées.</translation>
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous enregistrer les modifications ?</translation>
     </message>
 </context>
 <context>
     <name>LyricsItem</name>
     <message>
         <source>This lyrics for:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paroles de :</translation>
     </message>
     <message>
         <source>“%1” – “%2”</source>
         <comment>artist and title</comment>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » – « %2 »</translation>
     </message>
     <message>
         <source>These lyrics are very long; their beginning is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces paroles sont très longues ; seul le début est affiché.</translation>
     </message>
 </context>
 <context>
@@ -321,142 +321,142 @@
     <message>
         <source>%1 redirects to something that is not a web page.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 redirige vers autre chose qu’une page web.</translation>
     </message>
     <message>
         <source>%1 redirects too often.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 redirige trop de fois.</translation>
     </message>
     <message>
         <source>%1 gave a page that holds no lyrics.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page renvoyée par %1 ne contient pas de paroles.</translation>
     </message>
 </context>
 <context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Paroles</translation>
     </message>
 </context>
 <context>
     <name>LyricsToolbar</name>
     <message>
         <source>Edit lyrics (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les paroles (F2)</translation>
     </message>
     <message>
         <source>Save lyrics (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les paroles (Ctrl+S)</translation>
     </message>
     <message>
         <source>Cancel editing (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la modification (Échap)</translation>
     </message>
     <message>
         <source>Force to search lyrics (Ctrl+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Forcer la recherche des paroles (Ctrl+R)</translation>
     </message>
     <message>
         <source>Copy lyrics to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les paroles dans le presse-papiers</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les paroles avec %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus petit</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus grand</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Add file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un fichier</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier</translation>
     </message>
     <message>
         <source>Hide file(s) with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer les fichiers avec paroles</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Remove with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer les fichiers avec paroles</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider la liste</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la sélection</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Site web</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les paroles dans un fichier TXT</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d’outils</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
 </context>
 <context>
@@ -464,839 +464,843 @@
     <message>
         <source>%1 leads from one list of songs to the next.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 renvoie d’une liste de chansons à une autre.</translation>
     </message>
     <message>
         <source>%1 gave a page that is too intricate to read.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>La page renvoyée par %1 est trop complexe pour être lue.</translation>
     </message>
 </context>
 <context>
     <name>PlaybackSlider</name>
     <message>
         <source>Position in the song</source>
-        <translation type="unfinished"></translation>
+        <translation>Position dans la chanson</translation>
     </message>
 </context>
 <context>
     <name>Proxy</name>
     <message>
         <source>The proxy does not take the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy n’accepte pas la connexion.</translation>
     </message>
     <message>
         <source>The proxy closed the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy a fermé la connexion.</translation>
     </message>
     <message>
         <source>The proxy was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy est introuvable.</translation>
     </message>
     <message>
         <source>The proxy did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy n’a pas répondu à temps.</translation>
     </message>
     <message>
         <source>The proxy refuses the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy refuse le nom d’utilisateur ou le mot de passe.</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy ne fonctionne pas.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Host not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Hôte introuvable</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion refusée</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Délai de connexion dépassé</translation>
     </message>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Délai de l’opération sur le socket dépassé</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau inaccessible</translation>
     </message>
     <message>
         <source>The remote host closed the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>L’hôte distant a fermé la connexion</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Augmenter</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diminuer</translation>
     </message>
 </context>
 <context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement :</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier parent</translation>
     </message>
     <message>
         <source>Create New Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un nouveau dossier</translation>
     </message>
     <message>
         <source>List View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue en liste</translation>
     </message>
     <message>
         <source>Detail View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue détaillée</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom du fichier :</translation>
     </message>
     <message>
         <source>Files of type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de fichiers :</translation>
     </message>
     <message>
         <source>Directory:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier :</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>&amp;Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Choisir</translation>
     </message>
     <message>
         <source>Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers</translation>
     </message>
     <message>
         <source>%1
 File not found.
 Please verify the correct file name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Fichier introuvable.
+Veuillez vérifier que le nom du fichier est correct.</translation>
     </message>
     <message>
         <source>%1
 Directory not found.
 Please verify the correct directory name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Dossier introuvable.
+Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de modification</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordinateur</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Close without Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer sans enregistrer</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Hôte %1 introuvable</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion refusée</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion fermée</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau inaccessible</translation>
     </message>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Hôte inaccessible</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Délai de connexion dépassé</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion refusée</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors du transfert de %1 – réponse du serveur : %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oui</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l’adresse du &amp;lien</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>ReadFailure</name>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>the file is damaged: its tags have no end</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est endommagé : ses tags n’ont pas de fin</translation>
     </message>
     <message>
         <source>the file is damaged: its tags do not fit in memory</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est endommagé : ses tags ne tiennent pas en mémoire</translation>
     </message>
     <message>
         <source>the disk reported an error while the file was read</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque a signalé une erreur pendant la lecture du fichier</translation>
     </message>
     <message>
         <source>the file is damaged: reading its tags ended in a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est endommagé : la lecture de ses tags a provoqué un plantage</translation>
     </message>
     <message>
         <source>reading the tags of the file took too long</source>
-        <translation type="unfinished"></translation>
+        <translation>la lecture des tags du fichier a pris trop de temps</translation>
     </message>
     <message>
         <source>reading the tags of the file gave nonsense</source>
-        <translation type="unfinished"></translation>
+        <translation>la lecture des tags du fichier a donné un résultat incohérent</translation>
     </message>
     <message>
         <source>the helper program that reads tags could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>le programme auxiliaire qui lit les tags n’a pas pu démarrer</translation>
     </message>
 </context>
 <context>
     <name>RecoveryDialog</name>
     <message>
         <source>OpenGL settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres OpenGL</translation>
     </message>
     <message>
         <source>Select the method of OpenGL usage:</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le mode d’utilisation d’OpenGL :</translation>
     </message>
     <message>
         <source>Auto detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Détection automatique</translation>
     </message>
     <message>
         <source>OpenGL ES 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL ES 2.0</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendu logiciel</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL de bureau</translation>
     </message>
     <message>
         <source>Clear all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer tous les paramètres</translation>
     </message>
     <message>
         <source>Clear settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les paramètres</translation>
     </message>
     <message>
         <source>All settings will be removed and returned to default values. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les paramètres seront effacés et rétablis à leur valeur par défaut. Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>All settings were cleared. The program starts anew after OK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les paramètres ont été effacés. Le programme redémarrera après « OK ».</translation>
     </message>
     <message>
         <source>The settings cannot be cleared: their file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres ne peuvent pas être effacés : leur fichier n’est pas accessible en écriture.</translation>
     </message>
 </context>
 <context>
     <name>SceneWidget</name>
     <message>
         <source>The Qt module %1 is missing (package %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le module Qt %1 est absent (paquet %2).</translation>
     </message>
 </context>
 <context>
     <name>SettingsDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue :</translation>
     </message>
     <message>
         <source>Restart is required to apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Un redémarrage est nécessaire pour appliquer les modifications</translation>
     </message>
     <message>
         <source>Font size for lyrics:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille de la police des paroles :</translation>
     </message>
     <message>
         <source>Search in browser with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans le navigateur avec :</translation>
     </message>
     <message>
         <source>insert a blank line at the beginning of lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer une ligne vide au début des paroles</translation>
     </message>
     <message>
         <source>save files list on quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la liste des fichiers en quittant</translation>
     </message>
     <message>
         <source>export lyrics to a TXT file automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter automatiquement les paroles dans un fichier TXT</translation>
     </message>
     <message>
         <source>look for new versions automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement les nouvelles versions</translation>
     </message>
     <message>
         <source>send usage events, with artists and titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer des données d’utilisation, avec artistes et titres</translation>
     </message>
     <message>
         <source>Example...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple...</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un exemple de données d’utilisation</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Proxy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy :</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse :</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port :</translation>
     </message>
     <message>
         <source>Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentification</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’utilisateur :</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe :</translation>
     </message>
     <message>
         <source>Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sites</translation>
     </message>
     <message>
         <source>Search order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de recherche</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Switched off by DO_NOT_TRACK</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé par DO_NOT_TRACK</translation>
     </message>
     <message>
         <source>No proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun proxy n’est utilisé.</translation>
     </message>
     <message>
         <source>No address: no proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’adresse : aucun proxy n’est utilisé.</translation>
     </message>
     <message>
         <source>The proxy is being tested...</source>
-        <translation type="unfinished"></translation>
+        <translation>Test du proxy en cours...</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy ne fonctionne pas.</translation>
     </message>
     <message>
         <source>No error within %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune erreur au bout de %1 secondes.</translation>
     </message>
     <message>
         <source>The proxy works.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy fonctionne.</translation>
     </message>
     <message>
         <source>Not tested yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore testé.</translation>
     </message>
     <message>
         <source>Disable</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactiver</translation>
     </message>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention ! Tous les sites sont désactivés.</translation>
     </message>
 </context>
 <context>
     <name>SongList</name>
     <message>
         <source>Songs</source>
-        <translation type="unfinished"></translation>
+        <translation>Chansons</translation>
     </message>
 </context>
 <context>
     <name>SongMenu</name>
     <message>
         <source>Force to search lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Forcer la recherche des paroles</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les paroles dans un fichier TXT</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la sélection</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout retirer</translation>
     </message>
     <message>
         <source>Copy file&apos;s path to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le chemin du fichier dans le presse-papiers</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les paroles avec %1</translation>
     </message>
 </context>
 <context>
     <name>SongState</name>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>illisible</translation>
     </message>
     <message>
         <source>has lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>avec paroles</translation>
     </message>
     <message>
         <source>no lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>sans paroles</translation>
     </message>
     <message>
         <source>This file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier est illisible.</translation>
     </message>
     <message>
         <source>no names</source>
-        <translation type="unfinished"></translation>
+        <translation>infos manquantes</translation>
     </message>
     <message>
         <source>queued</source>
-        <translation type="unfinished"></translation>
+        <translation>en attente</translation>
     </message>
     <message>
         <source>searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>recherche...</translation>
     </message>
     <message>
         <source>saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement...</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec</translation>
     </message>
     <message>
         <source>no lyrics found</source>
-        <translation type="unfinished"></translation>
+        <translation>paroles introuvables</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>non enregistrées</translation>
     </message>
     <message>
         <source>search failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec de la recherche</translation>
     </message>
     <message>
         <source>in queue to search...</source>
-        <translation type="unfinished"></translation>
+        <translation>en attente de recherche...</translation>
     </message>
     <message>
         <source>saving the lyrics...</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement des paroles...</translation>
     </message>
     <message>
         <source>A search needs an artist and a title.</source>
-        <translation type="unfinished"></translation>
+        <translation>La recherche nécessite un artiste et un titre.</translation>
     </message>
 </context>
 <context>
     <name>SplitterHandle</name>
     <message>
         <source>Width of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de la liste</translation>
     </message>
 </context>
 <context>
     <name>StateLine</name>
     <message>
         <source>search for lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>rechercher les paroles</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress of the searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression des recherches</translation>
     </message>
     <message numerus="yes">
         <source>Searching... %n left...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Recherche en cours... %n restante...</numerusform>
+            <numerusform>Recherche en cours... %n restantes...</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings file is damaged. What could be read is used, but no copy could be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de paramètres est endommagé. Ce qui a pu être lu est utilisé, mais aucune copie n’a pu être créée.</translation>
     </message>
     <message>
         <source>The settings file was damaged. What could be read is kept; the damaged file is now %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de paramètres était endommagé. Ce qui a pu être lu est conservé ; le fichier endommagé est désormais %1</translation>
     </message>
     <message>
         <source>The settings cannot be read or stored; changes last for this run only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres ne peuvent être ni lus ni enregistrés ; les modifications ne valent que pour cette session.</translation>
     </message>
     <message numerus="yes">
         <source>Files left out, since their names are damaged or too long: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ignoré, car son nom est endommagé ou trop long : %n fichier</numerusform>
+            <numerusform>Ignorés, car leur nom est endommagé ou trop long : %n fichiers</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The list is full. Files left out: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La liste est pleine. Ignoré : %n fichier</numerusform>
+            <numerusform>La liste est pleine. Ignorés : %n fichiers</numerusform>
         </translation>
     </message>
     <message>
         <source>The last save was cut off. Songs that are again as they were before it: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier enregistrement a été interrompu. Chansons rétablies dans leur état antérieur : %1</translation>
     </message>
     <message>
         <source>Copies from before a save that was cut off: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Copies antérieures à un enregistrement interrompu : %1</translation>
     </message>
     <message>
         <source>A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement a été interrompu et ne peut pas être annulé, car ces chansons sont inaccessibles ; une nouvelle tentative a lieu à chaque démarrage : %1</translation>
     </message>
     <message numerus="yes">
         <source>Songs that could not be written: %n (%1)</source>
         <comment>%1 is the reason</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Non enregistrée : %n chanson (%1)</numerusform>
+            <numerusform>Non enregistrées : %n chansons (%1)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The lyrics of %n song(s) could not be exported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Les paroles de %n chanson n’ont pas pu être exportées</numerusform>
+            <numerusform>Les paroles de %n chansons n’ont pas pu être exportées</numerusform>
         </translation>
     </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>Les paroles n’ont pas pu être écrites dans %1</translation>
     </message>
     <message numerus="yes">
         <source>Lyrics exported to %n text file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Paroles exportées dans %n fichier texte</numerusform>
+            <numerusform>Paroles exportées dans %n fichiers texte</numerusform>
         </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de paroles à exporter</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>TagWriter</name>
     <message>
         <source>the file is no longer there</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier n’existe plus</translation>
     </message>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>the file is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est en lecture seule</translation>
     </message>
     <message>
         <source>the file cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>no audio was found in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun contenu audio n’a été trouvé dans le fichier</translation>
     </message>
     <message>
         <source>files of this format cannot hold lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>les fichiers de ce format ne peuvent pas contenir de paroles</translation>
     </message>
     <message>
         <source>the file is damaged, or built in an unusual way</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est endommagé ou sa structure est inhabituelle</translation>
     </message>
     <message>
         <source>there is not enough room on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas assez d’espace sur le disque</translation>
     </message>
     <message>
         <source>the file would become too large</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier deviendrait trop volumineux</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque signale une erreur</translation>
     </message>
     <message>
         <source>other entries of its tags would be lost</source>
-        <translation type="unfinished"></translation>
+        <translation>d’autres champs de ses tags seraient perdus</translation>
     </message>
     <message>
         <source>the audio would not stay as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>le contenu audio ne resterait pas intact</translation>
     </message>
     <message>
         <source>another program has changed the file</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme a modifié le fichier</translation>
     </message>
     <message>
         <source>the disk failed; the file will be restored at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>défaillance du disque ; le fichier sera restauré au prochain démarrage</translation>
     </message>
     <message>
         <source>the file could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier n’a pas pu être enregistré</translation>
     </message>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
     <message numerus="yes">
         <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Les paroles de %n chanson ne sont pas enregistrées dans le fichier et ne figurent que dans la liste.</numerusform>
+            <numerusform>Les paroles de %n chansons ne sont pas enregistrées dans les fichiers et ne figurent que dans la liste.</numerusform>
         </translation>
     </message>
     <message>
         <source>Do you want to give them up?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous les abandonner ?</translation>
     </message>
 </context>
 <context>
@@ -1304,103 +1308,103 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Download update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger la mise à jour</translation>
     </message>
     <message>
         <source>Cancel downloading</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le téléchargement</translation>
     </message>
     <message>
         <source>Exit and install update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Quitter et installer la mise à jour</translation>
     </message>
     <message>
         <source>The server redirects to something that is not a web page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur redirige vers autre chose qu’une page web.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur redirige trop de fois.</translation>
     </message>
     <message>
         <source>This build of the program knows no site to ask.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette version du programme ne connaît aucun site à interroger.</translation>
     </message>
     <message>
         <source>Can&apos;t check for update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher une mise à jour : %1</translation>
     </message>
     <message>
         <source>Failed to parse version information data.</source>
         <comment>Updater error message</comment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’analyser les informations de version.</translation>
     </message>
     <message>
         <source>Can&apos;t get update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de télécharger la mise à jour : %1</translation>
     </message>
     <message>
         <source>The address of the setup file is not one that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’adresse du fichier d’installation n’est pas utilisable.</translation>
     </message>
     <message>
         <source>The setup file has another size than the server said.</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille du fichier d’installation diffère de celle annoncée par le serveur.</translation>
     </message>
     <message>
         <source>The server sent something else than the setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a envoyé autre chose que le fichier d’installation.</translation>
     </message>
     <message>
         <source>The setup file is larger than it should be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier d’installation est plus volumineux que prévu.</translation>
     </message>
     <message>
         <source>The server did not send the whole setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n’a pas envoyé le fichier d’installation en entier.</translation>
     </message>
     <message>
         <source>Can&apos;t open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier : %1</translation>
     </message>
     <message>
         <source>Can&apos;t install update</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’installer la mise à jour</translation>
     </message>
 </context>
 <context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier %1 ne peut pas être utilisé.</translation>
     </message>
 </context>
 <context>
     <name>UsageExample</name>
     <message>
         <source>Example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple de données d’utilisation</translation>
     </message>
     <message>
         <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces données sont envoyées au début de chaque recherche pour une chanson ; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour et les clics vers les pages du développeur sont signalés de la même manière, sans nom de chanson.</translation>
     </message>
     <message>
         <source>(random, made when you say yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aléatoire, créé lorsque vous acceptez)</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Chansons et paroles</translation>
     </message>
     <message>
         <source>The window could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre n’a pas pu être créée.</translation>
     </message>
 </context>
 </TS>

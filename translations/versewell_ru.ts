@@ -5,180 +5,180 @@
     <name>AboutDialog</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>О программе</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия %1</translation>
     </message>
     <message>
         <source>Made by %1</source>
         <comment>%1 is the maker&apos;s name</comment>
-        <translation type="unfinished"></translation>
+        <translation>Разработчик: %1</translation>
     </message>
 </context>
 <context>
     <name>AccessManager</name>
     <message>
         <source>Not a web address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Это не веб-адрес: %1</translation>
     </message>
     <message>
         <source>%1 asked for a pause and can be asked again in %2 s.</source>
         <comment>%1 is a host name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 просит сделать паузу; следующий запрос возможен через %2 с.</translation>
     </message>
     <message>
         <source>The proxy wants a log-in of a kind that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер требует неподдерживаемый способ аутентификации.</translation>
     </message>
 </context>
 <context>
     <name>AddDialogs</name>
     <message>
         <source>Select file(s) to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор файлов для добавления</translation>
     </message>
     <message>
         <source>Audio files</source>
-        <translation type="unfinished"></translation>
+        <translation>Аудиофайлы</translation>
     </message>
     <message>
         <source>Select folder to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор папки для добавления</translation>
     </message>
 </context>
 <context>
     <name>AudioPreview</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Приостановить</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Воспроизвести</translation>
     </message>
     <message>
         <source>No preview: the Qt module QtMultimedia is missing (package qml-module-qtmultimedia).</source>
-        <translation type="unfinished"></translation>
+        <translation>Прослушивание недоступно: отсутствует модуль QtMultimedia (пакет qml-module-qtmultimedia).</translation>
     </message>
     <message>
         <source>This file cannot be played here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот файл нельзя воспроизвести здесь.</translation>
     </message>
 </context>
 <context>
     <name>ConsentBar</name>
     <message>
         <source>May usage events be sent to the maker? Those about searches name artist and title.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отправлять разработчику отчёты об использовании? В отчётах о поиске указываются исполнитель и название.</translation>
     </message>
     <message>
         <source>What is sent?</source>
-        <translation type="unfinished"></translation>
+        <translation>Что отправляется?</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать пример отчёта об использовании</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Да</translation>
     </message>
     <message>
         <source>Yes, send usage events</source>
-        <translation type="unfinished"></translation>
+        <translation>Да, отправлять отчёты об использовании</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет</translation>
     </message>
     <message>
         <source>No, send nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет, ничего не отправлять</translation>
     </message>
 </context>
 <context>
     <name>DetailsPane</name>
     <message numerus="yes">
         <source>Selected %n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Выбран %n файл</numerusform>
+            <numerusform>Выбрано %n файла</numerusform>
+            <numerusform>Выбрано %n файлов</numerusform>
         </translation>
     </message>
     <message>
         <source>No file is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл не выбран</translation>
     </message>
     <message>
         <source>Artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Исполнитель:</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Исполнитель</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Название:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Название</translation>
     </message>
 </context>
 <context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;пусто&gt;</translation>
     </message>
     <message>
         <source>Enter to apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter — применить</translation>
     </message>
 </context>
 <context>
     <name>EmptyList</name>
     <message>
         <source>All files here have lyrics and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>У всех файлов есть текст, и они скрыты</translation>
     </message>
     <message>
         <source>Drop music files or folders here</source>
-        <translation type="unfinished"></translation>
+        <translation>Сюда можно перетащить музыкальные файлы или папки</translation>
     </message>
     <message>
         <source>Add files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить файлы...</translation>
     </message>
     <message>
         <source>Add a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить папку...</translation>
     </message>
 </context>
 <context>
     <name>ExitWidget</name>
     <message>
         <source>Do you want to quit anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё равно выйти?</translation>
     </message>
     <message numerus="yes">
         <source>Search for %n songs is currently in progress.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Идёт поиск текста для %n песни.</numerusform>
+            <numerusform>Идёт поиск текстов для %n песен.</numerusform>
+            <numerusform>Идёт поиск текстов для %n песен.</numerusform>
         </translation>
     </message>
 </context>
@@ -187,109 +187,109 @@
     <message>
         <source>%1, %2, %3</source>
         <comment>title, artist and how the song stands</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>No title</source>
-        <translation type="unfinished"></translation>
+        <translation>Без названия</translation>
     </message>
     <message>
         <source>No artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Без исполнителя</translation>
     </message>
     <message>
         <source>Show in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать в файловом менеджере</translation>
     </message>
 </context>
 <context>
     <name>LimitedReply</name>
     <message>
         <source>The server refuses to answer (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер отказывается отвечать (HTTP %1).</translation>
     </message>
     <message>
         <source>The server has no such page (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>На сервере нет такой страницы (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is asked too often (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Слишком частые запросы к серверу (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is out of order (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбой на сервере (HTTP %1).</translation>
     </message>
     <message>
         <source>The server cannot answer the request (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер не может ответить на запрос (HTTP %1).</translation>
     </message>
     <message>
         <source>The request was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запрос отменён.</translation>
     </message>
     <message>
         <source>The server has been silent for %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер не отвечает уже %1 с.</translation>
     </message>
     <message>
         <source>The server took longer than %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер отвечал дольше %1 с.</translation>
     </message>
     <message>
         <source>The answer is packed in a way that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответ сжат неподдерживаемым способом.</translation>
     </message>
     <message>
         <source>The answer arrived damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответ пришёл повреждённым.</translation>
     </message>
     <message>
         <source>The connection broke before the whole answer had arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>Соединение прервалось раньше, чем пришёл весь ответ.</translation>
     </message>
     <message>
         <source>The answer is larger than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер ответа превышает %1.</translation>
     </message>
 </context>
 <context>
     <name>ListPane</name>
     <message numerus="yes">
         <source>Scanning folder(s) for music files (found %n)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Поиск музыкальных файлов в папках (найдено: %n)</numerusform>
+            <numerusform>Поиск музыкальных файлов в папках (найдено: %n)</numerusform>
+            <numerusform>Поиск музыкальных файлов в папках (найдено: %n)</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message numerus="yes">
         <source>Hidden %n file(s) with lyrics</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Скрыт %n файл с текстом</numerusform>
+            <numerusform>Скрыто %n файла с текстом</numerusform>
+            <numerusform>Скрыто %n файлов с текстом</numerusform>
         </translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать</translation>
     </message>
     <message>
         <source>Show hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать скрытые файлы</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать</translation>
     </message>
     <message>
         <source>Remove hidden files from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать скрытые файлы из списка</translation>
     </message>
 </context>
 <context>
@@ -297,27 +297,27 @@
     <message>
         <source>The lyrics of “%1” have been changed.</source>
         <comment>%1 is the title of a song</comment>
-        <translation type="unfinished"></translation>
+        <translation>Текст песни «%1» изменён.</translation>
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить изменения?</translation>
     </message>
 </context>
 <context>
     <name>LyricsItem</name>
     <message>
         <source>This lyrics for:</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст для:</translation>
     </message>
     <message>
         <source>“%1” – “%2”</source>
         <comment>artist and title</comment>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — «%2»</translation>
     </message>
     <message>
         <source>These lyrics are very long; their beginning is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст очень длинный; показано только его начало.</translation>
     </message>
 </context>
 <context>
@@ -325,142 +325,142 @@
     <message>
         <source>%1 redirects to something that is not a web page.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Сайт %1 перенаправляет туда, где нет веб-страницы.</translation>
     </message>
     <message>
         <source>%1 redirects too often.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Сайт %1 перенаправляет слишком много раз.</translation>
     </message>
     <message>
         <source>%1 gave a page that holds no lyrics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайт %1 выдал страницу без текста песни.</translation>
     </message>
 </context>
 <context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст песни</translation>
     </message>
 </context>
 <context>
     <name>LyricsToolbar</name>
     <message>
         <source>Edit lyrics (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Редактировать текст (F2)</translation>
     </message>
     <message>
         <source>Save lyrics (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить текст (Ctrl+S)</translation>
     </message>
     <message>
         <source>Cancel editing (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить редактирование (Esc)</translation>
     </message>
     <message>
         <source>Force to search lyrics (Ctrl+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Принудительный поиск текста (Ctrl+R)</translation>
     </message>
     <message>
         <source>Copy lyrics to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать текст в буфер обмена</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Искать текст в %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Уменьшить шрифт</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Увеличить шрифт</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Add file</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить файл</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить папку</translation>
     </message>
     <message>
         <source>Hide file(s) with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрыть файлы с текстом</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать все</translation>
     </message>
     <message>
         <source>Remove with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать файлы с текстом</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить список</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать выбранные</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Выйти</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>О программе</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Веб-сайт</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Экспортировать текст в файл TXT</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Вид</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Справка</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Инструменты</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры</translation>
     </message>
 </context>
 <context>
@@ -468,846 +468,850 @@
     <message>
         <source>%1 leads from one list of songs to the next.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Сайт %1 отсылает от одного списка песен к другому.</translation>
     </message>
     <message>
         <source>%1 gave a page that is too intricate to read.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Сайт %1 выдал слишком сложную для разбора страницу.</translation>
     </message>
 </context>
 <context>
     <name>PlaybackSlider</name>
     <message>
         <source>Position in the song</source>
-        <translation type="unfinished"></translation>
+        <translation>Позиция в песне</translation>
     </message>
 </context>
 <context>
     <name>Proxy</name>
     <message>
         <source>The proxy does not take the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не принимает соединение.</translation>
     </message>
     <message>
         <source>The proxy closed the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер закрыл соединение.</translation>
     </message>
     <message>
         <source>The proxy was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не найден.</translation>
     </message>
     <message>
         <source>The proxy did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не ответил вовремя.</translation>
     </message>
     <message>
         <source>The proxy refuses the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не принимает имя пользователя или пароль.</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не работает.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Host not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Узел не найден</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>В соединении отказано</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Время ожидания соединения истекло</translation>
     </message>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Время операции с сокетом истекло</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеть недоступна</translation>
     </message>
     <message>
         <source>The remote host closed the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалённый узел закрыл соединение</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>В&amp;ыделить всё</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Увеличить</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>У&amp;меньшить</translation>
     </message>
 </context>
 <context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти к:</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Назад</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Вперёд</translation>
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Родительская папка</translation>
     </message>
     <message>
         <source>Create New Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать папку</translation>
     </message>
     <message>
         <source>List View</source>
-        <translation type="unfinished"></translation>
+        <translation>Список</translation>
     </message>
     <message>
         <source>Detail View</source>
-        <translation type="unfinished"></translation>
+        <translation>Подробный список</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Имя файла:</translation>
     </message>
     <message>
         <source>Files of type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип файлов:</translation>
     </message>
     <message>
         <source>Directory:</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка:</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Открыть</translation>
     </message>
     <message>
         <source>&amp;Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Выбрать</translation>
     </message>
     <message>
         <source>Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Папки</translation>
     </message>
     <message>
         <source>%1
 File not found.
 Please verify the correct file name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Файл не найден.
+Проверьте, правильно ли указано имя файла.</translation>
     </message>
     <message>
         <source>%1
 Directory not found.
 Please verify the correct directory name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Папка не найдена.
+Проверьте, правильно ли указано имя папки.</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Дата изменения</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Компьютер</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ОК</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Сохранить</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>От&amp;мена</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Закрыть</translation>
     </message>
     <message>
         <source>Close without Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть без сохранения</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Узел %1 не найден</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>В соединении отказано</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Соединение закрыто</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Отменить</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Повторить</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Вырезать</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Копировать</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Вст&amp;авить</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Выделить всё</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеть недоступна</translation>
     </message>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Узел недоступен</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Время ожидания соединения истекло</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>В соединении отказано</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка при передаче %1 — ответ сервера: %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Да</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Нет</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Не сохранять</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Копировать</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать &amp;адрес ссылки</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Выделить всё</translation>
     </message>
 </context>
 <context>
     <name>ReadFailure</name>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>это не обычный файл</translation>
     </message>
     <message>
         <source>the file is damaged: its tags have no end</source>
-        <translation type="unfinished"></translation>
+        <translation>файл повреждён: его теги не имеют конца</translation>
     </message>
     <message>
         <source>the file is damaged: its tags do not fit in memory</source>
-        <translation type="unfinished"></translation>
+        <translation>файл повреждён: его теги не помещаются в памяти</translation>
     </message>
     <message>
         <source>the disk reported an error while the file was read</source>
-        <translation type="unfinished"></translation>
+        <translation>диск сообщил об ошибке при чтении файла</translation>
     </message>
     <message>
         <source>the file is damaged: reading its tags ended in a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>файл повреждён: чтение его тегов закончилось сбоем</translation>
     </message>
     <message>
         <source>reading the tags of the file took too long</source>
-        <translation type="unfinished"></translation>
+        <translation>чтение тегов файла заняло слишком много времени</translation>
     </message>
     <message>
         <source>reading the tags of the file gave nonsense</source>
-        <translation type="unfinished"></translation>
+        <translation>чтение тегов файла дало бессмысленный результат</translation>
     </message>
     <message>
         <source>the helper program that reads tags could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>не удалось запустить вспомогательную программу для чтения тегов</translation>
     </message>
 </context>
 <context>
     <name>RecoveryDialog</name>
     <message>
         <source>OpenGL settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки OpenGL</translation>
     </message>
     <message>
         <source>Select the method of OpenGL usage:</source>
-        <translation type="unfinished"></translation>
+        <translation>Способ использования OpenGL:</translation>
     </message>
     <message>
         <source>Auto detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Автоматическое определение</translation>
     </message>
     <message>
         <source>OpenGL ES 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL ES 2.0</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Программно</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Обычный OpenGL</translation>
     </message>
     <message>
         <source>Clear all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбросить все настройки</translation>
     </message>
     <message>
         <source>Clear settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Сброс настроек</translation>
     </message>
     <message>
         <source>All settings will be removed and returned to default values. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Все настройки будут удалены и вернутся к значениям по умолчанию. Продолжить?</translation>
     </message>
     <message>
         <source>All settings were cleared. The program starts anew after OK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Все настройки сброшены. После нажатия «ОК» программа запустится заново.</translation>
     </message>
     <message>
         <source>The settings cannot be cleared: their file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сбросить настройки: их файл недоступен для записи.</translation>
     </message>
 </context>
 <context>
     <name>SceneWidget</name>
     <message>
         <source>The Qt module %1 is missing (package %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Отсутствует модуль Qt %1 (пакет %2).</translation>
     </message>
 </context>
 <context>
     <name>SettingsDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Общие</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык:</translation>
     </message>
     <message>
         <source>Restart is required to apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменения вступят в силу после перезапуска</translation>
     </message>
     <message>
         <source>Font size for lyrics:</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер шрифта текста:</translation>
     </message>
     <message>
         <source>Search in browser with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Искать в браузере через:</translation>
     </message>
     <message>
         <source>insert a blank line at the beginning of lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставлять пустую строку в начале текста</translation>
     </message>
     <message>
         <source>save files list on quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранять список файлов при выходе</translation>
     </message>
     <message>
         <source>export lyrics to a TXT file automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Автоматически экспортировать текст в файл TXT</translation>
     </message>
     <message>
         <source>look for new versions automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Автоматически проверять наличие новых версий</translation>
     </message>
     <message>
         <source>send usage events, with artists and titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Отправлять отчёты об использовании с исполнителями и названиями</translation>
     </message>
     <message>
         <source>Example...</source>
-        <translation type="unfinished"></translation>
+        <translation>Пример...</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать пример отчёта об использовании</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеть</translation>
     </message>
     <message>
         <source>Proxy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес:</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Порт:</translation>
     </message>
     <message>
         <source>Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Аутентификация</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль:</translation>
     </message>
     <message>
         <source>Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайты</translation>
     </message>
     <message>
         <source>Search order</source>
-        <translation type="unfinished"></translation>
+        <translation>Порядок поиска</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить выше</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить ниже</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Включить</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Автоматически</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет</translation>
     </message>
     <message>
         <source>Switched off by DO_NOT_TRACK</source>
-        <translation type="unfinished"></translation>
+        <translation>Отключено переменной DO_NOT_TRACK</translation>
     </message>
     <message>
         <source>No proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не используется.</translation>
     </message>
     <message>
         <source>No address: no proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет адреса: прокси-сервер не используется.</translation>
     </message>
     <message>
         <source>The proxy is being tested...</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка прокси-сервера...</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер не работает.</translation>
     </message>
     <message>
         <source>No error within %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>За %1 с ошибок не возникло.</translation>
     </message>
     <message>
         <source>The proxy works.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прокси-сервер работает.</translation>
     </message>
     <message>
         <source>Not tested yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ещё не проверено.</translation>
     </message>
     <message>
         <source>Disable</source>
-        <translation type="unfinished"></translation>
+        <translation>Выключить</translation>
     </message>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Внимание!!! Все источники отключены.</translation>
     </message>
 </context>
 <context>
     <name>SongList</name>
     <message>
         <source>Songs</source>
-        <translation type="unfinished"></translation>
+        <translation>Песни</translation>
     </message>
 </context>
 <context>
     <name>SongMenu</name>
     <message>
         <source>Force to search lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Принудительный поиск текста</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Экспортировать текст в файл TXT</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать выбранные</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать все</translation>
     </message>
     <message>
         <source>Copy file&apos;s path to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать путь к файлу в буфер обмена</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Искать текст в %1</translation>
     </message>
 </context>
 <context>
     <name>SongState</name>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>не читается</translation>
     </message>
     <message>
         <source>has lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>есть текст</translation>
     </message>
     <message>
         <source>no lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>нет текста</translation>
     </message>
     <message>
         <source>This file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот файл не читается.</translation>
     </message>
     <message>
         <source>no names</source>
-        <translation type="unfinished"></translation>
+        <translation>нет данных</translation>
     </message>
     <message>
         <source>queued</source>
-        <translation type="unfinished"></translation>
+        <translation>в очереди</translation>
     </message>
     <message>
         <source>searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>поиск...</translation>
     </message>
     <message>
         <source>saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>сохранение...</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>сбой</translation>
     </message>
     <message>
         <source>no lyrics found</source>
-        <translation type="unfinished"></translation>
+        <translation>текст не найден</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>не сохранено</translation>
     </message>
     <message>
         <source>search failed</source>
-        <translation type="unfinished"></translation>
+        <translation>ошибка поиска</translation>
     </message>
     <message>
         <source>in queue to search...</source>
-        <translation type="unfinished"></translation>
+        <translation>в очереди на поиск...</translation>
     </message>
     <message>
         <source>saving the lyrics...</source>
-        <translation type="unfinished"></translation>
+        <translation>сохранение текста...</translation>
     </message>
     <message>
         <source>A search needs an artist and a title.</source>
-        <translation type="unfinished"></translation>
+        <translation>Для поиска нужны исполнитель и название.</translation>
     </message>
 </context>
 <context>
     <name>SplitterHandle</name>
     <message>
         <source>Width of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ширина списка</translation>
     </message>
 </context>
 <context>
     <name>StateLine</name>
     <message>
         <source>search for lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>найти текст</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress of the searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход поиска</translation>
     </message>
     <message numerus="yes">
         <source>Searching... %n left...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Поиск... Осталось: %n...</numerusform>
+            <numerusform>Поиск... Осталось: %n...</numerusform>
+            <numerusform>Поиск... Осталось: %n...</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings file is damaged. What could be read is used, but no copy could be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл настроек повреждён. Используется то, что удалось прочитать, но создать копию не удалось.</translation>
     </message>
     <message>
         <source>The settings file was damaged. What could be read is kept; the damaged file is now %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>Файл настроек был повреждён. Всё, что удалось прочитать, сохранено; повреждённый файл теперь здесь: %1</translation>
     </message>
     <message>
         <source>The settings cannot be read or stored; changes last for this run only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки не удаётся прочитать или сохранить; изменения действуют только до закрытия программы.</translation>
     </message>
     <message numerus="yes">
         <source>Files left out, since their names are damaged or too long: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Файлы, пропущенные из-за повреждённых или слишком длинных имён: %n</numerusform>
+            <numerusform>Файлы, пропущенные из-за повреждённых или слишком длинных имён: %n</numerusform>
+            <numerusform>Файлы, пропущенные из-за повреждённых или слишком длинных имён: %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The list is full. Files left out: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Список заполнен. Пропущено файлов: %n</numerusform>
+            <numerusform>Список заполнен. Пропущено файлов: %n</numerusform>
+            <numerusform>Список заполнен. Пропущено файлов: %n</numerusform>
         </translation>
     </message>
     <message>
         <source>The last save was cut off. Songs that are again as they were before it: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Последнее сохранение было прервано. Песни, возвращённые в прежнее состояние: %1</translation>
     </message>
     <message>
         <source>Copies from before a save that was cut off: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Копии, сделанные до прерванного сохранения: %1</translation>
     </message>
     <message>
         <source>A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Сохранение было прервано, а песни, в которых его нужно отменить, недоступны; попытка повторяется при каждом запуске: %1</translation>
     </message>
     <message numerus="yes">
         <source>Songs that could not be written: %n (%1)</source>
         <comment>%1 is the reason</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Не удалось записать песен: %n (%1)</numerusform>
+            <numerusform>Не удалось записать песен: %n (%1)</numerusform>
+            <numerusform>Не удалось записать песен: %n (%1)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The lyrics of %n song(s) could not be exported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Не удалось экспортировать текст %n песни</numerusform>
+            <numerusform>Не удалось экспортировать тексты %n песен</numerusform>
+            <numerusform>Не удалось экспортировать тексты %n песен</numerusform>
         </translation>
     </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать текст в файл %1</translation>
     </message>
     <message numerus="yes">
         <source>Lyrics exported to %n text file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Текст экспортирован в %n файл TXT</numerusform>
+            <numerusform>Тексты экспортированы в %n файла TXT</numerusform>
+            <numerusform>Тексты экспортированы в %n файлов TXT</numerusform>
         </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет текстов для экспорта</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
     <name>TagWriter</name>
     <message>
         <source>the file is no longer there</source>
-        <translation type="unfinished"></translation>
+        <translation>файла больше нет</translation>
     </message>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>это не обычный файл</translation>
     </message>
     <message>
         <source>the file is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>файл доступен только для чтения</translation>
     </message>
     <message>
         <source>the file cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>не удаётся открыть файл</translation>
     </message>
     <message>
         <source>no audio was found in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>в файле не найден звук</translation>
     </message>
     <message>
         <source>files of this format cannot hold lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>файлы этого формата не могут содержать текст</translation>
     </message>
     <message>
         <source>the file is damaged, or built in an unusual way</source>
-        <translation type="unfinished"></translation>
+        <translation>файл повреждён или устроен необычно</translation>
     </message>
     <message>
         <source>there is not enough room on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>на диске недостаточно места</translation>
     </message>
     <message>
         <source>the file would become too large</source>
-        <translation type="unfinished"></translation>
+        <translation>файл стал бы слишком большим</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>диск сообщает об ошибке</translation>
     </message>
     <message>
         <source>other entries of its tags would be lost</source>
-        <translation type="unfinished"></translation>
+        <translation>другие записи тегов были бы потеряны</translation>
     </message>
     <message>
         <source>the audio would not stay as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>звук не остался бы прежним</translation>
     </message>
     <message>
         <source>another program has changed the file</source>
-        <translation type="unfinished"></translation>
+        <translation>другая программа изменила файл</translation>
     </message>
     <message>
         <source>the disk failed; the file will be restored at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>сбой диска; файл будет восстановлен при следующем запуске</translation>
     </message>
     <message>
         <source>the file could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>не удалось сохранить файл</translation>
     </message>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
     <message numerus="yes">
         <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Текст %n песни не записан в файл и есть только в списке.</numerusform>
+            <numerusform>Тексты %n песен не записаны в файлы и есть только в списке.</numerusform>
+            <numerusform>Тексты %n песен не записаны в файлы и есть только в списке.</numerusform>
         </translation>
     </message>
     <message>
         <source>Do you want to give them up?</source>
-        <translation type="unfinished"></translation>
+        <translation>Отказаться от них?</translation>
     </message>
 </context>
 <context>
@@ -1315,103 +1319,103 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Download update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить обновление</translation>
     </message>
     <message>
         <source>Cancel downloading</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Отменить загрузку</translation>
     </message>
     <message>
         <source>Exit and install update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Выйти и установить обновление</translation>
     </message>
     <message>
         <source>The server redirects to something that is not a web page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер перенаправляет туда, где нет веб-страницы.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер перенаправляет слишком много раз.</translation>
     </message>
     <message>
         <source>This build of the program knows no site to ask.</source>
-        <translation type="unfinished"></translation>
+        <translation>В этой сборке программы не указан сайт для проверки обновлений.</translation>
     </message>
     <message>
         <source>Can&apos;t check for update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить наличие обновлений: %1</translation>
     </message>
     <message>
         <source>Failed to parse version information data.</source>
         <comment>Updater error message</comment>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось разобрать сведения о версии.</translation>
     </message>
     <message>
         <source>Can&apos;t get update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить обновление: %1</translation>
     </message>
     <message>
         <source>The address of the setup file is not one that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес установочного файла непригоден.</translation>
     </message>
     <message>
         <source>The setup file has another size than the server said.</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер установочного файла отличается от указанного сервером.</translation>
     </message>
     <message>
         <source>The server sent something else than the setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер прислал не установочный файл, а что-то другое.</translation>
     </message>
     <message>
         <source>The setup file is larger than it should be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Установочный файл больше, чем должен быть.</translation>
     </message>
     <message>
         <source>The server did not send the whole setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер прислал установочный файл не полностью.</translation>
     </message>
     <message>
         <source>Can&apos;t open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл: %1</translation>
     </message>
     <message>
         <source>Can&apos;t install update</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось установить обновление</translation>
     </message>
 </context>
 <context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Папку %1 использовать нельзя.</translation>
     </message>
 </context>
 <context>
     <name>UsageExample</name>
     <message>
         <source>Example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Пример отчёта об использовании</translation>
     </message>
     <message>
         <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Такой отчёт отправляется в начале каждого поиска для песни; песня здесь вымышленная. Так же сообщается о запуске и завершении программы, об обновлении и о переходах на страницы разработчика, но без названий песен.</translation>
     </message>
     <message>
         <source>(random, made when you say yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(случайный, создаётся после согласия)</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Песни и тексты</translation>
     </message>
     <message>
         <source>The window could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать окно.</translation>
     </message>
 </context>
 </TS>

@@ -26,9 +26,10 @@ static void processEvents(std::chrono::milliseconds time)
     loop.exec();
 }
 
+// A song whose read was overtaken by another waits until it is searched for by hand: that is how it is meant.
 static bool isUnderWay(const ModelItem &item)
 {
-    return item.active() || item.writingTags();
+    return (item.active() && item.tagsLoaded()) || item.writingTags();
 }
 
 static QString faultOf(const ModelItem &item)
@@ -88,7 +89,9 @@ bool Soak::settled() const
     const auto connection = QObject::connect(m_model, &QAbstractItemModel::dataChanged, [&changed] { changed = true; });
     processEvents(500ms);
     QObject::disconnect(connection);
-    return !changed && m_model->activeCount() == 0 && TagWriter::pendingWrites() == 0;
+    for (int row = 0; row < m_model->rowCount() && !changed; ++row)
+        changed = isUnderWay(*m_model->itemAt(row));
+    return !changed && TagWriter::pendingWrites() == 0;
 }
 
 QStringList Soak::faults() const
