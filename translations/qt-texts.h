@@ -18,6 +18,13 @@ static const char *const qtTexts[] = {
     QT_TRANSLATE_NOOP("QGnomeTheme", "&Cancel"),
     QT_TRANSLATE_NOOP("QGnomeTheme", "&Close"),
     QT_TRANSLATE_NOOP("QGnomeTheme", "Close without Saving"),
+    // Keys in menus
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
+    QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    QT_TRANSLATE_NOOP("QShortcut", "Alt"),
+    QT_TRANSLATE_NOOP("QShortcut", "Meta"),
+    QT_TRANSLATE_NOOP("QShortcut", "Del"),
+    QT_TRANSLATE_NOOP("QShortcut", "Esc"),
     // The menu of a text field
     QT_TRANSLATE_NOOP("QLineEdit", "&Undo"),
     QT_TRANSLATE_NOOP("QLineEdit", "&Redo"),

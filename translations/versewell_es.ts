@@ -5,178 +5,178 @@
     <name>AboutDialog</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión %1</translation>
     </message>
     <message>
         <source>Made by %1</source>
         <comment>%1 is the maker&apos;s name</comment>
-        <translation type="unfinished"></translation>
+        <translation>Creado por %1</translation>
     </message>
 </context>
 <context>
     <name>AccessManager</name>
     <message>
         <source>Not a web address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una dirección web: %1</translation>
     </message>
     <message>
         <source>%1 asked for a pause and can be asked again in %2 s.</source>
         <comment>%1 is a host name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha pedido una pausa; se podrá volver a consultar dentro de %2 s.</translation>
     </message>
     <message>
         <source>The proxy wants a log-in of a kind that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy requiere un tipo de autenticación no compatible.</translation>
     </message>
 </context>
 <context>
     <name>AddDialogs</name>
     <message>
         <source>Select file(s) to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivos para añadir</translation>
     </message>
     <message>
         <source>Audio files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de audio</translation>
     </message>
     <message>
         <source>Select folder to add</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar una carpeta para añadir</translation>
     </message>
 </context>
 <context>
     <name>AudioPreview</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>No preview: the Qt module QtMultimedia is missing (package qml-module-qtmultimedia).</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede reproducir: falta el módulo de Qt QtMultimedia (paquete qml-module-qtmultimedia).</translation>
     </message>
     <message>
         <source>This file cannot be played here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no se puede reproducir aquí.</translation>
     </message>
 </context>
 <context>
     <name>ConsentBar</name>
     <message>
         <source>May usage events be sent to the maker? Those about searches name artist and title.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Enviar eventos de uso al desarrollador? Los de las búsquedas incluyen el artista y el título.</translation>
     </message>
     <message>
         <source>What is sent?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué se envía?</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar un ejemplo de evento de uso</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Yes, send usage events</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí, enviar eventos de uso</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>No, send nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>No, no enviar nada</translation>
     </message>
 </context>
 <context>
     <name>DetailsPane</name>
     <message numerus="yes">
         <source>Selected %n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo seleccionado</numerusform>
+            <numerusform>%n archivos seleccionados</numerusform>
         </translation>
     </message>
     <message>
         <source>No file is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún archivo seleccionado</translation>
     </message>
     <message>
         <source>Artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Artista:</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Artista</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Título:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
 </context>
 <context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;vacío&gt;</translation>
     </message>
     <message>
         <source>Enter to apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro para aplicar</translation>
     </message>
 </context>
 <context>
     <name>EmptyList</name>
     <message>
         <source>All files here have lyrics and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos tienen letra y están ocultos</translation>
     </message>
     <message>
         <source>Drop music files or folders here</source>
-        <translation type="unfinished"></translation>
+        <translation>Soltar aquí archivos o carpetas de música</translation>
     </message>
     <message>
         <source>Add files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivos...</translation>
     </message>
     <message>
         <source>Add a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una carpeta...</translation>
     </message>
 </context>
 <context>
     <name>ExitWidget</name>
     <message>
         <source>Do you want to quit anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Salir de todos modos?</translation>
     </message>
     <message numerus="yes">
         <source>Search for %n songs is currently in progress.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se está buscando la letra de %n canción.</numerusform>
+            <numerusform>Se están buscando las letras de %n canciones.</numerusform>
         </translation>
     </message>
 </context>
@@ -185,107 +185,107 @@
     <message>
         <source>%1, %2, %3</source>
         <comment>title, artist and how the song stands</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>No title</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin título</translation>
     </message>
     <message>
         <source>No artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin artista</translation>
     </message>
     <message>
         <source>Show in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en el gestor de archivos</translation>
     </message>
 </context>
 <context>
     <name>LimitedReply</name>
     <message>
         <source>The server refuses to answer (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor se niega a responder (HTTP %1).</translation>
     </message>
     <message>
         <source>The server has no such page (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>La página no existe en el servidor (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is asked too often (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor recibe demasiadas peticiones (HTTP %1).</translation>
     </message>
     <message>
         <source>The server is out of order (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor está fuera de servicio (HTTP %1).</translation>
     </message>
     <message>
         <source>The server cannot answer the request (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor no puede responder a la petición (HTTP %1).</translation>
     </message>
     <message>
         <source>The request was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se canceló la petición.</translation>
     </message>
     <message>
         <source>The server has been silent for %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor lleva %1 segundos sin responder.</translation>
     </message>
     <message>
         <source>The server took longer than %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor tardó más de %1 segundos.</translation>
     </message>
     <message>
         <source>The answer is packed in a way that is not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La respuesta usa un formato de compresión desconocido.</translation>
     </message>
     <message>
         <source>The answer arrived damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>La respuesta llegó dañada.</translation>
     </message>
     <message>
         <source>The connection broke before the whole answer had arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conexión se cortó antes de que llegara toda la respuesta.</translation>
     </message>
     <message>
         <source>The answer is larger than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La respuesta ocupa más de %1.</translation>
     </message>
 </context>
 <context>
     <name>ListPane</name>
     <message numerus="yes">
         <source>Scanning folder(s) for music files (found %n)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Buscando archivos de música (%n encontrado)</numerusform>
+            <numerusform>Buscando archivos de música (%n encontrados)</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message numerus="yes">
         <source>Hidden %n file(s) with lyrics</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo con letra oculto</numerusform>
+            <numerusform>%n archivos con letra ocultos</numerusform>
         </translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los archivos ocultos</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Remove hidden files from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar de la lista los archivos ocultos</translation>
     </message>
 </context>
 <context>
@@ -293,27 +293,27 @@
     <message>
         <source>The lyrics of “%1” have been changed.</source>
         <comment>%1 is the title of a song</comment>
-        <translation type="unfinished"></translation>
+        <translation>La letra de «%1» se ha modificado.</translation>
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar los cambios?</translation>
     </message>
 </context>
 <context>
     <name>LyricsItem</name>
     <message>
         <source>This lyrics for:</source>
-        <translation type="unfinished"></translation>
+        <translation>Letra de:</translation>
     </message>
     <message>
         <source>“%1” – “%2”</source>
         <comment>artist and title</comment>
-        <translation type="unfinished"></translation>
+        <translation>«%1» – «%2»</translation>
     </message>
     <message>
         <source>These lyrics are very long; their beginning is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>La letra es muy larga; solo se muestra el principio.</translation>
     </message>
 </context>
 <context>
@@ -321,142 +321,142 @@
     <message>
         <source>%1 redirects to something that is not a web page.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 redirige a algo que no es una página web.</translation>
     </message>
     <message>
         <source>%1 redirects too often.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 redirige demasiadas veces.</translation>
     </message>
     <message>
         <source>%1 gave a page that holds no lyrics.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 devolvió una página sin letra.</translation>
     </message>
 </context>
 <context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Letra</translation>
     </message>
 </context>
 <context>
     <name>LyricsToolbar</name>
     <message>
         <source>Edit lyrics (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar la letra (F2)</translation>
     </message>
     <message>
         <source>Save lyrics (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la letra (Ctrl+S)</translation>
     </message>
     <message>
         <source>Cancel editing (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar la edición (Esc)</translation>
     </message>
     <message>
         <source>Force to search lyrics (Ctrl+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzar la búsqueda de la letra (Ctrl+R)</translation>
     </message>
     <message>
         <source>Copy lyrics to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la letra al portapapeles</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Buscar la letra con %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto más pequeño</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto más grande</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Add file</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivo</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta</translation>
     </message>
     <message>
         <source>Hide file(s) with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar archivos con letra</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>Remove with lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar archivos con letra</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar la lista</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar seleccionados</translation>
     </message>
     <message>
         <source>Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>Facebook</translation>
     </message>
     <message>
         <source>Twitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Twitter</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitio web</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la letra a un archivo TXT</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
 </context>
 <context>
@@ -464,839 +464,843 @@
     <message>
         <source>%1 leads from one list of songs to the next.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 remite de una lista de canciones a otra.</translation>
     </message>
     <message>
         <source>%1 gave a page that is too intricate to read.</source>
         <extracomment>%1 is the name of a lyrics site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 devolvió una página demasiado compleja para leerla.</translation>
     </message>
 </context>
 <context>
     <name>PlaybackSlider</name>
     <message>
         <source>Position in the song</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición en la canción</translation>
     </message>
 </context>
 <context>
     <name>Proxy</name>
     <message>
         <source>The proxy does not take the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy no acepta la conexión.</translation>
     </message>
     <message>
         <source>The proxy closed the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy cerró la conexión.</translation>
     </message>
     <message>
         <source>The proxy was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el proxy.</translation>
     </message>
     <message>
         <source>The proxy did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy no respondió a tiempo.</translation>
     </message>
     <message>
         <source>The proxy refuses the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy rechaza el nombre de usuario o la contraseña.</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy no funciona.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Host not found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el servidor</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión rechazada</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Se agotó el tiempo de espera de la conexión</translation>
     </message>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Se agotó el tiempo de espera de la operación de red</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Red inaccesible</translation>
     </message>
     <message>
         <source>The remote host closed the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor remoto cerró la conexión</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seleccionar todo</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aumentar</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Disminuir</translation>
     </message>
 </context>
 <context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en:</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelante</translation>
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta superior</translation>
     </message>
     <message>
         <source>Create New Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una carpeta</translation>
     </message>
     <message>
         <source>List View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista de lista</translation>
     </message>
     <message>
         <source>Detail View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista detallada</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre de archivo:</translation>
     </message>
     <message>
         <source>Files of type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de tipo:</translation>
     </message>
     <message>
         <source>Directory:</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta:</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>&amp;Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elegir</translation>
     </message>
     <message>
         <source>Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas</translation>
     </message>
     <message>
         <source>%1
 File not found.
 Please verify the correct file name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+No se encontró el archivo.
+Comprobar que el nombre es correcto.</translation>
     </message>
     <message>
         <source>%1
 Directory not found.
 Please verify the correct directory name was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+No se encontró la carpeta.
+Comprobar que el nombre es correcto.</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de modificación</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipo</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;errar</translation>
     </message>
     <message>
         <source>Close without Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar sin guardar</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el servidor %1</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión rechazada</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión cerrada</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor&amp;tar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Red inaccesible</translation>
     </message>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor inaccesible</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Se agotó el tiempo de espera de la conexión</translation>
     </message>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión rechazada</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al transferir %1; el servidor respondió: %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sí</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartar</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la dirección del &amp;enlace</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
 </context>
 <context>
     <name>ReadFailure</name>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>the file is damaged: its tags have no end</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está dañado: sus etiquetas no tienen final</translation>
     </message>
     <message>
         <source>the file is damaged: its tags do not fit in memory</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está dañado: sus etiquetas no caben en la memoria</translation>
     </message>
     <message>
         <source>the disk reported an error while the file was read</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco dio un error al leer el archivo</translation>
     </message>
     <message>
         <source>the file is damaged: reading its tags ended in a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está dañado: el lector de etiquetas se cerró de forma inesperada</translation>
     </message>
     <message>
         <source>reading the tags of the file took too long</source>
-        <translation type="unfinished"></translation>
+        <translation>la lectura de las etiquetas del archivo tardó demasiado</translation>
     </message>
     <message>
         <source>reading the tags of the file gave nonsense</source>
-        <translation type="unfinished"></translation>
+        <translation>la lectura de las etiquetas del archivo dio datos sin sentido</translation>
     </message>
     <message>
         <source>the helper program that reads tags could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo iniciar el programa auxiliar que lee las etiquetas</translation>
     </message>
 </context>
 <context>
     <name>RecoveryDialog</name>
     <message>
         <source>OpenGL settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de OpenGL</translation>
     </message>
     <message>
         <source>Select the method of OpenGL usage:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar cómo se usa OpenGL:</translation>
     </message>
     <message>
         <source>Auto detection</source>
-        <translation type="unfinished"></translation>
+        <translation>Detección automática</translation>
     </message>
     <message>
         <source>OpenGL ES 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL ES 2.0</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Por software</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL de escritorio</translation>
     </message>
     <message>
         <source>Clear all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar toda la configuración</translation>
     </message>
     <message>
         <source>Clear settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar la configuración</translation>
     </message>
     <message>
         <source>All settings will be removed and returned to default values. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Se borrará toda la configuración y se restaurarán los valores predeterminados. ¿Continuar?</translation>
     </message>
     <message>
         <source>All settings were cleared. The program starts anew after OK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha borrado toda la configuración. El programa se reiniciará al pulsar Aceptar.</translation>
     </message>
     <message>
         <source>The settings cannot be cleared: their file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede borrar la configuración: no se puede escribir en su archivo.</translation>
     </message>
 </context>
 <context>
     <name>SceneWidget</name>
     <message>
         <source>The Qt module %1 is missing (package %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el módulo de Qt %1 (paquete %2).</translation>
     </message>
 </context>
 <context>
     <name>SettingsDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma:</translation>
     </message>
     <message>
         <source>Restart is required to apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Es necesario reiniciar para aplicar los cambios</translation>
     </message>
     <message>
         <source>Font size for lyrics:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del texto de las letras:</translation>
     </message>
     <message>
         <source>Search in browser with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en el navegador con:</translation>
     </message>
     <message>
         <source>insert a blank line at the beginning of lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar una línea en blanco al principio de la letra</translation>
     </message>
     <message>
         <source>save files list on quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la lista de archivos al salir</translation>
     </message>
     <message>
         <source>export lyrics to a TXT file automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la letra a un archivo TXT automáticamente</translation>
     </message>
     <message>
         <source>look for new versions automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar versiones nuevas automáticamente</translation>
     </message>
     <message>
         <source>send usage events, with artists and titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar eventos de uso, con artistas y títulos</translation>
     </message>
     <message>
         <source>Example...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo...</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar un ejemplo de evento de uso</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Proxy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección:</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto:</translation>
     </message>
     <message>
         <source>Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Autenticación</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitios</translation>
     </message>
     <message>
         <source>Search order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de búsqueda</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Switched off by DO_NOT_TRACK</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivado por DO_NOT_TRACK</translation>
     </message>
     <message>
         <source>No proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se usa ningún proxy.</translation>
     </message>
     <message>
         <source>No address: no proxy is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la dirección: no se usa ningún proxy.</translation>
     </message>
     <message>
         <source>The proxy is being tested...</source>
-        <translation type="unfinished"></translation>
+        <translation>Probando el proxy...</translation>
     </message>
     <message>
         <source>The proxy does not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy no funciona.</translation>
     </message>
     <message>
         <source>No error within %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún error en %1 segundos.</translation>
     </message>
     <message>
         <source>The proxy works.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy funciona.</translation>
     </message>
     <message>
         <source>Not tested yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún sin probar.</translation>
     </message>
     <message>
         <source>Disable</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivar</translation>
     </message>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Atención! Todos los sitios están desactivados.</translation>
     </message>
 </context>
 <context>
     <name>SongList</name>
     <message>
         <source>Songs</source>
-        <translation type="unfinished"></translation>
+        <translation>Canciones</translation>
     </message>
 </context>
 <context>
     <name>SongMenu</name>
     <message>
         <source>Force to search lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzar la búsqueda de la letra</translation>
     </message>
     <message>
         <source>Export lyrics to TXT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la letra a un archivo TXT</translation>
     </message>
     <message>
         <source>Remove selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar seleccionados</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar todos</translation>
     </message>
     <message>
         <source>Copy file&apos;s path to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la ruta del archivo al portapapeles</translation>
     </message>
     <message>
         <source>Search lyrics with %1</source>
         <comment>name of a search engine</comment>
-        <translation type="unfinished"></translation>
+        <translation>Buscar la letra con %1</translation>
     </message>
 </context>
 <context>
     <name>SongState</name>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer</translation>
     </message>
     <message>
         <source>has lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>con letra</translation>
     </message>
     <message>
         <source>no lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>sin letra</translation>
     </message>
     <message>
         <source>This file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no se puede leer.</translation>
     </message>
     <message>
         <source>no names</source>
-        <translation type="unfinished"></translation>
+        <translation>faltan datos</translation>
     </message>
     <message>
         <source>queued</source>
-        <translation type="unfinished"></translation>
+        <translation>en cola</translation>
     </message>
     <message>
         <source>searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>buscando...</translation>
     </message>
     <message>
         <source>saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>guardando...</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>error</translation>
     </message>
     <message>
         <source>no lyrics found</source>
-        <translation type="unfinished"></translation>
+        <translation>letra no encontrada</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>sin guardar</translation>
     </message>
     <message>
         <source>search failed</source>
-        <translation type="unfinished"></translation>
+        <translation>búsqueda fallida</translation>
     </message>
     <message>
         <source>in queue to search...</source>
-        <translation type="unfinished"></translation>
+        <translation>en cola para la búsqueda...</translation>
     </message>
     <message>
         <source>saving the lyrics...</source>
-        <translation type="unfinished"></translation>
+        <translation>guardando la letra...</translation>
     </message>
     <message>
         <source>A search needs an artist and a title.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para buscar se necesitan un artista y un título.</translation>
     </message>
 </context>
 <context>
     <name>SplitterHandle</name>
     <message>
         <source>Width of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho de la lista</translation>
     </message>
 </context>
 <context>
     <name>StateLine</name>
     <message>
         <source>search for lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>buscar la letra</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress of the searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso de las búsquedas</translation>
     </message>
     <message numerus="yes">
         <source>Searching... %n left...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Buscando... queda %n...</numerusform>
+            <numerusform>Buscando... quedan %n...</numerusform>
         </translation>
     </message>
     <message>
         <source>The settings file is damaged. What could be read is used, but no copy could be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de configuración está dañado. Se usa lo que se pudo leer, pero no se pudo hacer una copia.</translation>
     </message>
     <message>
         <source>The settings file was damaged. What could be read is kept; the damaged file is now %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de configuración estaba dañado. Se conserva lo que se pudo leer; el archivo dañado es ahora %1</translation>
     </message>
     <message>
         <source>The settings cannot be read or stored; changes last for this run only.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer ni guardar la configuración; los cambios solo durarán hasta que se cierre el programa.</translation>
     </message>
     <message numerus="yes">
         <source>Files left out, since their names are damaged or too long: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Archivos omitidos porque su nombre está dañado o es demasiado largo: %n</numerusform>
+            <numerusform>Archivos omitidos porque su nombre está dañado o es demasiado largo: %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The list is full. Files left out: %n</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La lista está llena. Archivos omitidos: %n</numerusform>
+            <numerusform>La lista está llena. Archivos omitidos: %n</numerusform>
         </translation>
     </message>
     <message>
         <source>The last save was cut off. Songs that are again as they were before it: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>El último guardado se interrumpió. Canciones devueltas a su estado anterior: %1</translation>
     </message>
     <message>
         <source>Copies from before a save that was cut off: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Copias anteriores a un guardado interrumpido: %1</translation>
     </message>
     <message>
         <source>A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation type="unfinished"></translation>
+        <translation>Un guardado se interrumpió y no se puede deshacer porque no hay acceso a estas canciones; se volverá a intentar en cada inicio: %1</translation>
     </message>
     <message numerus="yes">
         <source>Songs that could not be written: %n (%1)</source>
         <comment>%1 is the reason</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>No se pudo guardar %n canción (%1)</numerusform>
+            <numerusform>No se pudieron guardar %n canciones (%1)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The lyrics of %n song(s) could not be exported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>No se pudo exportar la letra de %n canción</numerusform>
+            <numerusform>No se pudieron exportar las letras de %n canciones</numerusform>
         </translation>
     </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la letra en %1</translation>
     </message>
     <message numerus="yes">
         <source>Lyrics exported to %n text file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Letra exportada a %n archivo de texto</numerusform>
+            <numerusform>Letras exportadas a %n archivos de texto</numerusform>
         </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay letras que exportar</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
     <name>TagWriter</name>
     <message>
         <source>the file is no longer there</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo ya no está en su lugar</translation>
     </message>
     <message>
         <source>this is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>the file is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo es de solo lectura</translation>
     </message>
     <message>
         <source>the file cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede abrir el archivo</translation>
     </message>
     <message>
         <source>no audio was found in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encontró audio en el archivo</translation>
     </message>
     <message>
         <source>files of this format cannot hold lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>los archivos de este formato no admiten letras</translation>
     </message>
     <message>
         <source>the file is damaged, or built in an unusual way</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está dañado o tiene una estructura poco habitual</translation>
     </message>
     <message>
         <source>there is not enough room on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay suficiente espacio en el disco</translation>
     </message>
     <message>
         <source>the file would become too large</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo sería demasiado grande</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco da un error</translation>
     </message>
     <message>
         <source>other entries of its tags would be lost</source>
-        <translation type="unfinished"></translation>
+        <translation>se perderían otros datos de sus etiquetas</translation>
     </message>
     <message>
         <source>the audio would not stay as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>el audio resultaría alterado</translation>
     </message>
     <message>
         <source>another program has changed the file</source>
-        <translation type="unfinished"></translation>
+        <translation>otro programa modificó el archivo</translation>
     </message>
     <message>
         <source>the disk failed; the file will be restored at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco falló; el archivo se restaurará en el próximo inicio del programa</translation>
     </message>
     <message>
         <source>the file could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo guardar el archivo</translation>
     </message>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
     <message numerus="yes">
         <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La letra de %n canción no está guardada en el archivo, solo en la lista.</numerusform>
+            <numerusform>Las letras de %n canciones no están guardadas en los archivos, solo en la lista.</numerusform>
         </translation>
     </message>
     <message>
         <source>Do you want to give them up?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Descartar de todos modos?</translation>
     </message>
 </context>
 <context>
@@ -1304,103 +1308,103 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Download update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Descargar actualización</translation>
     </message>
     <message>
         <source>Cancel downloading</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar descarga</translation>
     </message>
     <message>
         <source>Exit and install update</source>
         <comment>Action text</comment>
-        <translation type="unfinished"></translation>
+        <translation>Salir e instalar actualización</translation>
     </message>
     <message>
         <source>The server redirects to something that is not a web page.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor redirige a algo que no es una página web.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor redirige demasiadas veces.</translation>
     </message>
     <message>
         <source>This build of the program knows no site to ask.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta compilación del programa no tiene ningún sitio que consultar.</translation>
     </message>
     <message>
         <source>Can&apos;t check for update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden buscar actualizaciones: %1</translation>
     </message>
     <message>
         <source>Failed to parse version information data.</source>
         <comment>Updater error message</comment>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo interpretar la información de versión.</translation>
     </message>
     <message>
         <source>Can&apos;t get update: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede obtener la actualización: %1</translation>
     </message>
     <message>
         <source>The address of the setup file is not one that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dirección del archivo de instalación no es válida.</translation>
     </message>
     <message>
         <source>The setup file has another size than the server said.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tamaño del archivo de instalación no es el que indicó el servidor.</translation>
     </message>
     <message>
         <source>The server sent something else than the setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor envió algo distinto del archivo de instalación.</translation>
     </message>
     <message>
         <source>The setup file is larger than it should be.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de instalación es más grande de lo previsto.</translation>
     </message>
     <message>
         <source>The server did not send the whole setup file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor no envió el archivo de instalación completo.</translation>
     </message>
     <message>
         <source>Can&apos;t open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el archivo: %1</translation>
     </message>
     <message>
         <source>Can&apos;t install update</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede instalar la actualización</translation>
     </message>
 </context>
 <context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar la carpeta %1.</translation>
     </message>
 </context>
 <context>
     <name>UsageExample</name>
     <message>
         <source>Example of a usage event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo de evento de uso</translation>
     </message>
     <message>
         <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto se envía cada vez que empieza la búsqueda de una canción; la canción es inventada. El inicio y el cierre del programa, las actualizaciones y los clics en las páginas del desarrollador se comunican de la misma manera, sin nombres de canciones.</translation>
     </message>
     <message>
         <source>(random, made when you say yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aleatorio, se crea al responder que sí)</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Canciones y letras</translation>
     </message>
     <message>
         <source>The window could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo crear la ventana.</translation>
     </message>
 </context>
 </TS>
