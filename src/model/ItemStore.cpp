@@ -38,7 +38,7 @@ void ItemStore::append(std::unique_ptr<ModelItem> item)
     const QUrl url = item->url();
     Q_ASSERT(!find(id) && !contains(url));
     m_rows.append({m_nextSequence, id});
-    m_urls.insert(url);
+    m_ids.insert(url, id);
     m_entries.emplace(id, Entry{std::move(item), m_nextSequence, url, url.toLocalFile()});
     ++m_nextSequence;
 }
@@ -46,7 +46,7 @@ void ItemStore::append(std::unique_ptr<ModelItem> item)
 ItemStore::Taken ItemStore::takeEntry(quint16 id)
 {
     auto node = m_entries.extract(id);
-    m_urls.remove(node.mapped().url);
+    m_ids.remove(node.mapped().url);
     return {std::move(node.mapped().item), node.mapped().sequence};
 }
 

@@ -3,7 +3,7 @@
 
 #include "model/ModelItem.h"
 
-#include <QSet>
+#include <QHash>
 #include <QVector>
 
 #include <memory>
@@ -31,7 +31,9 @@ public:
     [[nodiscard]] ModelItem *find(quint16 id) const;
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const;
-    [[nodiscard]] bool contains(const QUrl &url) const { return m_urls.contains(url); }
+    [[nodiscard]] bool contains(const QUrl &url) const { return m_ids.contains(url); }
+    // Null when no item has this url.
+    [[nodiscard]] ModelItem *find(const QUrl &url) const { return contains(url) ? find(m_ids.value(url)) : nullptr; }
     // Path under which the item was appended; empty when no item has this id.
     [[nodiscard]] QString pathOf(quint16 id) const;
     // Sorts as the rows do; the item must be there.
@@ -62,6 +64,6 @@ private:
 
     QVector<Row> m_rows;
     std::unordered_map<quint16, Entry> m_entries;
-    QSet<QUrl> m_urls;
+    QHash<QUrl, quint16> m_ids;
     quint64 m_nextSequence = 0;
 };

@@ -268,8 +268,12 @@ void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
         m_activeCount += item->active() ? 1 : 0;
         connectItem(item.get());
         const quint16 id = item->id();
+        const QUrl file = item->url();
         m_items.append(std::move(item));
-        m_reads.add(id);
+        if (m_writes.isWriting(file))
+            m_heldBack.insert(file);
+        else
+            m_reads.add(id);
     }
     endInsertRows();
     if (m_autoStart)
@@ -543,6 +547,7 @@ void MainModel::tagsNotWritten(quint16 id, const QString &reason)
 void MainModel::tagsWritten(quint16 id)
 {
     const SongWrites::Outcome outcome = m_writes.takeOutcome(id);
+    readHeldBack(outcome.file);
     ModelItem *item = m_items.find(id);
     if (!item)
         return;
@@ -557,6 +562,16 @@ void MainModel::tagsWritten(quint16 id)
         item->setErrorString(QString()); // of an earlier write of this song that failed
     if (!m_writes.isWriting(id))
         item->setProcessState(ModelItem::ProcessComplete);
+}
+
+void MainModel::readHeldBack(const QUrl &file)
+{
+    if (m_writes.isWriting(file) || !m_heldBack.remove(file))
+        return;
+    if (const ModelItem *item = m_items.find(file))
+        m_reads.add(item->id());
+    if (!m_reads.isReading())
+        extractNextFileInfo();
 }
 
 // The lyrics that a failed write would have removed are in the file still.

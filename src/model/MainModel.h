@@ -182,6 +182,7 @@ private:
     [[nodiscard]] LyricsFileWriter &automaticExports();
     static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);
     void tagsNotWritten(quint16 id, const QString &reason);
+    void readHeldBack(const QUrl &file);
     void noteUnsaved(ModelItem *item, const QString &reason);
     void forgetUnsaved(quint16 id);
 
@@ -198,6 +199,8 @@ private:
     // Searched for while the user's own lyrics were written: what the search finds must not replace those.
     QSet<quint16> m_overruled;
     SongWrites m_writes;
+    // Removed while they were being written, and added again: they are read when that is done.
+    QSet<QUrl> m_heldBack;
     // Made when they are needed first.
     Exports m_exports;
     Exports m_automaticExports;

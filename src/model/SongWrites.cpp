@@ -17,7 +17,8 @@ void SongWrites::start(const ModelItem &item, bool insists)
     std::optional<tags::ShownTexts> shown;
     if (!isWriting(id))
         shown = tags::ShownTexts{item.storedTexts(), insists};
-    m_writes[id].enqueue(texts);
+    m_writes[id].enqueue({texts, item.url()});
+    ++m_files[item.url()];
     auto *writer = new TagWriter(m_dataFolder);
     connect(writer, &TagWriter::failed, this, [this](quint16 failedId, const QString &reason) {
         m_failures.insert(failedId, reason);
@@ -30,11 +31,15 @@ void SongWrites::start(const ModelItem &item, bool insists)
 
 SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
 {
-    Outcome outcome{m_failures.take(id), {}};
+    Outcome outcome{m_failures.take(id), {}, {}};
     const auto writes = m_writes.find(id);
     if (writes == m_writes.end())
         return outcome;
-    outcome.texts = writes->dequeue();
+    const Write write = writes->dequeue();
+    outcome.texts = write.texts;
+    outcome.file = write.file;
+    if (--m_files[write.file] == 0)
+        m_files.remove(write.file);
     if (writes->isEmpty())
         m_writes.erase(writes);
     return outcome;

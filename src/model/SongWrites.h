@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QObject>
 #include <QQueue>
+#include <QUrl>
 #include <QVector>
 
 class ModelItem;
@@ -22,6 +23,7 @@ public:
     {
         QString reason;        // empty when it succeeded
         tags::SongTexts texts; // that were to be stored
+        QUrl file;
     };
 
     explicit SongWrites(QObject *parent = nullptr);
@@ -32,6 +34,7 @@ public:
     // Queues a write of the item's texts. Without `insists` it fails when another program has stored lyrics since.
     void start(const ModelItem &item, bool insists);
     [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.contains(id); }
+    [[nodiscard]] bool isWriting(const QUrl &file) const { return m_files.contains(file); }
     [[nodiscard]] QVector<quint16> idsInWriting() const { return m_writes.keys().toVector(); }
     // To be called once for each written().
     [[nodiscard]] Outcome takeOutcome(quint16 id);
@@ -51,8 +54,15 @@ signals:
 
 private:
     QString m_dataFolder;
-    QHash<quint16, QQueue<tags::SongTexts>> m_writes; // under way, in their order
-    QHash<quint16, QString> m_failures;               // id to reason, until their end is told
-    QHash<quint16, QString> m_unsaved;                // id to reason
+    struct Write
+    {
+        tags::SongTexts texts;
+        QUrl file;
+    };
+
+    QHash<quint16, QQueue<Write>> m_writes; // under way, in their order
+    QHash<QUrl, int> m_files;               // how many writes of each are under way
+    QHash<quint16, QString> m_failures;     // id to reason, until their end is told
+    QHash<quint16, QString> m_unsaved;      // id to reason
     QHash<QString, int> m_unsavedByReason;
 };

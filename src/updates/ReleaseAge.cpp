@@ -23,5 +23,6 @@ QString releaseAge(const QDate &released, const QDate &today)
         return QCoreApplication::translate("UpdateDialog", "%n years", nullptr, months / monthsInYear);
     if (months >= least)
         return QCoreApplication::translate("UpdateDialog", "%n months", nullptr, months);
-    return QCoreApplication::translate("UpdateDialog", "%n days", nullptr, static_cast<int>(released.daysTo(today)));
+    const int days = static_cast<int>(released.daysTo(today)); // in the call the tool that collects texts would miss it
+    return QCoreApplication::translate("UpdateDialog", "%n days", nullptr, days);
 }

@@ -165,6 +165,18 @@ private slots:
         QCOMPARE(stage.model.urls(), QList<QUrl>());
     }
 
+    void aSongThatComesBackDuringItsWriteIsReadAfterwards()
+    {
+        Stage stage;
+        const QUrl song = stage.song("a.mp3"_s);
+        QVERIFY(stage.load({song}));
+        stage.model.itemAt(0)->setEditedLyricsTag("typed"_s);
+        QVERIFY(stage.model.writeTags(1));
+        stage.model.removeAll();
+        QVERIFY(stage.load({stage.song("b.mp3"_s), song}));
+        QCOMPARE(stage.model.itemAt(1)->lyricsTag(), "typed"_s);
+    }
+
     void dropsAreSortedIntoFilesAndFolders()
     {
         Stage stage;
