@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Beenden und installieren</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>%1 wird aktualisiert</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Fortschritt des Downloads</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Aktualisierung wird heruntergeladen...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Bereit zur Installation...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB von %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Wird installiert...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -458,6 +497,10 @@
         <source>Options</source>
         <translation>Optionen</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Nach Aktualisierungen suchen...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -766,6 +809,40 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Lebenszeit des Pakets (TTL) abgelaufen</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1197,11 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>Für die Suche sind Interpret und Titel nötig.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Nicht gespeichert: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1375,10 +1457,113 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n Jahr</numerusform>
+            <numerusform>%n Jahren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n Monat</numerusform>
+            <numerusform>%n Monaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n Tag</numerusform>
+            <numerusform>%n Tagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Diese Version überspringen</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Aktualisierung installieren</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Aktualisierung verfügbar!</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Eine neue Version von &lt;b&gt;%appName&lt;/b&gt; ist verfügbar!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; ist verfügbar – Sie haben &lt;b&gt;%oldVersion&lt;/b&gt;. Möchten Sie die neue Version jetzt herunterladen?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>Ihre Version ist vor mehr als &lt;b&gt;%releasePeriod&lt;/b&gt; erschienen.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Seitdem sind &lt;b&gt;%numUpdates&lt;/b&gt; Versionen erschienen.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Neuerungen:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Neuerungen</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Der Ordner %1 kann nicht verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Es wird nach Aktualisierungen gesucht...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Sie haben die neueste Version.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Aktualisierung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -1388,12 +1573,12 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
         <translation>Beispiel für Nutzungsdaten</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Diese Daten werden zu Beginn jeder Suche nach einem Songtext gesendet; der Song ist hier erfunden. Start und Ende des Programms, eine Aktualisierung und Klicks auf die Seiten des Herstellers werden auf dieselbe Weise gemeldet, jedoch ohne Angaben zu Songs.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(zufällig, wird erst bei Zustimmung erzeugt)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Das wird jedes Mal gesendet, wenn die Suche nach einem Song beginnt; der Song hier ist erfunden. Start und Ende des Programms, eine Aktualisierung, Klicks auf die Seiten des Herstellers und ein Fenster, das nicht gezeichnet werden kann, werden ebenso gemeldet, ohne Namen von Songs.</translation>
     </message>
 </context>
 <context>

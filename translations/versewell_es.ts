@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Salir e instalar</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Actualización de %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progreso de la descarga</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Descargando actualización...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Todo listo para instalar...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB de %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Instalando...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -458,6 +497,10 @@
         <source>Options</source>
         <translation>Opciones</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Buscar actualizaciones...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -766,6 +809,40 @@ Comprobar que el nombre es correcto.</translation>
     <message>
         <source>Discard</source>
         <translation>Descartar</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>El tiempo de vida del paquete (TTL) expiró</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1197,11 @@ Comprobar que el nombre es correcto.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>Para buscar se necesitan un artista y un título.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Sin guardar: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1375,10 +1457,113 @@ Comprobar que el nombre es correcto.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n año</numerusform>
+            <numerusform>%n años</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n mes</numerusform>
+            <numerusform>%n meses</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n día</numerusform>
+            <numerusform>%n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Omitir esta versión</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Recordar más tarde</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Instalar actualización</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Actualización disponible</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>¡Hay una versión nueva de &lt;b&gt;%appName&lt;/b&gt;!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; está disponible; la versión instalada es la &lt;b&gt;%oldVersion&lt;/b&gt;. ¿Descargar la nueva ahora?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>La versión instalada se publicó hace más de &lt;b&gt;%releasePeriod&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Versiones publicadas desde entonces: &lt;b&gt;%numUpdates&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Notas de la versión:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Notas de la versión</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>No se puede usar la carpeta %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Buscando actualizaciones...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Está instalada la última versión.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>No se pudo actualizar</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -1388,12 +1573,12 @@ Comprobar que el nombre es correcto.</translation>
         <translation>Ejemplo de evento de uso</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Esto se envía cada vez que empieza la búsqueda de una canción; la canción es inventada. El inicio y el cierre del programa, las actualizaciones y los clics en las páginas del desarrollador se comunican de la misma manera, sin nombres de canciones.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(aleatorio, se crea al responder que sí)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Esto se envía cada vez que empieza la búsqueda de una canción; la canción de aquí es inventada. El inicio y el cierre del programa, una actualización, los clics en las páginas del desarrollador y una ventana que no se puede dibujar se comunican del mismo modo, sin nombres de canciones.</translation>
     </message>
 </context>
 <context>

@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Quitter et installer</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Mise à jour de %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progression du téléchargement</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Téléchargement de la mise à jour...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Prêt à installer...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 Mo sur %2 Mo</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Installation...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -458,6 +497,10 @@
         <source>Options</source>
         <translation>Options</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Rechercher des mises à jour...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -766,6 +809,40 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>Discard</source>
         <translation>Abandonner</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Suppr</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Durée de vie du paquet (TTL) expirée</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1197,11 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>La recherche nécessite un artiste et un titre.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Non enregistré : %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1375,10 +1457,113 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n an</numerusform>
+            <numerusform>%n ans</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n mois</numerusform>
+            <numerusform>%n mois</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n jour</numerusform>
+            <numerusform>%n jours</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Me le rappeler plus tard</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Installer la mise à jour</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Mise à jour disponible !</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Une nouvelle version de &lt;b&gt;%appName&lt;/b&gt; est disponible !</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; est disponible – vous avez la version &lt;b&gt;%oldVersion&lt;/b&gt;. Voulez-vous la télécharger maintenant ?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>Votre version est sortie il y a plus de &lt;b&gt;%releasePeriod&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Depuis, &lt;b&gt;%numUpdates&lt;/b&gt; versions sont sorties.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Nouveautés :</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Nouveautés</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Le dossier %1 ne peut pas être utilisé.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Recherche de mises à jour...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Vous avez la dernière version.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>La mise à jour a échoué</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -1388,12 +1573,12 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
         <translation>Exemple de données d’utilisation</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Ces données sont envoyées au début de chaque recherche pour une chanson ; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour et les clics vers les pages du développeur sont signalés de la même manière, sans nom de chanson.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(aléatoire, créé lorsque vous acceptez)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Ceci est envoyé chaque fois que la recherche d’une chanson commence ; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour, les clics vers les pages du développeur et une fenêtre qui ne peut pas être affichée sont signalés de la même façon, sans nom de chanson.</translation>
     </message>
 </context>
 <context>

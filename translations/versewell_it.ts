@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Esci e installa</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Aggiornamento di %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Avanzamento dello scaricamento</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Scaricamento dell’aggiornamento...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Pronto per l’installazione...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB di %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Installazione...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -458,6 +497,10 @@
         <source>Options</source>
         <translation>Opzioni</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Controlla aggiornamenti...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -766,6 +809,40 @@ Verificare che il nome della cartella sia corretto.</translation>
     <message>
         <source>Discard</source>
         <translation>Scarta</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Canc</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Durata del pacchetto (TTL) scaduta</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1197,11 @@ Verificare che il nome della cartella sia corretto.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>Per la ricerca servono artista e titolo.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Non salvato: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1375,10 +1457,113 @@ Verificare che il nome della cartella sia corretto.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n anno</numerusform>
+            <numerusform>%n anni</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n mese</numerusform>
+            <numerusform>%n mesi</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n giorno</numerusform>
+            <numerusform>%n giorni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versione %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Salta questa versione</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Ricorda più tardi</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Installa aggiornamento</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Aggiornamento disponibile!</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>È disponibile una nuova versione di &lt;b&gt;%appName&lt;/b&gt;!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>È disponibile %appName &lt;b&gt;%newVersion&lt;/b&gt; – la versione installata è &lt;b&gt;%oldVersion&lt;/b&gt;. Scaricarla ora?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>La versione installata è uscita più di &lt;b&gt;%releasePeriod&lt;/b&gt; fa.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Da allora sono uscite &lt;b&gt;%numUpdates&lt;/b&gt; versioni.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Novità:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Novità</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Impossibile usare la cartella %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Ricerca di aggiornamenti...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>È già installata l’ultima versione.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Aggiornamento non riuscito</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -1388,12 +1573,12 @@ Verificare che il nome della cartella sia corretto.</translation>
         <translation>Esempio di dati di utilizzo</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Questi dati vengono inviati all’inizio di ogni ricerca per un brano; qui il brano è inventato. L’avvio e la chiusura del programma, un aggiornamento e i clic sulle pagine dello sviluppatore vengono segnalati allo stesso modo, senza nomi di brani.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(casuale, creato al momento del consenso)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Questo viene inviato ogni volta che inizia la ricerca di un brano; il brano qui è inventato. L’avvio e la chiusura del programma, un aggiornamento, i clic sulle pagine dello sviluppatore e una finestra che non può essere disegnata vengono segnalati allo stesso modo, senza nomi di brani.</translation>
     </message>
 </context>
 <context>

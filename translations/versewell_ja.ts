@@ -136,6 +136,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>終了してインストール</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>%1 のアップデート</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>ダウンロードの進行状況</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>アップデートをダウンロード中...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>インストールの準備完了...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB / %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>インストール中...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -454,6 +493,10 @@
         <source>Options</source>
         <translation>オプション</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>アップデートを確認...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -762,6 +805,40 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Discard</source>
         <translation>破棄</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>TTL の期限が切れました</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1193,11 @@ Please verify the correct directory name was given.</source>
         <source>A search needs an artist and a title.</source>
         <translation>検索にはアーティストとタイトルが必要です。</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>未保存: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1364,10 +1446,110 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n 年</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n か月</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n 日</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>このバージョンをスキップ</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>後で通知</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>アップデートをインストール</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>アップデートがあります！</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>&lt;b&gt;%appName&lt;/b&gt; の新しいバージョンがあります！</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; が公開されました (現在は &lt;b&gt;%oldVersion&lt;/b&gt;)。今すぐダウンロードしますか？</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>お使いのバージョンは公開から &lt;b&gt;%releasePeriod&lt;/b&gt; 以上経過しています。</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>それ以降、&lt;b&gt;%numUpdates&lt;/b&gt; 個のバージョンが公開されています。</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>リリースノート:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>リリースノート</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>フォルダー %1 は使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>アップデート</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>アップデートを確認中...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>最新のバージョンを使用しています。</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>アップデートに失敗しました</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>アップデート</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -1377,12 +1559,12 @@ Please verify the correct directory name was given.</source>
         <translation>使用状況データの例</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>曲の検索を開始するたびに、このデータが送信されます。この曲は架空のものです。プログラムの起動と終了、アップデート、開発元のページのクリックも同様に、曲名を含めずに報告されます。</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(ランダムな値、同意時に生成)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>これは曲の検索が始まるたびに送信されます。ここに示した曲は架空のものです。プログラムの起動と終了、アップデート、開発元のページへのクリック、ウィンドウを描画できないことも、曲名を含めずに同じ形で報告されます。</translation>
     </message>
 </context>
 <context>

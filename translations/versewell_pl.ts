@@ -138,6 +138,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Zakończ i zainstaluj</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Aktualizacja %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Postęp pobierania</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Pobieranie aktualizacji...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Gotowe do instalacji...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB z %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Instalowanie...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -462,6 +501,10 @@
         <source>Options</source>
         <translation>Opcje</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Sprawdź aktualizacje...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -770,6 +813,40 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     <message>
         <source>Discard</source>
         <translation>Odrzuć</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Upłynął czas życia pakietu (TTL)</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1201,11 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>Do wyszukania tekstu trzeba podać wykonawcę i tytuł.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Nie zapisano: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1386,10 +1468,116 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n rok</numerusform>
+            <numerusform>%n lata</numerusform>
+            <numerusform>%n lat</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n miesiąc</numerusform>
+            <numerusform>%n miesiące</numerusform>
+            <numerusform>%n miesięcy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n dzień</numerusform>
+            <numerusform>%n dni</numerusform>
+            <numerusform>%n dni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Wersja %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Pomiń tę wersję</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Przypomnij później</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Zainstaluj aktualizację</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Dostępna aktualizacja!</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Dostępna jest nowa wersja programu &lt;b&gt;%appName&lt;/b&gt;!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>Dostępna jest wersja &lt;b&gt;%newVersion&lt;/b&gt; programu %appName – zainstalowana to &lt;b&gt;%oldVersion&lt;/b&gt;. Czy pobrać ją teraz?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>Używaną wersję wydano ponad &lt;b&gt;%releasePeriod&lt;/b&gt; temu.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Liczba wersji wydanych od tego czasu: &lt;b&gt;%numUpdates&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Informacje o wydaniu:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Informacje o wydaniu</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Nie można użyć katalogu %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Sprawdzanie dostępności aktualizacji...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Zainstalowana jest najnowsza wersja.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Nie udało się zaktualizować programu</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
     </message>
 </context>
 <context>
@@ -1399,12 +1587,12 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         <translation>Przykładowy raport o użytkowaniu</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Taki raport jest wysyłany za każdym razem, gdy rozpoczyna się wyszukiwanie dla utworu; ten utwór jest zmyślony. Uruchomienie i zamknięcie programu, aktualizacja oraz kliknięcia prowadzące na strony twórcy są zgłaszane w ten sam sposób, bez nazw utworów.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(losowy, tworzony po wyrażeniu zgody)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>To jest wysyłane za każdym razem, gdy zaczyna się wyszukiwanie utworu; utwór podany tutaj jest zmyślony. Uruchomienie i zamknięcie programu, aktualizacja, kliknięcia prowadzące na strony twórcy oraz okno, którego nie można narysować, są zgłaszane w ten sam sposób, bez nazw utworów.</translation>
     </message>
 </context>
 <context>

@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Sair e instalar</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Atualização do %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progresso da transferência</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>A transferir atualização...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Pronto a instalar...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB de %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>A instalar...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -458,6 +497,10 @@
         <source>Options</source>
         <translation>Opções</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Procurar atualizações...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -766,6 +809,40 @@ Verificar se o nome da pasta está correto.</translation>
     <message>
         <source>Discard</source>
         <translation>Descartar</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>O tempo de vida do pacote (TTL) expirou</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1197,11 @@ Verificar se o nome da pasta está correto.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>A pesquisa precisa de um artista e de um título.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Por guardar: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1375,10 +1457,113 @@ Verificar se o nome da pasta está correto.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n ano</numerusform>
+            <numerusform>%n anos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n mês</numerusform>
+            <numerusform>%n meses</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n dia</numerusform>
+            <numerusform>%n dias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Ignorar esta versão</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Lembrar mais tarde</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Instalar atualização</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Atualização disponível</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Há uma nova versão do &lt;b&gt;%appName&lt;/b&gt;!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>O %appName &lt;b&gt;%newVersion&lt;/b&gt; está disponível; a versão instalada é a &lt;b&gt;%oldVersion&lt;/b&gt;. Transferir a nova agora?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>A versão instalada foi lançada há mais de &lt;b&gt;%releasePeriod&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Versões lançadas desde então: &lt;b&gt;%numUpdates&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Notas da versão:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Notas da versão</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Não é possível usar a pasta %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Atualização</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>A procurar atualizações...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>A versão instalada é a mais recente.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Não foi possível atualizar</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualização</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
@@ -1388,12 +1573,12 @@ Verificar se o nome da pasta está correto.</translation>
         <translation>Exemplo de evento de utilização</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Isto é enviado sempre que começa a pesquisa de uma música; a música é inventada. O início e o fecho do programa, as atualizações e os cliques nas páginas do programador são comunicados da mesma forma, sem nomes de músicas.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(aleatório, criado ao responder que sim)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Isto é enviado sempre que começa a pesquisa de uma música; a música aqui é inventada. O início e o fim do programa, uma atualização, os cliques nas páginas do programador e uma janela que não pode ser desenhada são comunicados da mesma forma, sem nomes de músicas.</translation>
     </message>
 </context>
 <context>

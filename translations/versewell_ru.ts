@@ -138,6 +138,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Выйти и установить</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Обновление %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Ход загрузки</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Загрузка обновления...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Готово к установке...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 МБ из %2 МБ</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Установка...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -462,6 +501,10 @@
         <source>Options</source>
         <translation>Параметры</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Проверить обновления...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -770,6 +813,40 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Discard</source>
         <translation>Не сохранять</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Время жизни пакета (TTL) истекло</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1201,11 @@ Please verify the correct directory name was given.</source>
         <source>A search needs an artist and a title.</source>
         <translation>Для поиска нужны исполнитель и название.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Не сохранено: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1386,10 +1468,116 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n года</numerusform>
+            <numerusform>%n лет</numerusform>
+            <numerusform>%n лет</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n месяца</numerusform>
+            <numerusform>%n месяцев</numerusform>
+            <numerusform>%n месяцев</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n дня</numerusform>
+            <numerusform>%n дней</numerusform>
+            <numerusform>%n дней</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Версия %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Пропустить эту версию</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Напомнить позже</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Установить обновление</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Доступно обновление!</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Доступна новая версия &lt;b&gt;%appName&lt;/b&gt;!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>Доступна версия %appName &lt;b&gt;%newVersion&lt;/b&gt;, установлена &lt;b&gt;%oldVersion&lt;/b&gt;. Загрузить новую сейчас?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>Установленная версия вышла более &lt;b&gt;%releasePeriod&lt;/b&gt; назад.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>С тех пор вышло версий: &lt;b&gt;%numUpdates&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Что нового:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Что нового</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Папку %1 использовать нельзя.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Обновление</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Проверка наличия обновлений...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Установлена последняя версия.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Не удалось обновить программу</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновление</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
@@ -1399,12 +1587,12 @@ Please verify the correct directory name was given.</source>
         <translation>Пример отчёта об использовании</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Такой отчёт отправляется в начале каждого поиска для песни; песня здесь вымышленная. Так же сообщается о запуске и завершении программы, об обновлении и о переходах на страницы разработчика, но без названий песен.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(случайный, создаётся после согласия)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Это отправляется каждый раз, когда начинается поиск песни; песня здесь вымышленная. О запуске и завершении программы, обновлении, переходах на страницы разработчика и об окне, которое не удаётся нарисовать, сообщается так же, без названий песен.</translation>
     </message>
 </context>
 <context>

@@ -136,6 +136,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Çık ve Kur</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>%1 Güncelleniyor</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>İndirmenin ilerlemesi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Güncelleme indiriliyor...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Kurulmaya hazır...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB / %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Kuruluyor...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -454,6 +493,10 @@
         <source>Options</source>
         <translation>Seçenekler</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Güncellemeleri Denetle...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -762,6 +805,40 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     <message>
         <source>Discard</source>
         <translation>At</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Paketin yaşam süresi (TTL) doldu</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1193,11 @@ Klasör adının doğru olduğunu denetleyin.</translation>
         <source>A search needs an artist and a title.</source>
         <translation>Arama için sanatçı ve başlık gerekir.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Kaydedilmedi: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1364,10 +1446,110 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n yıl</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n ay</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n gün</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Sürüm %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Bu Sürümü Atla</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Sonra Anımsat</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Güncellemeyi Kur</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Güncelleme var!</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Yeni bir &lt;b&gt;%appName&lt;/b&gt; sürümü var!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; sürümü çıktı; yüklü sürüm: &lt;b&gt;%oldVersion&lt;/b&gt;. Şimdi indirmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>Yüklü sürüm yayımlanalı &lt;b&gt;%releasePeriod&lt;/b&gt; geçti.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>O günden bu yana &lt;b&gt;%numUpdates&lt;/b&gt; sürüm yayımlandı.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Sürüm notları:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Sürüm notları</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>%1 klasörü kullanılamıyor.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Güncelleme</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Güncelleme denetleniyor...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Yüklü sürüm en yeni sürüm.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Güncelleme başarısız</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Güncelleme</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
@@ -1377,12 +1559,12 @@ Klasör adının doğru olduğunu denetleyin.</translation>
         <translation>Kullanım Verisi Örneği</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Her şarkı araması başlarken bu veriler gönderilir; buradaki şarkı uydurmadır. Programın açılışı ve kapanışı, güncellemeler ve geliştiricinin sayfalarına yapılan tıklamalar da aynı biçimde, şarkı adları olmadan bildirilir.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(rastgele; onay verince oluşturulur)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Bu, bir şarkı araması her başladığında gönderilir; buradaki şarkı uydurmadır. Programın açılışı ve kapanışı, bir güncelleme, geliştiricinin sayfalarına yapılan tıklamalar ve çizilemeyen bir pencere de şarkı adları olmadan aynı biçimde bildirilir.</translation>
     </message>
 </context>
 <context>

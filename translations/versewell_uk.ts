@@ -138,6 +138,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>Вийти та встановити</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>Оновлення %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Перебіг завантаження</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Завантаження оновлення...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>Готово до встановлення...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 МБ із %2 МБ</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>Встановлення...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -462,6 +501,10 @@
         <source>Options</source>
         <translation>Параметри</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>Перевірити оновлення...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -770,6 +813,40 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Discard</source>
         <translation>Відкинути</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>Час життя пакета (TTL) вичерпано</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1201,11 @@ Please verify the correct directory name was given.</source>
         <source>A search needs an artist and a title.</source>
         <translation>Для пошуку потрібні виконавець і назва.</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>Не збережено: %1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1386,10 +1468,116 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n рік</numerusform>
+            <numerusform>%n роки</numerusform>
+            <numerusform>%n років</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n місяць</numerusform>
+            <numerusform>%n місяці</numerusform>
+            <numerusform>%n місяців</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n дня</numerusform>
+            <numerusform>%n днів</numerusform>
+            <numerusform>%n днів</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Версія %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>Пропустити цю версію</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>Нагадати пізніше</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>Встановити оновлення</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>Доступне оновлення!</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>Доступна нова версія &lt;b&gt;%appName&lt;/b&gt;!</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>Доступна версія %appName &lt;b&gt;%newVersion&lt;/b&gt;, установлено &lt;b&gt;%oldVersion&lt;/b&gt;. Завантажити нову зараз?</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>Установлена версія вийшла понад &lt;b&gt;%releasePeriod&lt;/b&gt; тому.</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>Відтоді вийшло версій: &lt;b&gt;%numUpdates&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>Що нового:</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Що нового</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>Теку %1 використати неможливо.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>Оновлення</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>Перевірка наявності оновлень...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Установлено найновішу версію.</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>Не вдалося оновити програму</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Оновлення</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
     </message>
 </context>
 <context>
@@ -1399,12 +1587,12 @@ Please verify the correct directory name was given.</source>
         <translation>Приклад звіту про використання</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>Такий звіт надсилається на початку кожного пошуку для пісні; пісня тут вигадана. Так само повідомляється про запуск і завершення програми, про оновлення та про переходи на сторінки розробника, але без назв пісень.</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>(випадковий, створюється після згоди)</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>Це надсилається щоразу, коли починається пошук пісні; пісню тут вигадано. Про запуск і завершення програми, оновлення, переходи на сторінки розробника та про вікно, яке не вдається намалювати, повідомляється так само, без назв пісень.</translation>
     </message>
 </context>
 <context>

@@ -136,6 +136,45 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Exit and install</source>
+        <translation>退出并安装</translation>
+    </message>
+    <message>
+        <source>Updating %1</source>
+        <translation>正在更新 %1</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>下载进度</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>正在下载更新...</translation>
+    </message>
+    <message>
+        <source>Ready to install...</source>
+        <translation>准备安装...</translation>
+    </message>
+    <message>
+        <source>%1 MB of %2 MB</source>
+        <translation>%1 MB / %2 MB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Installing...</source>
+        <translation>正在安装...</translation>
+    </message>
+</context>
+<context>
     <name>EditableField</name>
     <message>
         <source>&lt;empty&gt;</source>
@@ -454,6 +493,10 @@
         <source>Options</source>
         <translation>选项</translation>
     </message>
+    <message>
+        <source>Check for updates...</source>
+        <translation>检查更新...</translation>
+    </message>
 </context>
 <context>
     <name>MusixMatchProvider</name>
@@ -762,6 +805,40 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Discard</source>
         <translation>丢弃</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>QSocks5SocketEngine</name>
+    <message>
+        <source>TTL expired</source>
+        <translation>TTL 已过期</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1193,11 @@ Please verify the correct directory name was given.</source>
         <source>A search needs an artist and a title.</source>
         <translation>搜索需要艺术家和标题。</translation>
     </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>%1 is the reason</comment>
+        <translation>未保存：%1</translation>
+    </message>
 </context>
 <context>
     <name>SplitterHandle</name>
@@ -1364,10 +1446,110 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>UpdateDialog</name>
+    <message numerus="yes">
+        <source>%n years</source>
+        <translation>
+            <numerusform>%n 年</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n 个月</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n 天</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation>跳过此版本</translation>
+    </message>
+    <message>
+        <source>Remind later</source>
+        <translation>稍后提醒</translation>
+    </message>
+    <message>
+        <source>Install update</source>
+        <translation>安装更新</translation>
+    </message>
+    <message>
+        <source>Update available!</source>
+        <translation>有可用更新！</translation>
+    </message>
+    <message>
+        <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
+        <translation>&lt;b&gt;%appName&lt;/b&gt; 有新版本！</translation>
+    </message>
+    <message>
+        <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; 现已发布，当前版本为 &lt;b&gt;%oldVersion&lt;/b&gt;。现在下载吗？</translation>
+    </message>
+    <message>
+        <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
+        <translation>当前版本发布至今已超过 &lt;b&gt;%releasePeriod&lt;/b&gt;。</translation>
+    </message>
+    <message>
+        <source>Since then, &lt;b&gt;%numUpdates&lt;/b&gt; versions have been released.</source>
+        <translation>此后已发布 &lt;b&gt;%numUpdates&lt;/b&gt; 个版本。</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>发行说明：</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>发行说明</translation>
+    </message>
+</context>
+<context>
     <name>UpdateFolder</name>
     <message>
         <source>The folder %1 cannot be used.</source>
         <translation>无法使用文件夹 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInfoDialog</name>
+    <message>
+        <source>Update</source>
+        <comment>noun, title of dialog about &apos;checking for updates&apos;</comment>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Checking for update...</source>
+        <translation>正在检查更新...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>当前已是最新版本。</translation>
+    </message>
+    <message>
+        <source>Failed to update</source>
+        <translation>更新失败</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -1377,12 +1559,12 @@ Please verify the correct directory name was given.</source>
         <translation>使用数据示例</translation>
     </message>
     <message>
-        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update and clicks on the maker&apos;s pages are reported in the same way, without names of songs.</source>
-        <translation>每次开始搜索歌曲时都会发送这些数据；此处的歌曲是虚构的。程序的启动和退出、更新以及对开发者页面的点击也以同样方式报告，但不含歌曲名。</translation>
-    </message>
-    <message>
         <source>(random, made when you say yes)</source>
         <translation>（随机值，同意后生成）</translation>
+    </message>
+    <message>
+        <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
+        <translation>每次开始搜索歌曲时都会发送此内容；这里的歌曲是虚构的。程序的启动与退出、更新、对开发者网页的点击以及无法绘制窗口的情况，也会以同样的方式报告，但不包含歌曲名称。</translation>
     </message>
 </context>
 <context>

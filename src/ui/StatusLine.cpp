@@ -28,7 +28,6 @@ StatusLine::StatusLine(QStatusBar *bar)
     m_bar->setContentsMargins(8, 0, 8, 0);
     m_label->setTextFormat(Qt::PlainText);
     m_progress->setFixedWidth(progressWidth);
-    m_progress->setAccessibleName(tr("Progress of the searches"));
     auto *layout = new QHBoxLayout(m_searches);
     layout->setContentsMargins(0, 0, 10, 0); // with the bar's own spacing, 16 pixels to the first notice
     layout->setSpacing(16);
@@ -46,6 +45,7 @@ void StatusLine::setSearchesLeft(int left)
     m_done = left == 0 ? 0 : m_done + qMax(0, m_left - left);
     m_left = left;
     m_label->setText(left > 0 ? tr("Searching... %n left...", nullptr, left) : QString());
+    m_progress->setAccessibleName(tr("Progress of the searches")); // here, since the language may have changed
     m_progress->setRange(0, qMax(1, m_done + left));
     m_progress->setValue(m_done);
     m_searches->setVisible(left > 0); // an empty place would push the notices to the right

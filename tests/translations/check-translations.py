@@ -16,7 +16,7 @@ import xml.etree.ElementTree as ElementTree
 
 LUPDATE = "/usr/lib/qt5/bin/lupdate"
 PLACEHOLDER = re.compile(r"%(?:\d|n|[A-Za-z]{3,})")
-MARKUP = re.compile(r"</?\w+>")
+MARKUP = re.compile(r"</?(?:b|i|br|ul|li)/?>")
 ACCELERATOR = re.compile(r"&(\w)")
 BLANKS = re.compile(r"^(\s*).*?(\s*)$", re.S)
 
