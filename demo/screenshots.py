@@ -14,6 +14,7 @@ import subprocess
 import sys
 import tempfile
 import threading
+import xml.etree.ElementTree as ElementTree
 
 import run_demo
 import songs
@@ -24,7 +25,7 @@ from server import Answer, Sites
 
 MAIN, PREFERENCES, ABOUT, RECOVERY = "Versewell", "Preferences", "About", "OpenGL settings"
 # Where to click, in the pixels of a window at 1x.
-FILE_MENU, HELP_MENU, ADD_FOLDER, GEAR = (20, 11), (145, 11), (48, 37), (1007, 37)
+FILE_MENU, ADD_FOLDER, GEAR = (20, 11), (48, 37), (1007, 37)
 ROW_HEIGHT, FIRST_ROW = 60, (200, 92)
 NOWHERE = (620, 668)  # in the status bar, where nothing answers to the mouse
 WAIT_SECONDS = 30
@@ -67,15 +68,26 @@ ForegroundNormal=236,237,240
 class Appearance:
     dark: bool
     scale: int
+    language: str = ""
 
     @property
     def name(self):
-        return f"{'dark' if self.dark else 'light'}-{self.scale}x"
+        language = f"-{self.language}" if self.language else ""
+        return f"{'dark' if self.dark else 'light'}-{self.scale}x{language}"
 
     @property
     def environment(self):
         desktop = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"} if self.dark else {"XDG_CURRENT_DESKTOP": ""}
-        return {**desktop, "QT_SCALE_FACTOR": str(self.scale)}
+        language = {"LC_ALL": f"{self.language}_{self.language.upper()}.UTF-8"} if self.language else {}
+        return {**desktop, **language, "QT_SCALE_FACTOR": str(self.scale)}
+
+    def title(self, source):
+        """What a window of this title is called in the language."""
+        if not self.language:
+            return source
+        texts = ElementTree.parse(run_demo.TOP / f"translations/versewell_{self.language}.ts")
+        return next((message.findtext("translation") for message in texts.iter("message")
+                     if message.findtext("source") == source), source)
 
 
 class Gate:
@@ -104,6 +116,15 @@ class Breakdown:
         return Answer(status=500) if FAILING.lower() in asked else self.site.answer(request)
 
 
+class Collector:
+    """Takes usage events, and forgets them."""
+
+    endpoints = ("Collector",)
+
+    def answer(self, _request):
+        return Answer()
+
+
 class Show:
     """One home of the program on a screen, and the hands and the camera before it."""
 
@@ -127,6 +148,7 @@ class Show:
         return program
 
     def focus(self, title):
+        title = self.appearance.title(title)
         self.wait_for(lambda: self.screen.windows(title), f'the window "{title}"')
         return self.screen.focus(title)
 
@@ -234,7 +256,7 @@ def show_dialogs(show):
         show.keys("ctrl+Tab")
     show.keys("Escape")
     show.focus(MAIN)
-    show.choose(HELP_MENU, "Down")
+    show.keys("Alt_L", "Left", "Down", "Return")
     show.picture("about", show.focus(ABOUT))
     show.keys("Escape")
 
@@ -273,6 +295,13 @@ def show_recovery(show):
     show.picture("recovery-question", show.focus("Clear settings"))
 
 
+def show_consent(show):
+    """The question about usage events, and what one of them holds."""
+    program = show.start(files=show.paths[:3])
+    show.picture("consent")
+    stage.end(program)
+
+
 def show_update(show):
     """A check for a newer version by the user, and what follows."""
     maker = show.sites.servers[0].site
@@ -302,8 +331,12 @@ SHOWS = {
     show_work: lambda sites: [Gate(sites[0]), *sites[1:]],
     show_troubles: lambda sites: [*map(Breakdown, sites[:-1]), sites[-1]],
     show_recovery: lambda sites: sites,
+    show_consent: lambda sites: [*sites, Collector()],
     show_update: lambda _sites: [MakerSite(VERSION)],
 }
+
+
+APPEARANCES = [*(Appearance(dark, scale) for dark in (False, True) for scale in (1, 2)), Appearance(False, 1, "de")]
 
 
 def make_music(folder):
@@ -336,9 +369,10 @@ def main():
     options.folder.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as music:
         make_music(pathlib.Path(music))
-        for appearance in (Appearance(dark, scale) for dark in (False, True) for scale in (1, 2)):
+        for appearance in APPEARANCES:
             for scenes in SHOWS:
-                if options.only in f"{scenes.__name__} {appearance.name}":
+                foreign = appearance.language and scenes not in (show_work, show_consent)
+                if not foreign and options.only in f"{scenes.__name__} {appearance.name}":
                     run(options, scenes, appearance, music)
     print(f"Pictures: {options.folder}")
 
