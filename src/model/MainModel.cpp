@@ -31,7 +31,6 @@ MainModel::MainModel(QObject *parent)
     qmlRegisterUncreatableType<ModelItem>("com.quillmarsh", 1, 0, "ModelItem", QStringLiteral("nope"));
     connect(&m_reads, &ReadQueue::infoExtracted, this, &MainModel::fileInfoExtracted);
     connect(&m_reads, &ReadQueue::tagsRead, this, &MainModel::useTags);
-    connect(&m_writes, &SongWrites::failed, this, &MainModel::tagsNotWritten);
     connect(&m_writes, &SongWrites::written, this, &MainModel::tagsWritten);
     // A read under way asks for the next one by itself; a request for each block would only overtake it.
     connect(&m_incoming, &IncomingFiles::block, this, [this](const QList<QUrl> &files, bool isFirst) {
@@ -246,6 +245,7 @@ std::vector<std::unique_ptr<ModelItem>> MainModel::makeItems(const QList<QUrl> &
             continue;
         auto item = std::make_unique<ModelItem>(*nextFile++);
         item->setId(id);
+        item->setFileKind(ModelItem::FileKind::Regular); // other files are not added
         items.push_back(std::move(item));
         m_lastId = id;
     }
@@ -412,6 +412,8 @@ void MainModel::useTags(quint16 id, const MediaFileTags &tags)
 {
     ModelItem *item = m_items.find(id);
     if (tags.readFailure() != tags::ReadFailure::None) {
+        if (tags.readFailure() == tags::ReadFailure::NotRegular)
+            item->setFileKind(ModelItem::FileKind::Other);
         item->setUnreadable(textOf(tags.readFailure()));
         return;
     }
@@ -536,14 +538,6 @@ void MainModel::startWriting(ModelItem *item, bool insists)
     m_writes.start(*item, insists);
 }
 
-void MainModel::tagsNotWritten(quint16 id, const QString &reason)
-{
-    if (ModelItem *item = m_items.find(id)) {
-        item->forgetFile();
-        item->setErrorString(reason);
-    }
-}
-
 void MainModel::tagsWritten(quint16 id)
 {
     const SongWrites::Outcome outcome = m_writes.takeOutcome(id);
@@ -551,11 +545,15 @@ void MainModel::tagsWritten(quint16 id)
     ModelItem *item = m_items.find(id);
     if (!item)
         return;
+    if (outcome.fileKind)
+        item->setFileKind(*outcome.fileKind);
     forgetUnsaved(id);
     if (outcome.reason.isEmpty())
         item->setStoredTexts(outcome.texts);
     else
         noteUnsaved(item, outcome.reason);
+    if (!outcome.reason.isEmpty())
+        item->setErrorString(outcome.reason);
     if (item->processState() != ModelItem::ProcessWritingTags)
         return;
     if (outcome.reason.isEmpty())

@@ -53,24 +53,31 @@ QString ModelItem::localPath() const
     return m_url.isLocalFile() ? m_url.toLocalFile() : QString();
 }
 
-const ModelItem::File &ModelItem::file() const
+ModelItem::FileKind ModelItem::fileKind() const
 {
-    if (!m_file) {
-        const QString path = localPath();
-        const QFileInfo info(path);
-        m_file = path.isEmpty() ? File{false, false} : File{info.exists(), info.isFile()};
+    if (!m_fileKind) {
+        const QFileInfo info(localPath()); // no file at all for an empty path
+        m_fileKind = !info.exists() ? FileKind::Missing : info.isFile() ? FileKind::Regular : FileKind::Other;
     }
-    return *m_file;
+    return *m_fileKind;
+}
+
+void ModelItem::setFileKind(FileKind kind)
+{
+    if (m_fileKind == kind)
+        return;
+    m_fileKind = kind;
+    emit changed();
 }
 
 bool ModelItem::valid() const
 {
-    return file().isRegular;
+    return fileKind() == FileKind::Regular;
 }
 
 bool ModelItem::fileExists() const
 {
-    return file().exists;
+    return fileKind() != FileKind::Missing;
 }
 
 QString ModelItem::filename() const
@@ -156,6 +163,8 @@ void ModelItem::setTags(const MediaFileTags &tags)
     m_tagsLoaded = true;
     m_foundNothing = false;
     m_duration = tags.duration();
+    if (m_duration > 0)
+        m_fileKind = FileKind::Regular;
     setThumbnail(tags.thumbnail());
     emit titleTagChanged(m_titleTag);
     emit artistTagChanged(m_artistTag);
@@ -197,7 +206,7 @@ void ModelItem::setUrl(const QUrl &url)
     if (url == m_url)
         return;
     m_url = url;
-    forgetFile();
+    m_fileKind.reset();
     emit urlChanged(url);
 }
 

@@ -22,8 +22,8 @@ struct SearchNames
 // One audio file of the list: where it lies, what its tags say, which lyrics it has and how far its search has come.
 //
 // Owned by MainModel, which drives the state; the scene binds to the properties. Main thread only. The queries `valid`,
-// `fileExists` and `bad` look at the disk once and then answer from memory, until a read or a write of the tags tells
-// more: rows ask each time they are painted.
+// `fileExists` and `bad` answer what was found when the file was added, read or written, since rows ask for them and a
+// disk may not answer: see setFileKind().
 class ModelItem : public QObject
 {
     Q_OBJECT
@@ -66,6 +66,9 @@ public:
         ProcessComplete
     };
     Q_ENUM(ProcessState)
+
+    // What lies where the url points; a link counts as what it leads to.
+    enum class FileKind { Missing, Regular, Other };
 
     ModelItem();
     explicit ModelItem(const QUrl &url, QObject *parent = nullptr);
@@ -131,8 +134,9 @@ public:
     void setUnreadable(const QString &reason);
     void setUnsaved(bool unsaved);
     void setFoundNothing(bool nothing);
-    // The file may have come or gone: the next query looks at the disk.
-    void forgetFile() { m_file.reset(); }
+    // To be told by whoever has looked, elsewhere than on the main thread. An item that was told nothing looks by
+    // itself at the first query, once for each url.
+    void setFileKind(FileKind kind);
     // A larger image is scaled down to the size of a thumbnail.
     void setThumbnail(const QImage &image);
 
@@ -168,16 +172,9 @@ private:
     {
         return state == ProcessWaiting || state == ProcessWorking;
     }
-    // What is known of the file.
-    struct File
-    {
-        bool exists;
-        bool isRegular;
-    };
-
     // Path of the file; empty when the url is empty or not local.
     [[nodiscard]] QString localPath() const;
-    [[nodiscard]] const File &file() const;
+    [[nodiscard]] FileKind fileKind() const;
 
     quint16 m_id = 0;
     QUrl m_url;
@@ -196,5 +193,5 @@ private:
     QString m_errorString;
     bool m_unsaved = false;
     bool m_foundNothing = false;
-    mutable std::optional<File> m_file; // empty until somebody asks
+    mutable std::optional<FileKind> m_fileKind; // empty until somebody tells or asks
 };

@@ -1,8 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "model/SongWrites.h"
 
-#include "model/ModelItem.h"
 #include "tags/TagWriter.h"
+
+namespace {
+
+// Nothing when the disk failed: it may be there or away.
+std::optional<ModelItem::FileKind> fileKindAfter(tags::UpdateResult result)
+{
+    switch (result) {
+    case tags::UpdateResult::Missing:
+        return ModelItem::FileKind::Missing;
+    case tags::UpdateResult::NotRegular:
+        return ModelItem::FileKind::Other;
+    case tags::UpdateResult::DiskError:
+    case tags::UpdateResult::RestoredLater:
+        return std::nullopt;
+    default:
+        return ModelItem::FileKind::Regular;
+    }
+}
+
+} // namespace
 
 SongWrites::SongWrites(QObject *parent)
     : QObject(parent)
@@ -20,10 +39,12 @@ void SongWrites::start(const ModelItem &item, bool insists)
     m_writes[id].enqueue({texts, item.url()});
     ++m_files[item.url()];
     auto *writer = new TagWriter(m_dataFolder);
-    connect(writer, &TagWriter::failed, this, [this](quint16 failedId, const QString &reason) {
-        m_failures.insert(failedId, reason);
-        emit failed(failedId, reason);
+    connect(writer, &TagWriter::updated, this, [this](quint16 updatedId, tags::UpdateResult result) {
+        if (const auto kind = fileKindAfter(result))
+            m_fileKinds.insert(updatedId, *kind);
     });
+    connect(writer, &TagWriter::failed, this,
+            [this](quint16 failedId, const QString &reason) { m_failures.insert(failedId, reason); });
     connect(writer, &TagWriter::written, this, &SongWrites::written);
     connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
     writer->queueWrite(item.url(), id, texts.artist, texts.title, texts.lyrics, shown);
@@ -31,7 +52,9 @@ void SongWrites::start(const ModelItem &item, bool insists)
 
 SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
 {
-    Outcome outcome{m_failures.take(id), {}, {}};
+    Outcome outcome{m_failures.take(id), {}, {}, {}};
+    if (m_fileKinds.contains(id))
+        outcome.fileKind = m_fileKinds.take(id);
     const auto writes = m_writes.find(id);
     if (writes == m_writes.end())
         return outcome;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tags/TagUpdate.h"
+#include "model/ModelItem.h"
 
 #include <QHash>
 #include <QObject>
@@ -9,7 +9,7 @@
 #include <QUrl>
 #include <QVector>
 
-class ModelItem;
+#include <optional>
 
 // The writes of songs that are under way, and which songs hold lyrics that are in the list only, since their last write
 // failed. Main thread only; the files are written elsewhere (tags/TagWriter.h).
@@ -24,6 +24,8 @@ public:
         QString reason;        // empty when it succeeded
         tags::SongTexts texts; // that were to be stored
         QUrl file;
+        // What the write met there; empty when it has not seen.
+        std::optional<ModelItem::FileKind> fileKind;
     };
 
     explicit SongWrites(QObject *parent = nullptr);
@@ -48,8 +50,6 @@ public:
     [[nodiscard]] QVector<quint16> unsavedIds() const { return m_unsaved.keys().toVector(); }
 
 signals:
-    // Before written().
-    void failed(quint16 id, const QString &reason);
     void written(quint16 id);
 
 private:
@@ -60,9 +60,10 @@ private:
         QUrl file;
     };
 
-    QHash<quint16, QQueue<Write>> m_writes; // under way, in their order
-    QHash<QUrl, int> m_files;               // how many writes of each are under way
-    QHash<quint16, QString> m_failures;     // id to reason, until their end is told
-    QHash<quint16, QString> m_unsaved;      // id to reason
+    QHash<quint16, QQueue<Write>> m_writes;          // under way, in their order
+    QHash<QUrl, int> m_files;                        // how many writes of each are under way
+    QHash<quint16, QString> m_failures;              // id to reason, until their end is told
+    QHash<quint16, ModelItem::FileKind> m_fileKinds; // likewise
+    QHash<quint16, QString> m_unsaved;               // id to reason
     QHash<QString, int> m_unsavedByReason;
 };

@@ -51,6 +51,7 @@ QString reasonText(tags::UpdateResult result)
 TagWriter::TagWriter(const QString &dataFolder)
     : m_dataFolder(dataFolder)
 {
+    qRegisterMetaType<tags::UpdateResult>("tags::UpdateResult");
     moveToThread(tags::WriterThread::instance().thread());
 }
 
@@ -78,8 +79,10 @@ void TagWriter::write(const QUrl &fileToWrite, quint16 id, const QString &_artis
                       const QString &lyrics, const std::optional<tags::ShownTexts> &shown)
 {
     if (!_artist.isEmpty() || !title.isEmpty() || !lyrics.isEmpty()) {
-        const QString reason =
-            reasonText(tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder, shown));
+        const tags::UpdateResult result =
+            tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder, shown);
+        emit updated(id, result);
+        const QString reason = reasonText(result);
         if (!reason.isEmpty())
             emit failed(id, reason);
     }

@@ -47,6 +47,8 @@ public slots:
                const std::optional<tags::ShownTexts> &shown = std::nullopt);
 
 signals:
+    // How the update of the file ended; before failed() and written(), and not when there was nothing to do.
+    void updated(quint16 id, tags::UpdateResult result);
     // The file was left as it was; reason says why in words for the user. Always before written().
     void failed(quint16 id, QString reason);
     // In every case, exactly once for each write.
@@ -55,3 +57,5 @@ signals:
 private:
     QString m_dataFolder;
 };
+
+Q_DECLARE_METATYPE(tags::UpdateResult)

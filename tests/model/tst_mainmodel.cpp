@@ -139,6 +139,7 @@ private slots:
         QCOMPARE(stage.model.urls().mid(0, 2501), files); // all of them are kept when the program ends now
         QTRY_COMPARE(stage.model.rowCount(), 2501);
         QCOMPARE(stage.model.urls(), files);
+        QVERIFY(stage.model.itemAt(2500)->fileExists() && !stage.model.itemAt(2500)->bad()); // what was told, no look
         QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(20));
     }
 

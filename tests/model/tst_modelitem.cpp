@@ -74,7 +74,7 @@ private slots:
         QCOMPARE(item.bad(), !valid);
         QVERIFY(QFile::rename(folder.path(relative), folder.path("away"_s)));
         QCOMPARE(item.valid(), valid); // from memory
-        item.forgetFile();
+        item.setFileKind(ModelItem::FileKind::Missing);
         QVERIFY(!item.valid() && !item.fileExists());
         QVERIFY(QFile::rename(folder.path("away"_s), folder.path(relative)));
         QTEST(item.ext(), "ext");
