@@ -4,6 +4,7 @@
 #include "app/GraphicsBackend.h"
 #include "app/Recovery.h"
 #include "app/TerminationSignals.h"
+#include "model/UnsavedLyrics.h"
 #include "tags/TagReaderService.h"
 #include "tags/TagWriter.h"
 #include "ui/FirstPaint.h"
@@ -11,6 +12,7 @@
 
 #include <QDir>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QThreadPool>
 
 #include <chrono>
@@ -96,6 +98,38 @@ void finishWrites()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
+void showLyricsKept(const KeptLyrics &kept, const QString &folder)
+{
+    QStringList sentences;
+    if (kept.songs > 0)
+        sentences.append(QApplication::translate("main", "The lyrics of %n song(s) were kept as text files in %1",
+                                                 "%1 is the path of a folder", kept.songs)
+                             .arg(QDir::toNativeSeparators(folder)));
+    if (!kept.lost.isEmpty())
+        sentences.append(QApplication::translate(
+            "main", "The lyrics of %n song(s) could be kept nowhere: copy them from the details now.", nullptr,
+            kept.lost.size()));
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Versewell"),
+                    QApplication::translate("main", "Not all lyrics could be written into the songs."),
+                    QMessageBox::Close);
+    box.setInformativeText(sentences.join(QLatin1String("\n\n")));
+    box.setDetailedText(kept.lost.join(QLatin1String("\n\n")));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+// Of writes that have failed when nobody could be asked any more. A session that ends waits for no box.
+void keepLyrics(Application &app, bool isTerminated)
+{
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1String("/unsaved");
+    const KeptLyrics kept = keepUnsavedLyrics(*app.mainModel(), folder);
+    if (!kept.lost.isEmpty())
+        qCritical("The lyrics of %d songs could be kept nowhere.", kept.lost.size());
+    if (!isTerminated && (kept.songs > 0 || !kept.lost.isEmpty()))
+        showLyricsKept(kept, folder);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -122,6 +156,8 @@ int main(int argc, char **argv)
     }
     const TerminationSignals signalsToEnd; // from here on they end the program in order
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &app, &QCoreApplication::quit);
+    bool isTerminated = false;
+    QObject::connect(&signalsToEnd, &TerminationSignals::received, &app, [&isTerminated] { isTerminated = true; });
     chooseGraphicsBackend();
     const AfterRecovery next = offerRecovery(heldKeys(), signalsToEnd);
     if (next == AfterRecovery::StartAnew)
@@ -134,6 +170,7 @@ int main(int argc, char **argv)
     app.noteStart();
     const int status = runWindow(app, signalsToEnd);
     finishWrites();
+    keepLyrics(app, isTerminated);
     app.mainModel()->stopReading();
     // The application object would wait for a scan without end. All is saved, and the lock ends with the process.
     if (!QThreadPool::globalInstance()->waitForDone(static_cast<int>(scanPatience.count())))

@@ -589,6 +589,12 @@ void MainModel::forgetUnsaved(quint16 id)
         item->setUnsaved(false);
 }
 
+void MainModel::giveUpUnsaved(const QVector<quint16> &ids)
+{
+    for (const quint16 id : ids)
+        forgetUnsaved(id);
+}
+
 // Exporting
 
 bool MainModel::generateLyricsFile(quint16 id)

@@ -92,6 +92,9 @@ public:
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // Lyrics that are in the list only, since their last write failed or was refused.
     [[nodiscard]] int unsavedCount() const { return m_writes.unsavedCount(); }
+    [[nodiscard]] QVector<quint16> unsavedIds() const { return m_writes.unsavedIds(); }
+    // These songs' lyrics no longer count as unsaved, until another write of them fails.
+    void giveUpUnsaved(const QVector<quint16> &ids);
     // These, or such whose write is under way and may still fail.
     [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const;
     // All songs of which this is true, in no order.

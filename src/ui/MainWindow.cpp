@@ -435,6 +435,7 @@ void MainWindow::quit_app_accepted()
     if (m_quitting)
         return;
     m_quitting = true;
+    m_unsavedGuard.giveUp();
     hide();
     if (!m_parts.tracker) {
         QTimer::singleShot(0, this, &MainWindow::quit_app_force);

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-UnsavedLyricsGuard::UnsavedLyricsGuard(const MainModel *model, QWidget *window)
+UnsavedLyricsGuard::UnsavedLyricsGuard(MainModel *model, QWidget *window)
     : m_model(model)
     , m_window(window)
 {
@@ -27,7 +27,16 @@ void UnsavedLyricsGuard::beforeRemovingAny(std::function<void()> action)
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
-    before(m_model->unsavedCount(), std::move(action));
+    const QVector<quint16> unsaved = m_model->unsavedIds();
+    before(unsaved.size(), [this, unsaved, action = std::move(action)] {
+        m_givenUp = unsaved;
+        action();
+    });
+}
+
+void UnsavedLyricsGuard::giveUp()
+{
+    m_model->giveUpUnsaved(m_givenUp);
 }
 
 void UnsavedLyricsGuard::before(int unsaved, std::function<void()> action)

@@ -19,21 +19,25 @@ class UnsavedLyricsGuard
 
 public:
     // Nothing is owned; both must outlive the guard. The question belongs to the window.
-    UnsavedLyricsGuard(const MainModel *model, QWidget *window);
+    UnsavedLyricsGuard(MainModel *model, QWidget *window);
 
     // Runs an action that removes these songs; when some have such lyrics, not before the user has given them up, and
     // never when the user cancels or the question is open already.
     void beforeRemoving(const QVector<quint16> &ids, std::function<void()> action);
     // In the same way an action that removes any songs.
     void beforeRemovingAny(std::function<void()> action);
-    // In the same way an action that ends the program, which waits for the writes that are under way.
+    // In the same way an action that ends the program, which waits for the writes that are under way. Who gives lyrics
+    // up here may still stay: giveUp() is to be called when the program ends indeed.
     void beforeQuitting(std::function<void()> action);
+    // Tells the model which lyrics the user gave up when last asked before quitting.
+    void giveUp();
 
 private:
     void before(int unsaved, std::function<void()> action);
     void ask(int unsaved, std::function<void()> action);
 
-    const MainModel *m_model;
+    MainModel *m_model;
     QWidget *m_window;
     QPointer<QMessageBox> m_question; // while it is open
+    QVector<quint16> m_givenUp;
 };

@@ -87,6 +87,19 @@ class InstanceTest(unittest.TestCase):
         self.assertEqual({path.name: rig.has_lyrics(path) for path in paths}, {path.name: True for path in paths})
         self.assertEqual({path.name for path in session.music.iterdir()}, {path.name for path in paths})
 
+    def test_lyrics_that_are_in_no_song_when_it_ends_are_kept_as_text(self):
+        session = self.session(["Maple Door"])
+        path = self.songs_for(session, ["Maple Door"])[0]
+        program = session.start([path], settings={"generateLyricsFileAuto": "true"})
+        self.wait_until(lambda: session.site.held == 1, "the song was never asked for", session)
+        path.unlink()
+        session.site.released.set()
+        self.wait_until(path.with_suffix(".txt").exists, "the export before the write was never made", session)
+        self.assertEqual(rig.end(program), 0, session.messages())
+        kept = list((session.stage.home / "xdg_data_home").rglob("unsaved/*"))
+        self.assertEqual([text.name for text in kept], ["Maple Door.mp3.txt"])
+        self.assertEqual(kept[0].read_text("utf-8"), f"{path}\n\n{rig.words_for('Maple Door')}\n")
+
     def test_it_ends_in_order_while_a_site_keeps_it_waiting(self):
         session = self.session(["Iron Lake"])
         paths = self.songs_for(session, ["Iron Lake"])

@@ -3,6 +3,7 @@
 
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/LyricsSearch.h"
+#include "model/UnsavedLyrics.h"
 #include "settings/Settings.h"
 #include "support/TestTable.h"
 #include "tags/TagWriter.h"
@@ -269,6 +270,41 @@ private slots:
         QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
         stage.model.removeAll();
         QCOMPARE(stage.model.unsavedCount(), 0);
+    }
+
+    void lyricsThatAreInNoSongAreKeptAsText()
+    {
+        Stage stage;
+        QVERIFY(QDir(stage.folder.path()).mkdir("b"_s));
+        const QList<QUrl> urls{stage.song("Ёж.mp3"_s), stage.song("b/Ёж.mp3"_s), stage.song("saved.mp3"_s)};
+        QVERIFY(stage.load(urls));
+        for (quint16 id = 1; id <= 3; ++id) {
+            stage.model.item(id)->setEditedLyricsTag("mine\r\nё"_s);
+            QVERIFY(id == 3 || QFile::remove(urls.at(id - 1).toLocalFile()));
+            QVERIFY(stage.model.writeTags(id));
+        }
+        QTRY_VERIFY(stage.model.unsavedCount() == 2 && stage.state(2) == ModelItem::ProcessComplete);
+        const QString folder = stage.folder.filePath("data/unsaved"_s);
+        for (int time = 0; time < 2; ++time) { // what is kept already is not written again
+            const KeptLyrics kept = keepUnsavedLyrics(stage.model, folder);
+            QVERIFY(kept.songs == 2 && kept.lost.isEmpty());
+        }
+        QStringList contents;
+        const QStringList names{"Ёж.mp3 2.txt"_s, "Ёж.mp3.txt"_s};
+        QCOMPARE(QDir(folder).entryList(QDir::Files, QDir::Name), names);
+        for (const QString &name : names) {
+            QFile file(folder + QLatin1Char('/') + name);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            contents.append(QString::fromUtf8(file.readAll()));
+        }
+        QStringList expected{urls.at(0).toLocalFile() + "\n\nmine\r\nё\n"_s,
+                             urls.at(1).toLocalFile() + "\n\nmine\r\nё\n"_s};
+        contents.sort();
+        expected.sort();
+        QCOMPARE(contents, expected);
+        QCOMPARE(keepUnsavedLyrics(stage.model, urls.at(2).toLocalFile()).lost.size(), 2); // no folder
+        stage.model.giveUpUnsaved({1});
+        QCOMPARE(stage.model.idsWithUnsavedLyrics(), QVector<quint16>{2});
     }
 
     void anUnreadableSongIsLeftAloneUntilItIsForced()

@@ -686,6 +686,7 @@ private slots:
         answer(QMessageBox::Discard);
         QCOMPARE(m_model->rowCount(), rowsLeft);
         QCOMPARE(m_window->isVisible(), cause != "close"_s);
+        QCOMPARE(m_model->unsavedCount(), 0); // nothing is left to be kept elsewhere
         if (cause == "key"_s) // the next one takes the place, and the keyboard goes on with it
             QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{song(1)->id()});
     }

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "model/UnsavedLyrics.h"
+
+#include "model/MainModel.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <unistd.h>
+
+namespace {
+
+// Of the song's name: a file name takes 255 bytes, and a number and a suffix follow.
+constexpr int mostNameBytes = 200;
+
+QString baseName(const ModelItem &item)
+{
+    QString name = item.filename();
+    while (name.toUtf8().size() > mostNameBytes)
+        name.chop(1);
+    return name;
+}
+
+QByteArray contentFor(const ModelItem &item)
+{
+    QString path = item.url().toLocalFile();
+    path.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return path.toUtf8() + "\n\n" + item.lyricsTag().toUtf8() + '\n';
+}
+
+bool holds(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.size() == content.size() && file.open(QIODevice::ReadOnly) && file.readAll() == content;
+}
+
+bool create(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    if (file.write(content) == content.size() && file.flush() && ::fsync(file.handle()) == 0)
+        return true;
+    file.remove();
+    return false;
+}
+
+bool keep(const ModelItem &item, const QByteArray &content, const QString &folder)
+{
+    const QString start = folder + QLatin1Char('/') + baseName(item);
+    QString path = start + QLatin1String(".txt");
+    for (int number = 2; QFile::exists(path); ++number) {
+        if (holds(path, content))
+            return true;
+        path = QStringLiteral("%1 %2.txt").arg(start, QString::number(number));
+    }
+    return create(path, content);
+}
+
+} // namespace
+
+KeptLyrics keepUnsavedLyrics(const MainModel &model, const QString &folder)
+{
+    KeptLyrics kept;
+    const QVector<quint16> ids = model.idsWithUnsavedLyrics();
+    if (!ids.isEmpty())
+        QDir().mkpath(folder);
+    for (const quint16 id : ids) {
+        const ModelItem *item = model.item(id);
+        const QByteArray content = contentFor(*item);
+        if (keep(*item, content, folder))
+            ++kept.songs;
+        else
+            kept.lost.append(QString::fromUtf8(content));
+    }
+    return kept;
+}
