@@ -24,7 +24,7 @@ const QString organisation = QStringLiteral("Quillmarsh");
 const QString program = QStringLiteral("Versewell");
 const QString english = QStringLiteral("en");
 
-// How long the list waits for saves that are undone, and the user for word of those that cannot be.
+// Saves that are undone in this time are told of together.
 constexpr std::chrono::seconds mendingPatience(3);
 
 // In the order of the file dialog's filter.
@@ -150,11 +150,21 @@ void Application::mendSaves()
     if (!m_instance.isHolder())
         return;
     m_savesMending = std::make_unique<tags::SavesMending>(folder);
-    connect(m_savesMending.get(), &tags::SavesMending::done, this, &Application::savesMended);
-    QTimer::singleShot(mendingPatience, this, [this] {
-        if (!m_savesMending->isDone())
-            emit savesMended();
-    });
+    m_mainModel.setSongsInMending(m_savesMending->result().underWay);
+    connect(m_savesMending.get(), &tags::SavesMending::progressed, this, &Application::noteMending);
+    connect(&m_mendingPatience, &QTimer::timeout, this, &Application::noteMending);
+    m_mendingPatience.setSingleShot(true);
+    if (!m_savesMending->isDone())
+        m_mendingPatience.start(mendingPatience);
+}
+
+void Application::noteMending()
+{
+    m_mainModel.setSongsInMending(m_savesMending->result().underWay);
+    if (m_savesMending->isDone())
+        m_mendingPatience.stop();
+    if (!m_mendingPatience.isActive())
+        emit savesMended();
 }
 
 tags::MendedSaves Application::mendedSaves() const
@@ -174,9 +184,8 @@ void Application::restoreFilesList()
         if (url.isValid())
             urls.append(url);
     }
-    // Songs that are made whole are not read before that, unless it takes long.
     if (!urls.isEmpty())
-        m_mainModel.restore(urls, m_savesMending->waiter(mendingPatience));
+        m_mainModel.restore(urls);
 }
 
 Application::OSType Application::osType()

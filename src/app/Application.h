@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QStringList>
+#include <QTimer>
 #include <QTranslator>
 
 #include <memory>
@@ -120,6 +121,7 @@ private:
     void createSearch();
     void connectModels();
     void mendSaves();
+    void noteMending();
     void openStartPage(const QString &lastVersion);
     void openMakerPage(const QString &path) const;
     [[nodiscard]] QString systemLanguage() const;
@@ -131,6 +133,7 @@ private:
     std::unique_ptr<SettingsStandIn> m_standIn; // where the settings file must not be read
     bool m_settingsStored = true;
     std::unique_ptr<tags::SavesMending> m_savesMending; // of the holder of the lock
+    QTimer m_mendingPatience;
     MainModel m_mainModel;
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;

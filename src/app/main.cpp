@@ -65,8 +65,7 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
     else if (mending.unreadable || !app.areSettingsStored())
         window.showSettingsUnreadable();
     const auto tellOfSaves = [&app, &window] {
-        if (const tags::MendedSaves mended = app.mendedSaves(); !mended.isEmpty())
-            window.showSavesMended(mended);
+        window.showSavesMended(app.mendedSaves());
     };
     QObject::connect(&app, &Application::savesMended, &window, tellOfSaves);
     if (app.areSavesMended())

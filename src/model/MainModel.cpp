@@ -7,6 +7,7 @@
 #include "model/FileManager.h"
 #include "settings/Settings.h"
 
+#include <QFileInfo>
 #include <QQmlEngine>
 #include <QThreadPool>
 
@@ -270,7 +271,7 @@ void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
         const quint16 id = item->id();
         const QUrl file = item->url();
         m_items.append(std::move(item));
-        if (m_writes.isWriting(file))
+        if (mustNotBeRead(file))
             m_heldBack.insert(file);
         else
             m_reads.add(id);
@@ -562,10 +563,31 @@ void MainModel::tagsWritten(quint16 id)
         item->setProcessState(ModelItem::ProcessComplete);
 }
 
+void MainModel::setSongsInMending(const QStringList &paths)
+{
+    m_inMending = paths;
+    const QSet<QUrl> heldBack = m_heldBack;
+    for (const QUrl &file : heldBack)
+        readHeldBack(file);
+}
+
+// The disk is asked only about songs that bear the name of one that is being mended.
+bool MainModel::mustNotBeRead(const QUrl &file) const
+{
+    if (m_writes.isWriting(file))
+        return true;
+    const QFileInfo info(file.toLocalFile());
+    return std::any_of(m_inMending.begin(), m_inMending.end(), [&info](const QString &path) {
+        return path.endsWith(QLatin1Char('/') + info.fileName()) &&
+               (info.filePath() == path || info.canonicalFilePath() == path);
+    });
+}
+
 void MainModel::readHeldBack(const QUrl &file)
 {
-    if (m_writes.isWriting(file) || !m_heldBack.remove(file))
+    if (!m_heldBack.contains(file) || mustNotBeRead(file))
         return;
+    m_heldBack.remove(file);
     if (const ModelItem *item = m_items.find(file))
         m_reads.add(item->id());
     if (!m_reads.isReading())

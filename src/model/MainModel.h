@@ -69,6 +69,9 @@ public:
     // The program's own folder for saves (tags/TagUpdate.h). Without one, songs that can be saved in place only are
     // not.
     void setDataFolder(const QString &folder) { m_writes.setDataFolder(folder); }
+    // Songs that are not to be read yet, since a save of them is being undone: full paths, links resolved. Those that
+    // were among them before are read now.
+    void setSongsInMending(const QStringList &paths);
     // Not owned. Without a coordinator nothing is searched for.
     void setSearch(LyricsSearch *search);
 
@@ -185,6 +188,7 @@ private:
     [[nodiscard]] LyricsFileWriter &automaticExports();
     static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);
     void tagsNotWritten(quint16 id, const QString &reason);
+    [[nodiscard]] bool mustNotBeRead(const QUrl &file) const;
     void readHeldBack(const QUrl &file);
     void noteUnsaved(ModelItem *item, const QString &reason);
     void forgetUnsaved(quint16 id);
@@ -202,7 +206,8 @@ private:
     // Searched for while the user's own lyrics were written: what the search finds must not replace those.
     QSet<quint16> m_overruled;
     SongWrites m_writes;
-    // Removed while they were being written, and added again: they are read when that is done.
+    QStringList m_inMending;
+    // Added while they were being written or mended: they are read when that is done.
     QSet<QUrl> m_heldBack;
     // Made when they are needed first.
     Exports m_exports;

@@ -68,8 +68,6 @@ bool SafeSave::isUnchanged() const
 
 UpdateResult SafeSave::run(const Change &change, qint64 growthBytes)
 {
-    if (m_journal.awaitsRestoring(m_path))
-        return UpdateResult::RestoredLater;
     bool inPlaceInstead = m_identity.links > 1; // a rename would part the names
     if (!inPlaceInstead) {
         const UpdateResult result = replaceFile(change, growthBytes, inPlaceInstead);

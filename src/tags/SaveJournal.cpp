@@ -380,6 +380,7 @@ MendedSaves &MendedSaves::operator+=(const MendedSaves &more)
     restored += more.restored;
     kept += more.kept;
     waiting += more.waiting;
+    underWay += more.underWay;
     return *this;
 }
 

@@ -14,7 +14,11 @@ struct MendedSaves
     QStringList restored; // songs whose save in place was cut off: they are again as they were before it
     QStringList kept;     // copies of such songs, where something else stands now: left for the user
     QStringList waiting;  // songs that could not be reached or restored: tried again at each start
-    [[nodiscard]] bool isEmpty() const { return restored.isEmpty() && kept.isEmpty() && waiting.isEmpty(); }
+    QStringList underWay; // songs that are being restored now, links in their paths resolved
+    [[nodiscard]] bool isEmpty() const
+    {
+        return restored.isEmpty() && kept.isEmpty() && waiting.isEmpty() && underWay.isEmpty();
+    }
     MendedSaves &operator+=(const MendedSaves &more);
 };
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tags/SavesMending.h"
 
-#include <QDeadlineTimer>
 #include <QMutex>
-#include <QWaitCondition>
 
 #include <thread>
 
@@ -13,7 +11,6 @@ namespace tags {
 struct SavesMending::Work
 {
     mutable QMutex mutex;
-    QWaitCondition ended;
     QStringList unfinished;
     MendedSaves mended;
     SavesMending *listener = nullptr;
@@ -23,18 +20,8 @@ struct SavesMending::Work
         const QMutexLocker lock(&mutex);
         unfinished.removeOne(song);
         mended += result;
-        if (!unfinished.isEmpty())
-            return;
-        ended.wakeAll();
         if (listener)
-            QMetaObject::invokeMethod(listener, &SavesMending::done, Qt::QueuedConnection);
-    }
-    void wait(std::chrono::milliseconds longest)
-    {
-        const QMutexLocker lock(&mutex);
-        const QDeadlineTimer deadline(longest);
-        while (!unfinished.isEmpty() && ended.wait(&mutex, deadline))
-            continue;
+            QMetaObject::invokeMethod(listener, &SavesMending::progressed, Qt::QueuedConnection);
     }
 };
 
@@ -66,7 +53,7 @@ MendedSaves SavesMending::result() const
 {
     const QMutexLocker lock(&m_work->mutex);
     MendedSaves result = m_work->mended;
-    result.waiting += m_work->unfinished;
+    result.underWay += m_work->unfinished;
     return result;
 }
 
@@ -74,13 +61,6 @@ bool SavesMending::isDone() const
 {
     const QMutexLocker lock(&m_work->mutex);
     return m_work->unfinished.isEmpty();
-}
-
-std::function<void()> SavesMending::waiter(std::chrono::milliseconds longest) const
-{
-    return [work = m_work, longest] {
-        work->wait(longest);
-    };
 }
 
 } // namespace tags

@@ -7,6 +7,7 @@
 #include "tags/Id3v2Frames.h"
 #include "tags/Mp4Keeping.h"
 #include "tags/SafeSave.h"
+#include "tags/SaveJournal.h"
 #include "tags/SongComparison.h"
 #include "tags/SongLayout.h"
 #include "tags/TagEdits.h"
@@ -258,6 +259,9 @@ UpdateResult updateTags(const QString &path, const SongTexts &texts, const QStri
     const QByteArray resolved = resolvedPath(nativePath(path));
     if (resolved.isEmpty())
         return UpdateResult::Missing;
+    // Asked first: what the file says now may be torn, and will not stay.
+    if (SaveJournal(dataFolder).awaitsRestoring(resolved))
+        return UpdateResult::AwaitsRestoring;
     acceptLatin1InRiffInfo();
     try {
         return Update(resolved, texts, shown).run(dataFolder);

@@ -38,6 +38,8 @@ QString reasonText(tags::UpdateResult result)
         return TagWriter::tr("the audio would not stay as it is");
     case tags::UpdateResult::ChangedMeanwhile:
         return TagWriter::tr("another program has changed the file");
+    case tags::UpdateResult::AwaitsRestoring:
+        return TagWriter::tr("an earlier save of the file was cut off and is not undone yet");
     case tags::UpdateResult::RestoredLater:
         return TagWriter::tr("the disk failed; the file will be restored at the next start");
     case tags::UpdateResult::SaveFailed:

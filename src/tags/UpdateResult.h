@@ -20,7 +20,8 @@ enum class UpdateResult {
     TagsNotKept,      // something that its tags hold would be lost
     AudioNotKept,     // the audio would not stay as it is
     ChangedMeanwhile, // by another program
-    RestoredLater,    // a save in place failed, now or before, and is not undone yet; the next start tries again
+    AwaitsRestoring,  // an earlier save in place was cut off or failed, and is not undone yet
+    RestoredLater,    // this save in place failed and could not be undone; the next start tries again
     SaveFailed,
 };
 

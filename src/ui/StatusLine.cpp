@@ -92,7 +92,11 @@ void StatusLine::showSavesMended(const tags::MendedSaves &mended)
     say(tr("A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1",
            "%1 is the paths of files"),
         mended.waiting);
-    showNotice(SavesMended, sentences.join(QLatin1String(". ")));
+    say(tr("A save was cut off. Songs that are still being restored: %1", "%1 is the paths of files"), mended.underWay);
+    if (sentences.isEmpty())
+        remove(SavesMended);
+    else
+        showNotice(SavesMended, sentences.join(QLatin1String(". ")));
 }
 
 void StatusLine::showWritesFailed(const QString &reason, int count)

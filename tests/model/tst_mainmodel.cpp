@@ -179,6 +179,23 @@ private slots:
         QCOMPARE(stage.model.itemAt(1)->lyricsTag(), "typed"_s);
     }
 
+    void aSongWhoseSaveIsBeingUndoneIsReadAfterwards()
+    {
+        Stage stage;
+        const QUrl song = stage.song("a.mp3"_s, "lyrics.mp3");
+        QVERIFY(QFile::link(stage.folder.path(), stage.folder.filePath("link"_s)));
+        const QUrl linked = QUrl::fromLocalFile(stage.folder.filePath("link/a.mp3"_s));
+        stage.model.setSongsInMending({QFileInfo(song.toLocalFile()).canonicalFilePath(), "/else/b.mp3"_s});
+        QVERIFY(stage.load({song, linked, stage.song("b.mp3"_s)}));
+        stage.model.setSongsInMending({QFileInfo(song.toLocalFile()).canonicalFilePath()});
+        QTest::qWait(50);
+        QVERIFY(!stage.isLoaded(0) && !stage.isLoaded(1));
+        QVERIFY(!stage.model.writeTags(1));
+        stage.model.setSongsInMending({});
+        QTRY_VERIFY(stage.isLoaded(0) && stage.isLoaded(1));
+        QVERIFY(!stage.model.itemAt(0)->lyricsTag().isEmpty());
+    }
+
     void dropsAreSortedIntoFilesAndFolders()
     {
         Stage stage;

@@ -5,6 +5,7 @@
 #include "ui/StatusLine.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QToolButton>
@@ -15,16 +16,19 @@ class tst_StatusNotices : public QObject
     Q_OBJECT
 
 private slots:
-    void savesThatWaitAreToldOf()
+    void savesThatWaitAreToldOfUntilTheyAreUndone()
     {
         QMainWindow window;
         StatusLine line(window.statusBar());
         tags::MendedSaves mended;
         mended.waiting.append("/stick/song.mp3"_s);
-        QVERIFY(!mended.isEmpty());
+        mended.underWay.append("/share/song.mp3"_s);
         line.showSavesMended(mended);
-        const auto *dismiss = window.findChild<QToolButton *>();
+        const QPointer<QToolButton> dismiss = window.findChild<QToolButton *>();
         QVERIFY(dismiss && dismiss->accessibleDescription().contains(mended.waiting.first()));
+        QVERIFY(dismiss->accessibleDescription().endsWith("still being restored: /share/song.mp3"_s));
+        line.showSavesMended({});
+        QTRY_VERIFY(!dismiss);
     }
 
     void automaticExportsThatFailAreCountedUntilTheNextExport()
