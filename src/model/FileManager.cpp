@@ -1,41 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "model/FileManager.h"
 
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QProcess>
 
-#include <memory>
+#include <functional>
 
 namespace {
 
-// Whether the program could be started and ended with status 0, or outlives this one.
-bool succeeds(const QString &program, const QString &argument)
+// Starts the program. `onFailure` is called when it could not be started or has ended otherwise than with status 0.
+void run(const QString &program, const QString &argument, const std::function<void()> &onFailure)
 {
-    auto process = std::make_unique<QProcess>();
+    // Without an owner: whoever deleted it when Versewell ends would kill the file manager, in the middle of whatever
+    // it is doing.
+    auto *process = new QProcess;
     process->setProcessChannelMode(QProcess::ForwardedChannels);
-    QEventLoop loop;
-    QObject::connect(process.get(), &QProcess::stateChanged, &loop, [&loop](QProcess::ProcessState state) {
-        if (state == QProcess::NotRunning)
-            loop.quit();
+    const auto end = [process, onFailure](bool isSuccess) {
+        process->deleteLater();
+        if (!isSuccess)
+            onFailure();
+    };
+    QObject::connect(process, &QProcess::errorOccurred, process, [end](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) // after the other errors finished() comes
+            end(false);
     });
+    QObject::connect(
+        process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), process,
+        [end](int code, QProcess::ExitStatus status) { end(status == QProcess::NormalExit && code == 0); });
     process->start(program, {argument});
-    if (process->state() != QProcess::NotRunning)
-        loop.exec();
-    if (process->state() != QProcess::NotRunning) {
-        // Versewell is ending. Deleting the object would kill the file manager, in the middle of whatever it is doing.
-        static_cast<void>(process.release());
-        return true;
-    }
-    return process->error() == QProcess::UnknownError && process->exitStatus() == QProcess::NormalExit &&
-           process->exitCode() == 0;
 }
 
 } // namespace
 
 void showInFileManager(const QString &file)
 {
-    if (succeeds(QStringLiteral("nautilus"), file))
-        return;
-    succeeds(QStringLiteral("xdg-open"), QFileInfo(file).absolutePath());
+    run(QStringLiteral("nautilus"), file,
+        [folder = QFileInfo(file).absolutePath()] { run(QStringLiteral("xdg-open"), folder, [] {}); });
 }

@@ -3,8 +3,9 @@
 
 #include <QString>
 
-// Shows a file in the desktop's file manager: "nautilus" with the file or, when that fails, "xdg-open" with its folder.
+// Shows a file in the desktop's file manager: "nautilus" with the file or, when that cannot be started or ends with
+// another status than 0, "xdg-open" with its folder. Both are found by PATH.
 //
-// Returns when the last of these programs has ended. Events are handled meanwhile, so that the window lives on even
-// when the file manager stays open.
+// Returns at once: a file manager may stay open for long, and whoever asked may be a button that goes meanwhile. The
+// programs are not ended with this one. For a thread with an event loop.
 void showInFileManager(const QString &file);

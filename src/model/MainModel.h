@@ -125,7 +125,7 @@ public:
     Q_INVOKABLE void removeAll();
     // A forced search. Whether the item is queued now; false when there is none or its names are not suitable.
     Q_INVOKABLE bool startSearch(quint16 id);
-    // Shows the file of a row in the file manager; returns when that has ended.
+    // Shows the file of a row in the file manager, which lives on by itself (model/FileManager.h).
     Q_INVOKABLE void locate(int row) const;
     // Queues a write of the item's names and lyrics into its file; false when there is no such item or its tags are
     // not loaded, since the write would replace what nobody has seen.
