@@ -365,16 +365,18 @@ void MainModel::removeScattered(const QVector<int> &rows)
 void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
 {
     const int activeBefore = m_activeCount;
+    QVector<quint16> ids;
     bool readAbandoned = false;
     for (ItemStore::Taken &taken : removed) {
         ModelItem *item = taken.item.release();
         disconnect(item, nullptr, this, nullptr);
         m_activeCount -= item->active() ? 1 : 0;
         m_searchable.erase(taken.sequence);
-        forgetUnsaved(item->id());
+        ids.append(item->id());
         readAbandoned = m_reads.remove(item->id(), taken.sequence) || readAbandoned;
         item->deleteLater();
     }
+    forgetUnsaved(ids);
     if (m_activeCount != activeBefore)
         emit activeCountChanged();
     if (readAbandoned)
@@ -426,7 +428,7 @@ void MainModel::useTags(quint16 id, const MediaFileTags &tags)
         if (item->processState() == ModelItem::ProcessWaiting)
             feedSearches();
     } else {
-        item->setProcessState(ModelItem::ProcessNotSuitable);
+        setNotSuitable(item);
     }
 }
 
@@ -448,7 +450,7 @@ bool MainModel::startSearch(quint16 id)
         return true;
     const SearchNames names = item->searchArtistTitle();
     if (!m_search || !m_search->canSearch(names.artist, names.title)) {
-        item->setProcessState(ModelItem::ProcessNotSuitable);
+        setNotSuitable(item);
         return false;
     }
     item->setProcessState(ModelItem::ProcessWaiting);
@@ -469,9 +471,16 @@ void MainModel::feedSearches()
         } else if (m_search->isSearching(id)) {
             return; // an earlier search of it is still under way; its end feeds again
         } else {
-            item->setProcessState(ModelItem::ProcessNotSuitable);
+            setNotSuitable(item);
         }
     }
+}
+
+// What an earlier search met says nothing of names that cannot be searched for.
+void MainModel::setNotSuitable(ModelItem *item)
+{
+    item->setErrorString(QString());
+    item->setProcessState(ModelItem::ProcessNotSuitable);
 }
 
 void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QString &title, const QString &lyrics,
@@ -503,12 +512,19 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 bool MainModel::hasUnsavedLyrics(quint16 id) const
 {
     const ModelItem *item = m_items.find(id);
-    return m_writes.isUnsaved(id) || (m_writes.isWriting(id) && item && !item->lyricsTag().isEmpty());
+    return item && !item->lyricsTag().isEmpty() && (m_writes.isUnsaved(id) || m_writes.isWriting(id));
+}
+
+QVector<quint16> MainModel::unsavedIds() const
+{
+    QVector<quint16> ids = m_writes.unsavedIds();
+    ids.erase(std::remove_if(ids.begin(), ids.end(), [this](quint16 id) { return !hasUnsavedLyrics(id); }), ids.end());
+    return ids;
 }
 
 QVector<quint16> MainModel::idsWithUnsavedLyrics() const
 {
-    QVector<quint16> ids = m_writes.unsavedIds();
+    QVector<quint16> ids = unsavedIds();
     for (const quint16 id : m_writes.idsInWriting()) {
         if (hasUnsavedLyrics(id) && !m_writes.isUnsaved(id))
             ids.append(id);
@@ -523,8 +539,8 @@ bool MainModel::writeTags(quint16 id)
         return false;
     if (item->processState() == ModelItem::ProcessWorking)
         m_overruled.insert(id);
-    // Who saves once more, after the reason was shown, means it.
-    startWriting(item, m_writes.isUnsaved(id));
+    // Who saves once more, after being told of another program's change, means it.
+    startWriting(item, m_writes.isForeignChangeTold(id));
     return true;
 }
 
@@ -548,13 +564,14 @@ void MainModel::tagsWritten(quint16 id)
         return;
     if (outcome.fileKind)
         item->setFileKind(*outcome.fileKind);
-    forgetUnsaved(id);
-    if (outcome.reason.isEmpty())
+    if (outcome.reason.isEmpty()) {
         item->setStoredTexts(outcome.texts);
-    else
+        forgetUnsaved({id});
+    } else {
         noteUnsaved(item, outcome.reason);
-    if (!outcome.reason.isEmpty())
-        item->setErrorString(outcome.reason);
+    }
+    if (outcome.isForeignChange)
+        m_writes.noteForeignChange(id);
     if (item->processState() != ModelItem::ProcessWritingTags)
         return;
     if (outcome.reason.isEmpty())
@@ -594,27 +611,35 @@ void MainModel::readHeldBack(const QUrl &file)
         extractNextFileInfo();
 }
 
-// The lyrics that a failed write would have removed are in the file still.
 void MainModel::noteUnsaved(ModelItem *item, const QString &reason)
 {
-    if (item->lyricsTag().isEmpty())
-        return;
-    item->setUnsaved(true);
-    emit writesFailed(reason, m_writes.noteUnsaved(item->id(), reason));
+    if (item->writeError() != reason)
+        forgetUnsaved({item->id()});
+    m_writes.noteUnsaved(item->id(), reason);
+    item->setErrorString(reason);
+    item->setWriteError(reason);
+    emit writesFailed(reason, m_writes.unsavedCount(reason));
 }
 
-void MainModel::forgetUnsaved(quint16 id)
+// However many songs, one signal a reason. They may have left the list.
+void MainModel::forgetUnsaved(const QVector<quint16> &ids)
 {
-    if (!m_writes.forgetUnsaved(id))
-        return;
-    if (ModelItem *item = m_items.find(id))
-        item->setUnsaved(false);
+    QSet<QString> reasons;
+    for (const quint16 id : ids) {
+        const QString reason = m_writes.forgetUnsaved(id);
+        if (reason.isEmpty())
+            continue;
+        reasons.insert(reason);
+        if (ModelItem *item = m_items.find(id))
+            item->setWriteError(QString());
+    }
+    for (const QString &reason : qAsConst(reasons))
+        emit failedWritesLeft(reason, m_writes.unsavedCount(reason));
 }
 
 void MainModel::giveUpUnsaved(const QVector<quint16> &ids)
 {
-    for (const quint16 id : ids)
-        forgetUnsaved(id);
+    forgetUnsaved(ids);
 }
 
 // Exporting

@@ -94,10 +94,12 @@ public:
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // Lyrics that are in the list only, since their last write failed or was refused.
-    [[nodiscard]] int unsavedCount() const { return m_writes.unsavedCount(); }
-    [[nodiscard]] QVector<quint16> unsavedIds() const { return m_writes.unsavedIds(); }
+    [[nodiscard]] int unsavedCount() const { return unsavedIds().size(); }
+    [[nodiscard]] QVector<quint16> unsavedIds() const;
     // These songs' lyrics no longer count as unsaved, until another write of them fails.
     void giveUpUnsaved(const QVector<quint16> &ids);
+    // Whether a write of this song is under way, also when it was removed meanwhile.
+    [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.isWriting(id); }
     // These, or such whose write is under way and may still fail.
     [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const;
     // All songs of which this is true, in no order.
@@ -159,6 +161,9 @@ signals:
     // For so many songs of the list the last write failed for this one reason; again when the number has grown, so that
     // one message can show it.
     void writesFailed(const QString &reason, int count);
+    // So many are left of the songs that writesFailed() told of: others were saved since, failed for another reason, or
+    // left the list.
+    void failedWritesLeft(const QString &reason, int count);
     // Once for each call of generateLyricsFile() that returned true.
     void lyricsExported(quint16 id, const QString &textFile, bool isWritten);
     // The export that comes with a write, where the settings ask for it, could not be written.
@@ -187,11 +192,11 @@ private:
     void startWriting(ModelItem *item, bool insists);
     [[nodiscard]] LyricsFileWriter &automaticExports();
     static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);
-    void tagsNotWritten(quint16 id, const QString &reason);
     [[nodiscard]] bool mustNotBeRead(const QUrl &file) const;
     void readHeldBack(const QUrl &file);
     void noteUnsaved(ModelItem *item, const QString &reason);
-    void forgetUnsaved(quint16 id);
+    void forgetUnsaved(const QVector<quint16> &ids);
+    static void setNotSuitable(ModelItem *item);
 
     ItemStore m_items;
     quint16 m_lastId = 0;

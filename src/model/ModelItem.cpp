@@ -116,6 +116,11 @@ bool ModelItem::lyricsEmbedded() const
     return m_tagsLoaded && m_lyricsEmbedded && !m_lyricsTag.isEmpty();
 }
 
+bool ModelItem::edited() const
+{
+    return artistEdited() || titleEdited() || (m_tagsLoaded && m_lyricsTag != m_storedTexts.lyrics);
+}
+
 bool ModelItem::bad() const
 {
     return m_unreadable || !valid() || (m_tagsLoaded && m_duration <= 0);
@@ -170,6 +175,12 @@ void ModelItem::setTags(const MediaFileTags &tags)
     emit artistTagChanged(m_artistTag);
     emit lyricsTagChanged(m_lyricsTag);
     emit tagsLoadedChanged(true);
+}
+
+void ModelItem::setStoredTexts(const tags::SongTexts &texts)
+{
+    m_storedTexts = texts;
+    emit changed();
 }
 
 void ModelItem::setUnreadable(const QString &reason)
@@ -248,11 +259,11 @@ void ModelItem::setProcessState(ProcessState state)
     emit processStateChanged(state);
 }
 
-void ModelItem::setUnsaved(bool unsaved)
+void ModelItem::setWriteError(const QString &reason)
 {
-    if (unsaved == m_unsaved)
+    if (reason == m_writeError)
         return;
-    m_unsaved = unsaved;
+    m_writeError = reason;
     emit changed();
 }
 

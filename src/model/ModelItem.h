@@ -45,7 +45,11 @@ class ModelItem : public QObject
     Q_PROPERTY(bool bad READ bad NOTIFY changed)
     Q_PROPERTY(ProcessState processState READ processState WRITE setProcessState NOTIFY processStateChanged)
     Q_PROPERTY(QString errorString READ errorString NOTIFY errorStringChanged)
-    Q_PROPERTY(bool unsaved READ unsaved NOTIFY changed)
+    Q_PROPERTY(bool unreadable READ unreadable NOTIFY changed)
+    Q_PROPERTY(QString writeError READ writeError NOTIFY changed)
+    Q_PROPERTY(bool edited READ edited NOTIFY changed)
+    Q_PROPERTY(bool artistEdited READ artistEdited NOTIFY changed)
+    Q_PROPERTY(bool titleEdited READ titleEdited NOTIFY changed)
     Q_PROPERTY(bool foundNothing READ foundNothing NOTIFY changed)
     Q_PROPERTY(QString processStateText READ processStateText NOTIFY processStateChanged)
     Q_PROPERTY(bool active READ active NOTIFY activeChanged)
@@ -106,16 +110,22 @@ public:
     // write would replace. Not so for a file that is merely no audio.
     [[nodiscard]] bool unreadable() const { return m_unreadable; }
     [[nodiscard]] ProcessState processState() const { return m_processState; }
-    // Why the last search or write failed; empty when it did not.
+    // Why the last search, write or read failed; empty when it did not.
     [[nodiscard]] QString errorString() const { return m_errorString; }
-    // Its lyrics are in the list only, since their last write failed.
-    [[nodiscard]] bool unsaved() const { return m_unsaved; }
+    // Why its last write failed, whatever was searched for since; empty when it did not.
+    [[nodiscard]] QString writeError() const { return m_writeError; }
+    // Its names and lyrics are in the list only, since their last write failed. The lyrics may be empty.
+    [[nodiscard]] bool unsaved() const { return !m_writeError.isEmpty(); }
     // The last search ended without lyrics; nothing has been found, written or read since.
     [[nodiscard]] bool foundNothing() const { return m_foundNothing; }
     [[nodiscard]] QString processStateText() const { return textOf(m_processState); }
     // The texts as they were read from the file, or last written to it: whatever differs from them was edited.
     [[nodiscard]] const tags::SongTexts &storedTexts() const { return m_storedTexts; }
     [[nodiscard]] tags::SongTexts texts() const { return {artistTag(), titleTag(), lyricsTag()}; }
+    // Whether a text differs from the stored one; false while the tags are not loaded.
+    [[nodiscard]] bool edited() const;
+    [[nodiscard]] bool artistEdited() const { return m_tagsLoaded && m_artistTag != m_storedTexts.artist; }
+    [[nodiscard]] bool titleEdited() const { return m_tagsLoaded && m_titleTag != m_storedTexts.title; }
     // Queued for a search or being searched for.
     [[nodiscard]] bool active() const { return isActive(m_processState); }
     [[nodiscard]] bool editable() const;
@@ -129,10 +139,10 @@ public:
 
     void setId(quint16 id) { m_id = id; }
     void setTags(const MediaFileTags &tags);
-    void setStoredTexts(const tags::SongTexts &texts) { m_storedTexts = texts; }
+    void setStoredTexts(const tags::SongTexts &texts);
     // Instead of the tags, which then count as not loaded.
     void setUnreadable(const QString &reason);
-    void setUnsaved(bool unsaved);
+    void setWriteError(const QString &reason);
     void setFoundNothing(bool nothing);
     // To be told by whoever has looked, elsewhere than on the main thread. An item that was told nothing looks by
     // itself at the first query, once for each url.
@@ -141,8 +151,8 @@ public:
     void setThumbnail(const QImage &image);
 
 signals:
-    // Follows every other signal but `activeChanged` and `writingTagsChanged`; tells of `unsaved` and `foundNothing`
-    // too.
+    // Follows every other signal but `activeChanged` and `writingTagsChanged`; tells of `writeError`,
+    // `foundNothing` and the stored texts too.
     void changed();
     void urlChanged(const QUrl &url);
     void tagsLoadedChanged(bool loaded);
@@ -191,7 +201,7 @@ private:
     bool m_lyricsEmbedded = true;
     ProcessState m_processState = ProcessIdle;
     QString m_errorString;
-    bool m_unsaved = false;
+    QString m_writeError;
     bool m_foundNothing = false;
     mutable std::optional<FileKind> m_fileKind; // empty until somebody tells or asks
 };

@@ -42,6 +42,8 @@ void SongWrites::start(const ModelItem &item, bool insists)
     connect(writer, &TagWriter::updated, this, [this](quint16 updatedId, tags::UpdateResult result) {
         if (const auto kind = fileKindAfter(result))
             m_fileKinds.insert(updatedId, *kind);
+        if (result == tags::UpdateResult::ChangedMeanwhile)
+            m_refused.insert(updatedId);
     });
     connect(writer, &TagWriter::failed, this,
             [this](quint16 failedId, const QString &reason) { m_failures.insert(failedId, reason); });
@@ -52,7 +54,7 @@ void SongWrites::start(const ModelItem &item, bool insists)
 
 SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
 {
-    Outcome outcome{m_failures.take(id), {}, {}, {}};
+    Outcome outcome{m_failures.take(id), {}, {}, m_refused.remove(id), {}};
     if (m_fileKinds.contains(id))
         outcome.fileKind = m_fileKinds.take(id);
     const auto writes = m_writes.find(id);
@@ -68,19 +70,19 @@ SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
     return outcome;
 }
 
-int SongWrites::noteUnsaved(quint16 id, const QString &reason)
+void SongWrites::noteUnsaved(quint16 id, const QString &reason)
 {
+    if (isUnsaved(id))
+        return;
     m_unsaved.insert(id, reason);
-    return ++m_unsavedByReason[reason];
+    ++m_unsavedByReason[reason];
 }
 
-bool SongWrites::forgetUnsaved(quint16 id)
+QString SongWrites::forgetUnsaved(quint16 id)
 {
-    const auto found = m_unsaved.find(id);
-    if (found == m_unsaved.end())
-        return false;
-    if (--m_unsavedByReason[*found] == 0)
-        m_unsavedByReason.remove(*found);
-    m_unsaved.erase(found);
-    return true;
+    m_foreignChanges.remove(id);
+    const QString reason = m_unsaved.take(id);
+    if (!reason.isEmpty() && --m_unsavedByReason[reason] == 0)
+        m_unsavedByReason.remove(reason);
+    return reason;
 }

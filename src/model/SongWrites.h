@@ -6,13 +6,14 @@
 #include <QHash>
 #include <QObject>
 #include <QQueue>
+#include <QSet>
 #include <QUrl>
 #include <QVector>
 
 #include <optional>
 
-// The writes of songs that are under way, and which songs hold lyrics that are in the list only, since their last write
-// failed. Main thread only; the files are written elsewhere (tags/TagWriter.h).
+// The writes of songs that are under way, and which songs are unsaved: those whose last write failed. Main thread only;
+// the files are written elsewhere (tags/TagWriter.h).
 class SongWrites : public QObject
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ public:
         QString reason;        // empty when it succeeded
         tags::SongTexts texts; // that were to be stored
         QUrl file;
+        bool isForeignChange = false; // it failed since another program has changed the file
         // What the write met there; empty when it has not seen.
         std::optional<ModelItem::FileKind> fileKind;
     };
@@ -41,12 +43,16 @@ public:
     // To be called once for each written().
     [[nodiscard]] Outcome takeOutcome(quint16 id);
 
-    // How many unsaved songs there are with this reason, this one among them.
-    int noteUnsaved(quint16 id, const QString &reason);
-    // Whether the song was unsaved.
-    bool forgetUnsaved(quint16 id);
+    // Of a song that is not unsaved for another reason.
+    void noteUnsaved(quint16 id, const QString &reason);
+    // For what reason the song was unsaved; empty when it was not.
+    QString forgetUnsaved(quint16 id);
+    // The user is told that another program has changed the file of the unsaved song.
+    void noteForeignChange(quint16 id) { m_foreignChanges.insert(id); }
+    [[nodiscard]] bool isForeignChangeTold(quint16 id) const { return m_foreignChanges.contains(id); }
     [[nodiscard]] bool isUnsaved(quint16 id) const { return m_unsaved.contains(id); }
-    [[nodiscard]] int unsavedCount() const { return m_unsaved.size(); }
+    // How many songs are unsaved for this reason.
+    [[nodiscard]] int unsavedCount(const QString &reason) const { return m_unsavedByReason.value(reason); }
     [[nodiscard]] QVector<quint16> unsavedIds() const { return m_unsaved.keys().toVector(); }
 
 signals:
@@ -66,4 +72,6 @@ private:
     QHash<quint16, ModelItem::FileKind> m_fileKinds; // likewise
     QHash<quint16, QString> m_unsaved;               // id to reason
     QHash<QString, int> m_unsavedByReason;
+    QSet<quint16> m_refused;        // since another program has changed the file; until their end is told
+    QSet<quint16> m_foreignChanges; // likewise, and told
 };

@@ -56,7 +56,8 @@ Rectangle {
         badFile: tagsLoaded && pane.song.bad
         hasLyrics: pane.song !== null && pane.song.lyricsTag !== ""
         errorString: pane.song ? pane.song.errorString : ""
-        unsaved: pane.song !== null && pane.song.unsaved
+        readFailed: pane.song !== null && pane.song.unreadable
+        writeError: pane.song ? pane.song.writeError : ""
         foundNothing: pane.song !== null && pane.song.foundNothing
     }
 

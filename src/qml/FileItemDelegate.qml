@@ -43,7 +43,8 @@ Item {
         badFile: tagsLoadedRole && badFileRole
         hasLyrics: lyricsTagRole !== ""
         errorString: itemRole ? itemRole.errorString : ""
-        unsaved: itemRole ? itemRole.unsaved : false
+        readFailed: itemRole ? itemRole.unreadable : false
+        writeError: itemRole ? itemRole.writeError : ""
         foundNothing: itemRole ? itemRole.foundNothing : false
     }
 

@@ -10,8 +10,10 @@ QtObject {
     property bool badFile: false
     property bool hasLyrics: false
     property string errorString
-    // The lyrics are in the list only, since their write failed.
-    property bool unsaved: false
+    // Nothing is known of the file, and the error text says why.
+    property bool readFailed: false
+    // Why the last write failed; empty when it did not.
+    property string writeError
     // The last search ended without lyrics.
     property bool foundNothing: false
 
@@ -19,9 +21,11 @@ QtObject {
                                  || processState === ModelItem.ProcessWritingTags
     readonly property bool settled: processState === ModelItem.ProcessIdle || processState === ModelItem.ProcessComplete
     // What is being done with a song comes before what is known of it.
-    readonly property bool unreadable: !busy && ((tagsLoaded && badFile)
-                                                 || (processState === ModelItem.ProcessNotSuitable && errorString !== ""))
+    readonly property bool unreadable: !busy && (readFailed || (tagsLoaded && badFile))
     readonly property bool bad: (tagsLoaded && badFile) || processState === ModelItem.ProcessNotSuitable
+
+    // What the row's word says then is a warning, which the light is not.
+    readonly property bool unsaved: !unreadable && processState === ModelItem.ProcessComplete && writeError !== ""
 
     // "yellow", "green", "red", or empty for none. A song that is bad is red, whatever lyrics it has.
     readonly property string light: busy ? "yellow" : bad ? "red" : hasLyrics && settled ? "green" : ""
@@ -47,7 +51,7 @@ QtObject {
         case ModelItem.ProcessFailed:
             return qsTr("failed");
         case ModelItem.ProcessComplete:
-            return unsaved ? qsTr("not saved") : errorString !== "" ? qsTr("search failed")
+            return writeError !== "" ? qsTr("not saved") : errorString !== "" ? qsTr("search failed")
                  : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
         }
         return "";
@@ -62,11 +66,11 @@ QtObject {
         case ModelItem.ProcessWritingTags:
             return qsTr("saving the lyrics...");
         case ModelItem.ProcessNotSuitable:
-            return errorString !== "" ? errorString : qsTr("A search needs an artist and a title.");
+            return readFailed ? errorString : qsTr("A search needs an artist and a title.");
         case ModelItem.ProcessFailed:
             return errorString !== "" ? errorString : qsTr("failed");
         case ModelItem.ProcessComplete:
-            return unsaved ? qsTr("Not saved: %1", "%1 is the reason").arg(errorString)
+            return writeError !== "" ? qsTr("Not saved: %1", "%1 is the reason").arg(writeError)
                  : errorString !== "" ? errorString : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
         }
         return errorString;

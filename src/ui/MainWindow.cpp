@@ -143,6 +143,7 @@ void MainWindow::connectModels()
     connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
     connect(m_parts.folderScanner, &FolderScanner::filesLeftOut, m_status, &StatusLine::addUnusableNames);
     connect(m_parts.mainModel, &MainModel::writesFailed, m_status, &StatusLine::showWritesFailed);
+    connect(m_parts.mainModel, &MainModel::failedWritesLeft, m_status, &StatusLine::updateWritesFailed);
     connect(m_export, &LyricsExport::finished, m_status, &StatusLine::showExported);
     connect(m_parts.proxyModel, &ProxyModel::selectedCountChanged, this, &MainWindow::updateActions);
     connect(m_parts.proxyModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateActions);

@@ -13,6 +13,7 @@
 #include <QToolButton>
 
 #include <chrono>
+#include <numeric>
 
 static constexpr int progressWidth = 160;
 static constexpr std::chrono::seconds briefly(6);
@@ -101,7 +102,25 @@ void StatusLine::showSavesMended(const tags::MendedSaves &mended)
 
 void StatusLine::showWritesFailed(const QString &reason, int count)
 {
-    showNotice(WritesFailed, tr("Songs that could not be written: %n (%1)", "%1 is the reason", count).arg(reason));
+    m_writesFailed.insert(reason, count);
+    updateWritesFailed(reason, count);
+}
+
+void StatusLine::updateWritesFailed(const QString &reason, int count)
+{
+    if (!m_writesFailed.contains(reason))
+        return;
+    if (count > 0)
+        m_writesFailed.insert(reason, count);
+    else
+        m_writesFailed.remove(reason);
+    if (m_writesFailed.isEmpty()) {
+        remove(WritesFailed);
+        return;
+    }
+    const int songs = std::accumulate(m_writesFailed.cbegin(), m_writesFailed.cend(), 0);
+    const QString reasons = QStringList(m_writesFailed.keys()).join(QLatin1String("; "));
+    showNotice(WritesFailed, tr("Songs that could not be written: %n (%1)", "%1 is the reason", songs).arg(reasons));
 }
 
 void StatusLine::showExported(const LyricsExport::Result &result)
@@ -168,6 +187,8 @@ void StatusLine::dismiss(Notice notice)
         m_filesLeftOut = 0;
     else if (notice == UnusableNames)
         m_unusableNames = 0;
+    else if (notice == WritesFailed)
+        m_writesFailed.clear();
 }
 
 void StatusLine::addButton(QAction *action)

@@ -40,6 +40,8 @@ public slots:
     void showSavesMended(const tags::MendedSaves &mended);
     // How many songs could not be written for this reason.
     void showWritesFailed(const QString &reason, int count);
+    // How many of those are left; the notice goes with the last one. Does nothing once the notice was dismissed.
+    void updateWritesFailed(const QString &reason, int count);
     // The list is full. Counts on until the notice is dismissed.
     void addFilesLeftOut(int count);
     // Success is shown for some seconds only.
@@ -71,5 +73,6 @@ private:
     int m_done = 0; // since no search was left
     int m_filesLeftOut = 0;
     int m_unusableNames = 0;
+    QMap<QString, int> m_writesFailed; // reason to number, as shown
     QMap<Notice, QWidget *> m_notices;
 };

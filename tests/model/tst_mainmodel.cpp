@@ -289,6 +289,35 @@ private slots:
         QCOMPARE(stage.model.unsavedCount(), 0);
     }
 
+    // Whether there are lyrics to lose matters to the question before losing them only.
+    void aFailedWriteIsForgottenWhenALaterOneSucceeds()
+    {
+        Stage stage;
+        const QUrl url = stage.song("A - Song.mp3"_s);
+        QVERIFY(stage.load({url}));
+        QVERIFY(QFile::remove(url.toLocalFile()));
+        QSignalSpy failures(&stage.model, &MainModel::writesFailed);
+        QSignalSpy left(&stage.model, &MainModel::failedWritesLeft);
+        ModelItem *item = stage.model.itemAt(0);
+        item->setTitleTag("Song"_s);
+        for (const QString &lyrics : {"typed"_s, QString()}) {
+            item->setEditedLyricsTag(lyrics);
+            QVERIFY(stage.model.writeTags(1));
+            QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete);
+            QVERIFY(item->unsaved() && item->bad() && !item->fileExists());
+            QCOMPARE(failures.takeFirst(), (QVariantList{item->writeError(), 1}));
+            QCOMPARE(stage.model.unsavedCount(), lyrics.isEmpty() ? 0 : 1);
+        }
+        const QString reason = item->writeError();
+        item->setErrorString("a search failed meanwhile"_s);
+        QVERIFY(item->writeError() == reason && left.isEmpty());
+        stage.song("A - Song.mp3"_s);
+        QVERIFY(stage.model.writeTags(1));
+        QTRY_COMPARE(stage.state(0), ModelItem::ProcessComplete);
+        QVERIFY(!item->unsaved() && !item->bad() && failures.isEmpty());
+        QCOMPARE(left.takeFirst(), (QVariantList{reason, 0}));
+    }
+
     void lyricsThatAreInNoSongAreKeptAsText()
     {
         Stage stage;
@@ -526,10 +555,12 @@ private slots:
         QVERIFY(stage.load({stage.song("first.mp3"_s, "plain-v23.mp3"), stage.song("A - S.mp3"_s)}));
         ModelItem *first = stage.model.itemAt(0);
         first->setArtistTag(QString());
+        first->setErrorString("of an earlier search"_s);
         first->setProcessState(ModelItem::ProcessWaiting);
         QVERIFY(stage.model.startSearch(2));
         QCOMPARE(stage.state(0), ModelItem::ProcessNotSuitable);
         QCOMPARE(stage.state(1), ModelItem::ProcessWorking);
+        QCOMPARE(first->errorString(), QString());
         QVERIFY(!stage.model.startSearch(1));
     }
 

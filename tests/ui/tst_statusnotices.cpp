@@ -31,6 +31,30 @@ private slots:
         QTRY_VERIFY(!dismiss);
     }
 
+    void songsThatCouldNotBeWrittenAreCountedUntilTheyAre()
+    {
+        QMainWindow window;
+        StatusLine line(window.statusBar());
+        const auto text = [&window] {
+            for (const auto *button : window.findChildren<QToolButton *>()) {
+                if (!button->parentWidget()->isHidden())
+                    return button->accessibleDescription();
+            }
+            return QString();
+        };
+        line.showWritesFailed("no room"_s, 2);
+        line.showWritesFailed("gone"_s, 1);
+        QVERIFY(text().contains(": 3 (gone; no room)"_s));
+        line.updateWritesFailed("gone"_s, 0);
+        QVERIFY(text().contains(": 2 (no room)"_s));
+        line.updateWritesFailed("no room"_s, 0);
+        QCOMPARE(text(), QString());
+        line.showWritesFailed("no room"_s, 2);
+        window.findChildren<QToolButton *>().last()->click();
+        line.updateWritesFailed("no room"_s, 1); // dismissed is dismissed
+        QCOMPARE(text(), QString());
+    }
+
     void automaticExportsThatFailAreCountedUntilTheNextExport()
     {
         MainModel model;
