@@ -5,13 +5,116 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
 
 #include <cerrno>
+#include <thread>
+#include <utility>
 
 #include <sys/stat.h>
 
-// What was found is told after this time, so that the first files show while a slow disk still answers for the others.
-constexpr qint64 reportIntervalMs = 100;
+// A disk that wakes up may take longer; then others are looked at meanwhile, which does no harm.
+constexpr qint64 stallMs = 500;
+
+// Shared with the thread.
+struct DelayedFileCheck::Work
+{
+    mutable QMutex mutex;
+    QList<QUrl> urls;
+    int next = 0; // index of the url that is being looked at
+    int taken = 0;
+    Found found;
+    QElapsedTimer sinceLook;
+
+    void run(const Look &look)
+    {
+        QUrl url;
+        while (begin(url))
+            end(url, look(url));
+    }
+
+private:
+    bool begin(QUrl &url)
+    {
+        const QMutexLocker lock(&mutex);
+        if (next == urls.size())
+            return false;
+        url = urls.at(next);
+        sinceLook.start();
+        return true;
+    }
+    void end(const QUrl &url, Kind kind)
+    {
+        const QMutexLocker lock(&mutex);
+        if (next == urls.size())
+            return; // the check has gone
+        ++next;
+        if (kind == Kind::File)
+            found.files.append(url);
+        else if (kind == Kind::Folder)
+            found.folders.append(url);
+        else if (kind == Kind::Away)
+            found.away.append(url);
+    }
+};
+
+DelayedFileCheck::DelayedFileCheck(const QList<QUrl> &urls, const Look &look)
+    : m_work(std::make_shared<Work>())
+{
+    m_work->urls = urls;
+    m_work->sinceLook.start();
+    std::thread([work = m_work, look] { work->run(look); }).detach();
+}
+
+DelayedFileCheck::~DelayedFileCheck()
+{
+    const QMutexLocker lock(&m_work->mutex);
+    m_work->urls.clear();
+    m_work->next = 0;
+}
+
+DelayedFileCheck::Found DelayedFileCheck::take()
+{
+    const QMutexLocker lock(&m_work->mutex);
+    m_work->taken = m_work->next;
+    return std::exchange(m_work->found, Found());
+}
+
+QList<QUrl> DelayedFileCheck::untaken() const
+{
+    const QMutexLocker lock(&m_work->mutex);
+    return m_work->urls.mid(m_work->taken);
+}
+
+bool DelayedFileCheck::isStalled() const
+{
+    const QMutexLocker lock(&m_work->mutex);
+    return m_work->next < m_work->urls.size() && m_work->sinceLook.hasExpired(stallMs);
+}
+
+QList<QUrl> DelayedFileCheck::giveUpOthers()
+{
+    const QMutexLocker lock(&m_work->mutex);
+    QList<QUrl> &urls = m_work->urls;
+    if (m_work->next == urls.size())
+        return {};
+    const QUrl folder = urls.at(m_work->next).adjusted(QUrl::RemoveFilename);
+    const QList<QUrl> behind = urls.mid(m_work->next + 1);
+    urls.erase(urls.begin() + m_work->next + 1, urls.end());
+    QList<QUrl> others;
+    for (const QUrl &url : behind)
+        (url.adjusted(QUrl::RemoveFilename) == folder ? urls : others).append(url);
+    return others;
+}
+
+DelayedFileCheck::Kind DelayedFileCheck::kindOf(const QUrl &url)
+{
+    if (isFile(url))
+        return Kind::File;
+    if (isFolder(url))
+        return Kind::Folder;
+    return isAway(url) ? Kind::Away : Kind::Nothing;
+}
 
 bool DelayedFileCheck::isFile(const QUrl &url)
 {
@@ -35,33 +138,4 @@ bool DelayedFileCheck::isAway(const QUrl &url)
         return true;
     const QDir folder = QFileInfo(path).dir();
     return !folder.exists() || folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
-
-void DelayedFileCheck::run()
-{
-    if (m_waitFirst)
-        m_waitFirst();
-    QElapsedTimer sinceReport;
-    sinceReport.start();
-    QList<QUrl> files;
-    QList<QUrl> away;
-    QList<QUrl> folders;
-    int count = 0;
-    for (int i = 0; i < m_urls.size() && !*m_cancelled; ++i) {
-        ++count;
-        if (isFile(m_urls.at(i)))
-            files.append(m_urls.at(i));
-        else if (isFolder(m_urls.at(i)))
-            folders.append(m_urls.at(i));
-        else if (isAway(m_urls.at(i)))
-            away.append(m_urls.at(i));
-        if (i + 1 < m_urls.size() && !sinceReport.hasExpired(reportIntervalMs))
-            continue;
-        emit checked(count, files, away, folders);
-        files.clear();
-        away.clear();
-        folders.clear();
-        count = 0;
-        sinceReport.restart();
-    }
 }

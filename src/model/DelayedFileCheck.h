@@ -2,30 +2,48 @@
 #pragma once
 
 #include <QList>
-#include <QObject>
-#include <QRunnable>
 #include <QUrl>
 
-#include <atomic>
 #include <functional>
 #include <memory>
 
-// Looks at many files, to be run once on the thread pool, which deletes it after its run: a look at a disk that does
-// not answer takes as long as it takes.
-class DelayedFileCheck : public QObject, public QRunnable
+// Looks at urls in a thread of its own, one after another: a look at a disk that does not answer takes as long as it
+// takes. What was found is fetched when its owner likes.
+//
+// When this object goes no more looks begin; the one under way is left to itself, also at the end of the program. All
+// calls from one thread.
+class DelayedFileCheck
 {
-    Q_OBJECT
-
 public:
-    // `waitFirst` is called before the first look.
-    explicit DelayedFileCheck(const QList<QUrl> &urls, const std::function<void()> &waitFirst = {})
-        : m_urls(urls)
-        , m_waitFirst(waitFirst)
-    {
-    }
+    enum class Kind { Nothing, File, Folder, Away };
+    // Called in the thread; must touch nothing that may go before the program does.
+    using Look = std::function<Kind(const QUrl &url)>;
 
-    // Ends the run when it is set; may be set from any thread, also after the run.
-    [[nodiscard]] std::shared_ptr<std::atomic<bool>> cancelled() const { return m_cancelled; }
+    // Each in the order in which they were given.
+    struct Found
+    {
+        QList<QUrl> files;   // regular local files, or links to them
+        QList<QUrl> folders; // local ones, or links to them
+        QList<QUrl> away;    // see isAway()
+    };
+
+    // Begins.
+    explicit DelayedFileCheck(const QList<QUrl> &urls, const Look &look = kindOf);
+    ~DelayedFileCheck();
+    DelayedFileCheck(const DelayedFileCheck &) = delete;
+    DelayedFileCheck &operator=(const DelayedFileCheck &) = delete;
+
+    // What was found since the last call.
+    [[nodiscard]] Found take();
+    // The urls of which nothing was taken yet.
+    [[nodiscard]] QList<QUrl> untaken() const;
+    // A single look has lasted for half a second.
+    [[nodiscard]] bool isStalled() const;
+    // Leaves to this check the url that is being looked at and those in the same folder, and returns the others, which
+    // it will not look at.
+    [[nodiscard]] QList<QUrl> giveUpOthers();
+
+    [[nodiscard]] static Kind kindOf(const QUrl &url);
     // Whether the url names a regular local file, or a link to one.
     [[nodiscard]] static bool isFile(const QUrl &url);
     // Whether the url names a local folder, or a link to one.
@@ -34,15 +52,8 @@ public:
     // cannot be asked. What was deleted from a folder that is there does not come back.
     [[nodiscard]] static bool isAway(const QUrl &url);
 
-    void run() override;
-
-signals:
-    // Some more urls were looked at, in the order in which they were given: how many, those that name files, those that
-    // are away, and those that name folders. The last signal comes at the end of the run, unless that was cancelled.
-    void checked(int count, const QList<QUrl> &files, const QList<QUrl> &away, const QList<QUrl> &folders);
-
 private:
-    const QList<QUrl> m_urls;
-    const std::function<void()> m_waitFirst;
-    const std::shared_ptr<std::atomic<bool>> m_cancelled = std::make_shared<std::atomic<bool>>(false);
+    struct Work;
+
+    const std::shared_ptr<Work> m_work;
 };

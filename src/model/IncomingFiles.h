@@ -1,47 +1,70 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/DelayedFileCheck.h"
+
 #include <QList>
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
 
-#include <atomic>
 #include <functional>
 #include <memory>
+#include <vector>
 
-// Files on their way into the list: those of a kept list are looked at first, on the thread pool, and all of them come
-// out in blocks, from the event loop, so that the window goes on living while many become rows. Main thread only.
+// Files on their way into the list: those that nobody knows yet are looked at first, elsewhere, and all of them come
+// out in blocks, from the event loop, so that the window goes on living while many become rows. A folder that does not
+// answer holds up its own files only. Main thread only.
 class IncomingFiles : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit IncomingFiles(QObject *parent = nullptr);
-    ~IncomingFiles() override;
+    using Found = DelayedFileCheck::Found;
+    using Use = std::function<void(const Found &found)>;
 
-    // Takes a list that was kept across runs; once. `waitFirst` is called on the thread pool before the first look.
-    void restore(const QList<QUrl> &urls, const std::function<void()> &waitFirst);
+    explicit IncomingFiles(QObject *parent = nullptr);
+    // Looks at urls in this way.
+    explicit IncomingFiles(const DelayedFileCheck::Look &look, QObject *parent = nullptr);
+
+    // Takes a list that was kept across runs; once.
+    void restore(const QList<QUrl> &urls);
+    // Looks at urls and hands over what they are, in parts, from the event loop. They are in the order in which they
+    // were given, but for those that have to wait for a disk.
+    void look(const QList<QUrl> &urls, const Use &use);
     // Takes files that are known to be regular; the first block of them comes out before this returns.
     void add(const QList<QUrl> &files);
+    // Forgets all, also what is away.
+    void clear();
 
-    // What is still to come out.
-    [[nodiscard]] QList<QUrl> waiting() const { return m_known + m_unchecked; }
+    // What is still to come out, of the kept list and of what was added.
+    [[nodiscard]] QList<QUrl> waiting() const;
     // Files of the kept list whose disk is away: they do not come out, and are to be kept on.
     [[nodiscard]] QList<QUrl> away() const { return m_away; }
-    void forgetAway() { m_away.clear(); }
 
 signals:
     // In the order in which they were taken. `isFirst` says that no block came right before this one.
     void block(const QList<QUrl> &files, bool isFirst);
 
 private:
-    void takeChecked(int count, const QList<QUrl> &files, const QList<QUrl> &away);
+    // The last check looks at most of the urls; those before it wait for disks.
+    struct Job
+    {
+        std::vector<std::unique_ptr<DelayedFileCheck>> checks;
+        Use use;
+        bool isKept = false;
+    };
+
+    void begin(const QList<QUrl> &urls, const Use &use, bool isKept);
+    void takeFound();
+    [[nodiscard]] static Found takeFrom(Job &job);
+    void passStalled(Job &job) const;
     void emitBlock();
 
-    QList<QUrl> m_unchecked; // of the kept list
+    const DelayedFileCheck::Look m_look;
+    std::vector<Job> m_jobs;
+    QTimer m_nextLook; // runs while there are jobs
     QList<QUrl> m_known;
     QList<QUrl> m_away;
     QTimer m_nextBlock; // runs while there are known files
-    std::shared_ptr<std::atomic<bool>> m_cancelled = std::make_shared<std::atomic<bool>>(false);
 };

@@ -9,7 +9,6 @@
 
 #include <QFileInfo>
 #include <QQmlEngine>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <limits>
@@ -158,31 +157,19 @@ bool MainModel::isSupported(const QUrl &url) const
 
 void MainModel::addUrls(const QList<QUrl> &urls)
 {
-    check(urls, [this](const QList<QUrl> &files, const QList<QUrl> &) { add(files, IsRegularFile); });
+    m_incoming.look(urls, [this](const IncomingFiles::Found &found) { add(found.files, IsRegularFile); });
 }
 
 void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
 {
-    check(urls, [this](const QList<QUrl> &files, const QList<QUrl> &folders) {
+    m_incoming.look(urls, [this](const IncomingFiles::Found &found) {
         QList<QUrl> supported;
-        std::copy_if(files.begin(), files.end(), std::back_inserter(supported),
+        std::copy_if(found.files.begin(), found.files.end(), std::back_inserter(supported),
                      [this](const QUrl &url) { return isSupported(url); });
         add(supported, IsRegularFile);
-        if (!folders.isEmpty())
-            emit scanFolders(folders);
+        if (!found.folders.isEmpty())
+            emit scanFolders(found.folders);
     });
-}
-
-// A disk that does not answer holds up nothing but what is asked here.
-void MainModel::check(const QList<QUrl> &urls,
-                      const std::function<void(const QList<QUrl> &files, const QList<QUrl> &folders)> &use)
-{
-    auto *job = new DelayedFileCheck(urls);
-    connect(
-        job, &DelayedFileCheck::checked, this,
-        [use](int, const QList<QUrl> &files, const QList<QUrl> &, const QList<QUrl> &folders) { use(files, folders); },
-        Qt::QueuedConnection);
-    QThreadPool::globalInstance()->start(job);
 }
 
 void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)
@@ -198,9 +185,9 @@ void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)
     insertFiles(files, true);
 }
 
-void MainModel::restore(const QList<QUrl> &urls, const std::function<void()> &waitFirst)
+void MainModel::restore(const QList<QUrl> &urls)
 {
-    m_incoming.restore(urls, waitFirst);
+    m_incoming.restore(urls);
 }
 
 void MainModel::insertFiles(const QList<QUrl> &files, bool requestRead)
@@ -395,7 +382,7 @@ void MainModel::removeWithLyrics()
 
 void MainModel::removeAll()
 {
-    m_incoming.forgetAway();
+    m_incoming.clear();
     removeRows(0, m_items.count());
 }
 

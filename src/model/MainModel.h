@@ -14,7 +14,6 @@
 #include <QStringList>
 #include <QVector>
 
-#include <functional>
 #include <map>
 #include <memory>
 
@@ -109,9 +108,8 @@ public:
     [[nodiscard]] QList<QUrl> urls() const;
 
     // Adds a list that was kept across runs. Its files are looked at elsewhere and become rows when that is done, so
-    // that a disk that does not answer holds up nothing but them and those behind them. `waitFirst` is called there
-    // before the first look. To be called once.
-    void restore(const QList<QUrl> &urls, const std::function<void()> &waitFirst = {});
+    // that a disk that does not answer holds up nothing but its own. To be called once.
+    void restore(const QList<QUrl> &urls);
 
     // The supported extensions, each as "*.mp3", joined with the separator.
     Q_INVOKABLE QString supportedTypesMask(const QString &separator) const;
@@ -124,6 +122,7 @@ public:
     // A local file with one of the supported extensions, without regard to case; the disk is not asked.
     Q_INVOKABLE bool isSupported(const QUrl &url) const;
     Q_INVOKABLE void removeWithLyrics();
+    // Also what is on its way into the list, and what is kept for a disk that is away.
     Q_INVOKABLE void removeAll();
     // A forced search. Whether the item is queued now; false when there is none or its names are not suitable.
     Q_INVOKABLE bool startSearch(quint16 id);
@@ -176,8 +175,6 @@ private:
     using WorkQueue = std::map<quint64, quint16>;
     using Exports = QScopedPointer<LyricsFileWriter, QScopedPointerDeleteLater>;
 
-    void check(const QList<QUrl> &urls,
-               const std::function<void(const QList<QUrl> &files, const QList<QUrl> &folders)> &use);
     void insertFiles(const QList<QUrl> &files, bool requestRead);
     [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
     [[nodiscard]] std::vector<std::unique_ptr<ModelItem>> makeItems(const QList<QUrl> &files);

@@ -493,7 +493,13 @@ void ProxyModel::removeSelected()
 
 void ProxyModel::removeAll()
 {
-    removeSourceRows(m_rows);
+    if (!m_model || m_rows.size() != m_model->rowCount()) {
+        removeSourceRows(m_rows);
+        return;
+    }
+    m_model->removeAll();
+    emit currentIndexChanged(m_currentIndex);
+    emit selectedCountChanged(m_selectedCount);
 }
 
 void ProxyModel::removeSourceRows(const QVector<int> &rows)

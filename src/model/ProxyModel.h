@@ -51,7 +51,8 @@ public:
     // this one. True when the click was a plain one.
     Q_INVOKABLE bool itemClicked(int n);
     Q_INVOKABLE void removeSelected();
-    // Removes the songs that are shown; hidden ones stay.
+    // Removes the songs that are shown; hidden ones stay. When none is hidden, all that the list holds: see
+    // MainModel::removeAll().
     Q_INVOKABLE void removeAll();
     Q_INVOKABLE void selectAll();
     Q_INVOKABLE void locate(int n) const;

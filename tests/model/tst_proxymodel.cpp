@@ -277,6 +277,19 @@ private slots:
         QVERIFY(!stage.currents.isEmpty() && !stage.counts.isEmpty());
     }
 
+    void clearingTheWholeListForgetsWhatHasNoRow()
+    {
+        Stage stage(2, {1});
+        const QUrl away = QUrl::fromLocalFile("/no such stick/album/song.mp3"_s);
+        stage.model.restore({away});
+        stage.proxy.setShowFound(false);
+        stage.proxy.removeAll();
+        QCOMPARE(stage.model.urls().size(), 2); // the hidden one, and the one that is away
+        stage.proxy.setShowFound(true);
+        stage.proxy.removeAll();
+        QCOMPARE(stage.model.urls(), QList<QUrl>());
+    }
+
     // So many ranges that they go as one reset.
     void scatteredRowsAreRemoved()
     {

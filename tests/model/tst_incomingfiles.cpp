@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "model/IncomingFiles.h"
+#include "support/TestTable.h"
+
+#include <QSemaphore>
+#include <QTest>
+
+using Kind = DelayedFileCheck::Kind;
+
+// Files on disks that do not answer for a while.
+class tst_IncomingFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFolderThatDoesNotAnswerHoldsUpItsOwnFilesOnly()
+    {
+        IncomingFiles incoming(look);
+        QList<QUrl> out;
+        connect(&incoming, &IncomingFiles::block, this, [&out](const QList<QUrl> &files) { out += files; });
+        const QList<QUrl> dead{song("/dead/a/x/1.mp3"), song("/dead/a/x/2.mp3"), song("/dead/a/y/3.mp3")};
+        const QList<QUrl> healthy{song("/music/b/x/1.mp3"), song("/music/b/x/2.mp3"), song("/music/c/1.mp3")};
+        incoming.restore({dead.at(0), healthy.at(0), dead.at(1), healthy.at(1), dead.at(2), healthy.at(2)});
+        QTRY_COMPARE(out, healthy);
+        QCOMPARE(incoming.waiting(), dead);
+
+        QList<QUrl> found; // a drop meanwhile
+        incoming.look({healthy.at(0), dead.at(0)}, [&found](const IncomingFiles::Found &some) { found += some.files; });
+        QTRY_COMPARE(found, healthy.mid(0, 1));
+        m_answers.release(100);
+        QTRY_COMPARE(out, healthy + dead);
+        QTRY_COMPARE(found.size(), 2);
+        QVERIFY(incoming.waiting().isEmpty());
+        m_answers.acquire(m_answers.available());
+    }
+
+    void whatIsClearedDoesNotComeBack()
+    {
+        IncomingFiles incoming(look);
+        QList<QUrl> out;
+        connect(&incoming, &IncomingFiles::block, this, [&out](const QList<QUrl> &files) { out += files; });
+        const QUrl away = song("/away/1.mp3");
+        const QUrl dead = song("/dead/a/x/1.mp3");
+        incoming.restore({away, dead});
+        QTRY_COMPARE(incoming.away(), QList<QUrl>{away});
+        QList<QUrl> many;
+        for (int i = 0; i < 2500; ++i)
+            many.append(QUrl::fromLocalFile("/music/%1.mp3"_s.arg(i)));
+        incoming.add(many);
+        incoming.clear();
+        QVERIFY(incoming.waiting().isEmpty() && incoming.away().isEmpty());
+        const int before = out.size();
+        m_answers.release(100);
+        QTest::qWait(100);
+        QCOMPARE(out.size(), before);
+        incoming.add({away}); // goes on
+        QCOMPARE(out.size(), before + 1);
+    }
+
+private:
+    static QUrl song(const char *path) { return QUrl::fromLocalFile(QLatin1String(path)); }
+    static Kind look(const QUrl &url)
+    {
+        if (url.path().startsWith(QLatin1String("/dead/")))
+            m_answers.acquire();
+        return url.path().startsWith(QLatin1String("/away/")) ? Kind::Away : Kind::File;
+    }
+
+    static inline QSemaphore m_answers{0};
+};
+
+QTEST_GUILESS_MAIN(tst_IncomingFiles)
+#include "tst_incomingfiles.moc"
