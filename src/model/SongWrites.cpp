@@ -5,7 +5,7 @@
 
 namespace {
 
-// Nothing when the disk failed: it may be there or away.
+// Nothing when the disk failed, or the file was left unopened: it may be there or away.
 std::optional<ModelItem::FileKind> fileKindAfter(tags::UpdateResult result)
 {
     switch (result) {
@@ -14,6 +14,7 @@ std::optional<ModelItem::FileKind> fileKindAfter(tags::UpdateResult result)
     case tags::UpdateResult::NotRegular:
         return ModelItem::FileKind::Other;
     case tags::UpdateResult::DiskError:
+    case tags::UpdateResult::AwaitsRestoring:
     case tags::UpdateResult::RestoredLater:
         return std::nullopt;
     default:
