@@ -95,21 +95,37 @@ int WriterThread::pendingWrites() const
     return m_pending;
 }
 
+bool WriterThread::Progress::isSince(const Progress &earlier) const
+{
+    return m_ended != earlier.m_ended || m_steps != earlier.m_steps || m_moved != earlier.m_moved || m_moved.isEmpty();
+}
+
+WriterThread::Progress WriterThread::progress() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return progressNow();
+}
+
+WriterThread::Progress WriterThread::progressNow() const
+{
+    Progress progress;
+    progress.m_ended = m_ended;
+    progress.m_steps = m_steps;
+    progress.m_moved = bytesMoved(m_systemId);
+    return progress;
+}
+
 bool WriterThread::waitForQueued(std::chrono::milliseconds withoutProgress)
 {
     const QMutexLocker locker(&m_mutex);
-    quint64 endedBefore = m_ended;
-    quint64 stepsBefore = m_steps;
-    QByteArray movedBefore = bytesMoved(m_systemId);
+    Progress before = progressNow();
     QDeadlineTimer deadline(withoutProgress);
     while (m_pending > 0) {
         const auto left = std::chrono::milliseconds(deadline.remainingTime());
         m_writeEnded.wait(&m_mutex, QDeadlineTimer(std::min(lookInterval, left)));
-        const QByteArray moved = bytesMoved(m_systemId);
-        if (m_ended != endedBefore || m_steps != stepsBefore || moved != movedBefore || moved.isEmpty()) {
-            endedBefore = m_ended;
-            stepsBefore = m_steps;
-            movedBefore = moved;
+        const Progress now = progressNow();
+        if (now.isSince(before)) {
+            before = now;
             deadline = QDeadlineTimer(withoutProgress);
         } else if (deadline.hasExpired()) {
             m_stalled = true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QMutex>
 #include <QWaitCondition>
 
@@ -33,9 +34,23 @@ public:
     // the disk.
     void noteProgress() { ++m_steps; }
 
-    // Blocks until no write is queued. False when for that long no write ended, no step was noted and the thread
-    // neither read nor wrote anything: a large file on a slow stick is waited for as long as bytes move. Where the
-    // system does not count a thread's bytes nobody can tell a slow write from a dead one, and none is given up.
+    // How far the writes are: what has changed between two looks is progress. Where the system does not count a
+    // thread's bytes nobody can tell a slow write from a dead one, and each look is taken for progress.
+    class Progress
+    {
+    public:
+        [[nodiscard]] bool isSince(const Progress &earlier) const;
+
+    private:
+        friend class WriterThread;
+        quint64 m_ended = 0;
+        quint64 m_steps = 0;
+        QByteArray m_moved; // what the thread has read and written
+    };
+    [[nodiscard]] Progress progress() const;
+
+    // Blocks until no write is queued. False when for that long there was no progress: a large file on a slow stick is
+    // waited for as long as bytes move.
     bool waitForQueued(std::chrono::milliseconds withoutProgress);
 
 private:
@@ -45,6 +60,7 @@ private:
     static void noteSystemId();
     static void stopAtEnd();
     void endWrite();
+    [[nodiscard]] Progress progressNow() const; // with the mutex held
 
     std::unique_ptr<QThread> m_thread;
     mutable QMutex m_mutex;
