@@ -32,6 +32,13 @@ void LyricsExport::add(const QVector<quint16> &ids)
     m_next.start();
 }
 
+void LyricsExport::queueRest()
+{
+    m_next.stop();
+    while (!m_ids.isEmpty())
+        exportOne(m_ids.takeLast());
+}
+
 void LyricsExport::exportSome()
 {
     QElapsedTimer turn;

@@ -27,6 +27,8 @@ public:
 
     // Adds songs by their ids. Songs without lyrics, or removed before their turn, are left out.
     void add(const QVector<quint16> &ids);
+    // Hands over all that is left at once, for the end of the program, which waits until it is written.
+    void queueRest();
 
 signals:
     // All that was added is done; or some more of the automatic exports have failed, which are counted since the last

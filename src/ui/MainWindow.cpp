@@ -89,6 +89,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
 
 MainWindow::~MainWindow()
 {
+    m_export->queueRest();
     saveState();
 }
 

@@ -35,7 +35,8 @@ class WindowActions;
 // The program's one window: menus, tool bar and status bar around the scene. It turns actions and signals of the scene
 // into calls on the models, and asks before work of the user is lost.
 //
-// As it goes it stores its geometry, the settings and, when that is wanted, the list of files.
+// As it goes it queues what is left of an export, and stores its geometry, the settings and, when that is wanted, the
+// list of files.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT

@@ -7,6 +7,8 @@
 #include "network/Endpoints.h"
 #include "settings/Settings.h"
 #include "support/TestTable.h"
+#include "tags/TagWriter.h"
+#include "tags/WriterThread.h"
 #include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
 
@@ -243,6 +245,18 @@ private slots:
                 button->click();
         }
         QTRY_COMPARE(labels().filter("settings file"_s).size(), 0);
+    }
+
+    void anExportIsNotCutOffByTheEnd()
+    {
+        addCopies(3);
+        for (int row = 0; row < 3; ++row)
+            song(row)->setEditedLyricsTag("la"_s);
+        m_proxy->selectAll();
+        action("actionExportLyrics")->trigger();
+        m_window.reset();
+        QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(10)));
+        QCOMPARE(QDir(m_songs->path()).entryList({"*.txt"_s}).size(), 3);
     }
 
     void geometryAndPaneComeBack_data()
