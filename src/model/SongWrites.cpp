@@ -33,11 +33,11 @@ void SongWrites::start(const ModelItem &item, bool insists)
 {
     const quint16 id = item.id();
     const tags::SongTexts texts = item.texts();
-    // While an earlier write is under way nobody knows what the file will hold: each text counts as edited then.
-    std::optional<tags::ShownTexts> shown;
-    if (!isWriting(id))
-        shown = tags::ShownTexts{item.storedTexts(), insists};
-    m_writes[id].enqueue({texts, item.url()});
+    tags::ShownTexts shown{item.storedTexts(), insists, {}};
+    QQueue<Write> &writes = m_writes[id];
+    for (const Write &write : qAsConst(writes))
+        shown.underWay.append(write.texts);
+    writes.enqueue({texts, item.url()});
     ++m_files[item.url()];
     auto *writer = new TagWriter(m_dataFolder);
     connect(writer, &TagWriter::updated, this, [this](quint16 updatedId, tags::UpdateResult result) {

@@ -165,21 +165,39 @@ void keepOldCover(TagLib::Ogg::XiphComment &comment, const QByteArray &text)
 
 } // namespace
 
+namespace {
+
+using TextOf = QString SongTexts::*;
+
+bool isUnderWay(const ShownTexts &shown, TextOf text, const QString &stored)
+{
+    return std::any_of(shown.underWay.begin(), shown.underWay.end(),
+                       [&](const SongTexts &texts) { return comparable(texts.*text) == comparable(stored); });
+}
+
+bool isEdited(const SongTexts &texts, TextOf text, const QString &stored, const std::optional<ShownTexts> &shown)
+{
+    return !shown || comparable(texts.*text) != comparable(shown->texts.*text) || isUnderWay(*shown, text, stored);
+}
+
+} // namespace
+
 TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<ShownTexts> &shown)
 {
     const TagCopy read = TagCopy::ofFile(file);
     TagEdits edits;
-    if (texts.artist != read.value(keys::artist) && !(shown && texts.artist == shown->texts.artist))
+    const QString artist = read.value(keys::artist);
+    const QString title = read.value(keys::title);
+    if (texts.artist != artist && isEdited(texts, &SongTexts::artist, artist, shown))
         edits.artist = texts.artist;
-    if (texts.title != read.value(keys::title) && !(shown && texts.title == shown->texts.title))
+    if (texts.title != title && isEdited(texts, &SongTexts::title, title, shown))
         edits.title = texts.title;
-    const QString lyrics = comparable(texts.lyrics);
     const QString stored = comparable(read.value(keys::lyrics));
-    if (lyrics == stored || (shown && lyrics == comparable(shown->texts.lyrics)))
+    if (comparable(texts.lyrics) == stored || !isEdited(texts, &SongTexts::lyrics, stored, shown))
         return edits;
     edits.lyrics = texts.lyrics;
-    edits.conflict =
-        shown && !shown->replacesForeignLyrics && !stored.isEmpty() && stored != comparable(shown->texts.lyrics);
+    edits.conflict = shown && !shown->replacesForeignLyrics && !stored.isEmpty() &&
+                     stored != comparable(shown->texts.lyrics) && !isUnderWay(*shown, &SongTexts::lyrics, stored);
     return edits;
 }
 

@@ -26,7 +26,8 @@ struct TagEdits
     bool conflict = false; // there are lyrics in the file that the user was not shown
 };
 
-// What equals the texts that the user was shown was not edited, and is left. The rest is compared with the text as it
+// What equals the texts that the user was shown was not edited, and is left; the texts of an update under way are no
+// other program's change, and may have to be taken back. The rest is compared with the text as it
 // is read from the file. So lyrics that were not edited keep their second language and their description. And where
 // lyrics are never read, in APE tags and WAV files, empty lyrics mean that nobody saw the stored ones: deliberately
 // they do not remove them.

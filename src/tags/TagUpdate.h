@@ -4,6 +4,7 @@
 #include "tags/UpdateResult.h"
 
 #include <QString>
+#include <QVector>
 
 #include <optional>
 
@@ -24,6 +25,8 @@ struct ShownTexts
     SongTexts texts;
     // Also lyrics that another program has stored since are replaced; otherwise the update ends as ChangedMeanwhile.
     bool replacesForeignLyrics = false;
+    // Of earlier updates of the file whose end the user was not told yet: it may hold these as well.
+    QVector<SongTexts> underWay = {};
 };
 
 // Changes what differs in the tags of a file, and saves the file when something did. Names and lyrics count as
@@ -31,8 +34,8 @@ struct ShownTexts
 // nobody edited stays as it is stored. A name that was edited goes into each tag that does not read as that name
 // already. Opens nothing but regular files that may be written.
 //
-// With `shown`, what equals those texts was not edited and is left as it is, whatever another program has stored since;
-// without, each text counts as edited.
+// With `shown`, what equals those texts was not edited and is left as it is, whatever another program has stored since,
+// unless an update under way has changed it; without, each text counts as edited.
 //
 // The file is never left half written (see SafeSave), and everything else in it stays: the audio byte for byte, or
 // packet for packet in Ogg, and every other entry of its tags; what would lose any of that is refused. Frames of ID3v2

@@ -3,6 +3,8 @@
 
 #include "tags/WriterThread.h"
 
+#include <algorithm>
+
 namespace {
 
 // Empty when there is nothing to complain of.
@@ -48,6 +50,13 @@ QString reasonText(tags::UpdateResult result)
     return TagWriter::tr("the file could not be saved");
 }
 
+bool mayHoldLyrics(const tags::ShownTexts &shown)
+{
+    return !shown.texts.lyrics.isEmpty() ||
+           std::any_of(shown.underWay.begin(), shown.underWay.end(),
+                       [](const tags::SongTexts &texts) { return !texts.lyrics.isEmpty(); });
+}
+
 } // namespace
 
 TagWriter::TagWriter(const QString &dataFolder)
@@ -62,7 +71,10 @@ void TagWriter::queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_
 {
     const auto writeNow = [this, fileToWrite, id, _artist, title, lyrics, shown,
                            ticket = tags::WriterThread::instance().takeTicket()] {
-        write(fileToWrite, id, _artist, title, lyrics, shown);
+        if (shown && mayHoldLyrics(*shown))
+            store(fileToWrite, id, {_artist, title, lyrics}, shown);
+        else
+            write(fileToWrite, id, _artist, title, lyrics, shown);
     };
     QMetaObject::invokeMethod(this, writeNow, Qt::QueuedConnection);
 }
@@ -80,13 +92,19 @@ bool TagWriter::waitForQueued(std::chrono::milliseconds withoutProgress)
 void TagWriter::write(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
                       const QString &lyrics, const std::optional<tags::ShownTexts> &shown)
 {
-    if (!_artist.isEmpty() || !title.isEmpty() || !lyrics.isEmpty()) {
-        const tags::UpdateResult result =
-            tags::updateTags(fileToWrite.toLocalFile(), {_artist, title, lyrics}, m_dataFolder, shown);
-        emit updated(id, result);
-        const QString reason = reasonText(result);
-        if (!reason.isEmpty())
-            emit failed(id, reason);
-    }
+    if (_artist.isEmpty() && title.isEmpty() && lyrics.isEmpty())
+        emit written(id);
+    else
+        store(fileToWrite, id, {_artist, title, lyrics}, shown);
+}
+
+void TagWriter::store(const QUrl &file, quint16 id, const tags::SongTexts &texts,
+                      const std::optional<tags::ShownTexts> &shown)
+{
+    const tags::UpdateResult result = tags::updateTags(file.toLocalFile(), texts, m_dataFolder, shown);
+    emit updated(id, result);
+    const QString reason = reasonText(result);
+    if (!reason.isEmpty())
+        emit failed(id, reason);
     emit written(id);
 }

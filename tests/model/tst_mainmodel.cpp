@@ -431,6 +431,39 @@ private slots:
         QCOMPARE(stored("title"), "The Song"_s);
     }
 
+    void onlyAChangeThatWasToldOfIsOverwritten()
+    {
+        Stage stage;
+        const QUrl url = stage.song("Song.mp3"_s);
+        const QString elsewhere = stage.folder.filePath("elsewhere"_s);
+        QVERIFY(stage.load({url}));
+        ModelItem *item = stage.model.itemAt(0);
+        const auto write = [&](const QString &lyrics) {
+            item->setEditedLyricsTag(lyrics);
+            QVERIFY(stage.model.writeTags(1));
+        };
+        const auto stored = [&] {
+            if (!QTest::qWaitFor([&] { return stage.state(0) == ModelItem::ProcessComplete; }))
+                return "not written"_s;
+            MediaFileTags tags;
+            return tags.read(url.toLocalFile()) ? tags.value("lyrics"_s) : "not read"_s;
+        };
+        QVERIFY(QFile::rename(url.toLocalFile(), elsewhere));
+        write("one"_s);
+        QCOMPARE(stored(), "not read"_s); // told that the song is away
+        QVERIFY(QFile::rename(elsewhere, url.toLocalFile()));
+        QCOMPARE(tags::updateTags(url.toLocalFile(), {{}, {}, "theirs"_s}, {}), tags::UpdateResult::Saved);
+        write("two"_s);
+        write("three"_s); // while the one before is under way
+        QCOMPARE(stored(), "theirs"_s);
+        item->setTitleTag("Song"_s);
+        write("four"_s);
+        QCOMPARE(stored(), "four"_s);
+        item->setTitleTag({});
+        write({}); // three empty texts
+        QCOMPARE(stored(), QString());
+    }
+
     void wordsTypedDuringASearchStay()
     {
         Stage stage({{"Song"_s, "found"_s}});

@@ -227,6 +227,16 @@ private slots:
         shown.replacesForeignLyrics = true;
         QCOMPARE(update(), UpdateResult::Saved);
         QCOMPARE(seen("lyrics"), texts.lyrics);
+        // What an earlier update of the user's own has stored is no tagger's.
+        shown = {{"The Artist"_s, "Shown"_s, {}}, false, {{"The Artist"_s, "Edited"_s, "mine"_s}}};
+        texts = {"The Artist"_s, "Shown"_s, "mended"_s};
+        QCOMPARE(update(), UpdateResult::Saved);
+        QCOMPARE(seen("title"), texts.title);
+        QCOMPARE(seen("lyrics"), texts.lyrics);
+        shown.underWay.append(texts);
+        texts.lyrics.clear(); // as it was shown, and typed all the same
+        QCOMPARE(update(), UpdateResult::Saved);
+        QCOMPARE(seen("lyrics"), QString());
     }
 };
 
