@@ -7,8 +7,10 @@
 #include <QJsonObject>
 
 #include <cerrno>
+#include <cstdio>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -41,6 +43,13 @@ DownloadSource readSource(const QString &path)
     const QJsonObject object = QJsonDocument::fromJson(file.read(mostSourceBytes)).object();
     return {object.value(versionKeyName).toString(), object.value(urlKeyName).toString(),
             qint64(object.value(bytesKeyName).toDouble()), object.value(validatorKeyName).toString().toLatin1()};
+}
+
+// Also for a link that leads nowhere.
+bool hasEntry(const QByteArray &path)
+{
+    struct stat status = {};
+    return ::lstat(path.constData(), &status) == 0;
 }
 
 } // namespace
@@ -116,10 +125,22 @@ bool PartialDownload::finish()
 
 void PartialDownload::adoptSetupFile() const
 {
-    if (ownFileSize(m_setupPath) < 0 || QFile::exists(partPath()))
+    const QByteArray part = QFile::encodeName(partPath());
+    if (ownFileSize(m_setupPath) < 0 || hasEntry(part))
         return;
     QFile::remove(sourcePath());
-    QFile::rename(m_setupPath, partPath());
+    // Qt's own way would copy into the target of a link that has the name. Where this fails, the setup file stays until
+    // the next one replaces it.
+    ::renameat2(AT_FDCWD, QFile::encodeName(m_setupPath).constData(), AT_FDCWD, part.constData(), RENAME_NOREPLACE);
+}
+
+void PartialDownload::leave()
+{
+    if (!m_file.isOpen())
+        return;
+    close();
+    if (ownFileSize(sourcePath()) < 0)
+        remove();
 }
 
 void PartialDownload::remove()

@@ -45,9 +45,11 @@ public:
     bool write(const QByteArray &data);
     // Gives the closed file the name of the setup file, in place of an older one.
     bool finish();
-    // Makes a setup file whose size is wrong the partial one, unless there is one already.
+    // Makes a setup file whose size is wrong the partial one, unless something has that name already.
     void adoptSetupFile() const;
     void close() { m_file.close(); }
+    // Closes an open file, which goes when nobody could go on with it.
+    void leave();
     void remove();
 
 private:
