@@ -13,6 +13,21 @@ namespace {
 constexpr int longestVersion = 32;
 constexpr int longestLine = 1000;
 constexpr int mostLines = 1000; // those with the versions' numbers among them
+constexpr int mostCharacters = 65536;
+
+// How much of the notes may still be shown.
+struct Room
+{
+    int lines = mostLines;
+    int characters = mostCharacters;
+
+    [[nodiscard]] bool isLeft() const { return lines > 0 && characters > 0; }
+    void take(const QString &text)
+    {
+        --lines;
+        characters -= text.size();
+    }
+};
 
 QString cut(const QString &text, int length)
 {
@@ -21,7 +36,7 @@ QString cut(const QString &text, int length)
 
 QString changeItem(const QString &change)
 {
-    const QString text = cut(change, longestLine).toHtmlEscaped();
+    const QString text = change.toHtmlEscaped();
     return text.contains(QLatin1String("CRITICAL")) ? QStringLiteral("<li><b>%1</b></li>").arg(text)
                                                     : QStringLiteral("<li>%1</li>").arg(text);
 }
@@ -38,15 +53,18 @@ QString heading(const ReleasedVersion &version)
 }
 
 // Blank lines, which stand around the list in the file, are no changes.
-QString changeList(const QString &changes, int *linesLeft)
+QString changeList(const QString &changes, Room *room)
 {
     QString html = QStringLiteral("<ul>");
     for (const QString &line : changes.split(QLatin1Char('\n'))) {
         QString change = line.trimmed();
         if (change.startsWith(QLatin1Char('-')))
             change = change.mid(1).trimmed();
-        if (!change.isEmpty() && (*linesLeft)-- > 0)
-            html += changeItem(change);
+        if (change.isEmpty() || !room->isLeft())
+            continue;
+        change = cut(change, std::min(longestLine, room->characters));
+        room->take(change);
+        html += changeItem(change);
     }
     return html + QLatin1String("</ul><br/>");
 }
@@ -78,11 +96,12 @@ QString shownVersion(const QString &version)
 QString releaseNotes(const ReleasedVersions &versions)
 {
     QString html;
-    int linesLeft = mostLines;
+    Room room;
     for (const ReleasedVersion &version : versions) {
-        if (linesLeft-- <= 0)
+        if (!room.isLeft())
             break;
-        html += heading(version) + changeList(version.changes, &linesLeft);
+        room.take(shownVersion(version.version));
+        html += heading(version) + changeList(version.changes, &room);
     }
     return html;
 }

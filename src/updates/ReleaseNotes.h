@@ -16,5 +16,5 @@
 
 // What has changed in these versions, in their order, as HTML for a QTextBrowser: for each its number, its date and a
 // list of its changes. Whatever came from the maker's site is text in it, never markup. At most a thousand changes are
-// shown, each cut at a thousand characters, so that hostile notes cannot hold up the window.
+// shown, each cut at a thousand characters and all at 65536, so that hostile notes cannot hold up the window.
 [[nodiscard]] QString releaseNotes(const ReleasedVersions &versions);

@@ -7,11 +7,16 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
 // QXmlStreamReader compares every attribute of a tag with all others: 256 kB of them take 14 s.
 constexpr int mostAttributes = 64;
+
+// More than anybody has released; what is built from them must not hold up the window.
+constexpr std::size_t mostVersions = 1000;
 
 // Counts, after each "<", what looks like the beginning of an attribute's value. A value cannot hold "<", so a tag has
 // at most as many attributes.
@@ -94,6 +99,20 @@ bool isVersion(const QString &text)
     return pattern.match(text).hasMatch();
 }
 
+// The newest of them, the newest last. Keys are made once for each version and not for each comparison.
+ReleasedVersions sorted(const ReleasedVersions &versions)
+{
+    std::vector<std::pair<QByteArray, int>> keys;
+    for (int i = 0; i < versions.size(); ++i)
+        keys.emplace_back(versionKey(versions[i].version), i);
+    std::sort(keys.begin(), keys.end());
+    const std::size_t first = keys.size() - std::min(keys.size(), mostVersions);
+    ReleasedVersions result;
+    for (std::size_t i = first; i < keys.size(); ++i)
+        result.append(versions[keys[i].second]);
+    return result;
+}
+
 } // namespace
 
 ReleasedVersions readUpdateInformation(const QByteArray &document)
@@ -119,8 +138,5 @@ ReleasedVersions readUpdateInformation(const QByteArray &document)
         reader.readNext();
     if (reader.hasError())
         return {};
-    std::stable_sort(versions.begin(), versions.end(), [](const ReleasedVersion &a, const ReleasedVersion &b) {
-        return isNewerVersion(b.version, a.version);
-    });
-    return versions;
+    return sorted(versions);
 }

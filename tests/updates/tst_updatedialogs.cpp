@@ -70,7 +70,7 @@ private slots:
     void hostileNotesAreCut()
     {
         ReleasedVersions versions(3000, {"9"_s.repeated(100000), {}, "x"_s.repeated(300000), {}, {}});
-        QVERIFY(releaseNotes(versions).size() < 2000000);
+        QVERIFY(releaseNotes(versions).size() < 200000);
         versions = {{"2.0"_s, {}, "- x\n"_s.repeated(100000), {}, {}}};
         QCOMPARE(releaseNotes(versions).count(QStringLiteral("<li>")), 999);
     }

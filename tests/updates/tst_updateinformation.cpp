@@ -79,6 +79,9 @@ private slots:
         addRow("65 attributes", document("<VersionInfo>" + manyAttributes(65) + "</VersionInfo>"), QStringList());
         addRow("nested deeply", document(version("2.0", "<changes>" + nested("a", 100000) + "</changes>")),
                QStringList{"2.0"_s});
+        addRow("more than a thousand",
+               document(version("3.0") + version("1.0").repeated(999) + version("0.9").repeated(9)),
+               QStringList(QVector<QString>(999, "1.0"_s).toList()) << "3.0"_s);
         addRow("empty", QByteArray(), QStringList());
         addRow("a page", QByteArray("<html><body>404</body></html>"), QStringList());
         addRow("cut off", document(three).chopped(5), QStringList());
