@@ -30,17 +30,17 @@ IncomingFiles::IncomingFiles(const DelayedFileCheck::Look &look, QObject *parent
     : QObject(parent)
     , m_look(look)
 {
-    connect(&m_nextBlock, &QTimer::timeout, this, &IncomingFiles::emitBlock);
+    connect(&m_nextBlock, &QTimer::timeout, this, [this] { emitBlock(false); });
     connect(&m_nextLook, &QTimer::timeout, this, &IncomingFiles::takeFound);
     m_nextLook.setInterval(fetchInterval);
 }
 
 void IncomingFiles::restore(const QList<QUrl> &urls)
 {
-    const auto use = [this](const Found &found) {
+    const auto use = [this](const Found &found, bool isFirst) {
         m_away += found.away;
         if (!found.files.isEmpty()) // else an empty block would come out
-            add(found.files);
+            add(found.files, isFirst);
     };
     begin(urls, use, true);
 }
@@ -68,20 +68,21 @@ void IncomingFiles::takeFound()
     {
         Use use;
         Found found;
+        bool isFirst;
     };
     std::vector<Report> reports; // used at the end, since a use may begin or clear jobs
     for (Job &job : m_jobs) {
         passStalled(job);
         Found found = takeFrom(job);
         if (!found.files.isEmpty() || !found.folders.isEmpty() || !found.away.isEmpty())
-            reports.push_back({job.use, std::move(found)});
+            reports.push_back({job.use, std::move(found), !std::exchange(job.hasReported, true)});
     }
     m_jobs.erase(std::remove_if(m_jobs.begin(), m_jobs.end(), [](const Job &job) { return job.checks.empty(); }),
                  m_jobs.end());
     if (m_jobs.empty())
         m_nextLook.stop();
     for (const Report &report : reports)
-        report.use(report.found);
+        report.use(report.found, report.isFirst);
 }
 
 IncomingFiles::Found IncomingFiles::takeFrom(Job &job)
@@ -130,16 +131,15 @@ void IncomingFiles::clear()
     m_away.clear();
 }
 
-void IncomingFiles::add(const QList<QUrl> &files)
+void IncomingFiles::add(const QList<QUrl> &files, bool isFirst)
 {
     m_known += files;
     if (!m_nextBlock.isActive())
-        emitBlock();
+        emitBlock(isFirst);
 }
 
-void IncomingFiles::emitBlock()
+void IncomingFiles::emitBlock(bool isFirst)
 {
-    const bool isFirst = !m_nextBlock.isActive();
     const QList<QUrl> files = m_known.mid(0, blockSize);
     m_known.erase(m_known.begin(), m_known.begin() + files.size());
     const bool areMoreLeft = !m_known.isEmpty();

@@ -21,7 +21,8 @@ class IncomingFiles : public QObject
 
 public:
     using Found = DelayedFileCheck::Found;
-    using Use = std::function<void(const Found &found)>;
+    // `isFirst`: nothing was handed over before of the same urls.
+    using Use = std::function<void(const Found &found, bool isFirst)>;
 
     explicit IncomingFiles(QObject *parent = nullptr);
     // Looks at urls in this way.
@@ -32,8 +33,9 @@ public:
     // Looks at urls and hands over what they are, in parts, from the event loop. They are in the order in which they
     // were given, but for those that have to wait for a disk.
     void look(const QList<QUrl> &urls, const Use &use);
-    // Takes files that are known to be regular; the first block of them comes out before this returns.
-    void add(const QList<QUrl> &files);
+    // Takes files that are known to be regular; the first block of them comes out before this returns. Later parts of
+    // what was handed over in parts are not the first ones.
+    void add(const QList<QUrl> &files, bool isFirst = true);
     // Forgets all, also what is away.
     void clear();
 
@@ -43,7 +45,8 @@ public:
     [[nodiscard]] QList<QUrl> away() const { return m_away; }
 
 signals:
-    // In the order in which they were taken. `isFirst` says that no block came right before this one.
+    // In the order in which they were taken. `isFirst` says that no block came right before this one, and that its
+    // files are not a later part.
     void block(const QList<QUrl> &files, bool isFirst);
 
 private:
@@ -53,13 +56,14 @@ private:
         std::vector<std::unique_ptr<DelayedFileCheck>> checks;
         Use use;
         bool isKept = false;
+        bool hasReported = false;
     };
 
     void begin(const QList<QUrl> &urls, const Use &use, bool isKept);
     void takeFound();
     [[nodiscard]] static Found takeFrom(Job &job);
     void passStalled(Job &job) const;
-    void emitBlock();
+    void emitBlock(bool isFirst);
 
     const DelayedFileCheck::Look m_look;
     std::vector<Job> m_jobs;

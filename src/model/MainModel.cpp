@@ -157,16 +157,17 @@ bool MainModel::isSupported(const QUrl &url) const
 
 void MainModel::addUrls(const QList<QUrl> &urls)
 {
-    m_incoming.look(urls, [this](const IncomingFiles::Found &found) { add(found.files, IsRegularFile); });
+    m_incoming.look(urls,
+                    [this](const IncomingFiles::Found &found, bool isFirst) { m_incoming.add(found.files, isFirst); });
 }
 
 void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
 {
-    m_incoming.look(urls, [this](const IncomingFiles::Found &found) {
+    m_incoming.look(urls, [this](const IncomingFiles::Found &found, bool isFirst) {
         QList<QUrl> supported;
         std::copy_if(found.files.begin(), found.files.end(), std::back_inserter(supported),
                      [this](const QUrl &url) { return isSupported(url); });
-        add(supported, IsRegularFile);
+        m_incoming.add(supported, isFirst);
         if (!found.folders.isEmpty())
             emit scanFolders(found.folders);
     });

@@ -17,7 +17,11 @@ private slots:
     {
         IncomingFiles incoming(look);
         QList<QUrl> out;
-        connect(&incoming, &IncomingFiles::block, this, [&out](const QList<QUrl> &files) { out += files; });
+        int requests = 0; // for a read, each of which would overtake the one under way
+        connect(&incoming, &IncomingFiles::block, this, [&out, &requests](const QList<QUrl> &files, bool isFirst) {
+            out += files;
+            requests += isFirst ? 1 : 0;
+        });
         const QList<QUrl> dead{song("/dead/a/x/1.mp3"), song("/dead/a/x/2.mp3"), song("/dead/a/y/3.mp3")};
         const QList<QUrl> healthy{song("/music/b/x/1.mp3"), song("/music/b/x/2.mp3"), song("/music/c/1.mp3")};
         incoming.restore({dead.at(0), healthy.at(0), dead.at(1), healthy.at(1), dead.at(2), healthy.at(2)});
@@ -25,10 +29,12 @@ private slots:
         QCOMPARE(incoming.waiting(), dead);
 
         QList<QUrl> found; // a drop meanwhile
-        incoming.look({healthy.at(0), dead.at(0)}, [&found](const IncomingFiles::Found &some) { found += some.files; });
+        incoming.look({healthy.at(0), dead.at(0)},
+                      [&found](const IncomingFiles::Found &some, bool) { found += some.files; });
         QTRY_COMPARE(found, healthy.mid(0, 1));
         m_answers.release(100);
         QTRY_COMPARE(out, healthy + dead);
+        QCOMPARE(requests, 1);
         QTRY_COMPARE(found.size(), 2);
         QVERIFY(incoming.waiting().isEmpty());
         m_answers.acquire(m_answers.available());
