@@ -164,7 +164,7 @@ int main(int argc, char **argv)
     if (next == AfterRecovery::End)
         return Done;
     app.restoreFilesList();
-    app.mainModel()->addUrls(line.songs);
+    app.mainModel()->addUrlsFromDrop(line.songs);
     app.setUpLanguages();
     app.noteStart();
     const int status = runWindow(app, signalsToEnd);

@@ -142,6 +142,14 @@ class InstanceTest(unittest.TestCase):
         self.assertTrue(kept.pop("geometry") and again.pop("geometry"))
         self.assertEqual(again, kept)
 
+    def test_a_folder_that_is_named_at_the_start_is_added(self):
+        session = self.session(["Nettle Field"])
+        session.site.released.set()
+        paths = self.songs_for(session, ["Nettle Field"])
+        program = session.start([], "/bin/sh", "-c", f"exec \"$0\" '{session.music}'")
+        self.assertEqual(session.wait_for_lyrics(program, paths, STARTED_SECONDS), [], session.messages())
+        self.assertEqual(rig.end(program), 0, session.messages())
+
     def test_the_settings_of_writing_and_of_the_sites_take_effect(self):
         session = self.session(["Linen Clouds"])
         session.site.released.set()
