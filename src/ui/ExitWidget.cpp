@@ -17,6 +17,7 @@ ExitWidget::ExitWidget(const MainModel *model, QWidget *parent)
     , m_model(model)
     , m_progressLabel(new QLabel(this))
 {
+    setAttribute(Qt::WA_DeleteOnClose);
     auto *icon = new QLabel(this);
     icon->setPixmap(QIcon(QStringLiteral(":/img/main-icon.png")).pixmap(parent->windowHandle(), iconSize));
     auto *question = new QLabel(tr("Do you want to quit anyway?"), this);

@@ -7,7 +7,7 @@ class MainModel;
 class QLabel;
 
 // Asks whether to quit while songs are still being searched for. When the last of these searches ends before an answer
-// is given, it accepts by itself.
+// is given, it accepts by itself. It deletes itself when it is closed.
 class ExitWidget : public QDialog
 {
     Q_OBJECT

@@ -413,19 +413,20 @@ void MainWindow::quit_app()
 
 void MainWindow::beforeLeaving(const std::function<void()> &leave)
 {
-    m_editGuard->before([this, leave] { m_unsavedGuard.beforeQuitting([this, leave] { askToQuit(leave); }); });
+    m_editGuard->before([this, leave] { askToQuit([this, leave] { m_unsavedGuard.beforeQuitting(leave); }); });
 }
 
-void MainWindow::askToQuit(const std::function<void()> &leave)
+void MainWindow::askToQuit(const std::function<void()> &quit)
 {
     if (m_parts.mainModel->activeCount() == 0) {
-        leave();
+        quit();
         return;
     }
-    m_leave = leave;
     if (!m_exitWidget) {
         m_exitWidget = new ExitWidget(m_parts.mainModel, this);
-        connect(m_exitWidget, &QDialog::accepted, this, [this] { m_leave(); });
+        // Queued: the last search may end it, in the middle of the step that starts the write of what was found.
+        connect(m_exitWidget, &QDialog::accepted, this, quit, Qt::QueuedConnection);
+        connect(m_exitWidget, &QDialog::finished, this, [this] { m_exitWidget.clear(); });
     }
     m_exitWidget->open();
     m_exitWidget->raise();

@@ -10,6 +10,7 @@
 #include "ui/UsageConsent.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 
@@ -142,7 +143,7 @@ private:
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
     // Runs an action that ends the program, once nothing is lost by that which the user wants to keep.
     void beforeLeaving(const std::function<void()> &leave);
-    void askToQuit(const std::function<void()> &leave);
+    void askToQuit(const std::function<void()> &quit);
     [[nodiscard]] QStringList fileUrls() const;
     void saveState() const;
 
@@ -155,8 +156,7 @@ private:
     LyricsExport *const m_export;
     const std::unique_ptr<WindowActions> m_actions;
     StatusLine *const m_status;
-    ExitWidget *m_exitWidget = nullptr; // made when it is first needed
-    std::function<void()> m_leave;      // what follows its yes
+    QPointer<ExitWidget> m_exitWidget; // while it is open
     const SearchProvider m_searchProvider;
     bool m_quitting = false;
     QTimer m_statusUpdate; // one update for all changes of a turn of the event loop

@@ -3,6 +3,7 @@
 
 #include "model/MainModel.h"
 #include "ui/QuestionBox.h"
+#include "ui/WritesWait.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,28 +16,61 @@ UnsavedLyricsGuard::UnsavedLyricsGuard(MainModel *model, QWidget *window)
 
 void UnsavedLyricsGuard::beforeRemoving(const QVector<quint16> &ids, std::function<void()> action)
 {
-    const auto unsaved =
-        std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_model->hasUnsavedLyrics(id); });
-    before(static_cast<int>(unsaved), std::move(action));
+    afterWrites(ids, [this, ids, action = std::move(action)] {
+        const auto unsaved =
+            std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_model->hasUnsavedLyrics(id); });
+        before(static_cast<int>(unsaved), action);
+    });
 }
 
 void UnsavedLyricsGuard::beforeRemovingAny(std::function<void()> action)
 {
-    before(m_model->idsWithUnsavedLyrics().size(), std::move(action));
+    const QVector<quint16> ids = m_model->idsWithUnsavedLyrics();
+    afterWrites(ids, [this, ids, action = std::move(action)] { before(unsavedOfAll(ids).size(), action); });
 }
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
-    const QVector<quint16> unsaved = m_model->unsavedIds();
-    before(unsaved.size(), [this, unsaved, action = std::move(action)] {
-        m_givenUp = unsaved;
-        action();
+    const QVector<quint16> ids = m_model->idsWithUnsavedLyrics();
+    afterWrites(ids, [this, ids, action = std::move(action)] {
+        const QVector<quint16> unsaved = unsavedOfAll(ids);
+        before(unsaved.size(), [this, unsaved, action] {
+            m_givenUp = unsaved;
+            action();
+        });
     });
 }
 
 void UnsavedLyricsGuard::giveUp()
 {
     m_model->giveUpUnsaved(m_givenUp);
+}
+
+void UnsavedLyricsGuard::afterWrites(const QVector<quint16> &ids, std::function<void()> action)
+{
+    if (m_wait) {
+        m_wait->raise();
+    } else if (!WritesWait::isNeeded(*m_model, ids)) {
+        action();
+    } else {
+        m_wait = new WritesWait(m_model, ids, m_window);
+        QObject::connect(m_wait, &WritesWait::done, m_window, [this, action = std::move(action)] {
+            m_wait.clear();
+            action();
+        });
+    }
+}
+
+// The songs whose write has failed, and those that were waited for in vain. Other writes that are under way are of
+// searches that ended meanwhile.
+QVector<quint16> UnsavedLyricsGuard::unsavedOfAll(const QVector<quint16> &waitedFor) const
+{
+    QVector<quint16> unsaved = m_model->unsavedIds();
+    std::copy_if(waitedFor.begin(), waitedFor.end(), std::back_inserter(unsaved),
+                 [this](quint16 id) { return m_model->isWriting(id) && m_model->hasUnsavedLyrics(id); });
+    std::sort(unsaved.begin(), unsaved.end());
+    unsaved.erase(std::unique(unsaved.begin(), unsaved.end()), unsaved.end());
+    return unsaved;
 }
 
 void UnsavedLyricsGuard::before(int unsaved, std::function<void()> action)

@@ -10,9 +10,10 @@
 class MainModel;
 class QMessageBox;
 class QWidget;
+class WritesWait;
 
-// Sees to it that lyrics which stand in the list only, because their write failed or is under way, are never given up
-// unasked. Main thread only.
+// Sees to it that lyrics which stand in the list only, because their write failed, are never given up unasked. Writes
+// that are under way are waited for first (ui/WritesWait.h). Main thread only.
 class UnsavedLyricsGuard
 {
     Q_DECLARE_TR_FUNCTIONS(UnsavedLyricsGuard)
@@ -21,23 +22,27 @@ public:
     // Nothing is owned; both must outlive the guard. The question belongs to the window.
     UnsavedLyricsGuard(MainModel *model, QWidget *window);
 
-    // Runs an action that removes these songs; when some have such lyrics, not before the user has given them up, and
-    // never when the user cancels or the question is open already.
+    // Runs an action that removes these songs, at once when nothing is in its way; when some have such lyrics, not
+    // before the user has given them up, and never when the user cancels, or while another action waits or is asked
+    // about.
     void beforeRemoving(const QVector<quint16> &ids, std::function<void()> action);
     // In the same way an action that removes any songs.
     void beforeRemovingAny(std::function<void()> action);
-    // In the same way an action that ends the program, which waits for the writes that are under way. Who gives lyrics
-    // up here may still stay: giveUp() is to be called when the program ends indeed.
+    // In the same way an action that ends the program. Who gives lyrics up here may still stay: giveUp() is to be
+    // called when the program ends indeed.
     void beforeQuitting(std::function<void()> action);
     // Tells the model which lyrics the user gave up when last asked before quitting.
     void giveUp();
 
 private:
+    void afterWrites(const QVector<quint16> &ids, std::function<void()> action);
+    [[nodiscard]] QVector<quint16> unsavedOfAll(const QVector<quint16> &waitedFor) const;
     void before(int unsaved, std::function<void()> action);
     void ask(int unsaved, std::function<void()> action);
 
     MainModel *m_model;
     QWidget *m_window;
+    QPointer<WritesWait> m_wait;      // while it lasts
     QPointer<QMessageBox> m_question; // while it is open
     QVector<quint16> m_givenUp;
 };

@@ -29,6 +29,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QSemaphore>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -553,9 +554,10 @@ private slots:
                 m_model->removeAll();
             QVERIFY(!box->isVisible());
         }
-        QCOMPARE(m_window->isVisible(), !quits);
         QTimer::singleShot(quits ? 5000 : 100, qApp, [] { QCoreApplication::exit(1); });
         QCOMPARE(QCoreApplication::exec(), quits ? 0 : 1);
+        QCOMPARE(m_window->isVisible(), !quits);
+        QVERIFY(!m_window->findChild<ExitWidget *>()); // a kept one would keep its language
     }
 
     void aDraftIsAskedAbout_data()
@@ -703,6 +705,57 @@ private slots:
         QCOMPARE(m_model->unsavedCount(), 0); // nothing is left to be kept elsewhere
         if (cause == "key"_s) // the next one takes the place, and the keyboard goes on with it
             QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{song(1)->id()});
+    }
+
+    void writesAreWaitedFor_data()
+    {
+        QTest::addColumn<QString>("cause");
+        QTest::addColumn<bool>("succeeds");
+        addRow("the list is cleared", "actionClearList", true);
+        addRow("the list is cleared, and the write fails", "actionClearList", false);
+        addRow("the window is closed", "close", true);
+        addRow("the window is closed, and the write fails", "close", false);
+        addRow("it is closed during a search, and the write fails", "search", false);
+    }
+
+    void writesAreWaitedFor()
+    {
+        QFETCH(QString, cause);
+        QFETCH(bool, succeeds);
+        const bool isClearing = cause == "actionClearList"_s;
+        addCopies(3);
+        if (!succeeds)
+            QVERIFY(QFile::remove(song(1)->url().toLocalFile()));
+        if (cause == "search"_s)
+            song(2)->setProcessState(ModelItem::ProcessWaiting);
+        QSemaphore disk;
+        auto *slowWrite = new QObject;
+        slowWrite->moveToThread(tags::WriterThread::instance().thread());
+        QMetaObject::invokeMethod(slowWrite, [&disk] { disk.acquire(); });
+        slowWrite->deleteLater();
+        const auto act = [&] {
+            isClearing ? action("actionClearList")->trigger() : static_cast<void>(m_window->close());
+        };
+        const auto sayYes = [&] {
+            if (cause == "search"_s)
+                m_window->findChild<ExitWidget *>()->accept();
+        };
+        beginDraft(1);
+        act();
+        QTRY_VERIFY(question());
+        question()->button(QMessageBox::Save)->click();
+        sayYes();
+        QTRY_VERIFY(question() && question()->text().contains("still being written"_s));
+        QVERIFY(m_window->isVisible() && m_model->rowCount() == 3);
+        answer(QMessageBox::Cancel); // and the user stays
+        act();
+        sayYes();
+        disk.release();
+        if (!succeeds)
+            answer(QMessageBox::Discard);
+        QTRY_COMPARE(m_model->rowCount(), isClearing ? 0 : 3);
+        QTRY_COMPARE(m_window->isVisible(), isClearing);
+        QVERIFY(!question());
     }
 
     void rowsAreSelectedHiddenAndRemovedByKey()

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "ui/WritesWait.h"
+
+#include "model/MainModel.h"
+#include "ui/QuestionBox.h"
+
+#include <algorithm>
+#include <chrono>
+
+// As long as the end of the program waits for a write that makes no progress.
+static constexpr std::chrono::seconds patience(30);
+static constexpr std::chrono::milliseconds lookInterval(50);
+// Most writes are done before a box could be read.
+static constexpr std::chrono::milliseconds unnoticed(400);
+
+WritesWait::WritesWait(const MainModel *model, const QVector<quint16> &ids, QWidget *window)
+    : QObject(window)
+    , m_model(model)
+    , m_window(window)
+    , m_ids(ids)
+    , m_progress(tags::WriterThread::instance().progress())
+    , m_deadline(patience)
+{
+    connect(&m_next, &QTimer::timeout, this, &WritesWait::look);
+    m_next.start(lookInterval);
+    QTimer::singleShot(unnoticed, this, &WritesWait::show);
+}
+
+WritesWait::~WritesWait() = default;
+
+bool WritesWait::isNeeded(const MainModel &model, const QVector<quint16> &ids)
+{
+    return std::any_of(ids.begin(), ids.end(), [&model](quint16 id) { return model.isWriting(id); });
+}
+
+void WritesWait::look()
+{
+    const tags::WriterThread::Progress progress = tags::WriterThread::instance().progress();
+    if (progress.isSince(m_progress)) {
+        m_progress = progress;
+        m_deadline = QDeadlineTimer(patience);
+    }
+    if (isNeeded(*m_model, m_ids) && !m_deadline.hasExpired())
+        return;
+    m_next.stop();
+    if (m_box) {
+        disconnect(m_box, nullptr, this, nullptr); // it is not the user who ends it
+        m_box->reject();
+    }
+    deleteLater();
+    emit done();
+}
+
+void WritesWait::show()
+{
+    if (!m_next.isActive())
+        return;
+    m_box = makeQuestionBox(tr("Lyrics are still being written into the songs."),
+                            tr("It goes on by itself when this is done."), QMessageBox::Cancel, m_window);
+    connect(m_box, &QMessageBox::finished, this, [this] {
+        m_next.stop();
+        deleteLater();
+    });
+    m_box->open();
+}
+
+void WritesWait::raise()
+{
+    if (!m_box)
+        return;
+    m_box->raise();
+    m_box->activateWindow();
+}
