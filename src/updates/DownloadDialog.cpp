@@ -49,7 +49,9 @@ DownloadDialog::DownloadDialog(UpdateChecker *checker, QWidget *parent)
     layout->addWidget(m_buttons, 4, 0, 1, 2);
     connect(m_checker, &UpdateChecker::progressChanged, this, &DownloadDialog::showProgress);
     connect(m_checker, &UpdateChecker::stateChanged, this, &DownloadDialog::updateState);
+    connect(m_checker, &UpdateChecker::installingChanged, this, &DownloadDialog::updateState);
     connect(this, &QDialog::rejected, m_checker, &UpdateChecker::abortDownload);
+    connect(this, &QDialog::rejected, m_checker, &UpdateChecker::abortInstall);
     showProgress(0, 0);
     updateState();
 }
@@ -62,7 +64,7 @@ void DownloadDialog::createButtons()
     QPushButton *cancel = m_buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     cancel->setAutoDefault(false);
     cancel->setFocus();
-    connect(m_buttons, &QDialogButtonBox::accepted, this, &DownloadDialog::installRequested);
+    connect(m_buttons, &QDialogButtonBox::accepted, m_checker, &UpdateChecker::install);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
@@ -70,10 +72,18 @@ void DownloadDialog::updateState()
 {
     const bool isReady = m_checker->state() == UpdateChecker::InstallAvailable;
     m_install->setVisible(isReady);
-    if (!isReady) {
+    m_buttons->setEnabled(!m_checker->isInstalling());
+    setBlocking(m_checker->isOpening());
+    if (m_checker->isInstalling())
+        m_status->setText(tr("Installing..."));
+    else if (isReady)
+        showReady();
+    else
         m_status->setText(tr("Downloading update..."));
-        return;
-    }
+}
+
+void DownloadDialog::showReady()
+{
     m_status->setText(tr("Ready to install..."));
     m_progress->clear();
     m_bar->setMaximum(1);
@@ -93,11 +103,15 @@ void DownloadDialog::showProgress(int progress, int total)
         m_progress->setText(QStringLiteral(" ")); // keeps the line's height
 }
 
-void DownloadDialog::install()
+// A window that is shown does not become modal before it is shown anew.
+void DownloadDialog::setBlocking(bool blocking)
 {
-    m_buttons->setEnabled(false);
-    m_status->setText(tr("Installing..."));
-    m_checker->install();
+    if (blocking == isModal())
+        return;
+    const bool isShown = isVisible();
+    hide();
+    setModal(blocking);
+    setVisible(isShown);
 }
 
 void DownloadDialog::reject()

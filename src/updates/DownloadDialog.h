@@ -11,7 +11,7 @@ class QVBoxLayout;
 class UpdateChecker;
 
 // Shows how far the download of the setup file has come, and then leads to its installation. Rejecting it aborts the
-// download.
+// download. It blocks the other windows only while the setup file is being opened.
 class DownloadDialog : public QDialog
 {
     Q_OBJECT
@@ -21,18 +21,14 @@ public:
     explicit DownloadDialog(UpdateChecker *checker, QWidget *parent = nullptr);
 
 public slots:
-    // Begins the installation, which ends the program or leaves the checker in Error.
-    void install();
-    // Not while the setup file is being checked, which ends by itself.
+    // Not while the setup file is being checked or opened, which ends by itself.
     void reject() override;
-
-signals:
-    // "Exit and install" was pressed; install() has to follow when nothing is in the way.
-    void installRequested();
 
 private:
     void createButtons();
     void updateState();
+    void showReady();
+    void setBlocking(bool blocking);
     void showProgress(int progress, int total);
 
     UpdateChecker *m_checker;

@@ -6,6 +6,7 @@
 #include "updates/OwnFile.h"
 #include "updates/SetupVerifier.h"
 #include "updates/UpdateInformation.h"
+#include "updates/UpdateSignature.h"
 #include "updates/UpdatesLog.h"
 #include "updates/VersionOrder.h"
 
@@ -14,12 +15,16 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
 constexpr qint64 chunkBytes = 65536;
 // What may wait in memory when the disk is slower than the site.
 constexpr qint64 bufferedBytes = 1024LL * 1024;
+
+// More than a page about an error ever has.
+constexpr qint64 mostPageBytes = 16LL * 1024 * 1024;
 
 constexpr int wholeFile = 200;
 constexpr int partOfFile = 206;
@@ -34,6 +39,13 @@ int progressOf(qint64 bytes)
 qint64 announcedBytes(const QNetworkReply &reply)
 {
     return std::max<qint64>(0, reply.header(QNetworkRequest::ContentLengthHeader).toLongLong());
+}
+
+// The site must not choose a name of another version, by which the folder is tidied.
+bool isNameOfVersion(const QString &name, const QString &version)
+{
+    const QString found = versionInName(name);
+    return !found.isEmpty() && versionKey(found) == versionKey(version);
 }
 
 // What the server can be asked for the rest of just this content by (RFC 9110, section 13.1.5).
@@ -163,6 +175,7 @@ void UpdateChecker::requestDownload(const QUrl &url)
         downloadRequest.setRawHeader("If-Range", m_rest->source.validator);
     }
     await(m_manager.get(downloadRequest), &UpdateChecker::downloadFinished);
+    m_discarded = 0;
     m_reply->setReadBufferSize(bufferedBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateChecker::downloadReadyRead);
 }
@@ -176,8 +189,8 @@ void UpdateChecker::await(QNetworkReply *reply, Handler finished)
 
 void UpdateChecker::dropReply()
 {
-    m_partial.close();
-    m_verifier.reset();
+    m_partial.leave();
+    abortInstall();
     if (!m_reply)
         return;
     m_reply->disconnect(this);
@@ -276,7 +289,7 @@ void UpdateChecker::offerLatest()
 {
     const QUrl url(latest().url);
     const QString name = setupFileName(url);
-    if (!isWebAddress(url) || name.isEmpty()) {
+    if (!isWebAddress(url) || !isNameOfVersion(name, latestVersion())) {
         setError(tr("Can't get update: %1").arg(tr("The address of the setup file is not one that can be used.")));
         return;
     }
@@ -300,13 +313,15 @@ void UpdateChecker::sizeRequestFinished()
         requestSize(redirect->target);
         return;
     }
-    // A server that does not tell the size may send the file all the same.
+    // A server that does not tell the size may send the file all the same. Nor does that speak against a setup file
+    // that is there: its signature decides.
     const qint64 bytes = !redirect && m_reply->error() == QNetworkReply::NoError ? announcedBytes(*m_reply) : 0;
     dropReply();
     setDownloadSize(bytes);
     m_isSizeAsked = true;
     updateActions();
-    const bool complete = bytes > 0 && ownFileSize(m_setupPath) == bytes;
+    const qint64 present = ownFileSize(m_setupPath);
+    const bool complete = present > 0 && (bytes == 0 || present == bytes);
     if (!complete)
         m_partial.adoptSetupFile();
     setState(complete ? InstallAvailable : UpdateAvailable);
@@ -330,6 +345,10 @@ void UpdateChecker::download()
     if (!possible || m_setupPath.isEmpty())
         return;
     setError({});
+    if (!isInstallable()) {
+        installFailed("there is no signature, or no key to check it with");
+        return;
+    }
     m_isSizeAsked = true; // or it will not be any more
     m_redirects = 0;
     m_downloaded = 0;
@@ -356,21 +375,36 @@ void UpdateChecker::downloadReadyRead()
 
 bool UpdateChecker::beginWriting()
 {
-    if (m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).isValid())
+    if (m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).isValid()) {
+        downloadFinished(); // whatever else the answer says
         return false;
+    }
     switch (replyStatus()) {
     case wholeFile:
         return beginAnew();
     case partOfFile:
         return goOn();
     default:
-        return false; // a page about an error, which is no part of the file
+        discardReceived();
+        return false;
     }
+}
+
+// Read, since an answer whose buffer is full waits for its reader and never tells its error.
+void UpdateChecker::discardReceived()
+{
+    m_discarded += m_reply->readAll().size();
+    if (m_discarded > mostPageBytes)
+        downloadFailed(tr("The server sent something else than the setup file."));
 }
 
 bool UpdateChecker::beginAnew()
 {
     const qint64 bytes = announcedBytes(*m_reply);
+    if (std::max(bytes, m_downloadSize) > m_environment.mostSetupBytes) {
+        downloadFailed(tr("The setup file is larger than it should be."));
+        return false;
+    }
     if (m_downloadSize > 0 && bytes > 0 && bytes != m_downloadSize) {
         downloadFailed(tr("The setup file has another size than the server said."));
         return false;
@@ -496,38 +530,93 @@ void UpdateChecker::downloadFailed(const QString &reason)
 
 // The installation
 
+bool UpdateChecker::isInstallable() const
+{
+    return !m_setupPath.isEmpty() && !m_environment.keys.isEmpty() && isUpdateSignature(latest().signature);
+}
+
+void UpdateChecker::setStep(Step step)
+{
+    if (std::exchange(m_step, step) != step)
+        emit installingChanged();
+}
+
 void UpdateChecker::install()
 {
-    if (m_state != InstallAvailable || m_verifier)
+    if (m_state != InstallAvailable || isInstalling())
         return;
-    if (m_setupPath.isEmpty() || m_environment.keys.isEmpty() || latest().signature.isEmpty()) {
+    if (m_step == Step::Asking) {
+        askToInstall();
+        return;
+    }
+    if (!isInstallable()) {
         installFailed("there is no setup file, no signature, or no key to check it with");
         return;
     }
-    m_verifier = std::make_unique<SetupVerifier>(m_setupPath, latest(), m_environment.keys);
+    m_verifier = std::make_shared<SetupVerifier>(m_setupPath, latest(), m_environment.keys);
     connect(m_verifier.get(), &QThread::finished, this, &UpdateChecker::setupVerified);
     m_verifier->start();
+    setStep(Step::Checking);
+}
+
+void UpdateChecker::abortInstall()
+{
+    m_verifier.reset();
+    setStep(Step::None);
 }
 
 void UpdateChecker::setupVerified()
 {
     // A call that was queued by one that was dropped says nothing of another.
-    if (!m_verifier || !m_verifier->isFinished())
+    if (m_step != Step::Checking || !m_verifier->isFinished())
         return;
-    // Kept until the file is handed over, as it holds what is compared with the path.
-    const std::unique_ptr<SetupVerifier> verifier = std::move(m_verifier);
-    if (verifier->isGood() && m_environment.open(m_setupPath)) {
-        emit exitRequest();
+    if (m_verifier->isGood()) {
+        setStep(Step::Asking);
+        askToInstall();
         return;
     }
-    if (verifier->isForged())
+    if (m_verifier->isForged())
         QFile::remove(m_setupPath); // or the next check would take it for a complete download
-    installFailed(verifier->isGood() ? "nothing on this desktop opens the setup file"
-                                     : "the setup file is not what the maker signed");
+    installFailed("the setup file is not what the maker signed");
+}
+
+void UpdateChecker::askToInstall()
+{
+    const auto open = [this, known = std::weak_ptr<SetupVerifier>(m_verifier)] {
+        // As long as the verifier is there, so is this. The user may be asked twice and agree twice.
+        if (!known.expired() && m_step == Step::Asking)
+            openSetup();
+    };
+    if (m_beforeInstall)
+        m_beforeInstall(open);
+    else
+        open();
+}
+
+void UpdateChecker::openSetup()
+{
+    if (!m_verifier->isGood()) { // any more
+        installFailed("the setup file has changed since it was checked");
+        return;
+    }
+    setStep(Step::Opening);
+    m_environment.open(m_setupPath, [this, known = std::weak_ptr<SetupVerifier>(m_verifier)](bool opened) {
+        if (!known.expired())
+            setupOpened(opened);
+    });
+}
+
+void UpdateChecker::setupOpened(bool opened)
+{
+    if (opened)
+        emit exitRequest();
+    else
+        installFailed("nothing on this desktop opens the setup file");
 }
 
 void UpdateChecker::installFailed(const char *reason)
 {
     qCWarning(updatesLog, "The update is not installed: %s.", reason);
+    abortInstall();
     setError(tr("Can't install update"));
 }

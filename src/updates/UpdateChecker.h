@@ -13,8 +13,10 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class SetupVerifier;
 
@@ -42,6 +44,9 @@ public:
     enum States { Normal, Checking, UpdateAvailable, Downloading, InstallAvailable, Error, UpToDate };
     Q_ENUM(States)
 
+    // Runs its argument, at once, later or never: when the user agrees to leave what would be lost.
+    using Question = std::function<void(std::function<void()> then)>;
+
     explicit UpdateChecker(const UpdateEnvironment &environment = {}, QObject *parent = nullptr);
     ~UpdateChecker() override;
 
@@ -60,8 +65,11 @@ public:
     [[nodiscard]] qint64 downloadSize() const { return m_downloadSize; }
     // Of the setup file, in bytes, with what an earlier download left.
     [[nodiscard]] qint64 downloaded() const { return m_downloaded; }
-    // Whether install() was called and the setup file is being checked, which may take seconds.
-    [[nodiscard]] bool isInstalling() const { return m_verifier != nullptr; }
+    // Whether the setup file is being checked or opened, which may take seconds.
+    [[nodiscard]] bool isInstalling() const { return m_step == Step::Checking || isOpening(); }
+    // Whether the user has agreed to leave and the setup file is being opened. Nothing that could be lost may be begun
+    // then.
+    [[nodiscard]] bool isOpening() const { return m_step == Step::Opening; }
     [[nodiscard]] bool isQuiet() const { return m_quiet; }
 
     // "Download update", "Cancel downloading", "Exit and install update". Visible in the states in which they work;
@@ -73,16 +81,23 @@ public:
     // While quiet, a check that cannot reach the site ends as UpToDate. Answers that make no sense are errors all the
     // same.
     void setQuiet(bool quiet) { m_quiet = quiet; }
+    // Asked when the setup file has proved to be the maker's, and before it is opened. None: nothing is asked.
+    void setBeforeInstall(Question question) { m_beforeInstall = std::move(question); }
     // For the requests from now on.
     void useProxy(const QNetworkProxy &proxy);
 
 public slots:
     void check() { check(false); }
     void check(bool forced);
-    // In UpdateAvailable, and after a download that failed.
+    // In UpdateAvailable, and after a download that failed. Ends in Error at once when there is no key or no signature
+    // with which the file could ever be installed.
     void download();
-    // In InstallAvailable. Ends with exitRequest() or in Error, as a rule from the event loop.
+    // In InstallAvailable. Checks the setup file, asks the user, and opens it if it is still the file that was checked.
+    // Ends with exitRequest() or in Error, as a rule from the event loop; waits in InstallAvailable, where it may be
+    // called again, as long as the user does not agree.
     void install();
+    // Drops what install() began, at the latest after a block of the file; the state stays.
+    void abortInstall();
     // In Downloading; what has come is kept for the next time.
     void abortDownload();
     // In Checking; the state becomes Normal.
@@ -94,6 +109,8 @@ signals:
     void stateChanged();
     void checkStarted();
     void errorMessageChanged();
+    // Of isInstalling() or isOpening().
+    void installingChanged();
     void downloadSizeChanged();
     void downloadedChanged();
     // In bytes; `total` is 0 when the site does not say.
@@ -106,6 +123,8 @@ private slots:
     void sizeRequestFinished();
 
 private:
+    // Of the installation.
+    enum class Step { None, Checking, Asking, Opening };
     using Handler = void (UpdateChecker::*)();
     // Where an answer leads: the target, or, when that is empty, why nobody goes there.
     struct Redirect
@@ -143,12 +162,19 @@ private:
     // Whether the answer has the rest of the partial file and nothing else.
     [[nodiscard]] bool hasFittingRange() const;
     void writeReceived();
+    // A page about an error, so that it comes to its end.
+    void discardReceived();
     void noteDownloaded(qint64 bytes);
     void finishDownload();
     void fileFailed(const QString &reason);
     void downloadFailed(const QString &reason);
 
+    [[nodiscard]] bool isInstallable() const;
+    void setStep(Step step);
     void setupVerified();
+    void askToInstall();
+    void openSetup();
+    void setupOpened(bool opened);
     void installFailed(const char *reason);
 
     UpdateEnvironment m_environment;
@@ -166,9 +192,12 @@ private:
     bool m_isSizeAsked = false;
     qint64 m_downloadSize = 0;
     qint64 m_downloaded = 0;
+    qint64 m_discarded = 0; // bytes of the answer in flight
     PartialDownload m_partial;
     std::optional<PartialDownload::Rest> m_rest; // that the request in flight is to be the other part of
-    std::unique_ptr<SetupVerifier> m_verifier;
+    Step m_step = Step::None;
+    std::shared_ptr<SetupVerifier> m_verifier; // of the installation under way; holds what is compared with the path
+    Question m_beforeInstall;
     QAction m_downloadAction;
     QAction m_abortAction;
     QAction m_installAction;

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "updates/UpdateEnvironment.h"
 
+#include "updates/DesktopOpener.h"
 #include "updates/UpdateFolder.h"
 #include "updates/UpdateSignature.h"
-
-#include <QDesktopServices>
-#include <QUrl>
 
 UpdateEnvironment::UpdateEnvironment()
     : folder(UpdateFolder::standardPath())
     , keys(makerKeys())
-    , open([](const QString &path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); })
+    , open(&openOnDesktop)
     , now(&QDateTime::currentDateTime)
 {
 }

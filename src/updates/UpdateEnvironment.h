@@ -20,8 +20,9 @@ struct UpdateEnvironment
     QString folder;
     // The maker's public keys, 32 bytes each; without one nothing is ever installed.
     QVector<QByteArray> keys;
-    // Hands a setup file, by its absolute path, to the desktop; false when nobody takes it.
-    std::function<bool(const QString &path)> open;
+    // Hands a setup file, by its absolute path, to the desktop. Reports once, at once or later, whether somebody took
+    // it.
+    std::function<void(const QString &path, const std::function<void(bool)> &report)> open;
     std::function<QDateTime()> now;
     RequestLimits limits;
     // No setup file is larger. The program's progress counts in int, and an endless one must not fill the disk.

@@ -29,6 +29,13 @@ std::size_t sizeOf(const QByteArray &data)
     return static_cast<std::size_t>(data.size());
 }
 
+// Empty when the text is not a signature.
+QByteArray decodedSignature(const QByteArray &text)
+{
+    const auto decoded = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+    return decoded && (*decoded).size() == signatureBytes ? *decoded : QByteArray();
+}
+
 bool hasSigned(const QByteArray &key, const QByteArray &message, const QByteArray &signature)
 {
     const std::unique_ptr<EVP_PKEY, Release> known(
@@ -54,14 +61,19 @@ QVector<QByteArray> makerKeys()
     return keys;
 }
 
+bool isUpdateSignature(const QByteArray &text)
+{
+    return !decodedSignature(text).isEmpty();
+}
+
 bool isSignedUpdate(const QString &version, const QByteArray &digest, const QByteArray &signature,
                     const QVector<QByteArray> &keys)
 {
-    const auto decoded = QByteArray::fromBase64Encoding(signature, QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded || (*decoded).size() != signatureBytes)
+    const QByteArray decoded = decodedSignature(signature);
+    if (decoded.isEmpty())
         return false;
     const QByteArray message = QByteArray("versewell-update-1") + '\0' + version.toUtf8() + '\0' + digest;
     return std::any_of(keys.begin(), keys.end(), [&](const QByteArray &key) {
-        return key.size() == keyBytes && hasSigned(key, message, *decoded);
+        return key.size() == keyBytes && hasSigned(key, message, decoded);
     });
 }

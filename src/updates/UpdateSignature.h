@@ -11,6 +11,9 @@
 // The public keys that the build was given, 32 bytes each; may be empty.
 [[nodiscard]] QVector<QByteArray> makerKeys();
 
+// Whether the text is one: 64 bytes in base64 and nothing else.
+[[nodiscard]] bool isUpdateSignature(const QByteArray &text);
+
 // Whether one of the keys has signed this version of the file with this digest. The signature is in base64.
 [[nodiscard]] bool isSignedUpdate(const QString &version, const QByteArray &digest, const QByteArray &signature,
                                   const QVector<QByteArray> &keys);

@@ -8,7 +8,7 @@
 #include "updates/UpdateDialog.h"
 #include "updates/UpdateInfoDialog.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
 #include <QSettings>
@@ -40,6 +40,12 @@ void bringToFront(QWidget *dialog)
     dialog->activateWindow();
 }
 
+// Whether something stands before the window that takes no other's clicks.
+bool isCovered()
+{
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget();
+}
+
 } // namespace
 
 Updater::Updater(const UpdateEnvironment &environment, QObject *parent)
@@ -51,11 +57,12 @@ Updater::Updater(const UpdateEnvironment &environment, QObject *parent)
     m_timer.setInterval(tick);
     connect(&m_timer, &QTimer::timeout, this, &Updater::checkIfDue);
     connect(&m_checker, &UpdateChecker::stateChanged, this, &Updater::checkerStateChanged);
-    connect(&m_checker, &UpdateChecker::exitRequest, this, [this] {
+    m_exit = [this] {
         if (m_window)
             m_window->hide();
-    });
-    connect(&m_checker, &UpdateChecker::exitRequest, QCoreApplication::instance(), &QCoreApplication::quit);
+        QCoreApplication::quit();
+    };
+    connect(&m_checker, &UpdateChecker::exitRequest, this, [this] { m_exit(); });
     QTimer::singleShot(startDelay, this, &Updater::startUpdateTimer);
 }
 
@@ -74,7 +81,7 @@ void Updater::setParentWindow(QWidget *window)
 bool Updater::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_window && event->type() == QEvent::Hide && !event->spontaneous())
-        closeDialogs();
+        windowGone();
     return QObject::eventFilter(watched, event);
 }
 
@@ -105,7 +112,10 @@ bool Updater::isBusy() const
 
 void Updater::checkIfDue()
 {
-    if (!m_window || !m_window->isVisible() || isBusy() || !isDue())
+    if (!isWindowShown() || isCovered())
+        return;
+    offerIfDue();
+    if (isBusy() || !isDue())
         return;
     m_byUser = false;
     m_checker.setQuiet(true);
@@ -150,9 +160,7 @@ void Updater::checkerStateChanged()
         break;
     case UpdateChecker::UpdateAvailable:
     case UpdateChecker::InstallAvailable:
-        // Once a check: the states come again when the size is known, and when a download ends or is aborted.
-        if (std::exchange(m_isOfferDue, false) && (m_byUser || !isSkipped(m_checker.latestVersion())))
-            offer();
+        offerIfDue();
         break;
     case UpdateChecker::Downloading:
         showDownload();
@@ -173,6 +181,8 @@ void Updater::checkerStateChanged()
 
 void Updater::showInfo()
 {
+    if (!isWindowShown())
+        return;
     if (!m_info) {
         m_info = new UpdateInfoDialog(m_window);
         m_info->setAttribute(Qt::WA_DeleteOnClose);
@@ -180,6 +190,19 @@ void Updater::showInfo()
         m_info->open();
     }
     bringToFront(m_info);
+}
+
+// Once a check: the states come again when the size is known, and when a download ends or is aborted. An offer that
+// nobody asked for waits while it would stand over something that does not let it be clicked.
+void Updater::offerIfDue()
+{
+    const UpdateChecker::States state = m_checker.state();
+    const bool isFound = state == UpdateChecker::UpdateAvailable || state == UpdateChecker::InstallAvailable;
+    if (!m_isOfferDue || !isFound || !isWindowShown() || (!m_byUser && isCovered()))
+        return;
+    m_isOfferDue = false;
+    if (m_byUser || !isSkipped(m_checker.latestVersion()))
+        offer();
 }
 
 void Updater::offer()
@@ -206,8 +229,10 @@ void Updater::takeAnswer(int answer, const QString &version)
     if (answer != UpdateDialog::Install)
         return;
     m_byUser = true;
-    showDownload();
-    m_checker.download(); // unless the setup file is there already
+    if (m_checker.state() == UpdateChecker::InstallAvailable)
+        showDownload(); // of what is there already
+    else
+        m_checker.download();
 }
 
 bool Updater::isSkipped(const QString &version) const
@@ -227,30 +252,20 @@ void Updater::skip(const QString &version)
 // Beside the window and not before it, as a download may take long.
 void Updater::showDownload()
 {
-    if (m_download)
+    if (m_download || !isWindowShown())
         return;
     m_download = new DownloadDialog(&m_checker, m_window);
     m_download->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_download, &DownloadDialog::installRequested, this, [this] {
-        const QPointer<DownloadDialog> dialog = m_download;
-        const auto install = [dialog] {
-            if (dialog)
-                dialog->install();
-        };
-        if (m_beforeInstall)
-            m_beforeInstall(install);
-        else
-            install();
-    });
     m_download->show();
 }
 
 void Updater::tell(const QString &text, const QString &detail)
 {
+    if (!isWindowShown())
+        return;
     m_box = new QMessageBox(QMessageBox::NoIcon, tr("Update"), text, QMessageBox::NoButton, m_window);
     m_box->addButton(tr("Close"), QMessageBox::RejectRole);
-    if (m_window)
-        m_box->setIconPixmap(programIcon(m_window));
+    m_box->setIconPixmap(programIcon(m_window));
     m_box->setAttribute(Qt::WA_DeleteOnClose);
     m_box->setTextFormat(Qt::PlainText);
     // The format does not count for this text, in which words of the network may stand.
@@ -259,8 +274,11 @@ void Updater::tell(const QString &text, const QString &detail)
     m_box->open();
 }
 
-void Updater::closeDialogs()
+// What is under way ends first, as it would hold on to its dialog or show another.
+void Updater::windowGone()
 {
+    m_checker.abortCheck();
+    m_checker.abortInstall();
     const QVector<QPointer<QDialog>> dialogs = {m_info.data(), m_offer.data(), m_download.data(), m_box.data()};
     for (const QPointer<QDialog> &dialog : dialogs) {
         if (dialog)

@@ -31,9 +31,6 @@ class Updater : public QObject
     Q_PROPERTY(QDateTime lastCheckUpdate READ lastCheckUpdate NOTIFY checked)
 
 public:
-    // Runs its argument, at once, later or never: when the user agrees to leave what would be lost.
-    using Question = std::function<void(std::function<void()> then)>;
-
     // The application's names must be set.
     explicit Updater(const UpdateEnvironment &environment = {}, QObject *parent = nullptr);
     ~Updater() override;
@@ -41,7 +38,9 @@ public:
     // For the dialogs, which go when it is hidden. Not owned.
     void setParentWindow(QWidget *window);
     // Asked before a setup file is handed over, which ends the program. None: nothing is asked.
-    void setBeforeInstall(Question question) { m_beforeInstall = std::move(question); }
+    void setBeforeInstall(UpdateChecker::Question question) { m_checker.setBeforeInstall(std::move(question)); }
+    // Ends the program once a setup file was handed over. Unset, the window is hidden and the event loop ended.
+    void setExit(std::function<void()> exit) { m_exit = std::move(exit); }
     // For the requests from now on.
     void useProxy(const QNetworkProxy &proxy) { m_checker.useProxy(proxy); }
 
@@ -70,12 +69,14 @@ private:
     [[nodiscard]] bool isBusy() const;
     [[nodiscard]] bool isSkipped(const QString &version) const;
     void skip(const QString &version);
+    [[nodiscard]] bool isWindowShown() const { return m_window && m_window->isVisible(); }
     void showInfo();
+    void offerIfDue();
     void offer();
     void takeAnswer(int answer, const QString &version);
     void showDownload();
     void tell(const QString &text, const QString &detail = {});
-    void closeDialogs();
+    void windowGone();
 
     std::function<QDateTime()> m_now;
     UpdateChecker m_checker;
@@ -84,7 +85,7 @@ private:
     QString m_skippedVersion; // in this run, should it not be possible to store it
     bool m_byUser = false;    // what is going on
     bool m_isOfferDue = false;
-    Question m_beforeInstall;
+    std::function<void()> m_exit;
     QPointer<QWidget> m_window;
     // Each while it is open.
     QPointer<UpdateInfoDialog> m_info;

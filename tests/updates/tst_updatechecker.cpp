@@ -36,7 +36,9 @@ QByteArray signUpdate(const QStringList &arguments)
     return script.waitForFinished() && script.exitCode() == 0 ? script.readAllStandardOutput().trimmed() : QByteArray();
 }
 
-LoopbackResponse newest(const QByteArray &version, const QByteArray &signature = {},
+const QByteArray anySignature = QByteArray(64, 'x').toBase64();
+
+LoopbackResponse newest(const QByteArray &version, const QByteArray &signature = anySignature,
                         const QByteArray &url = "SITE/files/versewell_2.0.deb")
 {
     return LoopbackResponse::page("<UpdateInfo><VersionInfo><current>" + version + "</current><url>" + url +
@@ -71,10 +73,10 @@ struct Maker
         reloadEndpoints();
         environment.folder = folder.path(QStringLiteral("Update"));
         environment.keys = {QByteArray::fromBase64(publicKey)};
-        environment.open = [this](const QString &path) {
+        environment.open = [this](const QString &path, const std::function<void(bool)> &report) {
             trace.append(QStringLiteral("open"));
             opened.append(folder.read(path));
-            return isOpenable;
+            report(isOpenable);
         };
         inform(newest("2.0", signature));
         serve(setup());
@@ -105,9 +107,9 @@ struct Maker
     }
 
     // HEAD is told this length, or the right one.
-    void serve(const LoopbackResponse &setup, const QByteArray &headLength = {})
+    void serve(const LoopbackResponse &setup, const QByteArray &headLength = {}, const QString &name = setupName)
     {
-        site.route(QStringLiteral("/files/") + setupName, [setup, headLength](const LoopbackRequest &request) {
+        site.route(QStringLiteral("/files/") + name, [setup, headLength](const LoopbackRequest &request) {
             LoopbackResponse answer = setup;
             if (request.method != "HEAD")
                 return answer;
@@ -208,11 +210,13 @@ private slots:
                checked + " | download: Downloading | abortDownload: offered UpdateAvailable"_s);
         addRow("a forced download is given up", two, hanging,
                "forced: Checking UpdateAvailable offered Downloading | abortDownload: Normal"_s);
-        addRow("the download begins before the size is known", newest("2.0", {}, "SITE/hanging"), setup(),
+        addRow("the download begins before the size is known", newest("2.0", anySignature, "SITE/hanging_2.0"), setup(),
                "check: Checking UpdateAvailable | download: Downloading | abortDownload: offered UpdateAvailable"_s);
-        addRow("a name that is no name", newest("2.0", {}, "SITE/-rf"), setup(),
+        addRow("a name that is no name", newest("2.0", anySignature, "SITE/-rf_2.0"), setup(),
                "check: Checking Error: "_s + noAddress);
-        addRow("an address that is none", newest("2.0", {}, "file:///tmp/a"), setup(),
+        addRow("the name of another version", newest("2.0", anySignature, "SITE/files/versewell_1.9.deb"), setup(),
+               "check: Checking Error: "_s + noAddress);
+        addRow("an address that is none", newest("2.0", anySignature, "file:///tmp/a_2.0"), setup(),
                "check: Checking Error: "_s + noAddress);
         addRow("a check drops the download", two, hanging,
                checked + " | download: Downloading | "_s + checked + " | download: Downloading"_s);
@@ -223,6 +227,14 @@ private slots:
                "quiet: Checking Error: Failed to parse version information data."_s);
         addRow("endless information", LoopbackResponse::page(QByteArray(1024 * 1024 + 1, ' ')), setup(),
                "check: Checking Error: Can't check for update: The answer is larger than 1 MiB."_s);
+        addRow(
+            "a large page about an error", two,
+            [] {
+                LoopbackResponse page = LoopbackResponse::error(404);
+                page.body = QByteArray(3000000, 'x');
+                return page;
+            }(),
+            failed + noPage);
         addRow("a download is tried again", two, LoopbackResponse::error(404),
                failed + noPage + " | download: Downloading Error: Can't get update: "_s + noPage);
     }
@@ -252,6 +264,7 @@ private slots:
         addRow("longer than HEAD said", withoutLength, QByteArray("119"), tooLarge);
         addRow("other lengths for HEAD and GET", setup(), QByteArray("119"),
                "The setup file has another size than the server said."_s);
+        addRow("announced larger than any may be", setup(), QByteArray("5000"), tooLarge);
         addRow("endless", withoutLength, QByteArray("0"), tooLarge);
         addRow("huge", setup(), QByteArray("0"), tooLarge);
         addRow("empty", LoopbackResponse::page({}), QByteArray(), notWhole);
@@ -277,13 +290,13 @@ private slots:
     void redirectsAreFollowedTwentyTimes()
     {
         Maker maker(m_publicKey, m_signature);
-        maker.inform(newest("2.0", {}, "SITE/hop/19/a"));
+        maker.inform(newest("2.0", anySignature, "SITE/hop/19/a-2.0"));
         maker.redirectTo("/files/versewell_2.0.deb");
         maker.run(downloaded);
-        QCOMPARE(maker.folder.read(maker.fileName("a"_s)), setupContent);
-        maker.inform(newest("2.0", {}, "SITE/hop/20/b"));
+        QCOMPARE(maker.folder.read(maker.fileName("a-2.0"_s)), setupContent);
+        maker.inform(newest("2.0", anySignature, "SITE/hop/20/b-2.0"));
         maker.run(failed + "The server redirects too often."_s);
-        QCOMPARE(maker.files(), QStringList{"a"_s});
+        QCOMPARE(maker.files(), QStringList{"a-2.0"_s});
         maker.redirectTo(informationPath.toLatin1() + "2");
         maker.site.route(informationPath + "2"_s, newest("1.0"));
         maker.inform(LoopbackResponse::redirect(307, "/hop/18/c"));
@@ -344,17 +357,20 @@ private slots:
         Maker maker(key, signature);
         if (key.isEmpty())
             maker.environment.keys.clear();
-        maker.inform(newest(version.toLatin1(), signature));
-        maker.serve(LoopbackResponse::page(content));
-        maker.run(downloaded + " | install: Error: Can't install update | install:"_s);
+        const QString name = "versewell_%1.deb"_s.arg(version);
+        maker.inform(newest(version.toLatin1(), signature, "SITE/files/" + name.toLatin1()));
+        maker.serve(LoopbackResponse::page(content), {}, name);
+        // Nothing is downloaded that could never be installed.
+        const bool isRefused = key.isEmpty() || signature.size() != m_signature.size();
+        maker.run(isRefused ? checked + " | download: Error: Can't install update"_s
+                            : downloaded + " | install: Error: Can't install update | install:"_s);
+        QCOMPARE(maker.files(), QStringList());
         // It is downloaded again, and then good.
         maker.environment.keys = {QByteArray::fromBase64(m_publicKey)};
         maker.checker.reset();
         maker.inform(newest("2.0", m_signature));
         maker.serve(setup());
-        const bool isKept = key.isEmpty() || signature.isEmpty(); // as nothing speaks against it
-        maker.run((isKept ? "check: Checking UpdateAvailable offered InstallAvailable"_s : downloaded) +
-                  " | install: open exit"_s);
+        maker.run(downloaded + " | install: open exit"_s);
         QCOMPARE(maker.opened, QList<QByteArray>{setupContent});
     }
 
@@ -365,10 +381,31 @@ private slots:
         maker.run(downloaded + " | install: open Error: Can't install update | "_s + checked + " InstallAvailable"_s);
         // The same content, which somebody else has a name for.
         const QString path = maker.folder.path(maker.fileName(setupName));
+        maker.checker->setBeforeInstall([&](const std::function<void()> &) { maker.trace.append("asked"_s); });
+        maker.run("install: asked | install: asked"_s); // and the user never agreed
+        QVERIFY(!maker.checker->isInstalling());
+        maker.checker->setBeforeInstall([&](const std::function<void()> &then) { QTimer::singleShot(50, then); });
         const QString other = maker.folder.write("other"_s, setupContent);
         QVERIFY(QFile::remove(path));
         QCOMPARE(::link(qPrintable(other), qPrintable(path)), 0);
         maker.run("install: Error: Can't install update"_s);
+    }
+
+    // A file of another size is set aside, in place of nothing that is there.
+    void aCompleteFileIsKeptUnlessItsSizeIsWrong()
+    {
+        Maker maker(m_publicKey, m_signature);
+        maker.run(downloaded);
+        maker.serve(LoopbackResponse::error(500));
+        maker.run("check: Checking UpdateAvailable offered InstallAvailable"_s);
+        const QString part = maker.folder.path(maker.fileName(setupName + ".part"_s));
+        QVERIFY(QFile::link(maker.folder.path("nowhere"_s), part));
+        maker.serve(setup(), "121");
+        maker.run(checked);
+        QVERIFY(!QFile::exists(maker.folder.path("nowhere"_s)));
+        QVERIFY(QFile::remove(part));
+        maker.run(checked);
+        QCOMPARE(maker.files(), QStringList{setupName + ".part"_s});
     }
 
     void anAddressMustEndInAName_data()
@@ -416,7 +453,7 @@ private slots:
         addRow("a part of a longer file", dripping, longerFile, "2.0"_s, "HEAD, rest, whole"_s);
         addRow("a part of another content", dripping, otherTag, "2.0"_s, "HEAD, rest, whole"_s);
         addRow("no such part", dripping, LoopbackResponse::error(416), "2.0"_s, "HEAD, rest, whole"_s);
-        addRow("another version of the same name", dripping, part, "2.1"_s, "HEAD, whole"_s);
+        addRow("another version of the same name", dripping, part, "2.00"_s, "HEAD, whole"_s);
         addRow("content that has no sure mark", weak, part, "2.0"_s, "HEAD, whole"_s);
     }
 
@@ -430,6 +467,8 @@ private slots:
         maker.run(checked + " | download: Downloading"_s);
         QTRY_VERIFY(maker.checker->downloaded() > 9);
         maker.run("abortDownload: offered UpdateAvailable"_s);
+        // What nobody could go on with is not kept.
+        QCOMPARE(maker.files().size(), before.headers.last().second.startsWith('W') ? 0 : 2);
         maker.checker.reset(); // as when the program starts again
         maker.inform(newest(version.toLatin1()));
         maker.site.forgetRequests();

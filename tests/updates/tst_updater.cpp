@@ -5,6 +5,7 @@
 #include "support/LoopbackServer.h"
 #include "support/TestFolder.h"
 #include "support/TestTable.h"
+#include "updates/DesktopOpener.h"
 #include "updates/DownloadDialog.h"
 #include "updates/UpdateDialog.h"
 #include "updates/UpdateInfoDialog.h"
@@ -20,8 +21,9 @@ namespace {
 
 LoopbackResponse newest(const QByteArray &version)
 {
-    return LoopbackResponse::page("<VersionInfo><current>" + version +
-                                  "</current><url>http://127.0.0.1:9/setup.run</url></VersionInfo>");
+    return LoopbackResponse::page("<VersionInfo><current>" + version + "</current><url>http://127.0.0.1:9/setup-" +
+                                  version + ".run</url><signature>" + QByteArray(64, 'x').toBase64() +
+                                  "</signature></VersionInfo>");
 }
 
 // A window, an updater and the maker's site, at a time that the test sets.
@@ -38,6 +40,7 @@ struct Rig
         site.route(QStringLiteral("/versewell/Versewell.xml"), information);
         UpdateEnvironment environment;
         environment.folder = folder.path(QStringLiteral("Update"));
+        environment.keys = {QByteArray(32, 'x')};
         environment.now = [this] {
             return now;
         };
@@ -221,6 +224,58 @@ private slots:
         rig.now = rig.now.addDays(2);
         rig.updater->checkIfDue();
         QCOMPARE(rig.state(), UpdateChecker::UpdateAvailable);
+        rig.window.show();
+        rig.updater->checkByUser();
+        rig.window.hide();
+        QCOMPARE(rig.state(), UpdateChecker::Normal);
+        QCOMPARE(rig.shown(), QStringList());
+    }
+
+    // Which would let none of its buttons be pressed.
+    void anOfferThatNobodyAskedForWaitsForADialog()
+    {
+        Rig rig;
+        QDialog *dialog = new QDialog(&rig.window);
+        dialog->open();
+        rig.updater->checkIfDue();
+        QCOMPARE(rig.state(), UpdateChecker::Normal);
+        dialog->hide();
+        rig.updater->checkIfDue();
+        dialog->open();
+        QTRY_COMPARE(rig.state(), UpdateChecker::UpdateAvailable);
+        QCOMPARE(rig.shown(), QStringList{QStringLiteral("QDialog")});
+        dialog->hide();
+        rig.updater->checkIfDue();
+        QCOMPARE(rig.shown(), offered);
+        QCOMPARE(rig.checks(), 1);
+    }
+
+    void theDesktopIsAskedWhetherItOpensAFile_data()
+    {
+        QTest::addColumn<QByteArray>("command");
+        QTest::addColumn<bool>("isOpened");
+        addRow("it does", QByteArray("test \"$1\" = /a"), true);
+        addRow("nothing on it does", QByteArray("exit 3"), false);
+        addRow("the program that does stays", QByteArray("exec sleep 5"), true);
+        addRow("there is no desktop", QByteArray(), false);
+    }
+
+    void theDesktopIsAskedWhetherItOpensAFile()
+    {
+        QFETCH(QByteArray, command);
+        TestFolder folder;
+        if (!command.isEmpty()) {
+            const QString script = folder.write(QStringLiteral("xdg-open"),
+                                                QByteArrayLiteral("#!/bin/sh\nPATH=/usr/bin:/bin\n") + command);
+            QVERIFY(QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        }
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(folder.path()));
+        QVector<bool> reports;
+        openOnDesktop(QStringLiteral("/a"), [&reports](bool opened) { reports.append(opened); });
+        QTRY_VERIFY(!reports.isEmpty());
+        qputenv("PATH", path);
+        QTEST(reports.first(), "isOpened");
     }
 };
 
