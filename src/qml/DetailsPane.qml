@@ -18,32 +18,28 @@ Rectangle {
         && (song.lyricsArtist !== song.artistTag || song.lyricsTitle !== song.titleTag)
         && (song.processState === ModelItem.ProcessFailed || song.processState === ModelItem.ProcessComplete)
 
+    // Something of the song is in no file yet, and nothing is going on that would write it.
+    readonly property bool saveOffered: song !== null && song.edited && !song.active && !song.writingTags
+
+    signal saveRequested()
     signal forceSearchRequested()
     signal copyRequested(int id)
     signal browserRequested(url source)
 
     readonly property bool lyricsFocused: lyrics.focused
-    // What stands in the fields, confirmed or not.
-    readonly property string artistText: artist.text
-    readonly property string titleText: title.text
 
     function focusLyrics() {
         lyrics.takeFocus();
-    }
-
-    function typeNames(artistName, titleName) {
-        artist.type(artistName);
-        title.type(titleName);
     }
 
     function beginEdit() {
         lyrics.beginEdit();
     }
 
-    // Names that were typed but not confirmed yet.
-    function confirmNames() {
-        artist.confirm();
-        title.confirm();
+    // Names that were typed for the song of this id but not confirmed yet.
+    function confirmNames(id) {
+        artist.confirmOf(id);
+        title.confirmOf(id);
     }
 
     color: appPalette.window
@@ -110,9 +106,9 @@ Rectangle {
                 objectName: "artistField"
                 Layout.fillWidth: true
                 subject: pane.song
-                value: pane.song ? pane.song.artistTag : ""
+                role: "artistTag"
+                unsaved: pane.saveOffered && pane.song.artistEdited
                 label: qsTr("Artist")
-                onConfirmed: pane.song.artistTag = text
             }
 
             Text {
@@ -130,9 +126,9 @@ Rectangle {
                 objectName: "titleField"
                 Layout.fillWidth: true
                 subject: pane.song
-                value: pane.song ? pane.song.titleTag : ""
+                role: "titleTag"
+                unsaved: pane.saveOffered && pane.song.titleEdited
                 label: qsTr("Title")
-                onConfirmed: pane.song.titleTag = text
             }
         }
 
@@ -146,8 +142,10 @@ Rectangle {
             edit: pane.edit
             stateLine: state.line
             searchOffered: pane.searchOffered
+            saveOffered: pane.saveOffered
+            onSaveRequested: pane.saveRequested()
             onSearchRequested: {
-                pane.confirmNames();
+                pane.confirmNames(pane.song.id);
                 mainModel.startSearch(pane.song.id);
             }
             onForceSearchRequested: pane.forceSearchRequested()

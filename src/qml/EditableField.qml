@@ -2,49 +2,89 @@
 import QtQuick 2.2
 import "."
 
-// One line of text of a song. Enter confirms what was typed, Escape restores the song's value. Leaving the field does
-// neither: what was typed stays, marked as not taken over yet, until the field shows another song.
+// One line of text of a song. Enter confirms what was typed, Escape restores the song's value. Leaving the field or the
+// song does neither: what was typed stays with its song, marked as not taken over yet.
 FocusScope {
     id: field
 
-    // Whose value it is; another subject drops what was typed.
-    property var subject
-    property string value
+    // Whose text it is: an object with an `id`, and the name of its property; null for none.
+    property var subject: null
+    property string role
+    // The subject's text was confirmed, but is in no file yet.
+    property bool unsaved: false
     property string label
     property string placeholder: qsTr("<empty>")
     readonly property alias text: input.text
     readonly property bool pending: input.text !== shownValue
+    readonly property string value: textOf(subject)
     // What the input made of the value; it has no line breaks.
     property string shownValue
+    // Whose text the input holds. The id, since the subject may be gone when another one comes.
+    property var shownSubject: null
+    property int shownId: -1
+    // What was typed for subjects that are not shown, as { subject, text } by their ids; made when it is needed first.
+    property var leftTexts: null
 
-    signal confirmed(string text)
+    function textOf(object) {
+        return object ? object[role] : "";
+    }
 
     function confirm() {
         if (!pending)
             return;
         shownValue = input.text;
-        confirmed(input.text);
+        subject[role] = input.text;
         restore(); // to the value that the song has now: it may have refused this one
     }
 
-    // As if the user had typed it.
-    function type(words) {
-        input.text = words;
+    // The same for the subject of this id, which need not be shown.
+    function confirmOf(id) {
+        var left = takeLeft(id);
+        if (id === shownId)
+            confirm();
+        else if (left)
+            left.subject[role] = left.text;
+    }
+
+    function leave() {
+        if (!pending)
+            return;
+        if (!leftTexts)
+            leftTexts = {};
+        leftTexts[shownId] = { subject: shownSubject, text: input.text };
+    }
+
+    function takeLeft(id) {
+        if (!leftTexts)
+            return undefined;
+        var left = leftTexts[id];
+        delete leftTexts[id];
+        return left;
     }
 
     function restore() {
-        input.text = value;
+        input.text = textOf(subject);
         shownValue = input.text;
         input.cursorPosition = 0;
+    }
+
+    function showSubject() {
+        leave();
+        shownSubject = subject;
+        shownId = subject ? subject.id : -1;
+        restore();
+        var left = takeLeft(shownId);
+        if (left && left.subject === subject) // ids are used again when songs have gone
+            input.text = left.text;
     }
 
     implicitWidth: 120
     implicitHeight: Measures.fieldHeight
     activeFocusOnTab: false
 
-    onSubjectChanged: restore()
+    onSubjectChanged: showSubject()
     onValueChanged: {
-        if (!pending)
+        if (!pending && shownSubject === subject)
             restore();
     }
 
@@ -113,7 +153,7 @@ FocusScope {
 
         anchors { right: parent.right; rightMargin: text === "" ? 0 : Measures.grid; verticalCenter: parent.verticalCenter }
         width: Math.min(implicitWidth, field.width / 2)
-        text: field.pending ? qsTr("Enter to apply") : ""
+        text: field.pending ? qsTr("Enter to apply") : field.unsaved ? qsTr("not saved yet (Ctrl+S saves)") : ""
         textFormat: Text.PlainText
         elide: Text.ElideRight
         font { pixelSize: Measures.smallFont; italic: true }

@@ -11,6 +11,8 @@ Item {
     property var edit: null
     property string stateLine
     property bool searchOffered: false
+    // Something of the song is in no file yet, beside a draft.
+    property bool saveOffered: false
 
     readonly property bool editing: song !== null && edit !== null && edit.active && edit.songId === song.id
     readonly property string lyrics: song ? song.lyricsTag : ""
@@ -21,6 +23,7 @@ Item {
     readonly property bool focused: words.area.activeFocus
     readonly property bool wide: width >= Measures.sideBySideWidth
 
+    signal saveRequested()
     signal searchRequested()
     signal forceSearchRequested()
     signal copyRequested(int id)
@@ -99,7 +102,8 @@ Item {
             fontSize: settings.lyricsFontSize
             searchProvider: mainWindow ? mainWindow.searchEngine(settings.searchProvider) : ""
             onEditToggled: sheet.editing ? sheet.edit.cancel() : sheet.beginEdit()
-            onSaveRequested: sheet.edit.save()
+            saveOffered: sheet.saveOffered
+            onSaveRequested: sheet.editing ? sheet.edit.save() : sheet.saveRequested()
             onCancelRequested: sheet.edit.cancel()
             onSearchRequested: sheet.forceSearchRequested()
             onCopyRequested: sheet.copyRequested(sheet.song.id)

@@ -10,6 +10,8 @@ Row {
     property bool modified: false
     property bool editable: false
     property bool hasLyrics: false
+    // There is something to save beside a draft.
+    property bool saveOffered: false
     property int fontSize: 12
     property int smallestFont: 6
     property int largestFont: 40
@@ -39,7 +41,7 @@ Row {
         objectName: "saveButton"
         imageName: "save_small"
         text: qsTr("Save lyrics (Ctrl+S)")
-        visible: toolbar.editing
+        visible: toolbar.editing || toolbar.saveOffered
         onClicked: toolbar.saveRequested()
     }
 

@@ -21,8 +21,6 @@ Rectangle {
     readonly property var consent: mainWindow && mainWindow.usageConsent ? mainWindow.usageConsent : null
     // The one selected song; null when there is none or there are several.
     property var shownSong: null
-    // Of the song whose modified draft was left, until the draft is saved or discarded: the names that stood in the fields.
-    property var leftNames: null
     // Below this width in pixels something is cut.
     readonly property int leastWidth: Measures.listMinimumWidth + Measures.detailsMinimumWidth + Measures.hairline
 
@@ -52,15 +50,28 @@ Rectangle {
         edit.modified && !details.lyricsFocused ? leaveEditRequested() : edit.cancel();
     }
 
+    // With the names of its song, which are saved without lyrics too.
     function saveLyrics() {
         if (edit.active)
             edit.save();
+        else
+            saveSong();
+    }
+
+    // A search that is under way would not find a song that is being written; what it finds is written with the names.
+    function saveSong() {
+        if (shownSong === null || shownSong.active)
+            return;
+        details.confirmNames(shownSong.id);
+        if (shownSong.edited)
+            mainModel.writeTags(shownSong.id);
     }
 
     // Discards the draft of an edit: whoever searches anew wants other words.
     function forceSearch() {
         edit.cancel();
-        details.confirmNames();
+        if (shownSong !== null)
+            details.confirmNames(shownSong.id);
         listForceSearchSelected();
     }
 
@@ -75,16 +86,7 @@ Rectangle {
     }
 
     function showSelectedSong() {
-        var next = proxyModel.selectedItem();
-        if (next === shownSong)
-            return;
-        if (shownSong !== null && edit !== null && edit.modified && edit.songId === shownSong.id)
-            leftNames = { song: shownSong, artist: details.artistText, title: details.titleText };
-        shownSong = next;
-        if (next !== null && leftNames !== null && leftNames.song === next) {
-            details.typeNames(leftNames.artist, leftNames.title);
-            leftNames = null;
-        }
+        shownSong = proxyModel.selectedItem();
     }
 
     color: appPalette.window
@@ -105,16 +107,7 @@ Rectangle {
 
         // Names that were typed but not confirmed are written along with the lyrics.
         function onAboutToSave() {
-            if (root.leftNames !== null) {
-                root.leftNames.song.artistTag = root.leftNames.artist;
-                root.leftNames.song.titleTag = root.leftNames.title;
-            } else {
-                details.confirmNames();
-            }
-        }
-
-        function onActiveChanged() {
-            root.leftNames = null;
+            details.confirmNames(root.edit.songId);
         }
     }
 
@@ -197,6 +190,7 @@ Rectangle {
             song: root.shownSong
             selectedCount: proxyModel.selectedCount
             edit: root.edit
+            onSaveRequested: root.saveLyrics()
             onForceSearchRequested: root.forceSearch()
             onCopyRequested: root.listLyricsToClipboard(id)
             onBrowserRequested: root.listSearchLyricsInBrowser_url(source)

@@ -10,7 +10,15 @@ Item {
     QtObject {
         id: song
 
+        property int id: 1
         property string title: "Old"
+    }
+
+    QtObject {
+        id: otherSong
+
+        property int id: 2
+        property string title: "Other"
     }
 
     EditableField {
@@ -18,8 +26,7 @@ Item {
 
         width: 200
         subject: song
-        value: song.title
-        onConfirmed: song.title = text
+        role: "title"
     }
 
     Item {
@@ -32,6 +39,8 @@ Item {
 
         function init() {
             song.title = "Old";
+            otherSong.title = "Other";
+            field.leftTexts = null;
             field.subject = song;
             field.restore();
             elsewhere.forceActiveFocus();
@@ -71,9 +80,29 @@ Item {
             compare(field.text, "New");
         }
 
-        function test_another_song_drops_what_was_typed() {
-            field.subject = elsewhere;
+        function test_what_was_typed_stays_with_its_song() {
+            field.subject = otherSong;
+            compare(field.text, "Other");
+            verify(!field.pending);
+            field.subject = song;
+            compare(field.text, "Olde");
+            verify(field.pending);
+            keyClick(Qt.Key_Escape);
+            field.subject = otherSong;
+            field.subject = song;
             compare(field.text, "Old");
+        }
+
+        // Typing what the next song has by itself is no reason to forget it.
+        function test_the_same_text_in_two_songs() {
+            otherSong.title = "Olde";
+            field.subject = otherSong;
+            field.subject = song;
+            verify(field.pending);
+            field.subject = null;
+            field.confirmOf(song.id);
+            compare(song.title, "Olde");
+            field.subject = song;
             verify(!field.pending);
         }
 

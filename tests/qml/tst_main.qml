@@ -224,6 +224,29 @@ Item {
             tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
         }
 
+        function test_names_are_kept_and_saved_without_lyrics() {
+            var song = mainWindow.song(1);
+            var field = findChild(root, "artistField");
+            var save = findChild(root, "saveButton");
+            proxyModel.currentIndex = 1;
+            compare(song.artistTag, "");
+            field.forceActiveFocus();
+            keyClick(Qt.Key_X);
+            proxyModel.currentIndex = 0;
+            verify(field.text !== "x");
+            proxyModel.currentIndex = 1;
+            compare(field.text, "x");
+            verify(field.pending && !save.visible);
+            field.forceActiveFocus();
+            keyClick(Qt.Key_Return);
+            verify(field.unsaved && save.visible && !findChild(root, "titleField").unsaved);
+            keyClick(Qt.Key_S, Qt.ControlModifier);
+            verify(!save.visible);
+            tryCompare(song, "processState", ModelItem.ProcessComplete);
+            verify(!song.edited && !field.unsaved);
+            mainWindow.showSongs([]);
+        }
+
         function test_the_bars_are_there_when_they_have_something_to_say() {
             var scanning = findChild(root, "scanningBar");
             var hidden = findChild(root, "hiddenBar");
