@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QMessageBox>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QThreadPool>
 
@@ -58,6 +59,12 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
     afterFirstPaint(&window, &app, [&app, &window] {
         app.tracker()->release();
         app.updater()->setParentWindow(&window);
+        // The way of the window's own "Quit", so that the end of the session is reported. It ends in the application's
+        // quit() as well, when the window has gone.
+        app.updater()->setExit([window = QPointer<MainWindow>(&window)] {
+            if (window)
+                window->quit_app_accepted();
+        });
     });
     window.show();
     if (const SettingsMending mending = app.settingsMending(); mending.damaged)
