@@ -50,7 +50,12 @@ bool areTagsKept(QVector<TagItem> before, QVector<TagItem> after, const QSet<QBy
     const auto isNew = [&kinds](const TagItem &item) {
         return !kinds.contains(kindOf(item.key)) || item.key.startsWith("MP4/moov/udta/meta/");
     };
-    return std::all_of(lost.begin(), lost.end(), isEdited) &&
+    // With its last frame an ID3v2 tag goes.
+    const auto isGone = [&after](const TagItem &item) {
+        return item.key == "ID3v2" && std::none_of(after.begin(), after.end(),
+                                                   [](const TagItem &left) { return kindOf(left.key) == "ID3v2"; });
+    };
+    return std::all_of(lost.begin(), lost.end(), [&](const TagItem &item) { return isEdited(item) || isGone(item); }) &&
            std::all_of(added.begin(), added.end(), [&](const TagItem &item) { return isEdited(item) || isNew(item); });
 }
 

@@ -29,9 +29,9 @@ public:
     // For the GUI thread. It has no parent, since it changes threads. `dataFolder`: see updateTags().
     explicit TagWriter(const QString &dataFolder = {});
 
-    // Calls write() on the writer thread; lyrics that the file may hold as the user's own are removed also when all three
-    // texts are empty. `shown`: see updateTags(). The write counts as queued from this call on,
-    // until written() was emitted or the writer was deleted.
+    // Calls write() on the writer thread; lyrics that the file may hold as the user's own are removed also when all
+    // three texts are empty. `shown`: see updateTags(). The write counts as queued from this call on, until written()
+    // was emitted or the writer was deleted.
     void queueWrite(const QUrl &fileToWrite, quint16 id, const QString &_artist, const QString &title,
                     const QString &lyrics, const std::optional<tags::ShownTexts> &shown = std::nullopt);
 

@@ -456,12 +456,14 @@ private slots:
         write("two"_s);
         write("three"_s); // while the one before is under way
         QCOMPARE(stored(), "theirs"_s);
-        item->setTitleTag("Song"_s);
-        write("four"_s);
-        QCOMPARE(stored(), "four"_s);
-        item->setTitleTag({});
-        write({}); // three empty texts
-        QCOMPARE(stored(), QString());
+        for (const QString &title : {QString(), "Song"_s}) {
+            item->setTitleTag(title);
+            write("four"_s);
+            QCOMPARE(stored(), "four"_s);
+            item->setTitleTag({});
+            write({}); // three empty texts
+            QCOMPARE(stored(), QString());
+        }
     }
 
     void wordsTypedDuringASearchStay()
