@@ -4,6 +4,7 @@
 #include "tags/FileAccess.h"
 #include "tags/FileBytes.h"
 #include "tags/FileCopying.h"
+#include "tags/FileIdentity.h"
 
 #include <QCryptographicHash>
 #include <QLoggingCategory>
@@ -112,6 +113,12 @@ QByteArray contentOf(const QByteArray &path)
     return file < 0 ? QByteArray() : FileBytes(file).read(0, mostEntryBytes);
 }
 
+// Of an entry: the path of the song, and its inode where that was noted.
+QList<QByteArray> partsOf(const QByteArray &entry)
+{
+    return QByteArray(contentOf(entry) + '\0').split('\0');
+}
+
 bool writeContent(int file, const QByteArray &content)
 {
     return file >= 0 && ::write(file, content.constData(), static_cast<std::size_t>(content.size())) == content.size();
@@ -170,6 +177,15 @@ Tear tearOf(const FileBytes &song, const FileBytes &before, const FileBytes &cha
         }
     }
     return isOld || isNew ? Tear::None : Tear::Torn;
+}
+
+bool isTorn(const QByteArray &path, const QByteArray &rescued)
+{
+    const Descriptor song(openRegularFile(path, O_RDONLY | O_NOFOLLOW));
+    const Descriptor before(openRegularFile(rescued + ".song", O_RDONLY | O_NOFOLLOW));
+    const Descriptor changed(openRegularFile(rescued + ".changed", O_RDONLY | O_NOFOLLOW));
+    return song >= 0 && before >= 0 && changed >= 0 &&
+           tearOf(FileBytes(song), FileBytes(before), FileBytes(changed)) == Tear::Torn;
 }
 
 enum class Restoring { Whole, Done, Later, Foreign };
@@ -249,8 +265,9 @@ int SaveJournal::rescue(const QByteArray &path, int song, int changed)
     if (error == 0)
         error = linkOrCopy(changed, m_rescued + ".changed");
     if (error == 0 &&
-        !(writeContent(entry, path) && ::fsync(entry) == 0 && ::fsync(folder) == 0 &&
-          ::rename((m_rescued + ".new").constData(), (m_rescued + ".entry").constData()) == 0 && ::fsync(folder) == 0))
+        !(writeContent(entry, path + '\0' + QByteArray::number(FileIdentity::of(song).inode)) && ::fsync(entry) == 0 &&
+          ::fsync(folder) == 0 && ::rename((m_rescued + ".new").constData(), (m_rescued + ".entry").constData()) == 0 &&
+          ::fsync(folder) == 0))
         error = errno;
     if (error != 0)
         (void)forgetRescue(); // the song was not touched
@@ -259,8 +276,18 @@ int SaveJournal::rescue(const QByteArray &path, int song, int changed)
 
 bool SaveJournal::awaitsRestoring(const QByteArray &path) const
 {
-    const QByteArray entry = m_rescueFolder + '/' + nameFor(path) + ".entry";
-    return !m_rescueFolder.isEmpty() && (exists(entry) || entriesInWork().contains(entry));
+    if (m_rescueFolder.isEmpty())
+        return false;
+    const QByteArray own = m_rescueFolder + '/' + nameFor(path) + ".entry";
+    if (exists(own) || entriesInWork().contains(own))
+        return true;
+    const QByteArray inode = QByteArray::number(FileIdentity::of(path).inode);
+    const QList<QByteArray> names = namesIn(m_rescueFolder);
+    return std::any_of(names.begin(), names.end(), [&](const QByteArray &name) {
+        const QByteArray entry = m_rescueFolder + '/' + name;
+        return name.endsWith(".entry") && partsOf(entry).at(1) == inode &&
+               (entriesInWork().contains(entry) || isTorn(path, entry.left(entry.lastIndexOf('.'))));
+    });
 }
 
 int SaveJournal::restore(int song)
@@ -320,7 +347,7 @@ MendedSaves SaveJournal::mendSong(const QByteArray &entry)
 {
     MendedSaves mended;
     m_rescued = entry.left(entry.lastIndexOf('.'));
-    const QByteArray path = contentOf(entry);
+    const QByteArray path = partsOf(entry).first();
     Restoring result = restoreSong(path, m_rescued);
     if (result == Restoring::Foreign) {
         const QByteArray kept = handOver(path);
@@ -333,8 +360,10 @@ MendedSaves SaveJournal::mendSong(const QByteArray &entry)
         result = Restoring::Later;
     if (result == Restoring::Done)
         mended.restored.append(QString::fromUtf8(path));
-    else if (result == Restoring::Later)
+    else if (result == Restoring::Later) {
         mended.waiting.append(QString::fromUtf8(path));
+        mended.whole.append(QString::fromUtf8(m_rescued + ".song"));
+    }
     entriesInWork().remove(entry);
     return mended;
 }
@@ -362,7 +391,7 @@ LeftOvers SaveJournal::takeLeftOvers()
 
 QString SaveJournal::songOf(const QByteArray &entry)
 {
-    return QString::fromUtf8(contentOf(entry));
+    return QString::fromUtf8(partsOf(entry).first());
 }
 
 MendedSaves SaveJournal::mend()
@@ -380,6 +409,7 @@ MendedSaves &MendedSaves::operator+=(const MendedSaves &more)
     restored += more.restored;
     kept += more.kept;
     waiting += more.waiting;
+    whole += more.whole;
     underWay += more.underWay;
     return *this;
 }

@@ -14,6 +14,7 @@ struct MendedSaves
     QStringList restored; // songs whose save in place was cut off: they are again as they were before it
     QStringList kept;     // copies of such songs, where something else stands now: left for the user
     QStringList waiting;  // songs that could not be reached or restored: tried again at each start
+    QStringList whole;    // the rescued copies of the waiting ones
     QStringList underWay; // songs that are being restored now, links in their paths resolved
     [[nodiscard]] bool isEmpty() const
     {
@@ -33,7 +34,8 @@ struct LeftOvers
 //   copies/<name>        the path of a working copy that may exist; it is removed at the next start
 //   rescue/<name>.song     the full content of a song that is being saved in place
 //   rescue/<name>.changed  the full content that it is to have
-//   rescue/<name>.entry    the path of that song, once both are whole; an entry means: the song may be torn between
+//   rescue/<name>.entry    the path of that song and, behind a NUL, its inode, once both are whole; an entry means: the
+//                          song may be torn between
 // For one program at a time, which holds the lock of the running instance.
 class SaveJournal
 {
@@ -49,6 +51,8 @@ public:
     // that nobody writes any more, best in rescueFolder().
     [[nodiscard]] int rescue(const QByteArray &path, int song, int changed);
     // A save in place of this song was cut off and is not undone yet: what the file holds must not be taken for good.
+    // Also under another name of the file, or a new one, as long as its content is torn. Devices are not compared: they
+    // are numbered anew at each start.
     [[nodiscard]] bool awaitsRestoring(const QByteArray &path) const;
     // Puts the content back that was rescued last, and forgets it when that succeeds; 0 or an errno.
     [[nodiscard]] int restore(int song);

@@ -93,6 +93,7 @@ void StatusLine::showSavesMended(const tags::MendedSaves &mended)
     say(tr("A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1",
            "%1 is the paths of files"),
         mended.waiting);
+    say(tr("Whole copies of these songs: %1", "%1 is the paths of files"), mended.whole);
     say(tr("A save was cut off. Songs that are still being restored: %1", "%1 is the paths of files"), mended.underWay);
     if (sentences.isEmpty())
         remove(SavesMended);

@@ -275,9 +275,13 @@ private slots:
         rescue(place.song, changed, place.data);
         (void)place.files.write(QFileInfo(place.song).fileName(), ("new" + before).left(512) + before.mid(512));
         QVERIFY(QFile::rename(place.song, away));
+        const QString other = place.files.path("other.mp3"_s);
+        QCOMPARE(::link(QFile::encodeName(away).constData(), QFile::encodeName(other).constData()), 0);
 
         const tags::MendedSaves mended = tags::SaveJournal(place.data).mend();
         QCOMPARE(mended.waiting, QStringList{place.song});
+        QCOMPARE(SongFiles::bytes(mended.whole.value(0)), before);
+        QCOMPARE(tags::updateTags(other, newLyrics, place.data), UpdateResult::AwaitsRestoring);
         tags::SavesMending mending(place.data); // while the program starts
         const QStringList underWay = mending.result().underWay;
         QVERIFY(mending.isDone() || underWay == QStringList{place.song});
