@@ -26,6 +26,8 @@ Item {
     }
 
     height: Measures.rowHeight
+    // The list's place on the way of the Tab key; no less while the row still has the keyboard, which Qt would refuse.
+    activeFocusOnTab: current || activeFocus
 
     Accessible.role: Accessible.ListItem
     Accessible.name: qsTr("%1, %2, %3", "title, artist and how the song stands").arg(title.text).arg(artist.text).arg(state.spokenWord)
@@ -137,7 +139,7 @@ Item {
     Text {
         x: Measures.textColumn
         y: Measures.fileNameTop
-        width: word.x - x - Measures.grid
+        width: warning.x - x - Measures.grid
         text: filenameRole
         textFormat: Text.PlainText
         elide: Text.ElideMiddle
@@ -168,6 +170,16 @@ Item {
         opacity: row.quiet
     }
 
+    // The light says what lyrics the song has, not where they are.
+    Image {
+        id: warning
+
+        anchors { right: word.left; rightMargin: width > 0 ? Measures.halfGrid : 0; verticalCenter: light.verticalCenter }
+        width: source == "" ? 0 : Measures.icon
+        height: Measures.icon
+        source: state.unsaved ? "qrc:/img/exclamation.png" : ""
+    }
+
     Text {
         id: word
 
@@ -177,9 +189,9 @@ Item {
         textFormat: Text.PlainText
         elide: Text.ElideRight
         maximumLineCount: 1
-        font.pixelSize: Measures.smallFont
+        font { pixelSize: Measures.smallFont; bold: state.unsaved }
         color: row.textColor
-        opacity: row.quiet
+        opacity: state.unsaved ? 1 : row.quiet
     }
 
     // A rim, so that the light stands out from the highlight colour.
@@ -233,8 +245,8 @@ Item {
             imageName: "locate"
             text: qsTr("Show in the file manager")
             background: appPalette.listItemBackground
-            // The way of the Tab key leads to the current song's button alone.
-            activeFocusOnTab: row.current
+            // The way of the Tab key leads from the current row to its own button alone.
+            activeFocusOnTab: row.current || activeFocus
             onClicked: proxyModel.locate(index)
         }
     }

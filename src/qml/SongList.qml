@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.7
 import QtQuick.Controls 1.1
+import QtQuick.Window 2.2
 import "."
 
 // The rows of the songs. The current row is the model's; the list follows it and hands its own changes to it.
@@ -14,8 +15,10 @@ ScrollView {
     // row: -1 beside all rows; x and y: where, in the scene's coordinates.
     signal menuRequested(int row, real x, real y, bool byKey)
 
+    // The current row has the keyboard; the list itself only without one. Asking the list would give it to whatever had
+    // it last in there, which may be a row's button.
     function takeFocus() {
-        list.forceActiveFocus();
+        (list.currentItem || list).forceActiveFocus();
     }
 
     function follow() {
@@ -82,7 +85,8 @@ ScrollView {
 
         objectName: "songList"
         focus: true
-        activeFocusOnTab: true
+        // Not before the keyboard has left for the current row: Qt refuses that.
+        activeFocusOnTab: currentItem === null || Window.activeFocusItem === list
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
@@ -136,7 +140,7 @@ ScrollView {
         delegate: FileItemDelegate {
             width: list.width
             onClicked: {
-                list.forceActiveFocus();
+                songList.takeFocus();
                 proxyModel.itemClicked(index);
             }
         }
@@ -145,7 +149,7 @@ ScrollView {
             anchors.fill: parent
             z: -1
             acceptedButtons: Qt.LeftButton
-            onClicked: list.forceActiveFocus()
+            onClicked: songList.takeFocus()
         }
 
         MouseArea {
@@ -153,7 +157,7 @@ ScrollView {
             acceptedButtons: Qt.RightButton
             onClicked: {
                 var row = list.indexAt(mouse.x + list.contentX, mouse.y + list.contentY);
-                list.forceActiveFocus();
+                songList.takeFocus();
                 if (row < 0 || !proxyModel.isSelected(row))
                     proxyModel.itemClicked(row);
                 var place = mapToItem(null, mouse.x, mouse.y);
@@ -175,7 +179,7 @@ ScrollView {
                 // Rows that come and go around the current song move its row, which is no reason to take the keyboard away.
                 var song = proxyModel.currentItem();
                 if (song !== list.shownSong && song !== null)
-                    list.forceActiveFocus();
+                    songList.takeFocus();
                 list.shownSong = song;
             }
 

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -16,6 +17,29 @@ static constexpr QSize toolIconSize(24, 24);
 
 // In a list of a menu's entries.
 static constexpr QAction *separator = nullptr;
+
+namespace {
+
+// Shows that it has the keyboard, which a button with a style sheet of its own does not.
+class RingedToolButton : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QToolButton::paintEvent(event);
+        if (!hasFocus())
+            return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(window()->palette().color(QPalette::Highlight), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+};
+
+} // namespace
 
 static void fill(QMenu *menu, std::initializer_list<QAction *> entries)
 {
@@ -128,7 +152,7 @@ void WindowActions::createToolBar(QMainWindow *window)
 
 void WindowActions::createGearButton(QToolBar *bar)
 {
-    m_gear = new QToolButton(bar);
+    m_gear = new RingedToolButton(bar);
     m_gear->setObjectName(QStringLiteral("gearButton"));
     m_gear->setIcon(QIcon(QStringLiteral(":/img/gear_small.png")));
     m_gear->setFocusPolicy(Qt::TabFocus);
@@ -152,10 +176,14 @@ void WindowActions::retranslate()
         link->setIconText(link->text());
         link->setToolTip(link->text());
     }
-    m_file->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "File")));
-    m_edit->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "Edit")));
-    m_view->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "View")));
-    m_help->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "Help")));
+    //: A menu; Alt with the letter behind & opens it: another letter for each of the four.
+    m_file->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "&File")));
+    //: A menu; Alt with the letter behind & opens it: another letter for each of the four.
+    m_edit->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "&Edit")));
+    //: A menu; Alt with the letter behind & opens it: another letter for each of the four.
+    m_view->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "&View")));
+    //: A menu; Alt with the letter behind & opens it: another letter for each of the four.
+    m_help->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "&Help")));
     m_toolBar->setWindowTitle(text(QT_TRANSLATE_NOOP("MainWindow", "Tools")));
     m_gear->setToolTip(text(QT_TRANSLATE_NOOP("MainWindow", "Options")));
     m_gear->setAccessibleName(m_gear->toolTip());
