@@ -7,6 +7,7 @@
 #include "network/Endpoints.h"
 #include "settings/SettingsChange.h"
 #include "settings/SettingsKeys.h"
+#include "ui/MenuStyle.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -70,6 +71,7 @@ Application::Application(int &argc, char **argv, const QString &readerProgram)
     connect(&m_settings, &Settings::languageChanged, this, &Application::changeLanguage);
     connect(&m_settings, &Settings::proxyChanged, this, &Application::proxyChanged);
     connect(&m_settings, &Settings::providersOrderChanged, &m_search, &LyricsSearch::setProvidersOrder);
+    MenuStyle::install();
     onPaletteChanged(palette());
     connect(this, &QGuiApplication::paletteChanged, this, &Application::onPaletteChanged);
 }

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+
+// Fusion with menus that stand out from what lies below them: its own frame and separators are shades of the window's
+// colour, which are not seen on a dark one. The lines are made of the colours of the menu that is drawn, and so follow
+// the palette.
+class MenuStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    // Takes the place of the application's style when that is Fusion; the menus of other styles are their own.
+    static void install();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+
+private:
+    MenuStyle();
+};
