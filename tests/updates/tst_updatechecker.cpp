@@ -182,6 +182,9 @@ private slots:
         m_publicKey = signUpdate({QStringLiteral("new-key"), m_key});
         m_signature = signUpdate({m_key, QStringLiteral("2.0"), m_keys.write(QStringLiteral("setup"), setupContent)});
         QCOMPARE(QByteArray::fromBase64(m_signature).size(), 64);
+        // No program could read these as they are meant.
+        for (const QString &version : {"2..0"_s, "1.256"_s, "1.000000000000000000000000000000000"_s})
+            QCOMPARE(signUpdate({m_key, version, m_keys.path("setup"_s)}), QByteArray());
     }
 
     void statesFollowTheSite_data()
