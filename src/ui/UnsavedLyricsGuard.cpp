@@ -31,13 +31,10 @@ void UnsavedLyricsGuard::beforeRemovingAny(std::function<void()> action)
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
-    const QVector<quint16> ids = m_model->idsWithUnsavedLyrics();
-    afterWrites(ids, [this, ids, action = std::move(action)] {
-        const QVector<quint16> unsaved = unsavedOfAll(ids);
-        before(unsaved.size(), [this, unsaved, action] {
-            m_givenUp = unsaved;
-            action();
-        });
+    const QVector<quint16> unsaved = m_model->unsavedIds();
+    before(unsaved.size(), [this, unsaved, action = std::move(action)] {
+        m_givenUp = unsaved;
+        action();
     });
 }
 

@@ -12,8 +12,8 @@ class QMessageBox;
 class QWidget;
 class WritesWait;
 
-// Sees to it that lyrics which stand in the list only, because their write failed, are never given up unasked. Writes
-// that are under way are waited for first (ui/WritesWait.h). Main thread only.
+// Sees to it that lyrics which stand in the list only, because their write failed, are never given up unasked. Songs
+// that are to be removed are waited for while they are being written (ui/WritesWait.h). Main thread only.
 class UnsavedLyricsGuard
 {
     Q_DECLARE_TR_FUNCTIONS(UnsavedLyricsGuard)
@@ -28,8 +28,9 @@ public:
     void beforeRemoving(const QVector<quint16> &ids, std::function<void()> action);
     // In the same way an action that removes any songs.
     void beforeRemovingAny(std::function<void()> action);
-    // In the same way an action that ends the program. Who gives lyrics up here may still stay: giveUp() is to be
-    // called when the program ends indeed.
+    // In the same way an action that ends the program, but writes under way are left to the end of the program, which
+    // waits for them without a window and keeps what they could not store. Who gives lyrics up here may still stay:
+    // giveUp() is to be called when the program ends indeed.
     void beforeQuitting(std::function<void()> action);
     // Tells the model which lyrics the user gave up when last asked before quitting.
     void giveUp();
