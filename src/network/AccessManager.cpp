@@ -8,6 +8,7 @@
 #include "network/RefusedReply.h"
 #include "network/RetryAfter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -37,11 +38,40 @@ bool isPlain(const QUrl &url)
     return url.scheme() == QLatin1String("http");
 }
 
+// The elements of a list in a header, without their quoted texts; commas and line ends part them (RFC 7235).
+QByteArrayList listElements(const QByteArray &header)
+{
+    QByteArrayList elements{QByteArray()};
+    bool quoted = false;
+    for (int i = 0; i < header.size(); ++i) {
+        const char c = header.at(i);
+        if (quoted && c == '\\')
+            ++i;
+        else if (c == '"')
+            quoted = !quoted;
+        else if (!quoted && (c == ',' || c == '\n'))
+            elements.append(QByteArray());
+        else if (!quoted)
+            elements.last().append(c == '\t' ? ' ' : c);
+    }
+    return elements;
+}
+
+// An element begins a challenge with its scheme, or goes on with a parameter: name=value.
+bool namesBasic(const QByteArray &header)
+{
+    const QByteArrayList elements = listElements(header);
+    return std::any_of(elements.begin(), elements.end(), [](const QByteArray &element) {
+        const QByteArray text = element.trimmed().toLower();
+        return text == "basic" || (text.startsWith("basic ") && !text.mid(5).trimmed().startsWith('='));
+    });
+}
+
 // The log-in that is made up here is of this kind; it would give the password away to any other.
 bool asksForBasicLogin(const QNetworkReply &reply)
 {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 407 &&
-           reply.rawHeader("Proxy-Authenticate").toLower().contains("basic");
+           namesBasic(reply.rawHeader("Proxy-Authenticate"));
 }
 
 bool canBeSentAgain(QIODevice *data)
@@ -267,8 +297,10 @@ void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &
         return;
     // What a proxy says about a log-in that it was never given is no refusal, and a site may say so as well.
     const bool unasked = hasHttpLogin(proxy) && isPlain(source.url()) && !withLogin;
-    if (error == loginRefused && unasked) {
-        reply->fail(error, tr("The proxy wants a log-in of a kind that is not known here."));
+    if (error == loginRefused && unasked && m_refusingProxy != proxy) {
+        reply->fail(error, asksForBasicLogin(source)
+                               ? tr("The proxy asks for a log-in for some pages only, which is not supported.")
+                               : tr("The proxy wants a log-in of a kind that is not known here."));
         return;
     }
     if (error == loginRefused && proxy == this->proxy())

@@ -360,7 +360,8 @@ private slots:
     void aProxyThatWantsAnotherLoginGetsNoneAndBlocksNothing()
     {
         m_server->routeOthers([](const LoopbackRequest &) {
-            return LoopbackResponse::error(407).with("Proxy-Authenticate", "Digest realm=\"a\", nonce=\"b\"");
+            return LoopbackResponse::error(407).with("Proxy-Authenticate",
+                                                     "Digest realm=\"Basic, Basic \", nonce=\"b\"");
         });
         m_manager->useProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"),
                              quint16(QUrl(m_server->base()).port()), QStringLiteral("nora"), QStringLiteral("word")});
