@@ -186,6 +186,12 @@ QNetworkRequest AppTracker::request() const
         QStringLiteral("%1/%2 (%3)")
             .arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(), m_system.text());
     request.setRawHeader("User-Agent", userAgent.toLatin1());
+    // Else Qt would add the user's language and country.
+    request.setRawHeader("Accept-Language", "en");
+    request.setRawHeader("Accept-Encoding", "gzip, deflate");
+    // A cookie would be a second identifier, which outlives a no.
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     // Deliberate: events count with any certificate that the collector has, and nothing that comes back is used.
     QSslConfiguration unchecked = QSslConfiguration::defaultConfiguration();
     unchecked.setPeerVerifyMode(QSslSocket::VerifyNone);

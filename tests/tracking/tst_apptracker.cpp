@@ -102,6 +102,24 @@ private slots:
                  request.header("User-Agent").constData());
     }
 
+    void nothingIsSentThatTheExampleDoesNotShow()
+    {
+        m_collector->route("/collect"_s, LoopbackResponse::page({}).with("Set-Cookie", "uid=1"));
+        AccessManager manager;
+        AppTracker tracker;
+        tracker.setNetworkAccessManager(&manager);
+        tracker.allow(clientId);
+        tracker.trackStart();
+        QTRY_COMPARE(m_collector->requests().size(), 1);
+        QTest::qWait(0); // the cookie arrives
+        tracker.trackSearch("Nora Vale"_s, "Harbour"_s);
+        QTRY_COMPARE(m_collector->requests().size(), 2);
+        const QStringList shown = tracker.searchExample("Nora Vale"_s, "Harbour"_s, {}).split(QLatin1Char('\n'));
+        const QList<QByteArray> protocol{"Host", "Connection", "Content-Length"};
+        for (const auto &[name, value] : m_collector->requests().last().headers)
+            QVERIFY2(protocol.contains(name) || shown.contains(QString::fromLatin1(name + ": " + value)), name.constData());
+    }
+
     // Neither a request nor a connection, and the end of the session is told all the same, but not at once.
     void nobodyHearsOfAnything_data()
     {
