@@ -102,6 +102,8 @@ void SettingsDialog::alignProxyLabels()
 
 void SettingsDialog::setUpProxyTest()
 {
+    // What stands below must not move while one types.
+    m_form->proxyTestTextLabel->setMinimumHeight(2 * fontMetrics().lineSpacing());
     m_proxyTester = new ProxyTester(endpointUrl(Endpoint::ProxyTest, QStringLiteral("/")), this);
     connect(m_proxyTester, &ProxyTester::stateChanged, this, &SettingsDialog::updateProxyTestStatus);
     m_proxyTestTimer = new QTimer(this);
@@ -128,13 +130,11 @@ void SettingsDialog::setUpReports()
     const bool isPossible = m_consent && m_consent->isPossible();
     m_form->usageStatisticsCheckBox->setVisible(isPossible);
     m_form->btnUsageExample->setVisible(isPossible);
+    m_form->usageForbiddenLabel->setVisible(isPossible && m_consent->isForbidden());
     if (!isPossible)
         return;
     connect(m_form->btnUsageExample, &QPushButton::clicked, m_consent, &UsageConsent::showExample);
-    if (!m_consent->isForbidden())
-        return;
-    m_form->usageStatisticsCheckBox->setEnabled(false);
-    m_form->usageStatisticsCheckBox->setToolTip(tr("Switched off by DO_NOT_TRACK"));
+    m_form->usageStatisticsCheckBox->setEnabled(!m_consent->isForbidden());
 }
 
 // The style draws the outline of a check box in a shade of the window's colour, which is hardly seen on the list's.
@@ -313,7 +313,8 @@ void SettingsDialog::updateProxyControls()
 void SettingsDialog::onProxyChanged()
 {
     m_proxyTester->stop();
-    if (m_form->proxyTypeComboBox->currentData().toInt() != 0)
+    // Without an address the test would ask the test page directly, behind the back of who wants a proxy.
+    if (m_form->proxyTypeComboBox->currentData().toInt() != 0 && !proxyAddress().isEmpty())
         m_proxyTestTimer->start();
     else
         m_proxyTestTimer->stop();
