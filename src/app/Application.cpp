@@ -114,7 +114,8 @@ void Application::setUpTracker()
 {
     m_tracker.setNetworkAccessManager(&m_trackerManager);
     m_tracker.hold();
-    m_usageConsent.load();
+    if (m_instance.isHolder()) // nobody else may store an answer's consequences
+        m_usageConsent.load();
 }
 
 void Application::createSearch()

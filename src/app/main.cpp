@@ -97,6 +97,21 @@ Qt::KeyboardModifiers heldKeys()
     return QGuiApplication::queryKeyboardModifiers() | (recovery ? Qt::ShiftModifier : Qt::NoModifier);
 }
 
+// Where the application object is all but gone, Qt would wait for name look-ups under way, which may take as long as a
+// dead network likes. The sanitizers look for leaks after that.
+void leaveWithoutLookups(QObject *app, const int *status)
+{
+#ifndef __SANITIZE_ADDRESS__
+    QObject::connect(app, &QObject::destroyed, [status] {
+        std::fflush(nullptr);
+        std::_Exit(*status);
+    });
+#else
+    Q_UNUSED(app)
+    Q_UNUSED(status)
+#endif
+}
+
 // Waits for the writes that are queued, and lets the model hear of them.
 void finishWrites()
 {
@@ -148,6 +163,7 @@ int main(int argc, char **argv)
         return Done;
     }
     std::signal(SIGXFSZ, SIG_IGN); // a limit on file sizes is an error to report, not the end of the program
+    int status = Done;             // outlives the application object
     // This very program, also after its file was replaced by another version.
     Application app(argc, argv, QStringLiteral("/proc/self/exe"));
     const CommandLine line = readCommandLine(Application::arguments(), QDir::currentPath());
@@ -160,6 +176,7 @@ int main(int argc, char **argv)
         std::fputs("Versewell is running already.\n", stderr);
         return OtherInstanceRuns;
     }
+    leaveWithoutLookups(&app, &status);
     const TerminationSignals signalsToEnd; // from here on they end the program in order
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &app, &QCoreApplication::quit);
     bool isTerminated = false;
@@ -167,14 +184,14 @@ int main(int argc, char **argv)
     chooseGraphicsBackend();
     const AfterRecovery next = offerRecovery(heldKeys(), signalsToEnd);
     if (next == AfterRecovery::StartAnew)
-        return startAnew(app);
+        return status = startAnew(app);
     if (next == AfterRecovery::End)
         return Done;
     app.restoreFilesList();
     app.mainModel()->addUrlsFromDrop(line.songs);
     app.setUpLanguages();
     app.noteStart();
-    const int status = runWindow(app, signalsToEnd);
+    status = runWindow(app, signalsToEnd);
     finishWrites();
     keepLyrics(app, isTerminated);
     app.mainModel()->stopReading();
