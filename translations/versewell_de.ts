@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Der Proxy verlangt ein Anmeldeverfahren, das nicht unterstützt wird.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Der Proxy verlangt nur für manche Seiten eine Anmeldung; das wird nicht unterstützt.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -184,6 +188,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Mit Enter übernehmen</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>noch nicht gespeichert (Strg+S speichert)</translation>
     </message>
 </context>
 <context>
@@ -474,22 +482,6 @@
         <translation>Songtext als TXT-Datei exportieren</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Ansicht</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Werkzeugleiste</translation>
     </message>
@@ -500,6 +492,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Nach Aktualisierungen suchen...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1319,16 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
         <source>Dismiss</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Vollständige Kopien dieser Songs: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Ein Speichern wurde abgebrochen. Songs, die noch wiederhergestellt werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1369,6 +1391,10 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>die Datei konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>ein früheres Speichern der Datei wurde abgebrochen und ist noch nicht rückgängig gemacht</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1608,17 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Songtexte werden noch in die Songs geschrieben.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Danach geht es von selbst weiter.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1590,6 +1627,25 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>Das Fenster konnte nicht aufgebaut werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>Der Songtext von %n Song wurde als Textdatei aufbewahrt in %1</numerusform>
+            <numerusform>Die Songtexte von %n Songs wurden als Textdateien aufbewahrt in %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Der Songtext von %n Song konnte nirgends aufbewahrt werden: Kopieren Sie ihn jetzt aus den Details.</numerusform>
+            <numerusform>Die Songtexte von %n Songs konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Nicht alle Songtexte konnten in die Songs geschrieben werden.</translation>
     </message>
 </context>
 </TS>

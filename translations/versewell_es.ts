@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>El proxy requiere un tipo de autenticación no compatible.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>El proxy pide iniciar sesión solo para algunas páginas, lo que no se admite.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -184,6 +188,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Intro para aplicar</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>aún sin guardar (Ctrl+S guarda)</translation>
     </message>
 </context>
 <context>
@@ -474,22 +482,6 @@
         <translation>Exportar la letra a un archivo TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Archivo</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Editar</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Ver</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Herramientas</translation>
     </message>
@@ -500,6 +492,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Buscar actualizaciones...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>A&amp;yuda</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1319,16 @@ Comprobar que el nombre es correcto.</translation>
         <source>Dismiss</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Copias íntegras de estas canciones: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Un guardado se interrumpió. Canciones que aún se están restaurando: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1369,6 +1391,10 @@ Comprobar que el nombre es correcto.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>no se pudo guardar el archivo</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>un guardado anterior del archivo se interrumpió y aún no se ha deshecho</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1608,17 @@ Comprobar que el nombre es correcto.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Aún se están escribiendo letras en las canciones.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Continúa por sí solo cuando termina.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1590,6 +1627,25 @@ Comprobar que el nombre es correcto.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>No se pudo crear la ventana.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>La letra de %n canción se conservó como archivo de texto en %1</numerusform>
+            <numerusform>Las letras de %n canciones se conservaron como archivos de texto en %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>La letra de %n canción no se pudo conservar en ningún sitio: hay que copiarla ahora desde los detalles.</numerusform>
+            <numerusform>Las letras de %n canciones no se pudieron conservar en ningún sitio: hay que copiarlas ahora desde los detalles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>No se pudieron escribir todas las letras en las canciones.</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Le proxy exige un type d’authentification qui n’est pas pris en charge.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Le proxy ne demande une identification que pour certaines pages, ce qui n’est pas pris en charge.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -184,6 +188,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Entrée pour appliquer</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>pas encore enregistré (Ctrl+S enregistre)</translation>
     </message>
 </context>
 <context>
@@ -474,22 +482,6 @@
         <translation>Exporter les paroles dans un fichier TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Édition</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Affichage</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Barre d’outils</translation>
     </message>
@@ -500,6 +492,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Rechercher des mises à jour...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>Aid&amp;e</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1319,16 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
         <source>Dismiss</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Copies complètes de ces chansons : %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Un enregistrement a été interrompu. Chansons encore en cours de restauration : %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1369,6 +1391,10 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>le fichier n’a pas pu être enregistré</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>un enregistrement précédent du fichier a été interrompu et n’est pas encore annulé</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1608,17 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Des paroles sont encore en cours d’écriture dans les chansons.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>La suite vient d’elle-même une fois que c’est terminé.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1590,6 +1627,25 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>La fenêtre n’a pas pu être créée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>Les paroles de %n chanson ont été conservées dans un fichier texte dans %1</numerusform>
+            <numerusform>Les paroles de %n chansons ont été conservées dans des fichiers texte dans %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Les paroles de %n chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
+            <numerusform>Les paroles de %n chansons n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Toutes les paroles n’ont pas pu être écrites dans les chansons.</translation>
     </message>
 </context>
 </TS>

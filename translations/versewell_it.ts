@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Il proxy richiede un tipo di accesso non supportato.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Il proxy chiede l’accesso solo per alcune pagine, il che non è supportato.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -184,6 +188,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Invio per applicare</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>non ancora salvato (Ctrl+S salva)</translation>
     </message>
 </context>
 <context>
@@ -474,22 +482,6 @@
         <translation>Esporta testo in un file TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Modifica</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Visualizza</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aiuto</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Barra degli strumenti</translation>
     </message>
@@ -500,6 +492,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Controlla aggiornamenti...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Aiuto</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1319,16 @@ Verificare che il nome della cartella sia corretto.</translation>
         <source>Dismiss</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Copie integre di questi brani: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Un salvataggio è stato interrotto. Brani ancora in fase di ripristino: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1369,6 +1391,10 @@ Verificare che il nome della cartella sia corretto.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>impossibile salvare il file</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>un salvataggio precedente del file è stato interrotto e non è ancora annullato</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1608,17 @@ Verificare che il nome della cartella sia corretto.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>I testi sono ancora in fase di scrittura nei brani.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Poi si prosegue da sé.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1590,6 +1627,25 @@ Verificare che il nome della cartella sia corretto.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>Impossibile creare la finestra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>Il testo di %n brano è stato conservato come file di testo in %1</numerusform>
+            <numerusform>I testi di %n brani sono stati conservati come file di testo in %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Il testo di %n brano non si è potuto conservare da nessuna parte: copiarlo ora dai dettagli.</numerusform>
+            <numerusform>I testi di %n brani non si sono potuti conservare da nessuna parte: copiarli ora dai dettagli.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Non tutti i testi si sono potuti scrivere nei brani.</translation>
     </message>
 </context>
 </TS>

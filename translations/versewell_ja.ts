@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>プロキシが未対応のログイン方式を要求しています。</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>プロキシが一部のページでのみログインを求めていますが、これには対応していません。</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -183,6 +187,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Enter で適用</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>未保存 (Ctrl+S で保存)</translation>
     </message>
 </context>
 <context>
@@ -470,22 +478,6 @@
         <translation>歌詞を TXT ファイルにエクスポート</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>編集</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>表示</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>ツール</translation>
     </message>
@@ -496,6 +488,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>アップデートを確認...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1309,16 @@ Please verify the correct directory name was given.</source>
         <source>Dismiss</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>これらの曲の完全なコピー: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>保存が中断されました。復元中の曲: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1359,6 +1381,10 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>the file could not be saved</source>
         <translation>ファイルを保存できませんでした</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>このファイルの以前の保存が中断され、まだ元に戻されていません</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1594,17 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>歌詞を曲に書き込んでいます。</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>終わると自動的に続行します。</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1576,6 +1613,23 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>The window could not be built.</source>
         <translation>ウィンドウを作成できませんでした。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>%n 曲の歌詞をテキストファイルとして %1 に保管しました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>%n 曲の歌詞をどこにも保管できませんでした。今すぐ詳細からコピーしてください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>一部の歌詞を曲に書き込めませんでした。</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Serwer proxy wymaga nieobsługiwanego sposobu uwierzytelniania.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Serwer pośredniczący wymaga logowania tylko przy niektórych stronach, co nie jest obsługiwane.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -185,6 +189,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Enter, aby zastosować</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>jeszcze nie zapisano (Ctrl+S zapisuje)</translation>
     </message>
 </context>
 <context>
@@ -478,22 +486,6 @@
         <translation>Eksportuj tekst do pliku TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Plik</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Edycja</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Widok</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Pomoc</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Narzędzia</translation>
     </message>
@@ -504,6 +496,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Sprawdź aktualizacje...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Plik</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Edycja</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Widok</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>Pomo&amp;c</translation>
     </message>
 </context>
 <context>
@@ -1317,6 +1329,16 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         <source>Dismiss</source>
         <translation>Zamknij</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Nienaruszone kopie tych utworów: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Zapis został przerwany. Utwory, które są jeszcze przywracane: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1379,6 +1401,10 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>nie udało się zapisać pliku</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>wcześniejszy zapis pliku został przerwany i nie jest jeszcze cofnięty</translation>
     </message>
 </context>
 <context>
@@ -1596,6 +1622,17 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Teksty są jeszcze zapisywane w utworach.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Potem wszystko potoczy się samo.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1604,6 +1641,27 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>Nie udało się utworzyć okna.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>Tekst %n utworu zachowano jako plik tekstowy w %1</numerusform>
+            <numerusform>Teksty %n utworów zachowano jako pliki tekstowe w %1</numerusform>
+            <numerusform>Teksty %n utworów zachowano jako pliki tekstowe w %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Tekstu %n utworu nie można nigdzie zachować: należy go teraz skopiować ze szczegółów.</numerusform>
+            <numerusform>Tekstów %n utworów nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+            <numerusform>Tekstów %n utworów nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Nie wszystkie teksty udało się zapisać w utworach.</translation>
     </message>
 </context>
 </TS>

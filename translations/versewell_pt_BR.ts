@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>O proxy exige um tipo de autenticação não compatível.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>O proxy pede login apenas para algumas páginas, o que não é suportado.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -184,6 +188,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Enter para aplicar</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>ainda não foi salvo (Ctrl+S salva)</translation>
     </message>
 </context>
 <context>
@@ -474,22 +482,6 @@
         <translation>Exportar letra para arquivo TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Arquivo</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Editar</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Exibir</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ajuda</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Ferramentas</translation>
     </message>
@@ -500,6 +492,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Procurar atualizações...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>Aj&amp;uda</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1319,16 @@ Verifique se o nome da pasta está correto.</translation>
         <source>Dismiss</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Cópias íntegras destas músicas: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Um salvamento foi interrompido. Músicas que ainda estão sendo restauradas: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1369,6 +1391,10 @@ Verifique se o nome da pasta está correto.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>não foi possível salvar o arquivo</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>um salvamento anterior do arquivo foi interrompido e ainda não foi desfeito</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1608,17 @@ Verifique se o nome da pasta está correto.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Letras ainda estão sendo gravadas nas músicas.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Depois disso, tudo continua sozinho.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1590,6 +1627,25 @@ Verifique se o nome da pasta está correto.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>Não foi possível criar a janela.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>A letra de %n música foi guardada como arquivo de texto em %1</numerusform>
+            <numerusform>As letras de %n músicas foram guardadas como arquivos de texto em %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>A letra de %n música não pôde ser guardada em lugar nenhum: copie-a agora dos detalhes.</numerusform>
+            <numerusform>As letras de %n músicas não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Nem todas as letras puderam ser gravadas nas músicas.</translation>
     </message>
 </context>
 </TS>

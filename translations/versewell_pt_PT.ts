@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>O proxy exige um tipo de autenticação não suportado.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>O proxy pede autenticação apenas para algumas páginas, o que não é suportado.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -184,6 +188,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Enter para aplicar</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>ainda por guardar (Ctrl+S guarda)</translation>
     </message>
 </context>
 <context>
@@ -474,22 +482,6 @@
         <translation>Exportar letra para ficheiro TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Ficheiro</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Editar</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Ver</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ajuda</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Ferramentas</translation>
     </message>
@@ -500,6 +492,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Procurar atualizações...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Ficheiro</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>Aj&amp;uda</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1319,16 @@ Verificar se o nome da pasta está correto.</translation>
         <source>Dismiss</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Cópias íntegras destas músicas: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Uma gravação foi interrompida. Músicas ainda a ser restauradas: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1369,6 +1391,10 @@ Verificar se o nome da pasta está correto.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>não foi possível guardar o ficheiro</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>uma gravação anterior do ficheiro foi interrompida e ainda não foi anulada</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1608,17 @@ Verificar se o nome da pasta está correto.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Ainda estão a ser escritas letras nas músicas.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Depois disso, continua por si.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1590,6 +1627,25 @@ Verificar se o nome da pasta está correto.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>Não foi possível criar a janela.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>A letra de %n música foi conservada como ficheiro de texto em %1</numerusform>
+            <numerusform>As letras de %n músicas foram conservadas como ficheiros de texto em %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>A letra de %n música não pôde ser conservada em lado nenhum: é preciso copiá-la agora dos detalhes.</numerusform>
+            <numerusform>As letras de %n músicas não puderam ser conservadas em lado nenhum: é preciso copiá-las agora dos detalhes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Nem todas as letras puderam ser escritas nas músicas.</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Прокси-сервер требует неподдерживаемый способ аутентификации.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Прокси-сервер требует вход только для некоторых страниц, это не поддерживается.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -185,6 +189,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Enter — применить</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>ещё не сохранено (Ctrl+S сохраняет)</translation>
     </message>
 </context>
 <context>
@@ -478,22 +486,6 @@
         <translation>Экспортировать текст в файл TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Файл</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Правка</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Вид</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Справка</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Инструменты</translation>
     </message>
@@ -504,6 +496,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Проверить обновления...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Справка</translation>
     </message>
 </context>
 <context>
@@ -1317,6 +1329,16 @@ Please verify the correct directory name was given.</source>
         <source>Dismiss</source>
         <translation>Закрыть</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Целые копии этих песен: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Сохранение было прервано. Песни, которые ещё восстанавливаются: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1379,6 +1401,10 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>the file could not be saved</source>
         <translation>не удалось сохранить файл</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>прежнее сохранение файла было прервано и ещё не отменено</translation>
     </message>
 </context>
 <context>
@@ -1596,6 +1622,17 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Тексты ещё записываются в песни.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>После этого всё продолжится само.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1604,6 +1641,27 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>The window could not be built.</source>
         <translation>Не удалось создать окно.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>Текст %n песни сохранён в текстовый файл в %1</numerusform>
+            <numerusform>Тексты %n песен сохранены в текстовые файлы в %1</numerusform>
+            <numerusform>Тексты %n песен сохранены в текстовые файлы в %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Текст %n песни негде сохранить: скопируйте его сейчас из окна сведений.</numerusform>
+            <numerusform>Тексты %n песен негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+            <numerusform>Тексты %n песен негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Не все тексты удалось записать в песни.</translation>
     </message>
 </context>
 </TS>

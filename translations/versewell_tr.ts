@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Vekil sunucu, desteklenmeyen bir oturum açma yöntemi istiyor.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Vekil sunucu yalnızca bazı sayfalar için oturum açma istiyor; bu desteklenmiyor.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -183,6 +187,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Uygulamak için Enter</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>henüz kaydedilmedi (Ctrl+S kaydeder)</translation>
     </message>
 </context>
 <context>
@@ -470,22 +478,6 @@
         <translation>Sözleri TXT Dosyasına Aktar</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Dosya</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Düzen</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Görünüm</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Yardım</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Araçlar</translation>
     </message>
@@ -496,6 +488,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Güncellemeleri Denetle...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Dosya</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>Dü&amp;zen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Görünüm</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Yardım</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1309,16 @@ Klasör adının doğru olduğunu denetleyin.</translation>
         <source>Dismiss</source>
         <translation>Kapat</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Bu şarkıların sağlam kopyaları: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Bir kaydetme yarıda kesildi. Hâlâ geri yüklenen şarkılar: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1359,6 +1381,10 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     <message>
         <source>the file could not be saved</source>
         <translation>dosya kaydedilemedi</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>dosyanın önceki bir kaydı yarıda kesildi ve henüz geri alınmadı</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1594,17 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Sözler hâlâ şarkılara yazılıyor.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Bitince kendiliğinden devam eder.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1576,6 +1613,23 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     <message>
         <source>The window could not be built.</source>
         <translation>Pencere oluşturulamadı.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>%n şarkının sözleri metin dosyası olarak saklandı: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>%n şarkının sözleri hiçbir yere saklanamadı: Şimdi ayrıntılardan kopyalayın.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Bazı sözler şarkılara yazılamadı.</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>Проксі-сервер вимагає непідтримуваного способу автентифікації.</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>Проксі-сервер вимагає вхід лише для деяких сторінок, це не підтримується.</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -185,6 +189,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>Enter — застосувати</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>ще не збережено (Ctrl+S зберігає)</translation>
     </message>
 </context>
 <context>
@@ -478,22 +486,6 @@
         <translation>Експортувати текст до файлу TXT</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Файл</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Зміни</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Перегляд</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Довідка</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>Інструменти</translation>
     </message>
@@ -504,6 +496,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>Перевірити оновлення...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Зміни</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Перегляд</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>&amp;Довідка</translation>
     </message>
 </context>
 <context>
@@ -1317,6 +1329,16 @@ Please verify the correct directory name was given.</source>
         <source>Dismiss</source>
         <translation>Закрити</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Цілі копії цих пісень: %1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>Збереження було перервано. Пісні, які ще відновлюються: %1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1379,6 +1401,10 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>the file could not be saved</source>
         <translation>не вдалося зберегти файл</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>попереднє збереження файлу було перервано і ще не скасовано</translation>
     </message>
 </context>
 <context>
@@ -1596,6 +1622,17 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>Тексти ще записуються в пісні.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>Після цього все продовжиться саме.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1604,6 +1641,27 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>The window could not be built.</source>
         <translation>Не вдалося створити вікно.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>Текст %n пісні збережено в текстовий файл у %1</numerusform>
+            <numerusform>Тексти %n пісень збережено в текстові файли в %1</numerusform>
+            <numerusform>Тексти %n пісень збережено в текстові файли в %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Текст %n пісні ніде зберегти: скопіюйте його зараз із вікна відомостей.</numerusform>
+            <numerusform>Тексти %n пісень ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+            <numerusform>Тексти %n пісень ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>Не всі тексти вдалося записати в пісні.</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,10 @@
         <source>The proxy wants a log-in of a kind that is not known here.</source>
         <translation>代理服务器要求使用不受支持的登录方式。</translation>
     </message>
+    <message>
+        <source>The proxy asks for a log-in for some pages only, which is not supported.</source>
+        <translation>代理服务器仅对部分页面要求登录，此情况不受支持。</translation>
+    </message>
 </context>
 <context>
     <name>AddDialogs</name>
@@ -183,6 +187,10 @@
     <message>
         <source>Enter to apply</source>
         <translation>按 Enter 应用</translation>
+    </message>
+    <message>
+        <source>not saved yet (Ctrl+S saves)</source>
+        <translation>尚未保存（Ctrl+S 保存）</translation>
     </message>
 </context>
 <context>
@@ -470,22 +478,6 @@
         <translation>将歌词导出为 TXT 文件</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>编辑</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>视图</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
         <source>Tools</source>
         <translation>工具</translation>
     </message>
@@ -496,6 +488,26 @@
     <message>
         <source>Check for updates...</source>
         <translation>检查更新...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <extracomment>A menu; Alt with the letter behind &amp; opens it: another letter for each of the four.</extracomment>
+        <translation>帮助(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1309,16 @@ Please verify the correct directory name was given.</source>
         <source>Dismiss</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Whole copies of these songs: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>这些歌曲的完整副本：%1</translation>
+    </message>
+    <message>
+        <source>A save was cut off. Songs that are still being restored: %1</source>
+        <comment>%1 is the paths of files</comment>
+        <translation>一次保存被中断。仍在恢复的歌曲：%1</translation>
+    </message>
 </context>
 <context>
     <name>TagWriter</name>
@@ -1359,6 +1381,10 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>the file could not be saved</source>
         <translation>无法保存文件</translation>
+    </message>
+    <message>
+        <source>an earlier save of the file was cut off and is not undone yet</source>
+        <translation>此文件先前的保存被中断，尚未撤销</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1594,17 @@ Please verify the correct directory name was given.</source>
     </message>
 </context>
 <context>
+    <name>WritesWait</name>
+    <message>
+        <source>Lyrics are still being written into the songs.</source>
+        <translation>歌词仍在写入歌曲。</translation>
+    </message>
+    <message>
+        <source>It goes on by itself when this is done.</source>
+        <translation>完成后会自动继续。</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Songs and lyrics</source>
@@ -1576,6 +1613,23 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>The window could not be built.</source>
         <translation>无法创建窗口。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
+        <translation>
+            <numerusform>%n 首歌曲的歌词已作为文本文件保留在 %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>%n 首歌曲的歌词无处保留：请立即从详细信息中复制。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all lyrics could be written into the songs.</source>
+        <translation>并非所有歌词都能写入歌曲。</translation>
     </message>
 </context>
 </TS>
