@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Texts that Qt itself shows in the program's windows, in Qt's own contexts, so that our files translate them as well. It
-// is read by script/update-translations alone and never compiled.
+// Texts that Qt itself shows in the program's windows, in Qt's own contexts, so that our files translate them as well.
+// It is read by script/update-translations alone and never compiled.
 #pragma once
 
 static const char *const qtTexts[] = {

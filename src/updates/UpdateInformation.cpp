@@ -103,6 +103,7 @@ bool isVersion(const QString &text)
 ReleasedVersions sorted(const ReleasedVersions &versions)
 {
     std::vector<std::pair<QByteArray, int>> keys;
+    keys.reserve(static_cast<std::size_t>(versions.size()));
     for (int i = 0; i < versions.size(); ++i)
         keys.emplace_back(versionKey(versions[i].version), i);
     std::sort(keys.begin(), keys.end());

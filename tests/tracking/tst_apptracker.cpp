@@ -117,7 +117,8 @@ private slots:
         const QStringList shown = tracker.searchExample("Nora Vale"_s, "Harbour"_s, {}).split(QLatin1Char('\n'));
         const QList<QByteArray> protocol{"Host", "Connection", "Content-Length"};
         for (const auto &[name, value] : m_collector->requests().last().headers)
-            QVERIFY2(protocol.contains(name) || shown.contains(QString::fromLatin1(name + ": " + value)), name.constData());
+            QVERIFY2(protocol.contains(name) || shown.contains(QString::fromLatin1(name + ": " + value)),
+                     name.constData());
     }
 
     // Neither a request nor a connection, and the end of the session is told all the same, but not at once.
