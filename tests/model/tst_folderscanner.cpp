@@ -60,7 +60,7 @@ public:
     FolderScanner scanner;
 
 private:
-    const TestFolder m_folder;
+    const TestFolder m_folder{};
     QSignalSpy m_found{&scanner, &FolderScanner::found};
 };
 

@@ -235,7 +235,7 @@ private:
         reloadEndpoints();
     }
 
-    const TestFolder m_folder;
+    const TestFolder m_folder{};
     std::unique_ptr<LoopbackServer> m_collector;
 };
 

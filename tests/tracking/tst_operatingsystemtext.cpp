@@ -64,7 +64,7 @@ private:
         return path;
     }
 
-    const TestFolder m_folder;
+    const TestFolder m_folder{};
 };
 
 QTEST_GUILESS_MAIN(tst_OperatingSystemText)

@@ -346,7 +346,7 @@ private:
     // "LyricsFreak, Genius off, ..."
     QString sites() const;
 
-    const TestFolder m_settingsFolder;
+    const TestFolder m_settingsFolder{};
     std::unique_ptr<LoopbackServer> m_server; // plays the proxy
     std::unique_ptr<Settings> m_settings;
     std::unique_ptr<SettingsDialog> m_dialog;
