@@ -24,7 +24,7 @@ constexpr int rounds = 10;
 // What a list that was filled and emptied again may hold on to: connections that are kept open, pools that grow in
 // steps.
 constexpr double allowedGrowth = 1.1;
-constexpr size_t allowedBytes = 2 * 1024 * 1024;
+constexpr size_t allowedBytes = size_t{2} * 1024 * 1024;
 
 struct Wishes
 {
