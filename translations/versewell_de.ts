@@ -1410,6 +1410,17 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
         <source>Do you want to give them up?</source>
         <translation>Trotzdem verwerfen?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>Der geänderte Interpret oder Titel von %n Song ist noch nicht in der Datei gespeichert.</numerusform>
+            <numerusform>Die geänderten Interpreten oder Titel von %n Songs sind noch nicht in den Dateien gespeichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Möchten Sie die Änderungen speichern?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -1410,6 +1410,17 @@ Comprobar que el nombre es correcto.</translation>
         <source>Do you want to give them up?</source>
         <translation>¿Descartar de todos modos?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>El artista o el título modificado de %n canción aún no está guardado en el archivo.</numerusform>
+            <numerusform>Los artistas o títulos modificados de %n canciones aún no están guardados en los archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>¿Guardar los cambios?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -1410,6 +1410,17 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
         <source>Do you want to give them up?</source>
         <translation>Voulez-vous les abandonner ?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>L’artiste ou le titre modifié de %n chanson n’est pas encore enregistré dans le fichier.</numerusform>
+            <numerusform>Les artistes ou titres modifiés de %n chansons ne sont pas encore enregistrés dans les fichiers.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Voulez-vous enregistrer les modifications ?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

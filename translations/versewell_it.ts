@@ -1410,6 +1410,17 @@ Verificare che il nome della cartella sia corretto.</translation>
         <source>Do you want to give them up?</source>
         <translation>Scartare comunque?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>L’artista o il titolo modificato di %n brano non è ancora salvato nel file.</numerusform>
+            <numerusform>Gli artisti o i titoli modificati di %n brani non sono ancora salvati nei file.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Salvare le modifiche?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -1399,6 +1399,16 @@ Please verify the correct directory name was given.</source>
         <source>Do you want to give them up?</source>
         <translation>これらの歌詞を破棄しますか？</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>%n 曲で変更したアーティストまたはタイトルは、まだファイルに保存されていません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>変更を保存しますか？</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -1421,6 +1421,18 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         <source>Do you want to give them up?</source>
         <translation>Czy je odrzucić?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>Zmieniony wykonawca lub tytuł %n utworu nie jest jeszcze zapisany w pliku.</numerusform>
+            <numerusform>Zmienieni wykonawcy lub tytuły %n utworów nie są jeszcze zapisane w plikach.</numerusform>
+            <numerusform>Zmienieni wykonawcy lub tytuły %n utworów nie są jeszcze zapisane w plikach.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Czy zapisać zmiany?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -1410,6 +1410,17 @@ Verifique se o nome da pasta está correto.</translation>
         <source>Do you want to give them up?</source>
         <translation>Deseja descartar mesmo assim?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>O artista ou o título alterado de %n música ainda não está salvo no arquivo.</numerusform>
+            <numerusform>Os artistas ou títulos alterados de %n músicas ainda não estão salvos nos arquivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Deseja salvar as alterações?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -1421,6 +1421,18 @@ Please verify the correct directory name was given.</source>
         <source>Do you want to give them up?</source>
         <translation>Отказаться от них?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>Изменённые исполнитель или название %n песни ещё не сохранены в файл.</numerusform>
+            <numerusform>Изменённые исполнители или названия %n песен ещё не сохранены в файлы.</numerusform>
+            <numerusform>Изменённые исполнители или названия %n песен ещё не сохранены в файлы.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Сохранить изменения?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

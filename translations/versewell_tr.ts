@@ -1399,6 +1399,16 @@ Klasör adının doğru olduğunu denetleyin.</translation>
         <source>Do you want to give them up?</source>
         <translation>Bu sözler atılsın mı?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>%n şarkının değiştirilen sanatçısı veya başlığı henüz dosyaya kaydedilmedi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Değişiklikleri kaydetmek istiyor musunuz?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

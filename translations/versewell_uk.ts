@@ -1421,6 +1421,18 @@ Please verify the correct directory name was given.</source>
         <source>Do you want to give them up?</source>
         <translation>Відкинути їх?</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>Змінені виконавець або назва %n пісні ще не збережено у файл.</numerusform>
+            <numerusform>Змінені виконавці або назви %n пісень ще не збережено у файли.</numerusform>
+            <numerusform>Змінені виконавці або назви %n пісень ще не збережено у файли.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Зберегти зміни?</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

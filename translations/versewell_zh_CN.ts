@@ -1399,6 +1399,16 @@ Please verify the correct directory name was given.</source>
         <source>Do you want to give them up?</source>
         <translation>要丢弃这些歌词吗？</translation>
     </message>
+    <message numerus="yes">
+        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <translation>
+            <numerusform>有 %n 首歌曲的艺术家或标题更改尚未存入文件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>要保存更改吗？</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>

@@ -8,6 +8,17 @@
 #include <algorithm>
 #include <utility>
 
+static QVector<quint16> idsWithNewNames(const MainModel &model)
+{
+    QVector<quint16> ids;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const ModelItem *song = model.itemAt(row);
+        if (song->artistEdited() || song->titleEdited())
+            ids.append(song->id());
+    }
+    return ids;
+}
+
 UnsavedLyricsGuard::UnsavedLyricsGuard(MainModel *model, QWidget *window)
     : m_model(model)
     , m_window(window)
@@ -19,22 +30,25 @@ void UnsavedLyricsGuard::beforeRemoving(const QVector<quint16> &ids, std::functi
     afterWrites(ids, [this, ids, action = std::move(action)] {
         const auto unsaved =
             std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_model->hasUnsavedLyrics(id); });
-        before(static_cast<int>(unsaved), action);
+        beforeGivingUpLyrics(static_cast<int>(unsaved), action);
     });
 }
 
 void UnsavedLyricsGuard::beforeRemovingAny(std::function<void()> action)
 {
     const QVector<quint16> ids = m_model->idsWithUnsavedLyrics();
-    afterWrites(ids, [this, ids, action = std::move(action)] { before(unsavedOfAll(ids).size(), action); });
+    afterWrites(ids,
+                [this, ids, action = std::move(action)] { beforeGivingUpLyrics(unsavedOfAll(ids).size(), action); });
 }
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
-    const QVector<quint16> unsaved = m_model->unsavedIds();
-    before(unsaved.size(), [this, unsaved, action = std::move(action)] {
-        m_givenUp = unsaved;
-        action();
+    beforeGivingUpNames([this, action = std::move(action)] {
+        const QVector<quint16> unsaved = m_model->unsavedIds();
+        beforeGivingUpLyrics(unsaved.size(), [this, unsaved, action] {
+            m_givenUp = unsaved;
+            action();
+        });
     });
 }
 
@@ -70,28 +84,57 @@ QVector<quint16> UnsavedLyricsGuard::unsavedOfAll(const QVector<quint16> &waited
     return unsaved;
 }
 
-void UnsavedLyricsGuard::before(int unsaved, std::function<void()> action)
+// A write under way may store them.
+void UnsavedLyricsGuard::beforeGivingUpNames(std::function<void()> action)
+{
+    afterWrites(idsWithNewNames(*m_model), [this, action = std::move(action)] {
+        const QVector<quint16> ids = idsWithNewNames(*m_model);
+        if (ids.isEmpty()) {
+            action();
+            return;
+        }
+        const auto answered = [this, ids, action](int answer) {
+            if (answer == QMessageBox::Save) {
+                for (const quint16 id : ids)
+                    m_model->writeTags(id);
+                beforeGivingUpNames(action);
+            } else if (answer == QMessageBox::Discard) {
+                action();
+            }
+        };
+        ask(tr("The changed artist or title of %n song(s) is not in the file yet.", nullptr, ids.size()),
+            tr("Do you want to save the changes?"), QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+            answered);
+    });
+}
+
+void UnsavedLyricsGuard::beforeGivingUpLyrics(int unsaved, std::function<void()> action)
 {
     if (unsaved == 0) {
         action();
-    } else if (m_question) {
-        m_question->raise();
-        m_question->activateWindow();
-    } else {
-        ask(unsaved, std::move(action));
+        return;
     }
+    ask(tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
+        tr("Do you want to give them up?"), QMessageBox::Discard | QMessageBox::Cancel,
+        [action = std::move(action)](int answer) {
+            if (answer == QMessageBox::Discard)
+                action();
+        });
 }
 
-void UnsavedLyricsGuard::ask(int unsaved, std::function<void()> action)
+void UnsavedLyricsGuard::ask(const QString &text, const QString &question, QMessageBox::StandardButtons buttons,
+                             std::function<void(int)> answered)
 {
-    m_question = makeQuestionBox(
-        tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
-        tr("Do you want to give them up?"), QMessageBox::Discard | QMessageBox::Cancel, m_window);
-    m_question->setDefaultButton(QMessageBox::Cancel);
-    QObject::connect(m_question, &QMessageBox::finished, m_window, [this, action = std::move(action)](int answer) {
+    if (m_question) {
+        m_question->raise();
+        m_question->activateWindow();
+        return;
+    }
+    m_question = makeQuestionBox(text, question, buttons, m_window);
+    m_question->setDefaultButton(buttons.testFlag(QMessageBox::Save) ? QMessageBox::Save : QMessageBox::Cancel);
+    QObject::connect(m_question, &QMessageBox::finished, m_window, [this, answered = std::move(answered)](int answer) {
         m_question.clear();
-        if (answer == QMessageBox::Discard)
-            action();
+        answered(answer);
     });
     m_question->open();
 }

@@ -2,18 +2,19 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QMessageBox>
 #include <QPointer>
 #include <QVector>
 
 #include <functional>
 
 class MainModel;
-class QMessageBox;
 class QWidget;
 class WritesWait;
 
-// Sees to it that lyrics which stand in the list only, because their write failed, are never given up unasked. Songs
-// that are to be removed are waited for while they are being written (ui/WritesWait.h). Main thread only.
+// Sees to it that lyrics which stand in the list only, because their write failed, are never given up unasked, nor,
+// when the program ends, new names that nobody has saved. Songs that are to be removed, or whose new names are to be
+// saved, are waited for while they are being written (ui/WritesWait.h). Main thread only.
 class UnsavedLyricsGuard
 {
     Q_DECLARE_TR_FUNCTIONS(UnsavedLyricsGuard)
@@ -28,9 +29,10 @@ public:
     void beforeRemoving(const QVector<quint16> &ids, std::function<void()> action);
     // In the same way an action that removes any songs.
     void beforeRemovingAny(std::function<void()> action);
-    // In the same way an action that ends the program, but writes under way are left to the end of the program, which
-    // waits for them without a window and keeps what they could not store. Who gives lyrics up here may still stay:
-    // giveUp() is to be called when the program ends indeed.
+    // In the same way an action that ends the program. New names come first: the user may have them saved, and is asked
+    // again when that fails. Other writes under way are left to the end of the program, which waits for them without a
+    // window and keeps the lyrics that they could not store. Who gives lyrics up here may still stay: giveUp() is to be
+    // called when the program ends indeed.
     void beforeQuitting(std::function<void()> action);
     // Tells the model which lyrics the user gave up when last asked before quitting.
     void giveUp();
@@ -38,8 +40,10 @@ public:
 private:
     void afterWrites(const QVector<quint16> &ids, std::function<void()> action);
     [[nodiscard]] QVector<quint16> unsavedOfAll(const QVector<quint16> &waitedFor) const;
-    void before(int unsaved, std::function<void()> action);
-    void ask(int unsaved, std::function<void()> action);
+    void beforeGivingUpNames(std::function<void()> action);
+    void beforeGivingUpLyrics(int unsaved, std::function<void()> action);
+    void ask(const QString &text, const QString &question, QMessageBox::StandardButtons buttons,
+             std::function<void(int)> answered);
 
     MainModel *m_model;
     QWidget *m_window;
