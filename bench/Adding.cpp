@@ -15,61 +15,63 @@
 
 namespace {
 
-QStringList makeEmptyFiles(const QString &folder, int count)
+QList<QUrl> makeEmptyFiles(const QString &folder, int count)
 {
-    QStringList paths;
+    QList<QUrl> urls;
     for (int i = 0; i < count; ++i) {
         QFile file(QStringLiteral("%1/Artist - Song %2.mp3").arg(folder).arg(i));
         if (!file.open(QIODevice::WriteOnly))
             qFatal("cannot make the file %s", qPrintable(file.fileName()));
-        paths.append(file.fileName());
+        urls.append(QUrl::fromLocalFile(file.fileName()));
     }
-    return paths;
+    return urls;
 }
 
-double referenceFor(const QStringList &paths)
+void lookUpAll(const QList<QUrl> &urls)
 {
-    return secondsOf([&paths] {
-        QSet<QUrl> urls;
-        for (const QString &path : paths) {
-            const QUrl url = QUrl::fromLocalFile(path);
-            if (QFileInfo(url.toLocalFile()).isFile())
-                urls.insert(url);
-        }
-    });
+    QSet<QUrl> found;
+    for (const QUrl &url : urls) {
+        const QUrl made = QUrl::fromLocalFile(url.toLocalFile());
+        if (QFileInfo(made.toLocalFile()).isFile())
+            found.insert(made);
+    }
+    if (found.size() != urls.size())
+        qFatal("a file is missing");
 }
 
 struct Times
 {
-    double first;
-    double again;
+    double first = 0;
+    double again = 0;
+    double lookUp = 0;
 };
 
-Times addTwice(const QStringList &paths)
+Times timesOf(const QList<QUrl> &urls)
 {
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(path));
-    MainModel model;
-    const double first = secondsOf([&] { model.add(urls); });
-    const double again = secondsOf([&] { model.add(urls); });
-    if (model.rowCount() != paths.size())
-        qFatal("%d rows instead of %d", model.rowCount(), int(paths.size()));
-    return {first, again};
+    constexpr int rounds = 5;
+    std::vector<double> first;
+    std::vector<double> again;
+    std::vector<double> lookUp;
+    for (int round = 0; round < rounds; ++round) {
+        MainModel model;
+        lookUp.push_back(processorSecondsOf([&] { lookUpAll(urls); }));
+        first.push_back(processorSecondsOf([&] { model.add(urls); }));
+        again.push_back(processorSecondsOf([&] { model.add(urls); }));
+        if (model.rowCount() != urls.size())
+            qFatal("%d rows instead of %d", model.rowCount(), int(urls.size()));
+    }
+    return {median(first), median(again), median(lookUp)};
 }
 
 // The longest time that the event loop stands still while files that were found in folders become rows.
-double longestStandStill(const QStringList &paths)
+double longestStandStill(const QList<QUrl> &urls)
 {
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(path));
     MainModel model;
     ProxyModel proxy;
     proxy.setSourceModel(&model);
-    double longest = secondsOf([&] { model.add(urls, MainModel::IsRegularFile); });
+    double longest = processorSecondsOf([&] { model.add(urls, MainModel::IsRegularFile); });
     while (model.rowCount() < urls.size())
-        longest = std::max(longest, secondsOf([] { QCoreApplication::processEvents(); }));
+        longest = std::max(longest, processorSecondsOf([] { QCoreApplication::processEvents(); }));
     return longest;
 }
 
@@ -78,20 +80,20 @@ double longestStandStill(const QStringList &paths)
 void benchAdding()
 {
     const QTemporaryDir folder;
-    const QStringList many = makeEmptyFiles(folder.path(), 60000);
-    const QStringList few = many.mid(0, 15000);
-    const Times fewTimes = addTwice(few);
-    const Times manyTimes = addTwice(many);
-    const double fewReference = referenceFor(few);
-    const double manyReference = referenceFor(many);
-    const QString first = QStringLiteral("add files / url, look-up and hash insert");
-    const QString again = QStringLiteral("add the same files again / the same");
-    BenchTable::printRow(first, few.size(), fewTimes.first, fewReference);
-    BenchTable::printRow(first, many.size(), manyTimes.first, manyReference, fewTimes.first, 4);
-    BenchTable::printRow(again, few.size(), fewTimes.again, fewReference);
-    BenchTable::printRow(again, many.size(), manyTimes.again, manyReference, fewTimes.again, 4);
-    const QString standStill = QStringLiteral("longest stand-still while found files are added / the same");
-    const double fewGap = longestStandStill(few);
-    BenchTable::printRow(standStill, few.size(), fewGap, fewReference);
-    BenchTable::printRow(standStill, many.size(), longestStandStill(many), manyReference, fewGap, 4);
+    const QList<QUrl> many = makeEmptyFiles(folder.path(), benchSize(60000));
+    const QList<QUrl> few = many.mid(0, many.size() / 4);
+    const Times fewTimes = timesOf(few);
+    const Times manyTimes = timesOf(many);
+    const BenchTable::Aim aim{4, BenchTable::inStep};
+    BenchTable::printRow(QStringLiteral("add urls / url, look-up and hash insert for each"), many.size(),
+                         manyTimes.first, manyTimes.lookUp, fewTimes.first, 4, aim);
+    BenchTable::printRow(QStringLiteral("add the same urls again / the same"), many.size(), manyTimes.again,
+                         manyTimes.lookUp, fewTimes.again, 4, aim);
+    BenchTable::print({QStringLiteral("longest turn while found files become rows"),
+                       many.size(),
+                       longestStandStill(many) * 1000,
+                       0,
+                       longestStandStill(few) * 1000,
+                       4,
+                       {0, 0, 100}});
 }

@@ -1,43 +1,62 @@
 // SPDX-License-Identifier: MIT
 #include "Benches.h"
+#include "SongFolder.h"
 #include "Table.h"
 
 #include "model/MainModel.h"
+#include "tags/CoverImage.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QTemporaryDir>
 
+#include <attachedpictureframe.h>
 #include <fileref.h>
-#include <tag.h>
+#include <flacfile.h>
+#include <id3v2tag.h>
+#include <mp4file.h>
+#include <mpegfile.h>
+#include <vorbisfile.h>
 
 namespace {
 
-QList<QUrl> copySamples(const QString &folder, int count)
+// The first picture, as whoever knows the format of the file would look for it; empty when there is none.
+TagLib::ByteVector firstPicture(TagLib::File *file)
 {
-    const QStringList samples{QStringLiteral("plain-v23.mp3"), QStringLiteral("plain.flac"),
-                              QStringLiteral("plain.m4a"), QStringLiteral("plain.ogg")};
-    QList<QUrl> urls;
-    for (int i = 0; i < count; ++i) {
-        const QString &sample = samples.at(i % samples.size());
-        const QString copy = QStringLiteral("%1/%2-%3").arg(folder).arg(i).arg(sample);
-        if (!QFile::copy(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + sample, copy))
-            qFatal("cannot copy the sample %s", qPrintable(sample));
-        urls.append(QUrl::fromLocalFile(copy));
+    const auto pictureOf = [](const TagLib::List<TagLib::FLAC::Picture *> &pictures) {
+        return pictures.isEmpty() ? TagLib::ByteVector() : pictures.front()->data();
+    };
+    if (auto *mpeg = dynamic_cast<TagLib::MPEG::File *>(file)) {
+        const TagLib::ID3v2::FrameList frames = mpeg->ID3v2Tag()->frameList("APIC");
+        return frames.isEmpty() ? TagLib::ByteVector()
+                                : static_cast<TagLib::ID3v2::AttachedPictureFrame *>(frames.front())->picture();
     }
-    return urls;
+    if (auto *flac = dynamic_cast<TagLib::FLAC::File *>(file))
+        return pictureOf(flac->pictureList());
+    if (auto *ogg = dynamic_cast<TagLib::Ogg::Vorbis::File *>(file))
+        return pictureOf(ogg->tag()->pictureList());
+    if (auto *mp4 = dynamic_cast<TagLib::MP4::File *>(file)) {
+        const TagLib::MP4::CoverArtList covers = mp4->tag()->item("covr").toCoverArtList();
+        return covers.isEmpty() ? TagLib::ByteVector() : covers.front().data();
+    }
+    return {};
 }
 
-void readBare(const QList<QUrl> &urls)
+// How many of the files have a cover.
+int readBare(const QList<QUrl> &urls)
 {
+    int covers = 0;
     for (const QUrl &url : urls) {
         const TagLib::FileRef file(QFile::encodeName(url.toLocalFile()).constData());
         if (file.isNull() || file.tag()->title().isEmpty() || file.tag()->artist().isEmpty())
             qFatal("a sample has lost its tags");
+        const TagLib::ByteVector picture = firstPicture(file.file());
+        if (!decodeThumbnail(QByteArray(picture.data(), static_cast<int>(picture.size()))).isNull())
+            ++covers;
     }
+    return covers;
 }
 
-void readThroughModel(const QList<QUrl> &urls)
+int readThroughModel(const QList<QUrl> &urls)
 {
     MainModel model;
     model.setReaderProgram(QCoreApplication::applicationFilePath());
@@ -45,19 +64,52 @@ void readThroughModel(const QList<QUrl> &urls)
     model.add(urls);
     while (!model.itemAt(urls.size() - 1)->tagsLoaded())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    int covers = 0;
+    for (int row = 0; row < model.rowCount(); ++row)
+        covers += model.itemAt(row)->hasCover() ? 1 : 0;
+    return covers;
+}
+
+Pair readBoth(const QList<QUrl> &urls)
+{
+    int throughModel = 0;
+    int bare = 0;
+    const Pair times = medianOfPairs(
+        3, [&] { throughModel = readThroughModel(urls); }, [&] { bare = readBare(urls); });
+    if (throughModel != bare || bare == 0)
+        qFatal("%d covers instead of %d", throughModel, bare);
+    return times;
 }
 
 } // namespace
 
 void benchReading()
 {
-    const QTemporaryDir folder;
-    const QList<QUrl> many = copySamples(folder.path(), 2000);
-    const QList<QUrl> few = many.mid(0, 500);
-    readBare(many); // both then find the files in the cache
-    const QString name = QStringLiteral("read tags through the model / bare TagLib loop");
-    const double fewTime = secondsOf([&] { readThroughModel(few); });
-    BenchTable::printRow(name, few.size(), fewTime, secondsOf([&] { readBare(few); }));
-    const double manyTime = secondsOf([&] { readThroughModel(many); });
-    BenchTable::printRow(name, many.size(), manyTime, secondsOf([&] { readBare(many); }), fewTime, 4);
+    SongFolder folder;
+    const QStringList samples{QStringLiteral("plain-v23.mp3"), QStringLiteral("plain.flac"),
+                              QStringLiteral("plain.m4a"), QStringLiteral("plain.ogg")};
+    for (int round = 0; round < 4; ++round) {
+        for (const QString &sample : samples)
+            folder.addOriginal(sample);
+    }
+    const QByteArray cover = coverPicture(500);
+    for (const QString &sample : samples)
+        folder.addOriginal(sample, cover);
+    const QList<QUrl> many = folder.links(benchSize(20000));
+    const QList<QUrl> few = many.mid(0, many.size() / 4);
+    const QString name = QStringLiteral("read tags through the model / bare TagLib loop with the same covers");
+    const Pair fewTimes = readBoth(few);
+    BenchTable::printRow(name, few.size(), fewTimes.work, fewTimes.reference, 0, 0, {3});
+    const Pair manyTimes = readBoth(many);
+    const TurnWatch watch;
+    (void)readThroughModel(many);
+    BenchTable::printRow(name, many.size(), manyTimes.work, manyTimes.reference, fewTimes.work, 4,
+                         {3, BenchTable::inStep});
+    BenchTable::print({QStringLiteral("longest turn of the event loop meanwhile"),
+                       many.size(),
+                       watch.longestWork(),
+                       0,
+                       0,
+                       0,
+                       {0, 0, 50}});
 }

@@ -27,35 +27,30 @@ void makeTree(const QString &root, int files)
     }
 }
 
-double scan(const QString &root, int expected)
+void scan(const QString &root, int expected)
 {
     FolderScanner scanner;
     scanner.setTypes({QStringLiteral("ogg"), QStringLiteral("flac"), QStringLiteral("mp3")});
     int found = 0;
     QObject::connect(&scanner, &FolderScanner::found, [&found](const QList<QUrl> &files) { found += files.size(); });
-    const double seconds = secondsOf([&] {
-        scanner.addFolder(QUrl::fromLocalFile(root));
-        while (scanner.processing())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    });
+    scanner.addFolder(QUrl::fromLocalFile(root));
+    while (scanner.processing())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (found != expected)
         qFatal("%d files were found instead of %d", found, expected);
-    return seconds;
 }
 
-double findFiles(const QString &root)
+void findFiles(const QString &root)
 {
-    return secondsOf([&root] {
-        QProcess find;
-        find.setStandardOutputFile(QProcess::nullDevice());
-        find.start(QStringLiteral("find"),
-                   {root, QStringLiteral("-type"), QStringLiteral("f"), QStringLiteral("-readable"),
-                    QStringLiteral("("), QStringLiteral("-iname"), QStringLiteral("*.ogg"), QStringLiteral("-o"),
-                    QStringLiteral("-iname"), QStringLiteral("*.flac"), QStringLiteral("-o"), QStringLiteral("-iname"),
-                    QStringLiteral("*.mp3"), QStringLiteral(")")});
-        if (!find.waitForFinished(-1) || find.exitCode() != 0)
-            qFatal("find failed");
-    });
+    QProcess find;
+    find.setStandardOutputFile(QProcess::nullDevice());
+    find.start(QStringLiteral("find"),
+               {root, QStringLiteral("-type"), QStringLiteral("f"), QStringLiteral("-readable"), QStringLiteral("("),
+                QStringLiteral("-iname"), QStringLiteral("*.ogg"), QStringLiteral("-o"), QStringLiteral("-iname"),
+                QStringLiteral("*.flac"), QStringLiteral("-o"), QStringLiteral("-iname"), QStringLiteral("*.mp3"),
+                QStringLiteral(")")});
+    if (!find.waitForFinished(-1) || find.exitCode() != 0)
+        qFatal("find failed");
 }
 
 } // namespace
@@ -63,13 +58,15 @@ double findFiles(const QString &root)
 void benchScanning()
 {
     const QString name = QStringLiteral("scan a tree / find with the same patterns");
-    double fewTime = 0;
-    for (const int files : {12500, 50000}) {
+    double fewer = 0;
+    for (const int files : {benchSize(12500), benchSize(50000)}) {
         const QTemporaryDir root;
         makeTree(root.path(), files);
         findFiles(root.path()); // both then find the folders in the cache
-        const double time = scan(root.path(), files / 5 * 4);
-        BenchTable::printRow(name, files, time, findFiles(root.path()), fewTime, 4);
-        fewTime = time;
+        const Pair times = medianOfPairs(
+            5, [&] { scan(root.path(), files / 5 * 4); }, [&] { findFiles(root.path()); });
+        BenchTable::printRow(name, files, times.work, times.reference, fewer, 4,
+                             {2, fewer > 0 ? BenchTable::inStep : 0});
+        fewer = times.work;
     }
 }

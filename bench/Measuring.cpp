@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "Measuring.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+#include <malloc.h>
+#include <sys/resource.h>
+#include <time.h>
+#include <unistd.h>
+
+namespace {
+
+bool isQuick = false;
+
+double secondsOfClock(clockid_t clock)
+{
+    timespec time = {};
+    clock_gettime(clock, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+double secondsOfChildren()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto seconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+} // namespace
+
+double secondsOf(const std::function<void()> &work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+}
+
+double processSeconds()
+{
+    return secondsOfClock(CLOCK_PROCESS_CPUTIME_ID);
+}
+
+double processorSecondsOf(const std::function<void()> &work)
+{
+    const double before = processSeconds() + secondsOfChildren();
+    work();
+    return processSeconds() + secondsOfChildren() - before;
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+Pair medianOfPairs(int rounds, const std::function<void()> &work, const std::function<void()> &reference,
+                   const Clock &clock)
+{
+    std::vector<double> ofWork;
+    std::vector<double> ofReference;
+    for (int round = 0; round < rounds; ++round) {
+        ofReference.push_back(clock(reference));
+        ofWork.push_back(clock(work));
+    }
+    return {median(ofWork), median(ofReference)};
+}
+
+int benchSize(int size)
+{
+    return isQuick ? size / 10 : size;
+}
+
+void makeBenchesQuick()
+{
+    isQuick = true;
+}
+
+double residentBytes()
+{
+    malloc_trim(0); // in the memory of all threads
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read how much memory is held");
+    return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE));
+}
+
+TurnWatch::TurnWatch()
+{
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &TurnWatch::tick);
+    m_clock.start();
+    m_workedUntil = secondsOfClock(CLOCK_THREAD_CPUTIME_ID);
+    m_timer.start(1);
+}
+
+void TurnWatch::tick()
+{
+    const double worked = secondsOfClock(CLOCK_THREAD_CPUTIME_ID);
+    m_longestWork = std::max(m_longestWork, (worked - m_workedUntil) * 1000);
+    m_longestWall = std::max(m_longestWall, static_cast<double>(m_clock.nsecsElapsed()) / 1e6);
+    m_workedUntil = worked;
+    m_clock.start();
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+// Wall time of the work in seconds: where waiting is what is measured.
+[[nodiscard]] double secondsOf(const std::function<void()> &work);
+
+// Processor time of the work in seconds, in all threads of this process, in the system, and in the processes that it
+// has started and waited for: what else a busy machine does is not counted.
+[[nodiscard]] double processorSecondsOf(const std::function<void()> &work);
+// The processor time of this process since its start, in seconds.
+[[nodiscard]] double processSeconds();
+
+// `work` and `reference` in turns, so that what else the machine does hits both: the medians of so many rounds, by the
+// time that `clock` measures.
+struct Pair
+{
+    double work = 0;
+    double reference = 0;
+};
+using Clock = std::function<double(const std::function<void()> &)>;
+[[nodiscard]] Pair medianOfPairs(int rounds, const std::function<void()> &work, const std::function<void()> &reference,
+                                 const Clock &clock = processorSecondsOf);
+
+[[nodiscard]] double median(std::vector<double> values);
+
+// The size that the table asks for, or a tenth of it where script/bench is told to be quick.
+[[nodiscard]] int benchSize(int size);
+void makeBenchesQuick();
+
+// What the process holds of the machine's memory, in bytes, without what it has freed.
+[[nodiscard]] double residentBytes();
+
+// Watches how long the event loop of the main thread stands still, from its making on.
+class TurnWatch : public QObject
+{
+public:
+    TurnWatch();
+
+    // Of the longest turn, in milliseconds: what the thread has worked, and how long that took on a machine that may
+    // have been busy with other things.
+    [[nodiscard]] double longestWork() const { return m_longestWork; }
+    [[nodiscard]] double longestWall() const { return m_longestWall; }
+
+private:
+    void tick();
+
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    double m_workedUntil = 0;
+    double m_longestWork = 0;
+    double m_longestWall = 0;
+};

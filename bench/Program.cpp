@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "Program.h"
+
+#include "ui/MainWindow.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QQuickItem>
+#include <QQuickWidget>
+#include <QQuickWindow>
+
+Program::Program()
+{
+    model.setReaderProgram(QCoreApplication::applicationFilePath());
+    model.setAutoStart(false);
+    proxy.setSourceModel(&model);
+}
+
+Program::~Program() = default;
+
+void Program::showWindow()
+{
+    window = std::make_unique<MainWindow>(MainWindow::Parts{&model, &proxy, &scanner, &settings, &palette, &app});
+    paintOnce(window.get());
+}
+
+QQuickItem *Program::songList() const
+{
+    const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
+    auto *list = scene->rootObject()->findChild<QQuickItem *>(QStringLiteral("songList"));
+    if (!list)
+        qFatal("the scene has no list");
+    return list;
+}
+
+void Program::load(const QList<QUrl> &songs)
+{
+    model.add(songs, MainModel::IsRegularFile);
+    while (model.rowCount() < songs.size() || !model.itemAt(songs.size() - 1)->tagsLoaded())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void paintOnce(QMainWindow *window)
+{
+    // A paint before the scene was rendered shows nothing of it.
+    struct PaintWatch : QObject
+    {
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            isPainted = isPainted || (isRendered && event->type() == QEvent::Paint);
+            return false;
+        }
+        bool isRendered = false;
+        bool isPainted = false;
+    } watch;
+    auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
+    scene->installEventFilter(&watch);
+    QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch,
+                     [&watch] { watch.isRendered = true; });
+    window->show();
+    while (!watch.isPainted)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
