@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/ProxyServer.h"
 
+#include "support/Forwarding.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QTcpSocket>
@@ -15,18 +17,6 @@ quint16 freePort()
     QTcpServer server;
     server.listen(QHostAddress::LocalHost);
     return server.serverPort();
-}
-
-// Hands on what comes from one end, and its end.
-void forward(QTcpSocket *from, QTcpSocket *to, const std::shared_ptr<QByteArray> &kept)
-{
-    QObject::connect(from, &QTcpSocket::readyRead, to, [from, to, kept] {
-        const QByteArray data = from->readAll();
-        if (kept)
-            kept->append(data);
-        to->write(data);
-    });
-    QObject::connect(from, &QTcpSocket::disconnected, to, &QTcpSocket::disconnectFromHost);
 }
 
 } // namespace
@@ -79,13 +69,8 @@ bool ProxyServer::isReady()
 void ProxyServer::takeConnection()
 {
     while (QTcpSocket *client = m_relay.nextPendingConnection()) {
-        auto *inner = new QTcpSocket(client);
-        inner->setProxy(QNetworkProxy::NoProxy);
         m_received.append(std::make_shared<QByteArray>());
-        forward(client, inner, m_received.last());
-        forward(inner, client, nullptr);
-        QObject::connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
-        inner->connectToHost(QHostAddress::LocalHost, m_innerPort);
+        forwardBoth(client, m_innerPort, m_received.last());
     }
 }
 
