@@ -27,29 +27,19 @@ ROWS = [
     ("a nested room may include the room around it", "src/lyrics/providers/A.cpp", '#include "lyrics/X.h"', ""),
     ("the generated moc file of the file itself is fine", "src/app/A.cpp", '#include "A.moc"', ""),
     ("the generated header of a form of another's", "src/ui/A.cpp", '#include "ui_B.h"', "not a path written from src/"),
-    ("the generated header without a form", "src/ui/A.cpp", '#include "ui_A.h"', "not a path written from src/"),
     ("the generated header of the file's own form is fine", "src/ui/F.cpp", '#include "ui_F.h"', ""),
     ("an include in a block comment counts for nothing", "src/tags/A.cpp", '/*\n#include "app/X.h"\n*/', ""),
     ("a higher floor", "src/lyrics/A.cpp", '\n#include "model/X.h"', "src/lyrics/A.cpp:2: lyrics (floor 1) may not include model"),
     ("the room inside one's own", "src/lyrics/A.cpp", '#include "lyrics/providers/X.h"', "it stands above"),
-    ("a neighbour that the row does not name", "src/tags/A.h", '#include "network/X.h"', "its row does not name it"),
-    ("two rooms that include each other", "src/network/X.h", '#include "lyrics/X.h"', "include each other"),
     ("an include relative to the folder", "src/tags/A.cpp", '#include "X.h"', "not a path written from src/"),
     ("a path that climbs", "src/tags/A.cpp", '#include "lyrics/../tags/X.h"', "not a path written from src/"),
     ("a file of ours in angle brackets", "src/tags/A.cpp", "#include <tags/X.h>", "write it in quotes"),
     ("TagLib in a header", "src/tags/A.h", "#include <taglib/tag.h>", "in .cpp files only"),
-    ("TagLib in a source of tags is fine", "src/tags/A.cpp", "#include <taglib/tag.h>", ""),
     ("TagLib does not come along to other rooms", "src/model/A.cpp", "#include <taglib/tag.h>", "model may not use TagLib"),
-    ("OpenSSL where updates are not", "src/network/A.cpp", "#include <openssl/evp.h>", "network may not use OpenSSL"),
     ("a Qt module that the row does not name", "src/lyrics/A.cpp", "#include <QWidget>", "lyrics may not use QtWidgets"),
-    ("a Qt header with its module", "src/tags/A.cpp", "#include <QtNetwork/QNetworkReply>", "tags may not use QtNetwork"),
-    ("a library that nobody named", "src/network/A.cpp", "#include <curl/curl.h>", "nothing that floors.toml names"),
-    ("a folder that is no room", "src/utils/A.h", "", "this folder is no room"),
     ("a file beside the rooms", "src/A.cpp", "", "this folder is no room"),
     ("a link to a higher floor", "src/lyrics/CMakeLists.txt", "versewell_add_library(lyrics\n    SOURCES A.cpp\n    LINK versewell_model)",
      "src/lyrics/CMakeLists.txt:3: lyrics may not link model"),
-    ("a library linked privately", "src/lyrics/CMakeLists.txt", "versewell_add_library(lyrics PRIVATE_LINK PkgConfig::TAGLIB)",
-     "lyrics may not link TagLib"),
     ("a link added behind the back of the list", "src/tags/CMakeLists.txt", "target_link_libraries(versewell_tags PUBLIC Qt5::Widgets)",
      "tags may not link QtWidgets"),
     ("a link list within its row is fine", "src/lyrics/providers/CMakeLists.txt",
@@ -65,7 +55,7 @@ ROWS = [
 
 class LayeringTest(unittest.TestCase):
     def test_rows(self):
-        check_rows(self, ROWS, SOUND, lambda root: LAYERING.offences(root, [root / "qt"]))
+        check_rows(self, ROWS, SOUND, lambda root: LAYERING.offences(root, root / "qt"))
 
 
 if __name__ == "__main__":
