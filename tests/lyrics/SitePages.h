@@ -5,8 +5,8 @@
 
 // The pages that the tests of site clients share.
 
-// tests/data/<site>/<name>, with menus, scripts and comments in place of "@FURNITURE@", as much as surrounds the lyrics
-// of a real page. Empty when there is no such file.
+// The page of tests/data/<site>/<name>, for HTML with as many menus and scripts around it as a real page has. Empty
+// when there is no such file.
 [[nodiscard]] QString sitePage(const QByteArray &site, const QByteArray &name);
 
 // The lyrics of the song "Harbour Lights" by "Tin Lanterns", which the fixture pages of every site hold: entities,
@@ -17,5 +17,7 @@
 constexpr int hostileSize = 1024 * 1024;
 
 // `piece` again and again, up to `size` characters: a page that a site with bad intent could send.
-[[nodiscard]] QString repeated(const QString &piece, int size = hostileSize);
-[[nodiscard]] QString repeated(const char *piece, int size = hostileSize);
+[[nodiscard]] inline QString repeated(const QString &piece, int size = hostileSize)
+{
+    return piece.repeated(size / piece.size());
+}

@@ -1,33 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "SiteRig.h"
 
-#include <QCoreApplication>
-#include <QSettings>
+#include "network/Endpoints.h"
 
-SiteRig::SiteRig(std::initializer_list<Endpoint> endpoints)
+#include <QSettings>
+#include <QSignalSpy>
+
+SiteRig::SiteRig()
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settingsFolder.path());
+    m_folder.holdSettings();
     QSettings settings;
     settings.beginGroup(endpointGroup());
-    for (const Endpoint endpoint : endpoints)
-        settings.setValue(endpointKey(endpoint), m_server.base());
+    for (int i = 0; i <= static_cast<int>(Endpoint::Yandex); ++i)
+        settings.setValue(endpointKey(static_cast<Endpoint>(i)), m_server.base());
     settings.sync();
     reloadEndpoints();
 }
 
-void SiteRig::page(const QByteArray &path, const QString &html)
+void SiteRig::page(const QString &path, const QString &html)
 {
-    m_server.route(QString::fromUtf8(path), LoopbackResponse::page(html.toUtf8()));
+    m_server.route(path, LoopbackResponse::page(html.toUtf8()));
 }
 
-QList<QByteArray> SiteRig::targets() const
+QString SiteRig::targets() const
 {
-    QList<QByteArray> targets;
+    QByteArrayList targets;
     for (const LoopbackRequest &request : m_server.requests())
         targets.append(request.target);
-    return targets;
+    return QString::fromLatin1(targets.join(' '));
 }
 
 SiteAnswer SiteRig::search(LyricsProvider &site, const QString &artist, const QString &title)

@@ -6,8 +6,8 @@
 
 #include <QMap>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -16,16 +16,11 @@ struct Script
 {
     // By "Site:Artist/Title"; "!reason" is a failure. Anything else is not found.
     QMap<QString, QString> answers;
-    // Sites whose clones refuse every search.
-    QStringList refusing;
+    // A site whose clones refuse every search.
+    QString refusing;
     QStringList asked;
     QList<QPointer<LyricsProvider>> clones;
 };
-
-QString joined(const QString &artist, const QString &title)
-{
-    return artist + QLatin1Char('/') + title;
-}
 
 class ScriptedSite : public LyricsProvider
 {
@@ -41,8 +36,7 @@ public:
     QString siteUrl() const override { return {}; }
     bool canSearch(const QString &artist, const QString &title) const override
     {
-        const bool refused = parent() && m_script->refusing.contains(m_name);
-        return !refused && LyricsProvider::canSearch(artist, title);
+        return !(parent() && m_script->refusing == m_name) && LyricsProvider::canSearch(artist, title);
     }
     LyricsProvider *clone(QObject *parent) const override
     {
@@ -54,9 +48,8 @@ public:
 protected:
     ProviderStep firstStep(const QString &artist, const QString &title) override
     {
-        const QString question = m_name + QLatin1Char(':') + joined(artist, title);
-        m_script->asked.append(question);
-        const QString answer = m_script->answers.value(question);
+        m_script->asked.append("%1:%2/%3"_s.arg(m_name, artist, title));
+        const QString answer = m_script->answers.value(m_script->asked.last());
         return answer.startsWith(QLatin1Char('!')) ? ProviderStep::failure(answer.mid(1))
                                                    : ProviderStep::lyrics(answer);
     }
@@ -79,13 +72,11 @@ public:
 
     bool correct(const QString &artist, const QString &title) override
     {
-        m_script->asked.append("correct:"_s + joined(artist, title));
-        QStringList artists;
-        QStringList titles;
-        for (const QString &pair : qAsConst(m_pairs)) {
-            artists.append(pair.section(QLatin1Char('/'), 0, 0));
-            titles.append(pair.section(QLatin1Char('/'), 1));
-        }
+        m_script->asked.append("correct:%1/%2"_s.arg(artist, title));
+        QStringList artists = m_pairs;
+        QStringList titles = m_pairs;
+        artists.replaceInStrings(QRegularExpression("/.*"_s), {});
+        titles.replaceInStrings(QRegularExpression(".*/"_s), {});
         QMetaObject::invokeMethod(
             this, [=] { emit finished(artists, titles); }, Qt::QueuedConnection);
         return true;
@@ -100,9 +91,9 @@ private:
     Script *m_script;
 };
 
-QStringList words(const QString &text, QChar separator = QLatin1Char(' '))
+QStringList words(const QString &text, char separator = ' ')
 {
-    return text.isEmpty() ? QStringList() : text.split(separator);
+    return text.split(QLatin1Char(separator), Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -116,6 +107,7 @@ private slots:
     {
         m_script = Script();
         m_search = std::make_unique<LyricsSearch>();
+        m_finished = std::make_unique<QSignalSpy>(m_search.get(), &LyricsSearch::searchFinished);
     }
 
     void appliesOrders_data()
@@ -125,8 +117,7 @@ private slots:
         addRow("disabled", "Mega::0;;Genius", "Mega::0;;Genius;;Freak");
         addRow("duplicates, any case, unknown ones", "genius;;GENIUS::0;;Foo", "Genius;;Freak;;Mega");
         addRow("a mark needs the exact name", "genius::0", "Genius;;Freak;;Mega");
-        addRow("blank ends", " Mega ;;\tGenius", "Mega;;Genius;;Freak");
-        addRow("a blank behind the mark", "Mega::0 ", "Mega;;Freak;;Genius");
+        addRow("blank ends", " Mega::0 ;;\tGenius", "Mega;;Genius;;Freak");
         addRow("another mark makes another name", "Mega::1", "Freak;;Genius;;Mega");
     }
 
@@ -134,39 +125,33 @@ private slots:
     {
         QFETCH(QString, order);
         m_search->addProvider(nullptr);
-        makeSites("Freak Genius Mega"_s);
-        m_search->setProvidersOrder(order);
+        makeSites("Freak Genius Mega"_s, order);
         QTEST(m_search->providersOrder(), "applied");
     }
 
+    // `sites` is the order to apply; `corrections` are separated by "|" for each corrector, and "none" is one without
+    // an answer; `answers` are "Site:Artist/Title=answer"; `result` is artist, title, lyrics, error.
     void triesSitesAndNamesInOrder_data()
     {
-        QTest::addColumn<QString>("sites"); // the order to apply
-        QTest::addColumn<QString>(
-            "corrections"); // per corrector, separated by "|"; "none" is a corrector without an answer
-        QTest::addColumn<QString>("answers"); // "Site:Artist/Title=answer"
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<QString>("result"); // artist, title, lyrics, error
-
-        const QString none;
-        addRow("the first site has it", "A;;B", none, "A:a/t=la", "A:a/t", "a|t|la|");
-        addRow("a disabled site is not asked", "A::0;;B", none, "A:a/t=la", "B:a/t", "a|t||");
-        addRow("the last failure is told", "A;;B", none, "A:a/t=!one B:a/t=!two", "A:a/t B:a/t", "a|t||two");
-        addRow("withdrawn lyrics are none", "A;;B", none, "A:a/t=x_gracenote_takedown_x B:a/t=la", "A:a/t B:a/t",
+        addTextColumns("sites", "corrections", "answers", "asked", "result");
+        addRow("the first site has it", "A;;B", "", "A:a/t=la", "A:a/t", "a|t|la|");
+        addRow("a disabled site is not asked", "A::0;;B", "", "A:a/t=la", "B:a/t", "a|t||");
+        addRow("the last failure is told", "A;;B", "", "A:a/t=!one B:a/t=!two", "A:a/t B:a/t", "a|t||two");
+        addRow("withdrawn lyrics are none", "A;;B", "", "A:a/t=x_gracenote_takedown_x B:a/t=la", "A:a/t B:a/t",
                "a|t|la|");
         addRow("corrected names, every site", "A;;B", "c/u", "B:c/u=la", "A:a/t B:a/t correct:a/t A:c/u B:c/u",
                "c|u|la|");
-        addRow("a second pair goes to the first site, then on", "A;;B", "c/u d/v", none,
+        addRow("a second pair goes to the first site, then on", "A;;B", "c/u d/v", "",
                "A:a/t B:a/t correct:a/t A:c/u B:c/u A:d/v B:d/v", "a|t||");
-        addRow("own names, blanks and doubles are left out", "A;;B", "a/t /u c/ c/u c/u C/u", none,
+        addRow("own names, blanks and doubles are left out", "A;;B", "a/t /u c/ c/u c/u C/u", "",
                "A:a/t B:a/t correct:a/t A:c/u B:c/u A:C/u B:C/u", "a|t||");
-        addRow("a corrector without an answer", "A;;B", "none", none, "A:a/t B:a/t correct:a/t", "a|t||");
+        addRow("a corrector without an answer", "A;;B", "none", "", "A:a/t B:a/t correct:a/t", "a|t||");
         addRow("two correctors before any of their names", "A;;B", "c/u|d/v", "A:d/v=la",
                "A:a/t B:a/t correct:a/t correct:a/t A:c/u B:c/u A:d/v", "d|v|la|");
-        addRow("all disabled, one pair: used up untried", "A::0;;B::0", "c/u", none, "correct:a/t", "a|t||");
+        addRow("all disabled, one pair: used up untried", "A::0;;B::0", "c/u", "", "correct:a/t", "a|t||");
         addRow("all disabled, the next pairs go to the first site", "B::0;;A::0", "c/u d/v e/w", "B:e/w=la",
                "correct:a/t B:d/v B:e/w", "e|w|la|");
-        addRow("the first site disabled, second pair starts with it", "A::0;;B", "c/u d/v", none,
+        addRow("the first site disabled, second pair starts with it", "A::0;;B", "c/u d/v", "",
                "B:a/t correct:a/t B:c/u A:d/v B:d/v", "a|t||");
     }
 
@@ -176,22 +161,20 @@ private slots:
         QFETCH(QString, corrections);
         QFETCH(QString, answers);
         QFETCH(QString, asked);
-        makeSites("A B"_s);
-        m_search->setProvidersOrder(sites);
+        makeSites("A B"_s, sites);
         for (const QString &answer : words(answers))
             m_script.answers.insert(answer.section(QLatin1Char('='), 0, 0), answer.section(QLatin1Char('='), 1));
-        for (const QString &pairs : words(corrections, QLatin1Char('|')))
+        for (const QString &pairs : words(corrections, '|'))
             m_search->addCorrector(
                 std::make_unique<ScriptedCorrector>(pairs == "none"_s ? QStringList() : words(pairs), &m_script));
 
-        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-        QVERIFY(m_search->search(7, "a"_s, "t"_s));
-        QTRY_COMPARE(finished.size(), 1);
+        QVERIFY(search(7));
+        QTRY_COMPARE(m_finished->size(), 1);
         QCOMPARE(m_script.asked, words(asked));
         QStringList result;
-        for (const QVariant &argument : finished.first().mid(1))
+        for (const QVariant &argument : m_finished->first())
             result.append(argument.toString());
-        QCOMPARE(finished.first().first().toInt(), 7);
+        QCOMPARE(result.takeFirst(), "7"_s);
         QTEST(result.join(QLatin1Char('|')), "result");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY2(m_search->children().isEmpty(), "clones are released");
@@ -200,39 +183,36 @@ private slots:
     void acceptsEachIdOnce()
     {
         QVERIFY2(m_search->canSearch({}, {}), "there is nobody to refuse");
-        makeSites("A B"_s);
-        m_search->setProvidersOrder("A;;B::0"_s);
+        makeSites("A B"_s, "A;;B::0"_s);
         QVERIFY2(!m_search->search(1, "a"_s, " \t"_s), "a disabled site refuses as well");
         QCOMPARE(m_search->searchCount(), 0);
         m_script.answers.insert("A:a/t"_s, "la"_s);
-        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-        QVERIFY(m_search->search(1, "a"_s, "t"_s));
+        QVERIFY(search(1));
         bool isFreeAtOnce = false;
         connect(m_search.get(), &LyricsSearch::searchFinished, this, [&] {
-            if (finished.size() == 1)
-                isFreeAtOnce = m_search->search(1, "a"_s, "t"_s);
+            if (m_finished->size() == 1)
+                isFreeAtOnce = search(1);
         });
         QVERIFY(!m_search->search(1, "b"_s, "t"_s));
-        QTRY_COMPARE(finished.size(), 2);
-        QCOMPARE(finished.first().at(3).toString(), "la"_s);
+        QTRY_COMPARE(m_finished->size(), 2);
+        QCOMPARE(lyricsOf(0), "la"_s);
         QVERIFY2(isFreeAtOnce, "a slot may start the next search");
     }
 
     void reportsFromTheEventLoopAndCounts()
     {
-        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
         QSignalSpy counts(m_search.get(), &LyricsSearch::searchCountChanged);
-        QVERIFY2(m_search->search(1, "a"_s, "t"_s), "without any provider");
-        makeSites("A B"_s);
-        m_script.refusing = QStringList{"A"_s};
+        QVERIFY2(search(1), "without any provider");
+        m_script.refusing = "A"_s;
         m_script.answers.insert("B:a/t"_s, "la"_s);
-        QVERIFY2(m_search->search(2, "a"_s, "t"_s), "the first clone refuses");
-        QVERIFY(finished.isEmpty());
-        QTRY_COMPARE(finished.size(), 2);
+        makeSites("A B"_s);
+        QVERIFY2(search(2), "the first clone refuses");
+        QVERIFY(m_finished->isEmpty());
+        QTRY_COMPARE(m_finished->size(), 2);
         QTest::qWait(0);
-        QCOMPARE(finished.size(), 2);
-        QCOMPARE(finished.at(0).mid(0, 4), (QVariantList{quint16(1), "a"_s, "t"_s, QString()}));
-        QCOMPARE(finished.at(1).at(3).toString(), "la"_s);
+        QCOMPARE(m_finished->size(), 2);
+        QCOMPARE(m_finished->at(0).mid(0, 4), (QVariantList{quint16(1), "a"_s, "t"_s, QString()}));
+        QCOMPARE(lyricsOf(1), "la"_s);
         QCOMPARE(counts, (QList<QVariantList>{{1}, {2}, {1}, {0}}));
     }
 
@@ -240,36 +220,39 @@ private slots:
     {
         makeSites("A B"_s);
         m_script.answers.insert("B:a/t"_s, "la"_s);
-        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-        QVERIFY(m_search->search(1, "a"_s, "t"_s));
+        QVERIFY(search(1));
         LyricsProvider *first = m_script.clones.first();
         emit first->finished(QString());
-        QVERIFY(finished.isEmpty());
+        QVERIFY(m_finished->isEmpty());
         emit first->finished("too late"_s);
-        QTRY_COMPARE(finished.size(), 1);
-        QCOMPARE(finished.first().at(3).toString(), "la"_s);
+        QTRY_COMPARE(m_finished->size(), 1);
+        QCOMPARE(lyricsOf(0), "la"_s);
     }
 
     void endsQuietlyWhenDestroyed()
     {
         makeSites("A"_s);
-        QSignalSpy finished(m_search.get(), &LyricsSearch::searchFinished);
-        QVERIFY(m_search->search(1, "a"_s, "t"_s));
+        QVERIFY(search(1));
         m_search.reset();
         QCoreApplication::processEvents();
-        QVERIFY(finished.isEmpty());
+        QVERIFY(m_finished->isEmpty());
         QVERIFY(m_script.clones.first().isNull());
     }
 
 private:
-    void makeSites(const QString &names)
+    void makeSites(const QString &names, const QString &order = {})
     {
         for (const QString &name : words(names))
             m_search->addProvider(std::make_unique<ScriptedSite>(name, &m_script));
+        m_search->setProvidersOrder(order);
     }
+
+    bool search(quint16 id) { return m_search->search(id, "a"_s, "t"_s); }
+    QString lyricsOf(int search) const { return m_finished->at(search).at(3).toString(); }
 
     Script m_script;
     std::unique_ptr<LyricsSearch> m_search;
+    std::unique_ptr<QSignalSpy> m_finished;
 };
 
 QTEST_GUILESS_MAIN(tst_LyricsSearch)

@@ -27,20 +27,13 @@ private slots:
     void opensThePageOfTheChosenEngine_data()
     {
         addTextColumns("engine", "query", "address");
-        const char *google = "https://www.google.com/search?q=";
-        const auto onGoogle = [google](const char *name, const char *query, const char *value) {
-            addRow(name, "Google", query, QString::fromLatin1(google) + QLatin1String(value));
-        };
         addRow("an engine at another address", "Bing", "x", "http://127.0.0.1:9/mirror/?q=x");
         addRow("an engine with another key", "Yahoo", "x", "https://search.yahoo.com/search?p=x");
-        addRow("an engine with a folder", "Yandex", "x", "https://yandex.com/search/?q=x");
-        addRow("no engine chosen", "", "", google);
-        addRow("names are told apart by case", "bing", "", google);
-        onGoogle("nothing leaves the value", "a&q=b#c", "a%26q%3Db%23c");
-        onGoogle("plus and percent signs", "Ash + Oak 100%", "Ash%20+%20Oak%20100%25");
-        onGoogle("quotes", "\"It's\" `so`", "%22It's%22%20%60so%60");
-        onGoogle("Cyrillic", "Дом", "%D0%94%D0%BE%D0%BC");
-        onGoogle("the placeholder itself", "{{QUERY}}", "%7B%7BQUERY%7D%7D");
+        addRow("an engine with a folder", "Yandex", "Дом", "https://yandex.com/search/?q=%D0%94%D0%BE%D0%BC");
+        addRow("no engine chosen", "", "", "https://www.google.com/search?q=");
+        addRow("told apart by case", "bing", "a&q=b#c", "https://www.google.com/search?q=a%26q%3Db%23c");
+        addRow("signs", "Google", "A + O 100% \"{{", "https://www.google.com/search?q=A%20+%20O%20100%25%20%22%7B%7B");
+        addRow("the placeholder", "Google", "{{QUERY}}", "https://www.google.com/search?q=%7B%7BQUERY%7D%7D");
     }
 
     void opensThePageOfTheChosenEngine()

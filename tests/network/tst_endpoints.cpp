@@ -3,8 +3,8 @@
 #include "support/TestFolder.h"
 #include "support/TestTable.h"
 
+#include <QRegularExpression>
 #include <QSettings>
-#include <QtTest>
 
 class tst_Endpoints : public QObject
 {
@@ -13,12 +13,6 @@ class tst_Endpoints : public QObject
 private slots:
     void initTestCase() { m_folder.holdSettings(); }
 
-    void init()
-    {
-        QSettings().clear();
-        reloadEndpoints();
-    }
-
     void defaultsAreUsable()
     {
         QSet<QString> keys;
@@ -26,24 +20,22 @@ private slots:
             const auto endpoint = static_cast<Endpoint>(i);
             const QUrl base = endpointBase(endpoint);
             keys.insert(endpointKey(endpoint));
-            QVERIFY2(base.scheme().startsWith(QLatin1String("http")) && !base.host().isEmpty() && base.path().isEmpty(),
+            QVERIFY2(base.scheme().startsWith("http"_s) && !base.host().isEmpty() && base.path().isEmpty(),
                      qPrintable(endpointKey(endpoint)));
             QCOMPARE(endpointExists(endpoint), endpoint != Endpoint::Maker && endpoint != Endpoint::Collector);
         }
         QCOMPARE(keys.size(), 15);
-        QCOMPARE(endpointBase(Endpoint::ProxyTest), QUrl(QStringLiteral("http://example.com")));
+        QCOMPARE(endpointBase(Endpoint::ProxyTest), QUrl("http://example.com"_s));
     }
 
     void override_data()
     {
         QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("expected"); // empty: the default, with a warning
+        addTextColumns("expected"); // empty: the default, with a warning
         addRow("a list", QVariant(QStringList{"http://a.org"_s, "http://b.org"_s}), "");
-        addRow("loopback", QVariant("http://127.0.0.1:8080"_s), "http://127.0.0.1:8080");
-        addRow("trailing slashes", QVariant(" https://x.org// "_s), "https://x.org");
+        addRow("trailing slashes", QVariant(" https://x.org:8080// "_s), "https://x.org:8080");
         addRow("path of its own", QVariant("http://x.org/genius/"_s), "http://x.org/genius");
-        for (const char *bad :
-             {"", "file:///etc/passwd", "x.org", "http://", "http://x.org/?a=b", "http://x.org:banana"})
+        for (const char *bad : {"", "file:///etc/passwd", "x.org", "http://", "http://x.org/?a=b", "http://x.org:no"})
             addRow(bad, QVariant(QString::fromLatin1(bad)), "");
     }
 
@@ -51,9 +43,11 @@ private slots:
     {
         QFETCH(QVariant, value);
         QFETCH(QString, expected);
+        QSettings().clear();
+        reloadEndpoints();
         const QUrl defaultBase = endpointBase(Endpoint::Genius);
         if (expected.isEmpty())
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("endpoints/Genius")));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("endpoints/Genius"_s));
         write(value);
         QCOMPARE(endpointBase(Endpoint::Genius), expected.isEmpty() ? defaultBase : QUrl(expected));
     }
@@ -64,7 +58,6 @@ private slots:
         addRow("nothing", "", "http://h:1/base");
         addRow("path and query", "/p?q=a%20b#3", "http://h:1/base/p?q=a%20b#3");
         addRow("query only", "?q=1", "http://h:1/base?q=1");
-        addRow("missing slash", "p", "http://h:1/base/p");
         addRow("would change the host", "@evil.org/", "http://h:1/base/@evil.org/");
         addRow("an address", "http://evil.org/", "http://h:1/base/http://evil.org/");
     }
@@ -79,7 +72,7 @@ private slots:
 private:
     static void write(const QVariant &value)
     {
-        QSettings().setValue(QStringLiteral("endpoints/Genius"), value);
+        QSettings().setValue("endpoints/Genius"_s, value);
         reloadEndpoints();
     }
 

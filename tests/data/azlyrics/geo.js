@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
-// form helper, generated
 (function () {
-  var forms = document.querySelectorAll("form.search");
-  for (var i = 0; i < forms.length; i++) {
-    var field = document.createElement("input");
-    field.setAttribute("type", "hidden");
-    field.setAttribute( "ignored", "since a blank stands before it");
-    field.setAttribute("name", "draft");
-    field.setAttribute("name" ,
-      "x&y" );
-    field.setAttribute('value', 'single quotation marks do not count');
-    field.setAttribute("value", "7f3a+90=c2");
-    forms[i].appendChild(field);
-  }
-  window.setAttribute = "x";
+  var field = document.createElement("input");
+  field.setAttribute("type", "hidden");
+  field.setAttribute( "ignored", "since a blank stands before it");
+  field.setAttribute("name", "draft");
+  field.setAttribute("name" ,
+    "x&y" );
+  field.setAttribute('value', 'single quotation marks do not count');
+  field.setAttribute("value", "7f3a+90=c2");
 })();
