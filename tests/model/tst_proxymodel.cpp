@@ -29,9 +29,8 @@ public:
     void add(int first, int count)
     {
         QList<QUrl> urls;
-        for (int i = first; i < first + count; ++i) {
+        for (int i = first; i < first + count; ++i)
             urls.append(QUrl::fromLocalFile(folder.write("%1.mp3"_s.arg(i))));
-        }
         model.add(urls);
     }
     // The numbers of the songs that are shown, of those selected and of the current one.
@@ -39,22 +38,19 @@ public:
     {
         QVector<int> songs;
         for (int row = 0; row < proxy.rowCount(); ++row)
-            songs.append(song(row));
+            songs.append(numberIn(data(row, MainModel::filenameRole).toString()));
         return songs;
     }
     QVector<int> selected() const
     {
-        QVector<int> songs;
-        for (int row = 0; row < proxy.rowCount(); ++row) {
-            if (proxy.data(proxy.index(row, 0), MainModel::selectedRole).toBool())
-                songs.append(song(row));
+        QVector<int> songs = shown();
+        for (int row = songs.size() - 1; row >= 0; --row) {
+            if (!data(row, MainModel::selectedRole).toBool())
+                songs.removeAt(row);
         }
         return songs;
     }
-    int current() const
-    {
-        return proxy.currentItem() ? proxy.currentItem()->filename().section(QLatin1Char('.'), 0, 0).toInt() : -1;
-    }
+    int current() const { return proxy.currentItem() ? numberIn(proxy.currentItem()->filename()) : -1; }
     bool click(int row, Qt::KeyboardModifier modifier = Qt::NoModifier)
     {
         const int key = modifier == Qt::ControlModifier ? Qt::Key_Control
@@ -77,13 +73,8 @@ public:
     QWindow window;
 
 private:
-    int song(int row) const
-    {
-        return proxy.data(proxy.index(row, 0), MainModel::filenameRole)
-            .toString()
-            .section(QLatin1Char('.'), 0, 0)
-            .toInt();
-    }
+    QVariant data(int row, int role) const { return proxy.data(proxy.index(row, 0), role); }
+    static int numberIn(const QString &name) { return name.section(QLatin1Char('.'), 0, 0).toInt(); }
 };
 
 using Songs = QVector<int>;
@@ -103,17 +94,15 @@ private slots:
         QSignalSpy flags(&stage.proxy, &ProxyModel::showFoundChanged);
         stage.proxy.selectAll();
         QCOMPARE(stage.proxy.selectedCount(), 6);
-        stage.proxy.setShowFound(false);
-        stage.proxy.setShowFound(false);
+        for (int time = 0; time < 2; ++time)
+            stage.proxy.setShowFound(false);
         QCOMPARE(stage.shown(), (Songs{0, 2, 3}));
         QCOMPARE(stage.proxy.hiddenCount(), 3);
-        QCOMPARE(stage.selected(), (Songs{0, 2, 3}));
         QCOMPARE(stage.counts.last(), QVariantList{3});
-        QCOMPARE(flags.count(), 1);
         stage.proxy.setShowFound(true);
         QCOMPARE(stage.shown(), (Songs{0, 1, 2, 3, 4, 5}));
         QCOMPARE(stage.selected(), (Songs{0, 2, 3}));
-        QCOMPARE(stage.hidden.count(), 2);
+        QVERIFY(flags.count() == 2 && stage.hidden.count() == 2);
     }
 
     void songsComeAndGoWithTheirLyrics()
@@ -146,8 +135,8 @@ private slots:
         QTest::addColumn<int>("currentAfter");
         addRow("a plain click", 2, 4, Qt::NoModifier, Songs{4}, 4);
         addRow("on the current row: nothing is replaced", 2, 2, Qt::NoModifier, Songs{2}, 2);
-        addRow("on empty space without a current row", -1, -1, Qt::NoModifier, Songs{},
-               -1); // empties what Control has selected
+        // Empties what Control has selected.
+        addRow("on empty space without a current row", -1, -1, Qt::NoModifier, Songs{}, -1);
         addRow("on empty space", 2, -1, Qt::NoModifier, Songs{}, -1);
         addRow("beyond the rows", 2, 9, Qt::NoModifier, Songs{2}, 2);
         addRow("Control adds", 2, 0, Qt::ControlModifier, Songs{0, 2}, 2);
@@ -209,15 +198,10 @@ private slots:
         stage.proxy.setCurrentIndex(2);
         stage.proxy.selectAll();
         QStringList order;
-        const auto note = [&order](const char *what) {
-            return [&order, what] {
-                order.append(QString::fromLatin1(what));
-            };
-        };
-        connect(&stage.proxy, &ProxyModel::hiddenCountChanged, this, note("hidden"));
-        connect(&stage.proxy, &ProxyModel::selectedCountChanged, this, note("count"));
-        connect(&stage.proxy, &ProxyModel::showFoundChanged, this, note("flag"));
-        connect(&stage.proxy, &ProxyModel::currentIndexChanged, this, note("row"));
+        connect(&stage.proxy, &ProxyModel::hiddenCountChanged, this, [&order] { order << "hidden"_s; });
+        connect(&stage.proxy, &ProxyModel::selectedCountChanged, this, [&order] { order << "count"_s; });
+        connect(&stage.proxy, &ProxyModel::showFoundChanged, this, [&order] { order << "flag"_s; });
+        connect(&stage.proxy, &ProxyModel::currentIndexChanged, this, [&order] { order << "row"_s; });
         stage.proxy.setShowFound(false);
         QCOMPARE(order.join(QLatin1Char(' ')), "count hidden flag row"_s);
     }
@@ -228,10 +212,14 @@ private slots:
         for (const int lastRemoved : {19, 199}) {
             Stage stage(220);
             stage.proxy.setCurrentIndex(11);
+            stage.proxy.selectAll();
+            QSignalSpy resets(&stage.proxy, &ProxyModel::modelReset);
             QVector<int> odd;
             for (int row = 1; row <= lastRemoved; row += 2)
                 odd.append(row);
             stage.model.removeScattered(odd);
+            QCOMPARE(resets.count(), lastRemoved == 199 ? 1 : 0);
+            QCOMPARE(stage.proxy.selectedCount(), 220 - odd.size());
             QCOMPARE(stage.current(), 12);
             QCOMPARE(stage.proxy.currentIndex(), 6);
         }
@@ -258,12 +246,9 @@ private slots:
         stage.proxy.setShowFound(!hide);
         const int last = stage.proxy.rowCount() - 1;
         stage.proxy.setCurrentIndex(last);
-        if (!hide) {
-            stage.click(1, Qt::ControlModifier);
+        stage.click(1, Qt::ControlModifier);
+        if (!hide)
             stage.click(2, Qt::ControlModifier);
-        } else {
-            stage.click(1, Qt::ControlModifier);
-        }
         stage.currents.clear();
         stage.counts.clear();
         if (all)
@@ -288,23 +273,6 @@ private slots:
         stage.proxy.setShowFound(true);
         stage.proxy.removeAll();
         QCOMPARE(stage.model.urls(), QList<QUrl>());
-    }
-
-    // So many ranges that they go as one reset.
-    void scatteredRowsAreRemoved()
-    {
-        Stage stage(200);
-        stage.proxy.setCurrentIndex(150);
-        stage.proxy.selectAll();
-        QVector<int> odd;
-        for (int row = 1; row < 200; row += 2)
-            odd.append(row);
-        QSignalSpy resets(&stage.proxy, &ProxyModel::modelReset);
-        stage.model.removeScattered(odd);
-        QCOMPARE(resets.count(), 1);
-        QCOMPARE(stage.proxy.selectedCount(), 100);
-        QCOMPARE(stage.proxy.currentIndex(), 75);
-        QCOMPARE(stage.current(), 150);
     }
 };
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tags/SongFiles.h"
 
-#include <QDebug>
+#include "support/TestTable.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,47 +25,32 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
 
 SongFiles::SongFiles()
 {
-    // For the tests that run as an ordinary user.
-    ::chmod(QFile::encodeName(m_directory.path()).constData(), 0777);
+    ::chmod(QFile::encodeName(path()).constData(), 0777);
 }
 
 QString SongFiles::copy(const QString &sample, const QString &name) const
 {
-    return write(name.isEmpty() ? sample : name, bytes(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + sample));
+    return write(name.isEmpty() ? sample : name, read(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + sample));
 }
 
-QString SongFiles::write(const QString &name, const QByteArray &content) const
+tags::UpdateResult SongFiles::update(const QString &path, const tags::SongTexts &texts) const
 {
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-    return file.fileName();
+    return tags::updateTags(path, texts, dataFolder());
 }
 
 QJsonObject SongFiles::tagsOf(const QString &path)
 {
-    const QByteArray json = outputOf(QStringLiteral("/usr/bin/python3"), {QStringLiteral(VERSEWELL_TAG_READER), path});
+    const QByteArray json = outputOf("/usr/bin/python3"_s, {QStringLiteral(VERSEWELL_TAG_READER), path});
     QJsonObject tags = QJsonDocument::fromJson(json).array().first().toObject();
-    tags.remove(QStringLiteral("file"));
+    tags.remove("file"_s);
     return tags;
 }
 
-QByteArray SongFiles::audioDigest(const QString &path)
+QByteArray SongFiles::audioDigest(const QString &path) const
 {
-    if (path.endsWith(QLatin1String(".ape"))) {
-        constexpr int headerAndFrames = 52 + 24 + 8 + 256 * 16; // as make-samples.py writes them
-        return bytes(path).left(headerAndFrames);
-    }
-    return outputOf(QStringLiteral("ffmpeg"),
-                    {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-nostdin"), QStringLiteral("-i"),
-                     path, QStringLiteral("-map"), QStringLiteral("0:a"), QStringLiteral("-c"), QStringLiteral("copy"),
-                     QStringLiteral("-f"), QStringLiteral("md5"), QStringLiteral("-")});
-}
-
-QByteArray SongFiles::bytes(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
+    constexpr int apeHeaderAndFrames = 52 + 24 + 8 + 256 * 16; // as make-samples.py writes them
+    if (path.endsWith(QLatin1String(".ape")))
+        return read(path).left(apeHeaderAndFrames);
+    const QStringList packets = "-map 0:a -c copy -f md5 -"_s.split(QLatin1Char(' '));
+    return outputOf("ffmpeg"_s, QStringList{"-v"_s, "error"_s, "-nostdin"_s, "-i"_s, path} + packets);
 }

@@ -13,6 +13,7 @@
 #include <sys/resource.h>
 
 #include <csignal>
+#include <limits>
 #include <memory>
 
 using tags::CheckedFileStream;
@@ -100,7 +101,7 @@ private slots:
                 if (kind == 3)
                     stream->writeBlock(data);
                 stream->seek(-std::min(50L, stream->length()), TagLib::IOStream::End);
-                seen[number++] = stream->readBlock(37);
+                seen[number++] = stream->readBlock(round % 2 == 0 ? 37 : std::numeric_limits<unsigned long>::max());
             }
             QVERIFY2(seen[0] == seen[1], qPrintable("round %1"_s.arg(round)));
             QCOMPARE(file->stream()->length(), memory.length());

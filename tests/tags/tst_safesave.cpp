@@ -5,7 +5,6 @@
 #include "tags/SaveJournal.h"
 #include "tags/SavesMending.h"
 #include "tags/SongFiles.h"
-#include "tags/TagUpdate.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,34 +30,32 @@ struct Place
     SongFiles files;
     QString song = files.copy("plain-v24.mp3"_s);
     QByteArray native = QFile::encodeName(song);
-    QString data = files.path("data"_s);
+    QByteArray folder = QFile::encodeName(files.path());
+    QString data = files.dataFolder();
 
-    [[nodiscard]] QStringList entries() const
+    [[nodiscard]] int entries() const { return QDir(files.path()).entryList(QDir::Files | QDir::Hidden).size(); }
+    [[nodiscard]] bool hasNewLyrics() const
     {
-        return QDir(QFileInfo(song).path()).entryList(QDir::Files | QDir::Hidden);
+        MediaFileTags tags;
+        return tags.read(song) && tags.value("lyrics"_s) == QString(newLyrics.lyrics).replace("\n"_s, "\r\n"_s);
+    }
+    // As before a save in place.
+    void rescue(const QByteArray &changed) const
+    {
+        const QString copy = files.write("changed"_s, changed);
+        QFile from(song);
+        QFile to(copy);
+        QVERIFY(from.open(QIODevice::ReadOnly) && to.open(QIODevice::ReadOnly));
+        QCOMPARE(tags::SaveJournal(data).rescue(native, from.handle(), to.handle()), 0);
+        QVERIFY(to.remove()); // as a working copy
     }
 };
 
-ino_t inodeOf(const QByteArray &path)
+struct stat statusOf(const QByteArray &path)
 {
     struct stat status = {};
-    return ::lstat(path.constData(), &status) == 0 ? status.st_ino : 0;
-}
-
-bool hasNewLyrics(const QString &path)
-{
-    MediaFileTags tags;
-    return tags.read(path) && tags.value("lyrics"_s).startsWith(QLatin1String("new words"));
-}
-
-// As before a save in place.
-void rescue(const QString &song, const QString &changed, const QString &data)
-{
-    const int from = ::open(QFile::encodeName(song).constData(), O_RDWR | O_CLOEXEC);
-    const int to = ::open(QFile::encodeName(changed).constData(), O_RDONLY | O_CLOEXEC);
-    QCOMPARE(tags::SaveJournal(data).rescue(QFile::encodeName(song), from, to), 0);
-    ::close(from);
-    ::close(to);
+    ::stat(path.constData(), &status);
+    return status;
 }
 
 QByteArray attribute(const QByteArray &path, const char *name)
@@ -66,6 +63,11 @@ QByteArray attribute(const QByteArray &path, const char *name)
     std::array<char, 200> value{};
     const ssize_t size = ::getxattr(path.constData(), name, value.data(), value.size());
     return {value.data(), static_cast<int>(size < 0 ? 0 : size)};
+}
+
+bool setAttribute(const QByteArray &path, const char *name, const QByteArray &value)
+{
+    return ::setxattr(path.constData(), name, value.constData(), static_cast<std::size_t>(value.size()), 0) == 0;
 }
 
 } // namespace
@@ -89,41 +91,31 @@ private slots:
         QFETCH(int, mode);
         QFETCH(QString, link);
         const Place place;
-        // An access list that lets one more user read, as the kernel stores it.
+        // An access list that lets one more user read, as the kernel stores it; the directory may give it to new files.
         const QByteArray list =
             QByteArray::fromHex("0200000001000600ffffffff02000400feff000004000400ffffffff10000600ffffffff"
                                 "20000000ffffffff");
-        const bool withList =
-            mode == 0664 && ::setxattr(place.native.constData(), "system.posix_acl_access", list.constData(),
-                                       static_cast<std::size_t>(list.size()), 0) == 0;
-        // And one that the directory gives to new files.
-        const QByteArray directory = QFile::encodeName(QFileInfo(place.song).path());
+        const bool withList = mode == 0664 && setAttribute(place.native, "system.posix_acl_access", list);
         if (mode == 01600)
-            (void)::setxattr(directory.constData(), "system.posix_acl_default", list.constData(),
-                             static_cast<std::size_t>(list.size()), 0);
-        QCOMPARE(::setxattr(place.native.constData(), "user.rating", "five", 4, 0), 0);
+            (void)setAttribute(place.folder, "system.posix_acl_default", list);
+        QVERIFY(setAttribute(place.native, "user.rating", "five"));
         QCOMPARE(::chmod(place.native.constData(), static_cast<mode_t>(mode)), 0);
-        const bool isRoot = ::geteuid() == 0;
-        if (isRoot)
-            QCOMPARE(::chown(place.native.constData(), 1234, 4321), 0);
+        QVERIFY(::geteuid() != 0 || ::chown(place.native.constData(), 1234, 4321) == 0);
+        const struct stat before = statusOf(place.native);
         const QByteArray listBefore = attribute(place.native, "system.posix_acl_access");
         QVERIFY(!withList || !listBefore.isEmpty());
-        QString path = place.song;
-        if (!link.isEmpty()) {
-            path = place.files.path("link.mp3"_s);
-            QVERIFY(QFile::link(link, path));
-        }
+        const QString path = link.isEmpty() ? place.song : place.files.path("link.mp3"_s);
+        QVERIFY(link.isEmpty() || QFile::link(link, path));
 
-        QCOMPARE(tags::updateTags(path, newLyrics, place.data), UpdateResult::Saved);
-        QVERIFY(hasNewLyrics(place.song));
+        QCOMPARE(place.files.update(path, newLyrics), UpdateResult::Saved);
+        QVERIFY(place.hasNewLyrics());
         QCOMPARE(QFileInfo(path).isSymLink(), !link.isEmpty());
-        struct stat status = {};
-        QCOMPARE(::stat(place.native.constData(), &status), 0);
-        QCOMPARE(static_cast<int>(status.st_mode & 07777), mode);
-        QVERIFY(!isRoot || (status.st_uid == 1234 && status.st_gid == 4321));
+        const struct stat after = statusOf(place.native);
+        QCOMPARE(static_cast<int>(after.st_mode & 07777), mode);
+        QVERIFY(after.st_uid == before.st_uid && after.st_gid == before.st_gid);
         QCOMPARE(attribute(place.native, "user.rating"), QByteArray("five"));
         QCOMPARE(attribute(place.native, "system.posix_acl_access"), listBefore);
-        QCOMPARE(place.entries().size(), link.isEmpty() ? 1 : 2);
+        QCOMPARE(place.entries(), link.isEmpty() ? 1 : 2);
     }
 
     void oddPlacesAreSavedInPlace_data()
@@ -140,29 +132,25 @@ private slots:
         QFETCH(bool, hardLink);
         QFETCH(bool, withFolder);
         const Place place;
-        const QString other = place.files.path("other.mp3"_s);
-        const QByteArray directory = QFile::encodeName(QFileInfo(place.song).path());
         QCOMPARE(::chmod(place.native.constData(), 0666), 0);
         QVERIFY(QDir().mkpath(place.data) && ::chmod(QFile::encodeName(place.data).constData(), 0777) == 0);
         if (hardLink)
-            QCOMPARE(::link(place.native.constData(), QFile::encodeName(other).constData()), 0);
+            QCOMPARE(::link(place.native.constData(), (place.folder + "/other.mp3").constData()), 0);
         else
-            QCOMPARE(::chmod(directory.constData(), 0555), 0);
-        const ino_t inode = inodeOf(place.native);
-        const QByteArray before = SongFiles::bytes(place.song);
+            QCOMPARE(::chmod(place.folder.constData(), 0555), 0);
+        const ino_t inode = statusOf(place.native).st_ino;
+        const QByteArray before = place.files.read(place.song);
         const UpdateResult result = [&] {
             const AsOrdinaryUser user;
             return tags::updateTags(place.song, newLyrics, withFolder ? place.data : QString());
         }();
-        ::chmod(directory.constData(), 0777);
+        ::chmod(place.folder.constData(), 0777);
         QCOMPARE(result, withFolder ? UpdateResult::Saved : UpdateResult::NoRoom);
-        QCOMPARE(hasNewLyrics(place.song), withFolder);
-        QCOMPARE(inodeOf(place.native), inode);
-        if (hardLink)
-            QCOMPARE(SongFiles::bytes(other), SongFiles::bytes(place.song));
-        if (!withFolder)
-            QCOMPARE(SongFiles::bytes(place.song), before);
-        QVERIFY(!withFolder || QDir(place.data + "/rescue"_s).isEmpty(QDir::Files | QDir::Hidden));
+        QCOMPARE(place.hasNewLyrics(), withFolder);
+        QCOMPARE(place.files.read(place.song) == before, !withFolder);
+        QCOMPARE(statusOf(place.native).st_ino, inode);
+        QVERIFY(!hardLink || statusOf(place.folder + "/other.mp3").st_ino == inode);
+        QVERIFY(!withFolder || place.files.names(place.data + "/rescue"_s).isEmpty());
     }
 
     void aFailedChangeLeavesNothing_data()
@@ -179,9 +167,7 @@ private slots:
         QFETCH(int, fault);
         for (const bool hardLink : {false, true}) {
             const Place place;
-            const QString other = place.files.path("other"_s);
-            if (hardLink)
-                QCOMPARE(::link(place.native.constData(), QFile::encodeName(other).constData()), 0);
+            QVERIFY(!hardLink || ::link(place.native.constData(), (place.folder + "/other").constData()) == 0);
             const int original = ::open(place.native.constData(), O_RDONLY | O_CLOEXEC);
             tags::SafeSave save(place.native, original, tags::FileIdentity::of(original), place.data);
             const auto change = [&](int copy) {
@@ -192,16 +178,15 @@ private slots:
                 else if (fault >= 2)
                     song.remove();
                 if (fault == 2)
-                    (void)place.files.write(QFileInfo(place.song).fileName(), "foreign file");
+                    place.files.write(place.song, "foreign file");
                 return fault == 0 || !isWritten ? UpdateResult::TagsNotKept : UpdateResult::Saved;
             };
             QCOMPARE(save.run(change, 1000), fault == 0 ? UpdateResult::TagsNotKept : UpdateResult::ChangedMeanwhile);
             ::close(original);
-            const int left = (fault == 3 ? 0 : 1) + (hardLink ? 1 : 0);
-            QCOMPARE(place.entries().size(), left);
-            QVERIFY(fault == 3 || !SongFiles::bytes(place.song).startsWith("cut off"));
-            QVERIFY(fault != 1 || SongFiles::bytes(place.song).startsWith("foreign edit"));
-            QVERIFY(QDir(place.data + "/copies"_s).isEmpty());
+            QCOMPARE(place.entries(), (fault == 3 ? 0 : 1) + (hardLink ? 1 : 0));
+            const std::array starts{"ID3", "foreign edit", "foreign file", "(no file)"};
+            QVERIFY(place.files.read(place.song).startsWith(starts[static_cast<std::size_t>(fault)]));
+            QVERIFY(place.files.names(place.data + "/copies"_s).isEmpty());
         }
     }
 
@@ -210,34 +195,32 @@ private slots:
         const Place place;
         const QString own = place.files.write(".versewell-abc.part"_s, "left over");
         const QString alike = place.files.write(".versewell-def.part"_s, "not noted");
+        const QString onStick = place.files.path("stick/.versewell-ghi.part"_s);
         tags::SaveJournal journal(place.data);
-        journal.noteCopy(QFile::encodeName(own));
-        journal.noteCopy(place.native); // as a damaged journal might say
-        const QString stick = place.files.path("stick"_s);
-        const QString onStick = stick + "/.versewell-ghi.part"_s;
-        journal.noteCopy(QFile::encodeName(onStick));
+        for (const QByteArray &path :
+             {QFile::encodeName(own), place.native /* as a damaged journal might say */, QFile::encodeName(onStick)})
+            journal.noteCopy(path);
         QVERIFY(tags::SaveJournal(place.data).mend().isEmpty());
         QVERIFY(!QFile::exists(own));
-        QVERIFY(QDir().mkdir(stick)); // it is plugged in again
-        (void)place.files.write("stick/.versewell-ghi.part"_s, "left over");
+        place.files.write(onStick, "left over"); // it is plugged in again
         QVERIFY(tags::SaveJournal(place.data).mend().isEmpty());
         QVERIFY(!QFile::exists(onStick));
         QVERIFY(QFile::exists(alike) && QFile::exists(place.song));
-        QVERIFY(QDir(place.data + "/copies"_s).isEmpty());
+        QVERIFY(place.files.names(place.data + "/copies"_s).isEmpty());
     }
 
     void aSaveThatWasCutOffIsUndone_data()
     {
         QTest::addColumn<QByteArray>("found");
         QTest::addColumn<QString>("outcome");
-        const QByteArray half = QByteArray(512, 'n') + QByteArray(1488, 'o');
+        const QByteArray old(2000, 'o');
+        const QByteArray half = QByteArray(512, 'n') + old.mid(512);
         addRow("half written", half, "restored");
         addRow("half written, with room for the rest", half + QByteArray(500, '\0'), "restored");
-        addRow("undone, with the end of what was new still behind it", QByteArray(2000, 'o') + QByteArray(500, 'n'),
-               "restored");
+        addRow("undone, with the end of what was new still behind it", old + QByteArray(500, 'n'), "restored");
         addRow("wholly written", QByteArray(2500, 'n'), "whole");
-        addRow("not begun", QByteArray(2000, 'o'), "whole");
-        addRow("retagged by another program, equally long", QByteArray("A tagger's") + QByteArray(1990, 'o'), "kept");
+        addRow("not begun", old, "whole");
+        addRow("retagged by another program, equally long", "A tagger's" + old.mid(10), "kept");
         addRow("retagged, a byte in what is new", QByteArray(2499, 'n') + 'x', "kept");
         addRow("another file", QByteArray("another file"), "kept");
     }
@@ -246,42 +229,36 @@ private slots:
     {
         QFETCH(QByteArray, found);
         QFETCH(QString, outcome);
-        const SongFiles files;
-        const QString data = files.path("data"_s);
+        const Place place;
         const QByteArray before(2000, 'o');
-        const QString song = files.write("song.mp3"_s, before);
-        const QString changed = files.write("changed"_s, QByteArray(2500, 'n'));
-        rescue(song, changed, data);
-        QVERIFY(QFile::remove(changed)); // as the working copy
-        (void)files.write("song.mp3"_s, found);
+        place.files.write(place.song, before);
+        place.rescue(QByteArray(2500, 'n'));
+        place.files.write(place.song, found);
 
-        const tags::MendedSaves mended = tags::SaveJournal(data).mend();
-        QCOMPARE(mended.restored, outcome == QLatin1String("restored") ? QStringList{song} : QStringList());
-        QCOMPARE(SongFiles::bytes(song), outcome == QLatin1String("restored") ? before : found);
+        const tags::MendedSaves mended = tags::SaveJournal(place.data).mend();
+        QCOMPARE(mended.restored, outcome == QLatin1String("restored") ? QStringList{place.song} : QStringList());
+        QCOMPARE(place.files.read(place.song), outcome == QLatin1String("restored") ? before : found);
         QCOMPARE(mended.kept.size(), outcome == QLatin1String("kept") ? 1 : 0);
         for (const QString &kept : mended.kept)
-            QCOMPARE(SongFiles::bytes(kept), before);
+            QCOMPARE(place.files.read(kept), before);
         QVERIFY(mended.waiting.isEmpty());
-        QVERIFY(tags::SaveJournal(data).mend().isEmpty()); // said once
-        QCOMPARE(QDir(data + "/rescue"_s).entryList(QDir::Files).size(), mended.kept.size());
+        QVERIFY(tags::SaveJournal(place.data).mend().isEmpty()); // said once
+        QCOMPARE(place.files.names(place.data + "/rescue"_s).size(), mended.kept.size());
     }
 
     void aSongOnAStickWaits()
     {
         const Place place;
-        const QString away = place.files.path("away"_s);
-        const QByteArray before = SongFiles::bytes(place.song);
-        const QString changed = place.files.write("changed"_s, "new" + before);
-        rescue(place.song, changed, place.data);
-        (void)place.files.write(QFileInfo(place.song).fileName(), ("new" + before).left(512) + before.mid(512));
+        const QByteArray before = place.files.read(place.song);
+        place.rescue("new" + before);
+        place.files.write(place.song, ("new" + before).left(512) + before.mid(512));
+        const QString away = place.files.path("away.mp3"_s);
         QVERIFY(QFile::rename(place.song, away));
-        const QString other = place.files.path("other.mp3"_s);
-        QCOMPARE(::link(QFile::encodeName(away).constData(), QFile::encodeName(other).constData()), 0);
 
         const tags::MendedSaves mended = tags::SaveJournal(place.data).mend();
         QCOMPARE(mended.waiting, QStringList{place.song});
-        QCOMPARE(SongFiles::bytes(mended.whole.value(0)), before);
-        QCOMPARE(tags::updateTags(other, newLyrics, place.data), UpdateResult::AwaitsRestoring);
+        QCOMPARE(place.files.read(mended.whole.value(0)), before);
+        QCOMPARE(place.files.update(away, newLyrics), UpdateResult::AwaitsRestoring);
         tags::SavesMending mending(place.data); // while the program starts
         const QStringList underWay = mending.result().underWay;
         QVERIFY(mending.isDone() || underWay == QStringList{place.song});
@@ -290,11 +267,11 @@ private slots:
         QVERIFY(mending.isDone() && mending.result().underWay.isEmpty());
         QCOMPARE(mending.result().waiting, QStringList{place.song});
         QVERIFY(QFile::rename(away, place.song));
-        // What is half written must not take the place of what was rescued.
-        QCOMPARE(tags::updateTags(place.song, newLyrics, place.data), UpdateResult::AwaitsRestoring);
-        QCOMPARE(tags::updateTags(place.song, {}, place.data), UpdateResult::AwaitsRestoring); // says nothing new
+        // What is half written must not take the place of what was rescued, also where it says nothing new.
+        QCOMPARE(place.files.update(place.song, newLyrics), UpdateResult::AwaitsRestoring);
+        QCOMPARE(place.files.update(place.song, {}), UpdateResult::AwaitsRestoring);
         QCOMPARE(tags::SaveJournal(place.data).mend().restored, QStringList{place.song});
-        QCOMPARE(SongFiles::bytes(place.song), before);
+        QCOMPARE(place.files.read(place.song), before);
     }
 };
 

@@ -19,12 +19,6 @@ ReadAnswer fullAnswer()
     return answer;
 }
 
-// Without the length in front.
-QByteArray message(const ReadAnswer &answer)
-{
-    return encoded(answer).mid(4);
-}
-
 // An answer with one thing about it as a reader of ours would never send it.
 QByteArray forged(quint8 failure, qint32 duration, const QString &value, QSize size = {}, int pixelBytes = 0)
 {
@@ -48,7 +42,8 @@ private slots:
     void answersComeBack()
     {
         const ReadAnswer sent = fullAnswer();
-        const auto got = parseAnswer(message(sent));
+        const QByteArray whole = encoded(sent).mid(4); // without the length in front
+        const auto got = parseAnswer(whole);
         QVERIFY(got);
         QCOMPARE(got->number, sent.number);
         QCOMPARE(got->summary.failure, sent.summary.failure);
@@ -56,7 +51,6 @@ private slots:
         QVERIFY(got->summary.values == sent.summary.values);
         QCOMPARE(got->summary.thumbnail, sent.summary.thumbnail.convertToFormat(QImage::Format_ARGB32));
         // Cut anywhere, or with anything behind it, it is nothing.
-        const QByteArray whole = message(sent);
         for (int size = 0; size < whole.size(); size += size < 1000 ? 1 : 97)
             QVERIFY2(!parseAnswer(whole.left(size)), qPrintable(QString::number(size)));
         QVERIFY(!parseAnswer(whole + 'x'));
@@ -67,9 +61,7 @@ private slots:
         const QString path = "/a b/\n歌.mp3"_s;
         const auto got = parseRequest(encoded(ReadRequest{9, path, false}).mid(4));
         QVERIFY(got);
-        QCOMPARE(got->number, 9U);
-        QCOMPARE(got->path, path);
-        QCOMPARE(got->decodeCover, false);
+        QVERIFY(got->number == 9 && got->path == path && !got->decodeCover);
         QVERIFY(encoded(ReadRequest{9, QString(maximumRequestBytes, QLatin1Char('a')), true}).isEmpty());
     }
 
