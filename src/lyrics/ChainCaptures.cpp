@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <deque>
 
 namespace {
 
@@ -51,9 +50,9 @@ public:
     {
         while (m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) < position)
             enter(m_routes[m_entered++]);
-        while (!m_inGap.empty() && m_inGap.front().gapEnd < position)
-            m_inGap.pop_front();
-        const Route *best = m_inGap.empty() ? nullptr : m_inGap.front().route;
+        while (m_firstInGap < m_inGap.size() && m_inGap[m_firstInGap].gapEnd < position)
+            ++m_firstInGap;
+        const Route *best = m_firstInGap < m_inGap.size() ? m_inGap[m_firstInGap].route : nullptr;
         const bool emptyGap = m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) == position;
         if (emptyGap && (!best || isBetter(m_routes[m_entered], *best)))
             best = &m_routes[m_entered];
@@ -72,7 +71,7 @@ private:
     // Earlier gaps never end later, so a route that is worse than a later one is of no more use.
     void enter(const Route &route)
     {
-        while (!m_inGap.empty() && isBetter(route, *m_inGap.back().route))
+        while (m_inGap.size() > m_firstInGap && isBetter(route, *m_inGap.back().route))
             m_inGap.pop_back();
         if (gapBegin(route) > m_gapEnd)
             m_gapEnd = m_piece.endOfGap(m_text, gapBegin(route), m_matchEnd);
@@ -85,8 +84,10 @@ private:
     int m_matchEnd;
     std::size_t m_entered = 0;
     int m_gapEnd = -1;
-    // The routes within whose gap the place may lie, the best and earliest first.
-    std::deque<Entry> m_inGap;
+    // From m_firstInGap on, the routes within whose gap the place may lie, the best and earliest first. No queue of the
+    // standard library: to make one takes longer than most gaps take to cross.
+    std::vector<Entry> m_inGap;
+    std::size_t m_firstInGap = 0;
 };
 
 // The places behind `position` from which a match goes on to `matchEnd`, one of which is the one at `index`: they stand
@@ -125,13 +126,15 @@ ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, con
                            const ChainSpot &start)
 {
     std::vector<Route> routes{{start.position, {}}};
+    std::vector<Route> reached;
     auto group = pattern.groups().begin();
     const ChainSpot *onTheWay = &start;
     for (std::size_t link = 1; link < spots.size() && group != pattern.groups().end(); ++link) {
         const bool captures = group->end.link == link;
         GapCrossing crossing(pattern.links()[link - 1], text, routes, start.end);
-        std::vector<Route> reached;
         const auto [first, last] = placesAround(spots[link], onTheWay->next, start.position, start.end);
+        reached.clear();
+        reached.reserve(last - first);
         onTheWay = &spots[link][onTheWay->next];
         for (std::size_t spot = first; spot < last; ++spot) {
             const int position = spots[link][spot].position;
@@ -143,7 +146,7 @@ ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, con
                 reached.back().captures[static_cast<std::size_t>(group - pattern.groups().begin())] = {
                     route->position + group->begin.offset, position + group->end.offset};
         }
-        routes = std::move(reached);
+        routes.swap(reached);
         group += captures ? 1 : 0;
     }
     const auto best = std::min_element(routes.begin(), routes.end(), isBetter);

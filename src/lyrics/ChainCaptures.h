@@ -11,7 +11,7 @@ struct ChainSpot
     int position;
     int end;
     // The index of the place of the next piece on the way to that end.
-    std::size_t next = 0;
+    quint32 next = 0;
 };
 // In the order of their positions, in which their ends rise as well.
 using ChainSpots = std::vector<ChainSpot>;

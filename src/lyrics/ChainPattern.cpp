@@ -65,14 +65,15 @@ private:
 
 } // namespace
 
-ChainPattern::CharacterSet ChainPattern::CharacterSet::of(const QString &characters, bool negated)
+ChainPattern::CharacterSet::CharacterSet(Kind kind, const QString &characters)
+    : m_kind(kind)
+    , m_characters(characters)
 {
-    CharacterSet set(negated ? Kind::Unlisted : Kind::Listed);
-    set.m_characters = characters;
-    return set;
+    for (std::size_t c = 0; c < asciiCount; ++c)
+        m_ascii[c] = containsByKind(QChar(static_cast<ushort>(c)));
 }
 
-bool ChainPattern::CharacterSet::contains(QChar c) const
+bool ChainPattern::CharacterSet::containsByKind(QChar c) const
 {
     switch (m_kind) {
     case Kind::Listed:
@@ -87,18 +88,22 @@ bool ChainPattern::CharacterSet::contains(QChar c) const
     return false;
 }
 
+// By the first character: QString prepares a table for each longer text that it searches for, and pages have many
+// places.
 int ChainPattern::Link::indexIn(const QString &text, int from) const
 {
+    const QChar *const characters = text.constData();
     const auto matchesAt = [&](int at) {
+        const QChar *next = characters + at;
         return std::all_of(piece.begin(), piece.end(),
-                           [&](const CharacterSet &set) { return set.contains(text.at(at++)); });
+                           [&next](const CharacterSet &set) { return set.contains(*next++); });
     };
     const int last = text.size() - length();
     for (int at = from; at <= last; ++at) {
-        at = prefix.isEmpty() ? at : text.indexOf(prefix, at);
+        at = prefix.isEmpty() ? at : text.indexOf(prefix.at(0), at);
         if (at < 0 || at > last)
             return -1;
-        if (prefix.size() == length() || matchesAt(at))
+        if (matchesAt(at))
             return at;
     }
     return -1;
@@ -108,7 +113,8 @@ int ChainPattern::Link::endOfGap(const QString &text, int from, int limit) const
 {
     if (gap.isAnyCharacter())
         return limit;
-    while (from < limit && gap.contains(text.at(from)))
+    const QChar *const characters = text.constData();
+    while (from < limit && gap.contains(characters[from]))
         ++from;
     return from;
 }

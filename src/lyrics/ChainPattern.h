@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <bitset>
 #include <vector>
 
 // A regular expression of the simple kind that picks something out of a page: a chain of fixed pieces with gaps
@@ -33,7 +34,10 @@ public:
     class CharacterSet
     {
     public:
-        static CharacterSet of(const QString &characters, bool negated = false);
+        static CharacterSet of(const QString &characters, bool negated = false)
+        {
+            return CharacterSet(negated ? Kind::Unlisted : Kind::Listed, characters);
+        }
         static CharacterSet anyCharacter() { return of(QString(), true); }
         static CharacterSet anyButNewline() { return of(QStringLiteral("\n"), true); }
         static CharacterSet spaces() { return CharacterSet(Kind::Space); }
@@ -41,7 +45,10 @@ public:
         static CharacterSet digits() { return CharacterSet(Kind::Digit); }
         static CharacterSet asciiDigits() { return of(QStringLiteral("0123456789")); }
 
-        [[nodiscard]] bool contains(QChar c) const;
+        [[nodiscard]] bool contains(QChar c) const
+        {
+            return c.unicode() < asciiCount ? m_ascii[c.unicode()] : containsByKind(c);
+        }
         // Whether it is one plain character.
         [[nodiscard]] bool isSingle() const { return m_kind == Kind::Listed && m_characters.size() == 1; }
         [[nodiscard]] bool isAnyCharacter() const { return m_kind == Kind::Unlisted && m_characters.isEmpty(); }
@@ -49,13 +56,14 @@ public:
 
     private:
         enum class Kind { Listed, Unlisted, Space, Digit };
-        explicit CharacterSet(Kind kind)
-            : m_kind(kind)
-        {
-        }
+        static constexpr std::size_t asciiCount = 128;
+
+        explicit CharacterSet(Kind kind, const QString &characters = {});
+        [[nodiscard]] bool containsByKind(QChar c) const;
 
         Kind m_kind;
         QString m_characters;
+        std::bitset<asciiCount> m_ascii; // of which pages are mostly made
     };
 
     // A fixed piece and the gap behind it; the gap of the last link is not used.

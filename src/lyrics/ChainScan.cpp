@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-ChainScan::ChainScan(ChainPattern pattern, QString text)
-    : m_pattern(std::move(pattern))
+ChainScan::ChainScan(const ChainPattern &pattern, QString text)
+    : m_pattern(pattern)
     , m_text(std::move(text))
     , m_spots(m_pattern.links().size())
 {
@@ -59,7 +59,7 @@ void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
             --first;
         while (last > 0 && next[last - 1].position > gapEnd)
             --last;
-        spot->next = takesFirst ? first : last - 1;
+        spot->next = static_cast<quint32>(takesFirst ? first : last - 1);
         spot->end = first < last ? next[spot->next].end : -1;
     }
     spots.erase(std::remove_if(spots.begin(), spots.end(), [](const ChainSpot &spot) { return spot.end < 0; }),

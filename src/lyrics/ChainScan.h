@@ -30,7 +30,9 @@ struct ChainMatch
 class ChainScan
 {
 public:
-    ChainScan(ChainPattern pattern, QString text);
+    // The pattern must outlive it: copying one costs more than scanning a short text.
+    ChainScan(const ChainPattern &pattern, QString text);
+    ChainScan(ChainPattern &&pattern, QString text) = delete;
 
     // The first match that begins at `from` or behind it.
     [[nodiscard]] std::optional<ChainMatch> next(int from = 0) const;
@@ -43,7 +45,7 @@ private:
     [[nodiscard]] ChainSpots searchedPlacesOf(const ChainPattern::Link &piece) const;
     void keepViable(std::size_t link, ChainSpots &spots) const;
 
-    ChainPattern m_pattern;
+    const ChainPattern &m_pattern;
     QString m_text;
     // For each piece, where it stands and the rest of the pattern can be matched from there.
     std::vector<ChainSpots> m_spots;

@@ -177,6 +177,8 @@ QString decodeDecimalReferences(const QString &text)
 
 QString decodeHtmlEntities(const QString &text)
 {
+    if (!text.contains(QLatin1Char('&'))) // as most names
+        return text;
     QString decoded = decodeReferences(text, takeReferenceAtEnd);
     // The order is part of the meaning: what "&amp;" uncovers is decoded by the lines below it.
     decoded.replace(QLatin1String("&amp;"), QLatin1String("&"));

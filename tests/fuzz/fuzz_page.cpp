@@ -33,7 +33,8 @@ void compare(const char *text, Matching matching, const QString &page)
     QRegExp expression(pattern);
     expression.setMinimal(matching == Matching::Shortest);
     const int position = expression.indexIn(page);
-    const auto match = ChainScan(ChainPattern(pattern, matching), page).next();
+    const ChainPattern chain(pattern, matching);
+    const auto match = ChainScan(chain, page).next();
     if (match.has_value() != (position >= 0))
         std::abort();
     if (match && (match->position != position || match->length != expression.matchedLength() ||

@@ -122,5 +122,7 @@ private:
 
 QString decodeMegaLyricsText(const QString &text)
 {
+    if (!text.contains(QLatin1Char('&')) && !text.contains(QLatin1Char('\\'))) // as most names
+        return text;
     return decodeDecimalReferences(EscapeDecoder(decodeNamedReferences(text.toUtf8())).decoded());
 }
