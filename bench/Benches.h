@@ -19,9 +19,11 @@ void benchStarting();
 void benchScanning();
 // How long the event loop stands still while songs with large covers load and the list is scrolled.
 void benchScrolling();
-// Songs searched on a site that takes 50 ms a page, beside the bound that six connections to a host set.
+// Songs searched on six sites: slow ones, beside the bound that ten songs at a time and six connections to a host set,
+// and fast ones, beside a bare loop of the same requests.
 void benchSearching();
-// Lyrics stored in a song without padding, on a checked copy, beside a bare TagLib save in place and a sync.
+// Lyrics stored in songs as the list does it, on checked copies, beside a bare TagLib save in place and a sync.
 void benchSaving();
-// Pages of 1 MiB that a site with bad intent could send, read for each site client, beside one lower-case copy of them.
+// Pages of 1 MiB cleaned, and such as a site with bad intent could send read for each site client, beside 256 KiB of
+// the same.
 void benchPages();

@@ -2,6 +2,8 @@
 #include "Benches.h"
 #include "Table.h"
 
+#include "lyrics/JunkCheck.h"
+#include "lyrics/LyricsText.h"
 #include "lyrics/providers/AZLyricsProvider.h"
 #include "lyrics/providers/DarkLyricsProvider.h"
 #include "lyrics/providers/GeniusProvider.h"
@@ -17,6 +19,9 @@ namespace {
 // The largest page that is read, and one four times smaller.
 constexpr int largest = 1024 * 1024;
 constexpr int times = 4;
+constexpr double mostTimes = 4.5;
+// The window stands still meanwhile.
+constexpr double mostMilliseconds = 200;
 
 using ReadPage = std::function<bool(const Page &)>;
 
@@ -150,41 +155,56 @@ std::vector<HostilePage> musixMatchPages()
     };
 }
 
+// What the frame of all clients does to each page, and to what a client takes for lyrics: with an ordinary page, and
+// with pages of what has to be removed or decoded.
+std::vector<HostilePage> cleaningPages()
+{
+    const auto clean = [](const Page &page) {
+        const QString decoded = QString::fromUtf8(decodePercentEscapes(page.text.toUtf8()));
+        const QString lyrics = withoutBrokenCharacters(cleanLyrics(withoutScriptsAndStyles(decoded)));
+        return !isJunk(lyrics, decoded) && lyrics.size() == page.text.size();
+    };
+    return {
+        {"clean a page of lyrics", {}, QStringLiteral("A line &amp; <i>a%20word</i> nobody sang<br />\n"), {}, clean},
+        {"clean a page of breaks", {}, QStringLiteral("<br>"), {}, clean},
+        {"clean a page of entities", {}, QStringLiteral("&#38;#38;"), {}, clean},
+        {"clean a page of tags that do not end", {}, QStringLiteral("<b"), {}, clean},
+        {"clean a page of scripts", {}, QStringLiteral("<script></style>"), {}, clean},
+        {"clean a page of escapes", {}, QStringLiteral("%25"), {}, clean},
+    };
+}
+
 Page pageOf(const HostilePage &hostile, int size)
 {
     return {hostile.opening + hostile.piece.repeated(size / hostile.piece.size()) + hostile.closing, {}};
 }
 
-// The best of three: what else the machine does only ever adds.
-double bestSeconds(const std::function<void()> &work)
+// The best of five: reading a page waits for nothing, and what else the machine does only adds.
+double readingTime(const HostilePage &hostile, int size)
 {
-    return std::min({secondsOf(work), secondsOf(work), secondsOf(work)});
-}
-
-double readingTime(const HostilePage &hostile, const Page &page)
-{
-    return bestSeconds([&] {
-        if (hostile.findsSomething(page))
-            qFatal("%s: there is nothing to find", hostile.name);
-    });
+    const Page page = pageOf(hostile, size);
+    std::vector<double> rounds;
+    while (rounds.size() < 5) {
+        rounds.push_back(processorSecondsOf([&] {
+            if (hostile.findsSomething(page))
+                qFatal("%s: there is nothing to find", hostile.name);
+        }));
+    }
+    return *std::min_element(rounds.begin(), rounds.end());
 }
 
 void printPage(const HostilePage &hostile)
 {
-    const Page page = pageOf(hostile, largest);
-    const double copying = bestSeconds([&page] {
-        if (page.text.toLower().isEmpty())
-            qFatal("an empty page");
-    });
-    BenchTable::printRow(QString::fromUtf8(hostile.name), page.text.size(), readingTime(hostile, page), copying,
-                         readingTime(hostile, pageOf(hostile, largest / times)), times);
+    const QString name = QStringLiteral("%1 / 256 KiB of it").arg(QLatin1String(hostile.name));
+    BenchTable::printRow(name, largest, readingTime(hostile, largest), readingTime(hostile, largest / times), 0, 0,
+                         {mostTimes, 0, mostMilliseconds});
 }
 
 } // namespace
 
 void benchPages()
 {
-    for (const auto &pages :
-         {lyricsFreakPages(), geniusPages(), megalyricsPages(), azLyricsPages(), darkLyricsPages(), musixMatchPages()})
+    for (const auto &pages : {cleaningPages(), lyricsFreakPages(), geniusPages(), megalyricsPages(), azLyricsPages(),
+                              darkLyricsPages(), musixMatchPages()})
         std::for_each(pages.begin(), pages.end(), printPage);
 }

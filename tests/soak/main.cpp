@@ -102,7 +102,7 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
     QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
     const Wishes wishes = readWishes();
-    FailingSites sites(wishes.seed);
+    LyricsSites sites(failingAnswers(wishes.seed));
     sites.startSites();
     AccessManager manager;
     LyricsSearch search;
