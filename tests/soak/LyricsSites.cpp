@@ -2,7 +2,6 @@
 #include "soak/LyricsSites.h"
 
 #include "network/Endpoints.h"
-#include "support/LoopbackServer.h"
 
 #include <QRegularExpression>
 #include <QSettings>

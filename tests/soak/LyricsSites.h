@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/LoopbackMessages.h"
+#include "support/LoopbackServer.h"
 
 #include <QSemaphore>
 #include <QStringList>
