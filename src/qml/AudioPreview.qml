@@ -52,14 +52,15 @@ Item {
         id: playButton
 
         readonly property string text: preview.playing ? qsTr("Pause") : qsTr("Play")
+        // White is seen on it.
+        readonly property color ground: Measures.whiteOnHighlight ? appPalette.highlight : Qt.darker(appPalette.highlight, 2)
 
         objectName: "playButton"
         anchors.verticalCenter: parent.verticalCenter
         width: Measures.playButton
         height: Measures.playButton
         radius: width / 2
-        color: mouseArea.pressed ? Qt.darker(appPalette.highlight, 1.2)
-                                 : mouseArea.containsMouse ? Qt.lighter(appPalette.highlight, 1.15) : appPalette.highlight
+        color: mouseArea.pressed ? Qt.darker(ground, 1.2) : mouseArea.containsMouse ? Qt.lighter(ground, 1.15) : ground
         enabled: !preview.missing
         opacity: enabled ? 1 : Measures.disabled
         activeFocusOnTab: enabled

@@ -12,11 +12,12 @@ Item {
     readonly property bool selected: selectedRole
     readonly property bool hovered: mouseArea.containsMouse
     readonly property bool toolsShown: hovered || current
+    readonly property bool signsShown: toolsShown && (!selected || Measures.whiteOnHighlight)
     readonly property color textColor: selected ? appPalette.listItemSelectedText : appPalette.listItemText
     readonly property color hoverColor: mixed(appPalette.listItemSelected, appPalette.listItemBackground, Measures.hoverStrength)
     // Quiet text must stay readable on the highlight colour.
-    readonly property real quiet: selected ? 0.95 : Measures.quiet
-    readonly property real quieter: selected ? 0.9 : Measures.quieter
+    readonly property real quiet: selected ? Measures.quietOnHighlight : Measures.quiet
+    readonly property real quieter: selected ? Measures.quieterOnHighlight : Measures.quieter
 
     signal clicked()
 
@@ -151,12 +152,12 @@ Item {
 
     PaletteImage {
         anchors { left: title.right; leftMargin: Measures.halfGrid; verticalCenter: title.verticalCenter }
-        imageName: row.toolsShown ? (row.selected ? "title_on_highlight" : "title") : ""
+        imageName: row.signsShown ? (row.selected ? "title_on_highlight" : "title") : ""
     }
 
     PaletteImage {
         anchors { left: artist.right; leftMargin: Measures.halfGrid; verticalCenter: artist.verticalCenter }
-        imageName: row.toolsShown ? (row.selected ? "artist_on_highlight" : "artist") : ""
+        imageName: row.signsShown ? (row.selected ? "artist_on_highlight" : "artist") : ""
     }
 
     Text {
@@ -184,7 +185,7 @@ Item {
         id: word
 
         anchors { right: light.left; rightMargin: light.width > 0 ? 6 : 0; verticalCenter: light.verticalCenter }
-        width: Math.min(implicitWidth, (row.width - Measures.textColumn) / 2)
+        width: Math.min(implicitWidth, (row.width - Measures.textColumn) * Measures.wordShare)
         text: state.word
         textFormat: Text.PlainText
         elide: Text.ElideRight

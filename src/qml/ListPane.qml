@@ -17,6 +17,8 @@ Rectangle {
     signal searchInBrowserRequested(int row)
     signal addFilesRequested()
     signal addFolderRequested()
+    // The user wants the list so many pixels wider.
+    signal edgeMoved(int distance)
 
     // Whether a modified draft is of a song that is not shown any more.
     function draftLeft() {
@@ -116,6 +118,11 @@ Rectangle {
             Accessible.name: qsTr("Remove hidden files from the list")
             onClicked: pane.removeWithLyricsRequested()
         }
+    }
+
+    SplitterHandle {
+        anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
+        onMoved: pane.edgeMoved(distance)
     }
 
     SongMenu {

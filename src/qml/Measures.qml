@@ -1,9 +1,24 @@
 // SPDX-License-Identifier: MIT
 pragma Singleton
 import QtQuick 2.2
+import com.quillmarsh 1.0
 
-// All sizes and distances of the scene in pixels, its durations in milliseconds, and how strong its quiet parts are.
+// All sizes and distances of the scene in pixels, its durations in milliseconds, and how strong its quiet parts are. What
+// holds text grows with the desktop's; pictures and distances stay.
 QtObject {
+    readonly property Legibility legibility: Legibility {}
+    readonly property real textScale: legibility.textScale
+    // The desktop asks for black on white or for white on black: nothing is quiet then.
+    readonly property bool highContrast: legibility.contrast(appPalette.windowText, appPalette.window) > 20
+                                         && legibility.contrast(appPalette.text, appPalette.base) > 20
+    // Pictures for the highlight colour are white, and some palettes write on it in black.
+    readonly property bool whiteOnHighlight: legibility.contrast(appPalette.highlightedText, "white")
+                                             < legibility.contrast(appPalette.highlightedText, "black")
+
+    function scaled(pixels) {
+        return Math.round(textScale * pixels);
+    }
+
     // Everything stands on a grid of this.
     readonly property int grid: 8
     readonly property int halfGrid: 4
@@ -12,25 +27,29 @@ QtObject {
     readonly property int hairline: 1
     readonly property int focusRing: 2
 
-    readonly property int listWidth: 400
-    readonly property int listMinimumWidth: 200
-    readonly property int detailsMinimumWidth: 300
+    readonly property int listWidth: scaled(400)
+    readonly property int listMinimumWidth: scaled(200)
+    readonly property int detailsMinimumWidth: scaled(300)
+    readonly property int minimumHeight: scaled(230)
     // What a key moves the border between list and details by.
     readonly property int splitterStep: 16
 
-    readonly property int rowHeight: 60
+    readonly property int rowHeight: scaled(60)
     readonly property int coverSide: 44
     readonly property int coverMargin: 10
     readonly property int textColumn: 66
-    readonly property int titleTop: 7
-    readonly property int artistTop: 24
-    readonly property int fileNameTop: 41
+    readonly property int titleTop: scaled(7)
+    readonly property int artistTop: scaled(24)
+    readonly property int fileNameTop: scaled(41)
     readonly property int rowMargin: 14
+    // Of the text's width at most; the file's name has the rest. Large text has few letters in a row.
+    readonly property real wordShare: textScale > 1 ? 0.7 : 0.5
     readonly property int light: 16
     readonly property int locateButton: 24
+    readonly property int textButton: scaled(24)
 
-    readonly property int barHeight: 34
-    readonly property int fieldHeight: 28
+    readonly property int barHeight: scaled(34)
+    readonly property int fieldHeight: scaled(28)
     readonly property int toolbarHeight: 37
     readonly property int button: 28
     readonly property int icon: 16
@@ -40,19 +59,21 @@ QtObject {
     readonly property int emptyPicture: 96
     readonly property int scrollBar: 10
     // Below this width the names of found lyrics stand under the buttons instead of beside them.
-    readonly property int sideBySideWidth: 480
+    readonly property int sideBySideWidth: scaled(480)
 
-    readonly property int titleFont: 13
-    readonly property int textFont: 12
-    readonly property int smallFont: 11
-    readonly property int fieldFont: 13
-    readonly property int invitationFont: 16
+    readonly property int titleFont: scaled(13)
+    readonly property int textFont: scaled(12)
+    readonly property int smallFont: scaled(11)
+    readonly property int fieldFont: scaled(13)
+    readonly property int invitationFont: scaled(16)
     readonly property real lyricsLineHeight: 1.35
 
-    readonly property real quiet: 0.8
-    readonly property real quieter: 0.65
-    readonly property real disabled: 0.35
-    readonly property real hairlineStrength: 0.14
+    readonly property real quiet: highContrast ? 1 : 0.8
+    readonly property real quieter: highContrast ? 1 : 0.65
+    readonly property real quietOnHighlight: highContrast ? 1 : 0.95
+    readonly property real quieterOnHighlight: highContrast ? 1 : 0.9
+    readonly property real disabled: highContrast ? 0.5 : 0.35
+    readonly property real hairlineStrength: highContrast ? 0.6 : 0.14
     readonly property real hoverStrength: 0.1
 
     readonly property int scanPollInterval: 200

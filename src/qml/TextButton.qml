@@ -11,10 +11,10 @@ Rectangle {
     signal clicked()
 
     implicitWidth: label.implicitWidth + 3 * Measures.grid
-    implicitHeight: Measures.locateButton
+    implicitHeight: Measures.textButton
     radius: Measures.radius
     color: appPalette.button
-    border { width: Measures.hairline; color: Qt.tint(color, Qt.rgba(label.color.r, label.color.g, label.color.b, Measures.disabled)) }
+    border { width: Measures.hairline; color: Qt.tint(color, Qt.rgba(label.color.r, label.color.g, label.color.b, Math.max(Measures.disabled, Measures.hairlineStrength))) }
     activeFocusOnTab: true
 
     Keys.onReturnPressed: clicked()

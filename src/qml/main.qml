@@ -21,8 +21,9 @@ Rectangle {
     readonly property var consent: mainWindow && mainWindow.usageConsent ? mainWindow.usageConsent : null
     // The one selected song; null when there is none or there are several.
     property var shownSong: null
-    // Below this width in pixels something is cut.
+    // In pixels; below them something is cut.
     readonly property int leastWidth: Measures.listMinimumWidth + Measures.detailsMinimumWidth + Measures.hairline
+    readonly property int leastHeight: Measures.minimumHeight
 
     signal listForceSearchSelected()
     signal listExportLyricsSelected()
@@ -158,8 +159,10 @@ Rectangle {
 
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: consentBar.top }
         orientation: Qt.Horizontal
-        handleDelegate: SplitterHandle {
-            onMoved: root.listWidth = root.boundedListWidth(list.width + distance)
+        handleDelegate: Rectangle {
+            width: Measures.hairline
+            color: Qt.tint(appPalette.window, Qt.rgba(appPalette.windowText.r, appPalette.windowText.g, appPalette.windowText.b,
+                                                      Measures.hairlineStrength))
         }
 
         ListPane {
@@ -171,6 +174,7 @@ Rectangle {
                 if (panes.resizing)
                     root.listWidth = width;
             }
+            onEdgeMoved: root.listWidth = root.boundedListWidth(width + distance)
             onRemoveSelectedRequested: root.listRemoveSelected()
             onRemoveAllRequested: root.listRemoveAll()
             onRemoveWithLyricsRequested: root.listRemoveWithLyrics()

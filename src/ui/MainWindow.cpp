@@ -13,6 +13,7 @@
 #include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
 #include "ui/ForcedSearches.h"
+#include "ui/Legibility.h"
 #include "ui/LyricsEdit.h"
 #include "ui/LyricsEditGuard.h"
 #include "ui/LyricsExport.h"
@@ -29,6 +30,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
@@ -41,6 +43,11 @@
 
 // How long the end of the program waits for the report of it.
 static constexpr std::chrono::seconds reportPatience(1);
+
+static constexpr QSize leastSize(480, 320);
+static constexpr QSize usualSize(1040, 680);
+// Of the screen at most, unless the text is of the usual size.
+static constexpr double screenShare = 0.9;
 
 static bool isId(int number)
 {
@@ -68,11 +75,11 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
 {
     setWindowTitle(QStringLiteral("Versewell"));
-    setMinimumSize(std::max(480, m_scene->leastWidth()), 320);
-    resize(1040, 680);
     setUpLinks();
     setUpUpdates();
     setCentralWidget(m_scene.get());
+    boundSize();
+    resizeToText();
     m_scene->setFocus();
     connectSceneSignals();
     connectModels();
@@ -121,6 +128,7 @@ void MainWindow::connectSceneSignals()
     connectSignal("listLyricsToClipboard(int)", "listLyricsToClipboard(int)");
     connectSignal("listRemoveWithLyrics()", "on_actionRemoveWithLyrics_triggered()");
     connectSignal("leaveEditRequested()", "leaveEdit()");
+    connectSignal("leastWidthChanged()", "boundSize()");
     connectSignal("addFilesRequested()", "on_actionAddFile_triggered()");
     connectSignal("addFolderRequested()", "on_actionAddFolder_triggered()");
     connect(m_scene.get(), &QQuickWidget::sceneGraphError, this,
@@ -130,6 +138,19 @@ void MainWindow::connectSceneSignals()
 QString MainWindow::sceneErrors() const
 {
     return m_scene->loadErrors();
+}
+
+void MainWindow::boundSize()
+{
+    m_scene->setMinimumSize(m_scene->leastSize());
+    setMinimumSize(minimumSizeHint().expandedTo(leastSize));
+}
+
+// Larger text takes a larger window, as far as the screen has room.
+void MainWindow::resizeToText()
+{
+    const QSize wanted = usualSize * Legibility().textScale();
+    resize(wanted.boundedTo(screen()->availableSize() * screenShare).expandedTo(usualSize));
 }
 
 void MainWindow::connectModels()

@@ -81,6 +81,8 @@ public slots:
     void forceSearchSelected();
     // Ends the edit of lyrics; a modified draft is asked about first.
     void leaveEdit();
+    // Keeps the window so large that nothing in it is cut.
+    void boundSize();
     // Rows are those of the list as it is shown. A row, an id or an address that is not there is ignored.
     void copyPathToClipboard(int itemIndex);
     void searchLyricsInBrowser(int itemIndex);
@@ -136,6 +138,7 @@ private:
     [[nodiscard]] SceneWidget::Names sceneNames();
     void connectSceneSignals();
     void connectModels();
+    void resizeToText();
     void setUpLinks();
     void setUpUpdates();
     void updateActions();

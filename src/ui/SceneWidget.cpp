@@ -4,6 +4,7 @@
 #include "model/MainModel.h"
 #include "ui/ButtonImageProvider.h"
 #include "ui/FileImageProvider.h"
+#include "ui/Legibility.h"
 #include "ui/LineSpacing.h"
 #include "ui/Pictures.h"
 #include "ui/SceneAccessibility.h"
@@ -66,6 +67,7 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     engine()->addImageProvider(QStringLiteral("file-cover"), covers);
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
     LineSpacing::registerType();
+    Legibility::registerType();
     SceneAccessibility::install(this);
     setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     if (rootObject())
@@ -116,9 +118,10 @@ void SceneWidget::setBlocked(bool blocked)
         rootObject()->setProperty("blocked", blocked);
 }
 
-int SceneWidget::leastWidth() const
+QSize SceneWidget::leastSize() const
 {
-    return rootObject() ? rootObject()->property("leastWidth").toInt() : 0;
+    const QQuickItem *root = rootObject();
+    return root ? QSize(root->property("leastWidth").toInt(), root->property("leastHeight").toInt()) : QSize(0, 0);
 }
 
 void SceneWidget::focusLyrics()

@@ -41,8 +41,8 @@ public:
     // 5.15): Del in the lyrics would remove songs from the list.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    // The width in pixels below which the scene is cut; 0 when there is no scene.
-    [[nodiscard]] int leastWidth() const;
+    // The size in pixels below which the scene is cut, which grows with the desktop's text; empty without a scene.
+    [[nodiscard]] QSize leastSize() const;
 
 public slots:
     // Gives the keyboard to the lyrics that are edited.

@@ -10,6 +10,7 @@
 #include "settings/SettingsChange.h"
 #include "ui/AppPalette.h"
 #include "ui/LanguageNames.h"
+#include "ui/Legibility.h"
 #include "ui/Pictures.h"
 #include "ui/QuestionBox.h"
 #include "ui/UsageConsent.h"
@@ -29,6 +30,7 @@ namespace {
 
 constexpr std::chrono::seconds proxyTestDelay(3); // after the last change
 constexpr int proxyTypeCount = 3;
+constexpr int portWidth = 80; // for five digits of usual text
 // How much of the text's colour goes into the outlines of the sites, which the style then darkens.
 constexpr double outlineOnDark = 0.6;
 constexpr double outlineOnLight = 0.3;
@@ -86,6 +88,7 @@ void SettingsDialog::restrictPort()
     plain.setNumberOptions(QLocale::RejectGroupSeparator);
     validator->setLocale(plain);
     m_form->proxyPortLineEdit->setValidator(validator);
+    m_form->proxyPortLineEdit->setMaximumWidth(qRound(portWidth * Legibility().textScale()));
 }
 
 // The row of the type stands in a layout of its own, outside of the frame that can be disabled.

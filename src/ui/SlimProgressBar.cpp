@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/SlimProgressBar.h"
 
+#include "ui/AppPalette.h"
+
 #include <QPainter>
 
 static constexpr int lineHeight = 6;
+// How much of the text's colour is in the trough.
+static constexpr double troughStrength = 0.25;
 
 SlimProgressBar::SlimProgressBar(QWidget *parent)
     : QProgressBar(parent)
@@ -24,7 +28,8 @@ void SlimProgressBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().mid());
+    painter.setBrush(AppPalette::mixedColor(palette().color(QPalette::WindowText), palette().color(QPalette::Window),
+                                            troughStrength));
     painter.drawRoundedRect(line, lineHeight / 2.0, lineHeight / 2.0);
     line.setWidth(part * width());
     painter.setBrush(palette().highlight());

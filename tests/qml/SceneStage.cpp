@@ -4,6 +4,7 @@
 #include "tags/TagWriter.h"
 #include "ui/ButtonImageProvider.h"
 #include "ui/FileImageProvider.h"
+#include "ui/Legibility.h"
 #include "ui/LineSpacing.h"
 #include "ui/Pictures.h"
 
@@ -61,6 +62,7 @@ void SceneStage::applicationAvailable()
     initSceneResources();
     initPictures();
     LineSpacing::registerType();
+    Legibility::registerType();
 }
 
 void SceneStage::qmlEngineAvailable(QQmlEngine *engine)
