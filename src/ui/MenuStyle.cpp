@@ -2,19 +2,73 @@
 #include "ui/MenuStyle.h"
 
 #include "ui/AppPalette.h"
+#include "ui/Legibility.h"
 
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
 
+#include <algorithm>
+
 // How much of the text colour is in a line; the rest is the menu's own colour.
 static constexpr double frameStrength = 0.4;
 static constexpr double separatorStrength = 0.25;
 static constexpr int separatorMargin = 6;
+// What WCAG 2.1 asks of text, and by how much a colour is changed at a time until it has that.
+static constexpr double textContrast = 4.5;
+static constexpr double toneStep = 0.1;
+// Of at most 21; no palette that is drawn to be looked at has so much.
+static constexpr double starkContrast = 20;
+static constexpr double starkOutlineStrength = 0.6;
+static constexpr double disabledStrength = 0.5;
 
+// Of what is disabled as well.
 static QColor lineColor(const QPalette &palette, double strength)
 {
-    return AppPalette::mixedColor(palette.color(QPalette::WindowText), palette.color(QPalette::Window), strength);
+    return AppPalette::mixedColor(palette.color(QPalette::Active, QPalette::WindowText),
+                                  palette.color(QPalette::Active, QPalette::Window), strength);
+}
+
+static qreal leastContrast(const QColor &color, const QPalette &palette)
+{
+    return std::min(Legibility::contrast(color, palette.color(QPalette::Active, QPalette::Base)),
+                    Legibility::contrast(color, palette.color(QPalette::Active, QPalette::Window)));
+}
+
+// The colour, or the next of its tones that can be read on the palette's grounds; the text's own when none can.
+static QColor readable(const QColor &color, const QPalette &palette)
+{
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
+    for (double share = 0; share < 1; share += toneStep) {
+        const QColor tone = AppPalette::mixedColor(text, color, share);
+        if (leastContrast(tone, palette) >= textContrast)
+            return tone;
+    }
+    return text;
+}
+
+// Black on white or white on black, as desktops have it for those who need the strongest contrast. Fusion's outlines
+// are shades of the window's colour, and black has no darker one.
+static bool isStark(const QPalette &palette)
+{
+    return Legibility::contrast(lineColor(palette, 1), lineColor(palette, 0)) > starkContrast;
+}
+
+// Such palettes may have the text of what is disabled in the colour that it stands on.
+static void showDisabled(QPalette &palette)
+{
+    const QColor grey = lineColor(palette, disabledStrength);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, grey);
+}
+
+static void drawOutline(const QStyleOption *option, QPainter *painter, double strength = starkOutlineStrength)
+{
+    painter->save();
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(lineColor(option->palette, strength));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
 }
 
 static bool isSeparator(const QStyleOption *option)
@@ -34,17 +88,46 @@ void MenuStyle::install()
         QApplication::setStyle(new MenuStyle); // owned by the application
 }
 
+void MenuStyle::polish(QPalette &palette)
+{
+    QProxyStyle::polish(palette);
+    if (isStark(palette))
+        showDisabled(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto role : {QPalette::Link, QPalette::LinkVisited})
+            palette.setColor(group, role, readable(palette.color(group, role), palette));
+    }
+}
+
 void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                               const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_PanelMenu && element != PE_FrameMenu)
-        return;
-    painter->save();
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(lineColor(option->palette, frameStrength));
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    painter->restore();
+    switch (element) {
+    case PE_PanelMenu:
+    case PE_FrameMenu:
+        drawOutline(option, painter, frameStrength);
+        break;
+    case PE_IndicatorCheckBox:
+    case PE_FrameLineEdit:
+    case PE_PanelButtonCommand:
+    case PE_FrameTabWidget:
+    case PE_Frame:
+        if (isStark(option->palette) && !(option->state & State_HasFocus))
+            drawOutline(option, painter);
+        break;
+    default:
+        break;
+    }
+}
+
+void MenuStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                                   const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const bool isField = control == CC_ComboBox || control == CC_SpinBox;
+    if (isField && isStark(option->palette) && !(option->state & State_HasFocus))
+        drawOutline(option, painter);
 }
 
 void MenuStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -52,6 +135,9 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption *option, 
 {
     if (element != CE_MenuItem || !isSeparator(option)) {
         QProxyStyle::drawControl(element, option, painter, widget);
+        const bool isChosenTab = element == CE_TabBarTabShape && (option->state & State_Selected);
+        if ((isChosenTab || element == CE_ProgressBarGroove) && isStark(option->palette))
+            drawOutline(option, painter);
         return;
     }
     const QRect line(option->rect.left() + separatorMargin, option->rect.center().y(),

@@ -5,7 +5,8 @@
 
 // Fusion with menus that stand out from what lies below them: its own frame and separators are shades of the window's
 // colour, which are not seen on a dark one. The lines are made of the colours of the menu that is drawn, and so follow
-// the palette.
+// the palette. And with links that can be read: a palette that names no colour for them has a pure blue, dark or not;
+// and with outlines in palettes of black and white alone.
 class MenuStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -14,8 +15,12 @@ public:
     // Takes the place of the application's style when that is Fusion; the menus of other styles are their own.
     static void install();
 
+    void polish(QPalette &palette) override;
+    using QProxyStyle::polish;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
 

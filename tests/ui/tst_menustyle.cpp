@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "ui/Legibility.h"
 #include "ui/MenuStyle.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
+#include <QStyleOption>
 #include <QTest>
 
 class tst_MenuStyle : public QObject
@@ -10,9 +15,19 @@ class tst_MenuStyle : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void linesAreSeen_data();
     void linesAreSeen();
+    void linksAreRead();
+    void outlinesAreSeenInBlackAndWhite_data();
+    void outlinesAreSeenInBlackAndWhite();
 };
+
+void tst_MenuStyle::initTestCase()
+{
+    QApplication::setStyle(QStringLiteral("fusion"));
+    MenuStyle::install();
+}
 
 void tst_MenuStyle::linesAreSeen_data()
 {
@@ -25,8 +40,6 @@ void tst_MenuStyle::linesAreSeen_data()
 void tst_MenuStyle::linesAreSeen()
 {
     QFETCH(QColor, ground);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    MenuStyle::install();
     QMenu menu;
     menu.addAction(QStringLiteral("above"));
     QAction *separator = menu.addSeparator();
@@ -43,6 +56,53 @@ void tst_MenuStyle::linesAreSeen()
     QVERIFY(distance({0, inside.y()}, inside) > 40);
     QVERIFY(distance({picture.width() / 2, picture.height() - 1}, inside) > 40);
     QVERIFY(distance(place.center(), inside) > 30);
+}
+
+// Without a theme links are of a pure blue on any ground.
+void tst_MenuStyle::linksAreRead()
+{
+    for (const QColor &ground : {QColor(0xef, 0xf0, 0xf1), QColor(0x2b, 0x2b, 0x2b), QColor(Qt::black)}) {
+        QPalette palette(ground);
+        QApplication::style()->polish(palette);
+        for (const auto role : {QPalette::Base, QPalette::Window})
+            QVERIFY(Legibility::contrast(palette.color(QPalette::Link), palette.color(role)) >= 4.5);
+    }
+    QPalette light(QColor(0xef, 0xf0, 0xf1));
+    const QColor blue = light.color(QPalette::Link);
+    QApplication::style()->polish(light);
+    QCOMPARE(light.color(QPalette::Link), blue); // it could be read
+}
+
+void tst_MenuStyle::outlinesAreSeenInBlackAndWhite_data()
+{
+    QTest::addColumn<QColor>("ink");
+    QTest::addColumn<QColor>("ground");
+    QTest::newRow("white on black") << QColor(Qt::white) << QColor(Qt::black);
+    QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white);
+}
+
+void tst_MenuStyle::outlinesAreSeenInBlackAndWhite()
+{
+    QFETCH(QColor, ink);
+    QFETCH(QColor, ground);
+    QPalette palette(ink, ground, ink, ground, ground, ink, ink, ground, ground);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, ground);
+    QApplication::style()->polish(palette);
+    QVERIFY(Legibility::contrast(palette.color(QPalette::Disabled, QPalette::WindowText), ground) >= 3);
+    QCheckBox box;
+    QLineEdit field;
+    QPushButton button;
+    for (QWidget *widget :
+         {static_cast<QWidget *>(&box), static_cast<QWidget *>(&field), static_cast<QWidget *>(&button)}) {
+        widget->setPalette(palette);
+        widget->resize(widget->sizeHint());
+        QStyleOptionButton option;
+        option.initFrom(widget);
+        const QRect area =
+            widget == &box ? box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box) : widget->rect();
+        const QColor edge = widget->grab().toImage().pixelColor(area.left(), area.center().y());
+        QVERIFY2(Legibility::contrast(edge, ground) >= 3, widget->metaObject()->className());
+    }
 }
 
 QTEST_MAIN(tst_MenuStyle)
