@@ -3,7 +3,8 @@ import QtQuick 2.2
 import QtQuick.Controls.Private 1.0
 import "."
 
-// A picture that can be pressed, by mouse, by Space or by Enter. Its text is the tool tip and what a screen reader says.
+// A picture that can be pressed, by mouse, by Space or by Enter. Its text is what a screen reader says and the tool tip,
+// which comes under the mouse and with the keyboard.
 Item {
     id: button
 
@@ -21,6 +22,7 @@ Item {
     activeFocusOnTab: enabled
     opacity: enabled ? 1 : Measures.disabled
 
+    onActiveFocusChanged: Tooltip.hideText()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Keys.onSpacePressed: clicked()
@@ -68,7 +70,10 @@ Item {
 
     Timer {
         interval: Measures.toolTipDelay
-        running: button.hovered && !mouseArea.pressed && Qt.application.state === Qt.ApplicationActive
-        onTriggered: Tooltip.showText(mouseArea, Qt.point(mouseArea.mouseX, mouseArea.mouseY), button.text)
+        running: (button.hovered || button.activeFocus) && !mouseArea.pressed && Qt.application.state === Qt.ApplicationActive
+        onTriggered: {
+            var place = button.hovered ? Qt.point(mouseArea.mouseX, mouseArea.mouseY) : Qt.point(0, button.height);
+            Tooltip.showText(mouseArea, place, button.text);
+        }
     }
 }

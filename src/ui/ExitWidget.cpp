@@ -44,6 +44,7 @@ void ExitWidget::countChanged()
 {
     const int count = m_model->activeCount();
     m_progressLabel->setText(tr("Search for %n songs is currently in progress.", nullptr, count));
+    setAccessibleName(m_progressLabel->text()); // it has no title
     if (count == 0 && isVisible())
         accept();
 }

@@ -14,6 +14,7 @@ QMessageBox *makeQuestionBox(const QString &text, const QString &question, QMess
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(question);
+    box->setAccessibleName(text); // it has no title
     box->setIconPixmap(QIcon(QStringLiteral(":/img/main-icon.png")).pixmap(window->windowHandle(), pictureSize));
     removeIcons(box->findChild<QDialogButtonBox *>());
     return box;

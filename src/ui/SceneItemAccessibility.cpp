@@ -23,6 +23,8 @@ QAccessible::State SceneItemAccessibility::state() const
     const auto *item = qobject_cast<QQuickItem *>(object());
     if (item && m_scene && item->window() == m_scene->quickWindow())
         state.invisible = !m_scene->isVisible() || !item->isVisible() || rect().isNull();
+    if (item)
+        state.disabled = !item->isEnabled();
     return state;
 }
 

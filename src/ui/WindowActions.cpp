@@ -184,7 +184,8 @@ void WindowActions::retranslate()
     m_view->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "&View")));
     //: A menu; Alt with the letter behind & opens it: another letter for each of the four.
     m_help->setTitle(text(QT_TRANSLATE_NOOP("MainWindow", "&Help")));
-    m_toolBar->setWindowTitle(text(QT_TRANSLATE_NOOP("MainWindow", "Tools")));
+    // As a title it would be the bar's name as well, but the one of the first language for good.
+    m_toolBar->setAccessibleName(text(QT_TRANSLATE_NOOP("MainWindow", "Tools")));
     m_gear->setToolTip(text(QT_TRANSLATE_NOOP("MainWindow", "Options")));
     m_gear->setAccessibleName(m_gear->toolTip());
 }

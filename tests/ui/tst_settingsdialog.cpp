@@ -10,7 +10,6 @@
 #include "ui/LanguageNames.h"
 #include "ui/UsageConsent.h"
 
-#include <QAccessible>
 #include <QMetaProperty>
 #include <QSettings>
 #include <QSignalSpy>
@@ -318,18 +317,6 @@ private slots:
         QTEST(QSettings().value("updater/period"_s).toString(), "periodAfter");
         QCOMPARE(consent.isPending(), isShown && !QSettings().contains("usageStatistics"_s));
         m_dialog.reset(); // before the consent
-    }
-
-    void everyControlHasAName()
-    {
-        open();
-        for (const QWidget *widget : m_dialog->findChildren<QWidget *>()) {
-            const bool isControl =
-                widget->focusPolicy() & Qt::TabFocus && !widget->objectName().startsWith(QLatin1String("qt_"));
-            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
-            if (isControl && widget->objectName() != QLatin1String("tabWidget"))
-                QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
-        }
     }
 
 private:
