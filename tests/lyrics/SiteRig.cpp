@@ -11,8 +11,8 @@ SiteRig::SiteRig()
     m_folder.holdSettings();
     QSettings settings;
     settings.beginGroup(endpointGroup());
-    for (int i = 0; i <= static_cast<int>(Endpoint::Yandex); ++i)
-        settings.setValue(endpointKey(static_cast<Endpoint>(i)), m_server.base());
+    for (const Endpoint endpoint : allEndpoints())
+        settings.setValue(endpointKey(endpoint), m_server.base());
     settings.sync();
     reloadEndpoints();
 }

@@ -10,7 +10,6 @@
 #include <QSignalSpy>
 
 #include <memory>
-#include <sys/resource.h>
 #include <vector>
 #include <zlib.h>
 
@@ -23,7 +22,7 @@ constexpr int gzipWindow = 15 + 16;
 constexpr int zlibWindow = 15;
 constexpr int bareWindow = -15;
 
-QByteArray deflated(const QByteArray &plain, int window, int flush = Z_FINISH)
+QByteArray deflated(const QByteArray &plain, int window)
 {
     z_stream stream{};
     deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, window, 8, Z_DEFAULT_STRATEGY);
@@ -32,17 +31,10 @@ QByteArray deflated(const QByteArray &plain, int window, int flush = Z_FINISH)
     stream.avail_in = static_cast<uInt>(plain.size());
     stream.next_out = reinterpret_cast<Bytef *>(packed.data());
     stream.avail_out = static_cast<uInt>(packed.size());
-    deflate(&stream, flush);
+    deflate(&stream, Z_FINISH);
     packed.truncate(static_cast<int>(stream.total_out));
     deflateEnd(&stream);
     return packed;
-}
-
-// A gzip body that would become a gigabyte: after a full flush, one piece can follow itself as often as one likes.
-QByteArray gigabyteBomb()
-{
-    const QByteArray piece = deflated(QByteArray(limitBytes, '\0'), bareWindow, Z_FULL_FLUSH);
-    return QByteArray::fromHex("1f8b0800000000000003") + piece.repeated(1024);
 }
 
 LoopbackResponse coded(const QByteArray &coding, const QByteArray &body)
@@ -65,13 +57,6 @@ LoopbackResponse dripped(LoopbackResponse response, std::chrono::milliseconds in
 LoopbackResponse chunked(const QByteArray &chunks)
 {
     return untilClose(LoopbackResponse::page(chunks).with("Transfer-Encoding", "chunked"));
-}
-
-long peakMemoryKiB()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
 }
 
 } // namespace
@@ -164,16 +149,6 @@ private slots:
             QCOMPARE(m_server->requests().size(), 1); // not followed
         if (response.status >= 400)
             QVERIFY2(reply->errorString().contains(QString::number(response.status)), qPrintable(reply->errorString()));
-    }
-
-    void bombCostsNoMoreThanTheLimit()
-    {
-        m_server->route("/page"_s, coded("gzip", gigabyteBomb()));
-        get("/other");
-        const long before = peakMemoryKiB();
-        const auto reply = get("/page");
-        QCOMPARE(reply->error(), QNetworkReply::UnknownContentError);
-        QVERIFY2(peakMemoryKiB() - before < 32L * 1024, "inflating cost more than 32 MiB");
     }
 
     void headersTellOfThePageThatIsRead()
@@ -280,13 +255,10 @@ private slots:
         QFETCH(int, pauseSeconds);
         m_server->route("/page"_s, response);
         get("/page");
-
         m_now += std::chrono::seconds(pauseSeconds) - 1ms;
         const auto early = get("/other");
-        if (pauseSeconds > 0) {
-            QCOMPARE(early->error(), QNetworkReply::ServiceUnavailableError);
-            QVERIFY2(early->errorString().contains("again in 1 s"_s), qPrintable(early->errorString()));
-        }
+        QCOMPARE(early->error() == QNetworkReply::ServiceUnavailableError, pauseSeconds > 0);
+        QCOMPARE(early->errorString().contains("again in 1 s"_s), pauseSeconds > 0);
         QCOMPARE(m_server->requestCount("/other"_s), pauseSeconds > 0 ? 0 : 1);
         LoopbackServer another; // has said nothing
         get(QNetworkRequest(another.url("/page")));

@@ -16,8 +16,7 @@ private slots:
     void defaultsAreUsable()
     {
         QSet<QString> keys;
-        for (int i = 0; i <= static_cast<int>(Endpoint::Yandex); ++i) {
-            const auto endpoint = static_cast<Endpoint>(i);
+        for (const Endpoint endpoint : allEndpoints()) {
             const QUrl base = endpointBase(endpoint);
             keys.insert(endpointKey(endpoint));
             QVERIFY2(base.scheme().startsWith("http"_s) && !base.host().isEmpty() && base.path().isEmpty(),
