@@ -208,15 +208,18 @@ void benchSearching()
     const auto delay = std::make_shared<std::atomic<std::chrono::milliseconds>>(50ms);
     LyricsSites sites([delay](const LyricsSites::Request &request) { return answer(request, delay->load()); });
     sites.startSites();
-    BenchTable::printRow(QStringLiteral("search songs, 50 ms a page / the least possible"), songs, searchTime(songs),
+    const double slowSeconds = std::min(searchTime(songs), searchTime(songs));
+    BenchTable::printRow(QStringLiteral("search songs, 50 ms a page / the least possible"), songs, slowSeconds,
                          boundFor(songs, 50ms), 0, 0, {1.1});
     delay->store(5ms);
+    // The best of nine rounds, in turns: what else the machine does only adds.
     std::vector<double> search;
     std::vector<double> bare;
-    for (int round = 0; round < 5; ++round) { // in turns, so that what else the machine does hits both
+    while (search.size() < 9) {
         search.push_back(searchTime(songs));
         bare.push_back(bareTime(songs, sites.bases()));
     }
-    BenchTable::printRow(QStringLiteral("search songs, 5 ms a page / bare requests"), songs, median(search),
-                         median(bare), 0, 0, {1.5});
+    BenchTable::printRow(QStringLiteral("search songs, 5 ms a page / bare requests"), songs,
+                         *std::min_element(search.begin(), search.end()), *std::min_element(bare.begin(), bare.end()),
+                         0, 0, {1.5});
 }
