@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Cipher strings of a settings file that somebody else wrote; and every plain text must come back.
+#include "FuzzInput.h"
 #include "settings/SettingsCipher.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
-
-#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
@@ -17,12 +16,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
     const auto content = QByteArray::fromStdString(rest);
 
     constexpr int mostBytes = 16 * 1024 * 1024;
-    if (cipher.decryptToByteArray(content).size() > mostBytes)
-        std::abort();
+    require(cipher.decryptToByteArray(content).size() <= mostBytes);
     static_cast<void>(cipher.decryptToString(QString::fromLatin1(content)));
     // Past the byte of the version, with any flags.
     static_cast<void>(cipher.decryptToByteArray("\x03" + content));
-    if (cipher.decryptToByteArray(cipher.encryptToByteArray(content)) != content)
-        std::abort();
+    require(cipher.decryptToByteArray(cipher.encryptToByteArray(content)) == content);
     return 0;
 }

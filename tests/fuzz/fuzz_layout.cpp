@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Song files of any content: what is found of a file must lie in it.
+#include "FuzzInput.h"
 #include "tags/SongLayout.h"
-
-#include <cstdlib>
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -13,12 +12,6 @@ using tags::SongFormat;
 
 constexpr SongFormat formats[] = {SongFormat::Framed, SongFormat::Flac, SongFormat::Ogg, SongFormat::Mp4,
                                   SongFormat::Asf,    SongFormat::Riff, SongFormat::Iff};
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 void check(const tags::SongLayout &layout, qint64 size)
 {

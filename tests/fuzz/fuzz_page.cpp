@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Pages of lyrics sites: patterns must find what QRegExp finds, and no clean-up may crash or stand still.
+#include "FuzzInput.h"
 #include "lyrics/ChainScan.h"
 #include "lyrics/JunkCheck.h"
 #include "lyrics/LyricsText.h"
@@ -9,16 +10,12 @@
 
 #include <QRegExp>
 
-#include <array>
-
 namespace {
-
-using Matching = ChainPattern::Matching;
 
 // QRegExp takes the square of the length.
 constexpr int mostCompared = 200;
 
-constexpr std::array patterns{
+constexpr const char *patterns[] = {
     R"re(<div[^>]*id=["']content["'].*>(.*)</div>)re",
     R"re(<a[^>]*href="([^"]*)"[^>]*class="song")re",
     R"re(<tr>.*<td[^<]*class[^<]*>.*<a.*href="([^"]*)".*>.*<b>(.*)</b>.*<b>([^<]*)</b>.*</td></tr>)re",
@@ -26,39 +23,27 @@ constexpr std::array patterns{
     R"re(&#(\d+);)re",
     R"re(a(.*)b([^x]*)c(b*)a)re",
 };
+constexpr const char *words[] = {"<div ", "</div>",     "id=\"content\"",
+                                 ">",     "<a href=\"", "\" class=\"song\"",
+                                 "<tr>",  "<td ",       "class",
+                                 "<b>",   "</b>",       "</td></tr>",
+                                 "&#",    ";",          "<!--",
+                                 "-->",   "<br>",       "&amp;",
+                                 "%41",   "a",          "b",
+                                 "c",     "x",          "id=\"native_roll\""};
 
-void compare(const char *text, Matching matching, const QString &page)
+void compare(const char *text, bool isShortest, const QString &page)
 {
     const QString pattern = QString::fromLatin1(text);
     QRegExp expression(pattern);
-    expression.setMinimal(matching == Matching::Shortest);
+    expression.setMinimal(isShortest);
     const int position = expression.indexIn(page);
+    const auto matching = isShortest ? ChainPattern::Matching::Shortest : ChainPattern::Matching::Longest;
     const ChainPattern chain(pattern, matching);
     const auto match = ChainScan(chain, page).next();
-    if (match.has_value() != (position >= 0))
-        std::abort();
-    if (match && (match->position != position || match->length != expression.matchedLength() ||
-                  match->captures != expression.capturedTexts().mid(1)))
-        std::abort();
-}
-
-// Words that the patterns ask for are rare in random bytes: one byte stands for each.
-QString pageOf(FuzzedDataProvider &data)
-{
-    constexpr std::array words{"<div ", "</div>",     "id=\"content\"",
-                               ">",     "<a href=\"", "\" class=\"song\"",
-                               "<tr>",  "<td ",       "class",
-                               "<b>",   "</b>",       "</td></tr>",
-                               "&#",    ";",          "<!--",
-                               "-->",   "<br>",       "&amp;",
-                               "%41",   "a",          "b",
-                               "c",     "x",          "id=\"native_roll\""};
-    QByteArray page;
-    while (data.remaining_bytes() > 0) {
-        const auto byte = data.ConsumeIntegral<quint8>();
-        page += byte < words.size() ? QByteArray(words[byte]) : QByteArray(1, static_cast<char>(byte));
-    }
-    return QString::fromUtf8(page);
+    require(match.has_value() == (position >= 0));
+    require(!match || (match->position == position && match->length == expression.matchedLength() &&
+                       match->captures == expression.capturedTexts().mid(1)));
 }
 
 } // namespace
@@ -67,19 +52,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
     FuzzedDataProvider data(bytes, size);
     const char *pattern = data.PickValueInArray(patterns);
-    const Matching matching = data.ConsumeBool() ? Matching::Shortest : Matching::Longest;
-    const QString page = pageOf(data);
-    compare(pattern, matching, page.left(mostCompared));
+    const bool isShortest = data.ConsumeBool();
+    const QString page = QString::fromUtf8(withWords(data.ConsumeRemainingBytesAsString(), words));
+    compare(pattern, isShortest, page.left(mostCompared));
     const QString lyrics = withoutBrokenCharacters(cleanLyrics(page));
-    if (lyrics.contains(QChar(QChar::Null)))
-        std::abort();
+    require(!lyrics.contains(QChar(QChar::Null)));
     static_cast<void>(isJunk(lyrics));
     static_cast<void>(decodePercentEscapes(page.toUtf8()));
     const NestedElements elements(page, QStringLiteral("div"));
     for (int at = page.indexOf(QLatin1String("<div")); at >= 0; at = page.indexOf(QLatin1String("<div"), at + 1)) {
         const int closing = elements.closingTag(at);
-        if (closing >= 0 && (closing <= at || !page.midRef(closing).startsWith(QLatin1String("</div"))))
-            std::abort();
+        require(closing < 0 || (closing > at && page.midRef(closing).startsWith(QLatin1String("</div"))));
     }
     return 0;
 }

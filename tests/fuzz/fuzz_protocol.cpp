@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a reader process that was taken over may send, in pieces of any size.
+#include "FuzzInput.h"
 #include "tags/CoverImage.h"
 #include "tags/TagReaderProtocol.h"
 #include "tags/TagText.h"
@@ -9,12 +10,6 @@
 #include <QDataStream>
 
 namespace {
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 void checkAnswer(const QByteArray &message)
 {
