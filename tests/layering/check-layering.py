@@ -147,7 +147,7 @@ class Check:
             return None
         if target in names:
             allowed = [*self.table.rooms[room]["includes"], room]
-            return None if names[target] in allowed else f"{room} may not link {names[target]}: its row does not name it"
+            return None if names[target] in allowed else f"{room} may not link {names[target]}, which its row does not name"
         owner = self.table.owner_of_target(target)
         if owner is None:
             return f"{target} is nothing that floors.toml names"
