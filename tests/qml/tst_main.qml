@@ -193,7 +193,10 @@ Item {
             field.forceActiveFocus();
             keyClick(Qt.Key_Return);
             verify(field.unsaved && save.visible && !part("titleField").unsaved);
+            part("titleField").forceActiveFocus();
+            keyClick(Qt.Key_T); // not confirmed
             keyClick(Qt.Key_S, Qt.ControlModifier);
+            compare(song.titleTag, "t");
             verify(!save.visible);
             tryCompare(song, "processState", ModelItem.ProcessComplete);
             verify(!song.edited && !field.unsaved);

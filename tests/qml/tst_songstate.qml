@@ -27,8 +27,8 @@ TestCase {
         var complete = ModelItem.ProcessComplete, unsuitable = ModelItem.ProcessNotSuitable;
         var queued = "in queue to search...", noNames = "A search needs an artist and a title.";
         return [
-            row("just added", idle, {}, "", "", ""),
-            row("waiting, bad, but not read yet", waiting, { badFile: true }, "yellow", "queued", queued),
+            row("just added, not known to be bad", idle, { badFile: true }, "", "", ""),
+            row("waiting", waiting, {}, "yellow", "queued", queued),
             row("searched for", working, { hasLyrics: true }, "yellow", "searching...", "searching..."),
             row("being written", ModelItem.ProcessWritingTags, {}, "yellow", "saving...", "saving the lyrics..."),
             row("with lyrics, never searched for", idle, { hasLyrics: true }, "green", "", ""),
