@@ -35,7 +35,7 @@ ROWS = [
     ("TagLib does not come along to other rooms", "model/A.cpp", "#include <taglib/tag.h>", "model may not use TagLib"),
     ("a Qt module that the row does not name", "lyrics/A.cpp", "#include <QWidget>", "lyrics may not use QtWidgets"),
     ("a link to a higher floor", "lyrics/CMakeLists.txt",
-     "versewell_add_library(lyrics\n SOURCES A.cpp\n LINK versewell_model)", "CMakeLists.txt:3: lyrics may not link model"),
+     "versewell_add_library(lyrics\n SOURCES A\n LINK versewell_model)", "CMakeLists.txt:3: lyrics may not link"),
     ("a link outside of the list", "tags/CMakeLists.txt", "target_link_libraries(versewell_tags PUBLIC Qt5::Widgets)",
      "tags may not link QtWidgets"),
     ("a link list within its row is fine", "lyrics/providers/CMakeLists.txt",
