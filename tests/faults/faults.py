@@ -84,20 +84,15 @@ def make_song(kind, path, sample):
 def packets(path):
     """What stays equal whatever is done to tags."""
     if path.suffix == ".ape":
-        data = path.read_bytes()
-        return hashlib.sha256(data[:data.find(b"APETAGEX")]).hexdigest() if b"APETAGEX" in data else hashlib.sha256(data).hexdigest()
+        return hashlib.sha256(path.read_bytes().partition(b"APETAGEX")[0]).hexdigest()
     return run("ffmpeg", "-v", "error", "-i", path, "-map", "0:a", "-c", "copy", "-f", "md5", "-").stdout.decode()
 
 
 def complaints(path):
-    found = []
-    if path.suffix != ".ape":
-        decoded = run("ffmpeg", "-v", "error", "-i", path, "-map", "0:a", "-f", "null", "-")
-        found += [decoded.stderr.decode()] if decoded.returncode or decoded.stderr else []
+    judges = [] if path.suffix == ".ape" else [run("ffmpeg", "-v", "error", "-i", path, "-map", "0:a", "-f", "null", "-")]
     if path.suffix == ".flac":
-        tested = run("flac", "-t", "-s", path)
-        found += [tested.stderr.decode()] if tested.returncode else []
-    return found
+        judges.append(run("flac", "-t", "-s", path))
+    return [judge.stderr.decode() for judge in judges if judge.returncode or judge.stderr]
 
 
 def tags(path):
@@ -174,9 +169,7 @@ class Trial:
             raise SystemExit("%s: an undisturbed save is wrong: %s" % (self.kind.name, "; ".join(problems)))
 
     def evenly(self, points, count):
-        count = count // 5 if self.sample else count
-        if len(points) <= count:
-            return points
+        count = min(count // 5 if self.sample else count, len(points))
         return [points[i * len(points) // count] for i in range(count)]
 
     def judge(self, status, what):
@@ -192,24 +185,23 @@ class Trial:
             self.harmed += 1
             self.notes.append("%s: status %s, left over: %s" % (what, status, left))
 
+    def inject(self, fault, name, when):
+        self.fresh()
+        broken = run("strace", "-o", "/dev/null", "-e", "trace=" + name, "-e", "inject=%s:%s:when=%s" % (name, fault, when),
+                     *self.command())
+        run(self.program, "--mend", self.data)
+        self.judge(broken.returncode, "%s at %s %s" % (fault, name, when))
+
     def kills(self):
         for name, number in self.evenly(self.points, 40):
-            self.fresh()
-            killed = run("strace", "-o", "/dev/null", "-e", "trace=" + name,
-                         "-e", "inject=%s:signal=KILL:when=%d" % (name, number), *self.command())
-            run(self.program, "--mend", self.data)
-            self.judge(killed.returncode, "killed at %s %d" % (name, number))
+            self.inject("signal=KILL", name, number)
 
     def errors(self):
         points = [point for point in self.points if point[0] in FAILING]
         for error in ("ENOSPC", "EIO"):
             for name, number in self.evenly(points, 15):
                 for lasting in ("", "+"):
-                    self.fresh()
-                    failed = run("strace", "-o", "/dev/null", "-e", "trace=" + name,
-                                 "-e", "inject=%s:error=%s:when=%d%s" % (name, error, number, lasting), *self.command())
-                    run(self.program, "--mend", self.data)
-                    self.judge(failed.returncode, "%s at %s %d%s" % (error, name, number, lasting))
+                    self.inject("error=" + error, name, "%d%s" % (number, lasting))
 
     def limit(self):
         self.fresh()
@@ -226,7 +218,7 @@ class Trial:
         def last(*parts):
             return max((n for n, call in enumerate(calls) if all(part in call for part in parts)), default=-1)
 
-        song = "%s" % self.song
+        song = str(self.song)
         if "hard link" in self.kind.name:  # the entry, the song, the end of the entry
             steps = [last("rename(", ".entry"), last("pwrite64(", "<%s>" % song), last("fsync(", "<%s>" % song),
                      last("unlink(", ".entry")]
@@ -269,10 +261,8 @@ def main():
             continue
         with tempfile.TemporaryDirectory(prefix="versewell-faults-") as directory:
             trial = Trial(program, kind, pathlib.Path(directory), sample)
-            trial.kills()
-            trial.errors()
-            trial.limit()
-            trial.order()
+            for breaking in (trial.kills, trial.errors, trial.limit, trial.order):
+                breaking()
             if "hard link" not in kind.name:
                 trial.full()
         print("%-18s %7d %7d %7d %7d" % (kind.name, trial.faults, trial.harmed, trial.olds, trial.news), flush=True)
