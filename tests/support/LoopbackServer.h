@@ -11,8 +11,6 @@
 
 #include <functional>
 
-class LoopbackConnection;
-
 // A small HTTP/1.1 server on 127.0.0.1 and a port of the system's choice, in the event loop of the test that owns it.
 // Paths are answered from routes; any other path gets 404. Connections are kept alive. It never asserts: a test looks
 // at requests() and the counters.
@@ -33,20 +31,20 @@ public:
     ~LoopbackServer() override;
 
     // "http://127.0.0.1:<port>", without a trailing slash. Stays the same after stop().
-    [[nodiscard]] QString base() const;
+    [[nodiscard]] QString base() const { return m_base; }
     // base() followed by an encoded path (and query).
-    [[nodiscard]] QUrl url(const QByteArray &target) const;
+    [[nodiscard]] QUrl url(const QByteArray &target) const { return QUrl::fromEncoded(m_base.toLatin1() + target); }
 
     // `path` is the decoded path without a query. A later route replaces an earlier one.
     void route(const QString &path, const LoopbackResponse &response);
-    void route(const QString &path, const Handler &handler);
+    void route(const QString &path, const Handler &handler) { m_routes.insert(path, handler); }
     // Answers every path that has no route of its own.
-    void routeOthers(Handler handler);
+    void routeOthers(const Handler &handler) { m_others = handler; }
 
     // All requests so far, in the order in which they came; those that hang are among them.
     [[nodiscard]] const QVector<LoopbackRequest> &requests() const { return m_requests; }
     [[nodiscard]] int requestCount(const QString &path) const;
-    void forgetRequests();
+    void forgetRequests() { m_requests.clear(); }
 
     [[nodiscard]] int openConnections() const { return m_openConnections; }
     // The highest number of connections that were open at once.
@@ -60,7 +58,6 @@ signals:
     void requestReceived(const QString &path);
 
 private:
-    friend class LoopbackConnection;
     // Records the request and finds its answer.
     LoopbackResponse answer(const LoopbackRequest &request);
     void acceptConnections();

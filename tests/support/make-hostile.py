@@ -75,10 +75,6 @@ def xiph_fields(count):
     return FLAC_START + b"\x84" + len(comment).to_bytes(3, "big") + comment
 
 
-def flac_blocks(count):
-    return FLAC_START + b"\x01\0\0\x01\0" * count
-
-
 def asf_objects(count):
     header = bytes.fromhex("3026b2758e66cf11a6d900aa0062ce6c")
     body = (bytes(16) + struct.pack("<Q", 24)) * count
@@ -92,14 +88,19 @@ def ape_items(count):
 
 
 def png(side):
-    def chunk(name, data):
-        return struct.pack(">I", len(data)) + name + data + struct.pack(">I", zlib.crc32(name + data))
-
+    """Of one bit a pixel, all black."""
     packer = zlib.compressobj(9)
-    row = bytes(1 + side // 8)
-    data = b"".join(packer.compress(row) for _ in range(side)) + packer.flush()
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", side, side, 1, 0, 0, 0, 0))
-            + chunk(b"IDAT", data) + chunk(b"IEND", b""))
+    data = b"".join(packer.compress(bytes(1 + side // 8)) for _ in range(side)) + packer.flush()
+    head = struct.pack(">IIBBBBB", side, side, 1, 0, 0, 0, 0)
+    return b"\x89PNG\r\n\x1a\n" + b"".join(
+        struct.pack(">I", len(body)) + name + body + struct.pack(">I", zlib.crc32(name + body))
+        for name, body in ((b"IHDR", head), (b"IDAT", data), (b"IEND", b"")))
+
+
+def write_all(folder, files):
+    folder.mkdir(parents=True)
+    for name, content in files.items():
+        (folder / name).write_bytes(content)
 
 
 def write_zeros(path):
@@ -108,21 +109,21 @@ def write_zeros(path):
 
 
 def write_refused(folder):
-    for name, content in {
+    write_all(folder, {
         "nested-atoms.m4a": nested_atoms(100_000),
         "nested-chapters.mp3": chapters(200_000),
         "frame-bomb.mp3": frame_bomb(1 << 30),
         "wavpack-loop.wv": wavpack_loop(),
         "atoms.m4a": flat_atoms(2_000_000),
         "asf-objects.wma": asf_objects(1_000_000),
-        "flac-blocks.flac": flac_blocks(4_000_000),
-    }.items():
-        (folder / name).write_bytes(content)
+        "flac-blocks.flac": FLAC_START + b"\x01\0\0\x01\0" * 4_000_000,
+    })
     write_zeros(folder / "zeros.mp3")
 
 
 def write_odd(folder, samples):
-    for name, content in {
+    dice = random.Random(8)
+    write_all(folder, {
         "frames.mp3": id3((text_frame(b"TXXX", b"ab")) * 1_000_000),
         "fields.flac": xiph_fields(2_700_000),
         "ape-items.ape": ape_items(500_000),
@@ -130,11 +131,9 @@ def write_odd(folder, samples):
         "picture-20000.mp3": id3(picture_frame(png(20_000))),
         "picture-8000.mp3": id3(picture_frame(png(8_000))),
         "picture-40-MB.mp3": id3(picture_frame(bytes(40 << 20))),
-    }.items():
-        (folder / name).write_bytes(content)
-    dice = random.Random(8)
+        **{f"random.{extension}": dice.randbytes(1 << 20) for extension in EXTENSIONS},
+    })
     for extension in EXTENSIONS:
-        (folder / f"random.{extension}").write_bytes(dice.randbytes(1 << 20))
         if extension != "mp3":
             write_zeros(folder / f"zeros.{extension}")
     for sample in samples:
@@ -144,20 +143,14 @@ def write_odd(folder, samples):
 
 
 def make_special(folder):
+    write_all(folder, {})
     os.mkfifo(folder / "fifo.mp3")
     (folder / "folder.mp3").mkdir()
     for name, target in {"link-to-fifo.mp3": "fifo.mp3", "link-to-device.mp3": "/dev/zero", "link-to-folder.mp3": "."}.items():
         (folder / name).symlink_to(target)
 
 
-def main():
-    samples = sorted(path for path in pathlib.Path(sys.argv[1]).iterdir() if path.suffix[1:] in EXTENSIONS)
-    parts = {name: pathlib.Path(sys.argv[2]) / name for name in ("refused", "odd", "special")}
-    for part in parts.values():
-        part.mkdir(parents=True)
-    write_refused(parts["refused"])
-    write_odd(parts["odd"], samples)
-    make_special(parts["special"])
-
-
-main()
+samples, target = map(pathlib.Path, sys.argv[1:])
+write_refused(target / "refused")
+write_odd(target / "odd", sorted(path for path in samples.iterdir() if path.suffix[1:] in EXTENSIONS))
+make_special(target / "special")

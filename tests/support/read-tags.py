@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Prints as JSON what mutagen, a reader that shares no code with this project, finds in audio files.
 
-Usage: read-tags.py FILE... prints an array with one object a file:
+Usage: read-tags.py FILE... prints an array with one object a file; without files, paths are read line by line, and each
+is answered with one line of an object:
   format      name of mutagen's class, null when it does not know the file; then only "file" and "error" follow
   title, artists, lyrics (null when there are none; a list of one text for each frame or field)
   id3         "2.3.0", "2.4.0" or null        id3v1   the bytes of the ID3v1 tag at the end in hexadecimal, or null
@@ -14,6 +15,7 @@ Usage: read-tags.py FILE... prints an array with one object a file:
 import base64
 import hashlib
 import json
+import pathlib
 import sys
 
 import mutagen
@@ -36,10 +38,8 @@ def id3_entries(tag):
     for frame in tag.values():
         if frame.FrameID == "APIC":
             yield "APIC", [frame.data]
-        elif frame.FrameID == "USLT":
-            yield "USLT", [frame.text]
-        elif frame.FrameID in ("TIT2", "TPE1"):
-            yield frame.FrameID, [str(text) for text in frame.text]
+        elif frame.FrameID in ("USLT", "TIT2", "TPE1"):
+            yield frame.FrameID, [frame.text] if frame.FrameID == "USLT" else [str(text) for text in frame.text]
         else:
             yield frame.HashKey, [frame.pprint()]
 
@@ -47,9 +47,7 @@ def id3_entries(tag):
 def picture_bytes(name, value):
     if name == "metadata_block_picture":
         return Picture(base64.b64decode(value)).data
-    if name == "WM/Picture":
-        return value.value
-    return bytes(value)
+    return value.value if name == "WM/Picture" else bytes(value)
 
 
 def mapping_entries(tag):
@@ -63,10 +61,12 @@ def mapping_entries(tag):
             yield name, [str(value) for value in values]
 
 
-def entries(tag):
-    if tag is None:
-        return []
-    return id3_entries(tag) if isinstance(tag, ID3) else mapping_entries(tag)
+def has_ape(path):
+    try:
+        APEv2(path)
+        return True
+    except APENoHeaderError:
+        return False
 
 
 def describe(path):
@@ -75,7 +75,7 @@ def describe(path):
         return {"file": path, "format": None, "error": "unknown format"}
     result = {"file": path, "format": type(song).__name__, "title": None, "artists": [], "lyrics": None, "pictures": [],
               "others": {}, "id3": None, "usltEncodings": [], "duration": song.info.length}
-    for name, values in entries(song.tags):
+    for name, values in id3_entries(song.tags) if isinstance(song.tags, ID3) else mapping_entries(song.tags or {}):
         if name.lower() in TITLES:
             result["title"] = values[0]
         elif name.lower() in ARTISTS:
@@ -90,14 +90,9 @@ def describe(path):
     if isinstance(song.tags, ID3):
         result["id3"] = ".".join(str(part) for part in song.tags.version)
         result["usltEncodings"] = [int(frame.encoding) for frame in song.tags.getall("USLT")]
-    with open(path, "rb") as file:
-        data = file.read()
-    result["id3v1"] = data[-128:].hex() if data[-128:-125] == b"TAG" else None
-    try:
-        APEv2(path)
-        result["ape"] = True
-    except APENoHeaderError:
-        result["ape"] = False
+    end = pathlib.Path(path).read_bytes()[-128:]
+    result["id3v1"] = end.hex() if end.startswith(b"TAG") else None
+    result["ape"] = has_ape(path)
     return result
 
 
@@ -108,4 +103,8 @@ def safely(path):
         return {"file": path, "format": None, "error": repr(error)}
 
 
-print(json.dumps([safely(path) for path in sys.argv[1:]], indent=1))
+if sys.argv[1:]:
+    print(json.dumps([safely(path) for path in sys.argv[1:]], indent=1))
+else:
+    for line in sys.stdin:
+        print(json.dumps(safely(line.rstrip("\n"))), flush=True)

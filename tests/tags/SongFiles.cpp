@@ -3,8 +3,8 @@
 
 #include "support/TestTable.h"
 
+#include <QCoreApplication>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
 
@@ -12,14 +12,30 @@
 
 namespace {
 
-QByteArray outputOf(const QString &program, const QStringList &arguments)
+// Answers one path after another, for as long as the test runs.
+class ForeignReader : public QProcess
 {
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        qFatal("%s failed: %s", qPrintable(program), process.readAllStandardError().constData());
-    return process.readAllStandardOutput();
-}
+public:
+    ForeignReader()
+        : QProcess(QCoreApplication::instance())
+    {
+        start("/usr/bin/python3"_s, {QStringLiteral(VERSEWELL_TAG_READER)});
+    }
+    ~ForeignReader() override
+    {
+        closeWriteChannel();
+        waitForFinished();
+    }
+    QByteArray answer(const QString &path)
+    {
+        write(path.toUtf8() + '\n');
+        while (!canReadLine()) {
+            if (!waitForReadyRead())
+                qFatal("tags cannot be read: %s", readAllStandardError().constData());
+        }
+        return readLine();
+    }
+};
 
 } // namespace
 
@@ -40,8 +56,8 @@ tags::UpdateResult SongFiles::update(const QString &path, const tags::SongTexts 
 
 QJsonObject SongFiles::tagsOf(const QString &path)
 {
-    const QByteArray json = outputOf("/usr/bin/python3"_s, {QStringLiteral(VERSEWELL_TAG_READER), path});
-    QJsonObject tags = QJsonDocument::fromJson(json).array().first().toObject();
+    static auto *const reader = new ForeignReader;
+    QJsonObject tags = QJsonDocument::fromJson(reader->answer(path)).object();
     tags.remove("file"_s);
     return tags;
 }
@@ -52,5 +68,9 @@ QByteArray SongFiles::audioDigest(const QString &path) const
     if (path.endsWith(QLatin1String(".ape")))
         return read(path).left(apeHeaderAndFrames);
     const QStringList packets = "-map 0:a -c copy -f md5 -"_s.split(QLatin1Char(' '));
-    return outputOf("ffmpeg"_s, QStringList{"-v"_s, "error"_s, "-nostdin"_s, "-i"_s, path} + packets);
+    QProcess ffmpeg;
+    ffmpeg.start("ffmpeg"_s, QStringList{"-v"_s, "error"_s, "-nostdin"_s, "-i"_s, path} + packets);
+    if (!ffmpeg.waitForFinished() || ffmpeg.exitCode() != 0)
+        qFatal("ffmpeg failed: %s", ffmpeg.readAllStandardError().constData());
+    return ffmpeg.readAllStandardOutput();
 }

@@ -139,6 +139,22 @@ private slots:
         QCOMPARE(seen(SongFiles::tagsOf(path), "lyrics"), areLyricsRead ? QString() : stored);
     }
 
+    // What an earlier update of the user's own has stored is no tagger's.
+    void updatesUnderWayAreTheUsersOwn()
+    {
+        const SongFiles files;
+        const QString path = files.copy("plain-v24.mp3"_s);
+        QCOMPARE(files.update(path, {artist, "Edited"_s, "mine"_s}), UpdateResult::Saved);
+        tags::ShownTexts shown{{artist, "Shown"_s, {}}, false, {{artist, "Edited"_s, "mine"_s}}};
+        for (const QString &lyrics : {"mended"_s, QString()}) { // the last as it was shown, and typed all the same
+            const SongTexts texts{artist, "Shown"_s, lyrics};
+            QCOMPARE(tags::updateTags(path, texts, files.dataFolder(), shown), UpdateResult::Saved);
+            QCOMPARE(textsIn(path).title, texts.title);
+            QCOMPARE(textsIn(path).lyrics, lyrics);
+            shown.underWay.append(texts);
+        }
+    }
+
     void usltFramesAreEncoded_data()
     {
         addTextColumns("sample", "lyrics", "encoding");
