@@ -2,6 +2,7 @@
 #include "model/DelayedFolderScanner.h"
 
 #include <QFile>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <cerrno>
@@ -15,6 +16,16 @@
 #include <unistd.h>
 
 namespace {
+
+// A walk mostly waits for its disk, without end perhaps. While this lives, the pool counts the walk's thread as none of
+// its own, so that the reading of tags goes on.
+class UncountedThread
+{
+public:
+    UncountedThread() { QThreadPool::globalInstance()->releaseThread(); }
+    ~UncountedThread() { QThreadPool::globalInstance()->reserveThread(); }
+    Q_DISABLE_COPY(UncountedThread)
+};
 
 struct CloseDirectory
 {
@@ -62,6 +73,7 @@ DelayedFolderScanner::DelayedFolderScanner(const QString &folder, std::shared_pt
 
 void DelayedFolderScanner::run()
 {
+    const UncountedThread uncounted;
     m_files.clear();
     m_pattern = namePattern();
     if (!m_folder.isEmpty())

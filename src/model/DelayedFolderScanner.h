@@ -13,7 +13,8 @@
 
 #include <memory>
 
-// One walk over a folder tree, to be run once on the thread pool, which deletes it after its run.
+// One walk over a folder tree, to be run once on the global thread pool, which deletes it after its run. It takes no
+// other work's place there, however long it waits for its disk.
 //
 // Every real directory is walked once, however many symbolic links lead to it, so that loops end; only regular files
 // (and links to such) are taken, each once, and none is opened. Hidden files and folders are left out, and so are those

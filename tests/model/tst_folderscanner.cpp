@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "model/DelayedFolderScanner.h"
 #include "model/FolderScanner.h"
+#include "model/WalkedEntries.h"
 #include "support/TestTable.h"
 
 #include "support/AsOrdinaryUser.h"
@@ -8,8 +10,10 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThreadPool>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -190,6 +194,24 @@ private slots:
         songs.scanner.addFolder(a); // again, before the cancelled walk has ended
         QTRY_VERIFY(!songs.scanner.processing());
         QCOMPARE(songs.found(), words("a/1.mp3"));
+    }
+
+    void aWalkThatTakesLongLeavesThePoolToOthers()
+    {
+        QThreadPool &pool = *QThreadPool::globalInstance();
+        const int threads = pool.maxThreadCount();
+        pool.setMaxThreadCount(1);
+        QSemaphore others;
+        bool wentOn = false;
+        auto *walk = new DelayedFolderScanner(QString(), std::make_shared<WalkedEntries>());
+        connect(
+            walk, &DelayedFolderScanner::scanned, walk, [&] { wentOn = others.tryAcquire(1, 5000); },
+            Qt::DirectConnection);
+        pool.start(walk);
+        pool.start([&others] { others.release(); });
+        QVERIFY(pool.waitForDone(20000));
+        pool.setMaxThreadCount(threads);
+        QVERIFY(wentOn);
     }
 };
 
