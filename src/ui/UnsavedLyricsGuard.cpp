@@ -84,7 +84,7 @@ QVector<quint16> UnsavedLyricsGuard::unsavedOfAll(const QVector<quint16> &waited
     return unsaved;
 }
 
-// A write under way may store them.
+// Writes under way come first, as they may store them.
 void UnsavedLyricsGuard::beforeGivingUpNames(std::function<void()> action)
 {
     afterWrites(idsWithNewNames(*m_model), [this, action = std::move(action)] {

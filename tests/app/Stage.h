@@ -4,6 +4,7 @@
 #include "app/Application.h"
 #include "network/Endpoints.h"
 #include "support/TestFolder.h"
+#include "support/TestTable.h"
 
 #include <QSettings>
 #include <QVariantMap>
@@ -31,7 +32,7 @@ public:
 
     Application *operator->() { return m_app.get(); }
     Application &operator*() { return *m_app; }
-    QString lockFile() const { return folder.path(QStringLiteral("Quillmarsh/Versewell.lock")); }
+    QString lockFile() const { return folder.path("Quillmarsh/Versewell.lock"_s); }
 
     const TestFolder folder;
     const QString settingsFile = folder.holdSettings();

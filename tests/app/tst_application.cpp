@@ -4,14 +4,13 @@
 #include "app/GraphicsBackend.h"
 #include "app/Stage.h"
 #include "support/AsOrdinaryUser.h"
-#include "support/LoopbackServer.h"
+#include "support/TestTable.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QNetworkProxy>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <csignal>
@@ -56,16 +55,14 @@ private slots:
         const QString flac = sample("plain.flac");
         const QString mp3 = sample("plain-v23.mp3");
         const QString flacUrl = QUrl::fromLocalFile(flac).toString(QUrl::FullyEncoded);
-        QTest::newRow("urls") << QVariant(QStringList{QUrl::fromLocalFile(mp3).toString(), flacUrl}) << true
-                              << QStringList{mp3, flac};
-        QTest::newRow("paths") << QVariant(QStringList{flac, mp3}) << true << QStringList{flac, mp3};
-        QTest::newRow("a list of one, which the store keeps as a text")
-            << QVariant(flacUrl) << true << QStringList{flac};
-        QTest::newRow("nonsense among the files")
-            << QVariant(QStringList{QString(), QStringLiteral("http://[::bad"), flac, QStringLiteral("/gone.mp3")})
-            << true << QStringList{flac};
-        QTest::newRow("a number") << QVariant(17) << true << QStringList{};
-        QTest::newRow("not wanted") << QVariant(QStringList{flac}) << false << QStringList{};
+        addRow("urls", QVariant(QStringList{QUrl::fromLocalFile(mp3).toString(), flacUrl}), true,
+               QStringList{mp3, flac});
+        addRow("paths", QVariant(QStringList{flac, mp3}), true, QStringList{flac, mp3});
+        addRow("a list of one, which the store keeps as a text", QVariant(flacUrl), true, QStringList{flac});
+        addRow("nonsense among the files", QVariant(QStringList{QString(), "http://[::bad"_s, flac, "/gone.mp3"_s}),
+               true, QStringList{flac});
+        addRow("a number", QVariant(17), true, QStringList{});
+        addRow("not wanted", QVariant(QStringList{flac}), false, QStringList{});
     }
 
     void theSavedListIsRestored()
@@ -73,88 +70,44 @@ private slots:
         QFETCH(QVariant, stored);
         QFETCH(bool, wanted);
         QFETCH(QStringList, expected);
-        Stage app({{QStringLiteral("filesList"), stored}, {QStringLiteral("saveFilesList"), wanted}});
+        Stage app({{"filesList"_s, stored}, {"saveFilesList"_s, wanted}});
         QVERIFY(app->mainModel()->urls().isEmpty());
         app->restoreFilesList();
-        const auto paths = [&app] {
-            QStringList list;
-            for (const QUrl &url : app->mainModel()->urls())
-                list.append(url.toLocalFile());
-            return list;
-        };
-        QTRY_COMPARE(paths(), expected);
+        QTRY_COMPARE(app->mainModel()->urls().size(), expected.size());
         QTRY_COMPARE(app->mainModel()->rowCount(), expected.size());
+        for (int row = 0; row < expected.size(); ++row)
+            QCOMPARE(app->mainModel()->itemAt(row)->url().toLocalFile(), expected.at(row));
     }
 
     void servicesAreWired()
     {
-        Stage app({{QStringLiteral("providersOrder"), QStringLiteral(" lyricsfreak ;;Nobody")}});
-        QVERIFY(!app->isOtherInstanceRunning());
+        Stage app({{"providersOrder"_s, " lyricsfreak ;;Nobody"_s}});
         QVERIFY(Application::isLinux() && !Application::isWindows() && !Application::isMacOS());
-        QCOMPARE(Application::applicationName(), QStringLiteral("Versewell"));
-        QCOMPARE(Application::organizationName(), QStringLiteral("Quillmarsh"));
-        QCOMPARE(Application::applicationVersion(), QStringLiteral("1.5.6"));
-        QCOMPARE(app->mainModel()->supportedTypesMask(QStringLiteral(" ")),
-                 QStringLiteral("*.aifc *.aiff *.aif *.opus *.aac *.ogg *.wma *.alac *.ape *.flac *.m4p *.m4a *.mp3"));
+        QCOMPARE(app->mainModel()->supportedTypesMask(" "_s),
+                 "*.aifc *.aiff *.aif *.opus *.aac *.ogg *.wma *.alac *.ape *.flac *.m4p *.m4a *.mp3"_s);
         QPalette palette = QApplication::palette();
         palette.setColor(QPalette::Base, QColor(1, 2, 3));
         QApplication::setPalette(palette); // as the desktop does when its theme changes
-        QCOMPARE(app->appPalette()->value(QStringLiteral("listBackground")).value<QColor>(), QColor(1, 2, 3));
+        QCOMPARE(app->appPalette()->value("listBackground"_s).value<QColor>(), QColor(1, 2, 3));
         QCOMPARE(app->settings()->providersOrder(), app->lyricsSearch()->providersOrder());
         QVERIFY(!app->settings()->providersOrder().contains(QLatin1String("Nobody")));
-        app->settings()->setProvidersOrder(QStringLiteral("LyricsFreak::0"));
+        app->settings()->setProvidersOrder("LyricsFreak::0"_s);
         QVERIFY(app->lyricsSearch()->providersOrder().contains(QLatin1String("LyricsFreak::0")));
     }
 
-    void betterNamesAreAskedForWhenNoSiteHasTheSong()
+    void theStoredProxyIsUsed()
     {
-        Stage app;
-        LoopbackServer service;
-        service.route(QStringLiteral("/2.0/"), LoopbackResponse::page("<lfm/>"));
-        QSettings().setValue(endpointGroup() + QLatin1Char('/') + endpointKey(Endpoint::Lastfm), service.base());
-        reloadEndpoints();
-        LyricsSearch *search = app->lyricsSearch();
-        const QString disabled = QStringLiteral("::0");
-        search->setProvidersOrder(
-            search->providersOrder().replace(QLatin1String(";;"), disabled + QLatin1String(";;")) + disabled);
-        QSignalSpy finished(search, &LyricsSearch::searchFinished);
-        QVERIFY(search->search(1, QStringLiteral("Nora Vale"), QStringLiteral("Harbour")));
-        QTRY_COMPARE(finished.size(), 1);
-        QCOMPARE(service.requestCount(QStringLiteral("/2.0/")), 2);
-    }
-
-    void theProxyFollowsTheSettings()
-    {
-        Stage app({{QStringLiteral("proxy/type"), 1},
-                   {QStringLiteral("proxy/address"), QStringLiteral("127.0.0.1")},
-                   {QStringLiteral("proxy/port"), 9}});
-        const auto proxy = [&app] {
-            return app->networkManager()->proxy();
-        };
-        QCOMPARE(proxy().type(), QNetworkProxy::Socks5Proxy);
-        QCOMPARE(proxy().hostName(), QStringLiteral("127.0.0.1"));
-        QCOMPARE(proxy().port(), quint16(9));
-        app->settings()->setProxyType(2);
-        QCOMPARE(proxy().type(), QNetworkProxy::HttpProxy);
-        app->settings()->setProxyAddress(QString());
-        QCOMPARE(proxy().type(), QNetworkProxy::DefaultProxy);
-    }
-
-    void aDamagedSettingsFileIsMended_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("half") << QByteArray("[General]\nlyricsFontSize=20\nlanguage=\"d");
-        QTest::newRow("lists in lists without end") << endlessLists();
+        Stage app({{"proxy/type"_s, 1}, {"proxy/address"_s, "127.0.0.1"_s}, {"proxy/port"_s, 9}});
+        QCOMPARE(app->networkManager()->proxy(), QNetworkProxy(QNetworkProxy::Socks5Proxy, "127.0.0.1"_s, 9));
     }
 
     void aDamagedSettingsFileIsMended()
     {
-        QFETCH(QByteArray, content);
-        Stage app({}, [&](const Stage &stage) { stage.folder.write(stage.settingsFile, content); });
+        Stage app({}, [&](const Stage &stage) { stage.folder.write(stage.settingsFile, endlessLists()); });
         QCOMPARE(app->settings()->lyricsFontSize(), 20);
         QVERIFY(app->settingsMending().damaged && app->areSettingsStored());
         QCOMPARE(app->settingsMending().copy, app.settingsFile + QLatin1String(".bad"));
-        QCOMPARE(app.folder.read(app->settingsMending().copy), content);
+        QCOMPARE(app.folder.read(app->settingsMending().copy), endlessLists());
         QVERIFY(app->settings()->save());
         QVERIFY(app.folder.read(app.settingsFile).contains("lyricsFontSize=20\n"));
     }
@@ -163,30 +116,20 @@ private slots:
     {
         QTest::addColumn<Step>("obstacle");
         QTest::addColumn<int>("fontSize");
-        QTest::newRow("all names for a copy are taken") << Step([](const Stage &stage) {
-            for (int i = 1; i <= 99; ++i)
-                stage.folder.write(
-                    stage.settingsFile + (i == 1 ? QStringLiteral(".bad") : QStringLiteral(".bad.%1").arg(i)), "other");
-        }) << 20;
-        QTest::newRow("the folder cannot be written to") << Step(forbidWriting) << 20;
-        QTest::newRow("the disk is full") << Step([](const Stage &) {
-            signal(SIGXFSZ, SIG_IGN);
-            QVERIFY(getrlimit(RLIMIT_FSIZE, &m_usualSize) == 0);
-            const rlimit none{0, m_usualSize.rlim_max};
-            QVERIFY(setrlimit(RLIMIT_FSIZE, &none) == 0);
-        }) << 12;
-        QTest::newRow("another instance runs")
-            << Step([](const Stage &stage) { m_other = std::make_unique<SingleInstance>(stage.lockFile()); }) << 20;
+        addRow("all names for a copy are taken", Step(takeAllNames), 20);
+        addRow("the folder cannot be written to", Step(forbidWriting), 20);
+        addRow("the disk is full", Step(fillDisk), 12);
+        addRow("another instance runs", Step(runAnother), 20);
     }
 
     void aSettingsFileThatMustNotBeReadIsNotRead()
     {
         QFETCH(Step, obstacle);
         QStringList namesBefore;
-        Stage app({{QStringLiteral("saveFilesList"), true}}, [&](const Stage &stage) {
+        Stage app({{"saveFilesList"_s, true}}, [&](const Stage &stage) {
             stage.folder.write(stage.settingsFile, endlessLists());
             obstacle(stage);
-            namesBefore = stage.folder.names(QStringLiteral("Quillmarsh"));
+            namesBefore = stage.folder.names("Quillmarsh"_s);
         });
         const int fontSize = app->settings()->lyricsFontSize();
         const bool isStored = app->settings()->save();
@@ -199,9 +142,9 @@ private slots:
         QVERIFY(!isStored && !app->areSettingsStored());
         QVERIFY(app->settingsMending().damaged && app->settingsMending().copy.isEmpty());
         QCOMPARE(app.folder.read(app.settingsFile), endlessLists());
-        QStringList names = app.folder.names(QStringLiteral("Quillmarsh"));
-        names.removeOne(QStringLiteral("Versewell.lock"));
-        namesBefore.removeOne(QStringLiteral("Versewell.lock"));
+        QStringList names = app.folder.names("Quillmarsh"_s);
+        names.removeOne("Versewell.lock"_s);
+        namesBefore.removeOne("Versewell.lock"_s);
         QCOMPARE(names, namesBefore);
     }
 
@@ -220,8 +163,7 @@ private slots:
     // The lock cannot be made, so that somebody else may be using the list.
     void withoutTheLockNoListIsRestoredOrStored()
     {
-        Stage app({{QStringLiteral("saveFilesList"), true}, {QStringLiteral("filesList"), sample("plain.flac")}},
-                  forbidWriting);
+        Stage app({{"saveFilesList"_s, true}, {"filesList"_s, sample("plain.flac")}}, forbidWriting);
         m_user.reset();
         QVERIFY(!app->isOtherInstanceRunning());
         QVERIFY(app->settings()->saveFilesList() && !app->settings()->keepsFilesList());
@@ -231,76 +173,56 @@ private slots:
     void makerPagesAreOpenedOnce_data()
     {
         QTest::addColumn<QVariantMap>("stored");
-        QTest::addColumn<QStringList>("pages");
-        const QString first = QStringLiteral("FirstStart");
-        const QVariantMap site{{QStringLiteral("endpoints/Maker"), QStringLiteral("http://127.0.0.1:9")}};
-        const auto with = [&site](const QString &key, const QVariant &value) {
-            QVariantMap map = site;
-            map.insert(key, value);
-            return map;
-        };
-        QTest::newRow("the first start") << site
-                                         << QStringList{QStringLiteral("http://127.0.0.1:9/versewell/welcome.html")};
-        QTest::newRow("a start after an update")
-            << with(first, QStringLiteral("1.5.5"))
-            << QStringList{QStringLiteral("http://127.0.0.1:9/versewell/update.html")};
-        QTest::newRow("another start") << with(first, QStringLiteral("1.5.6")) << QStringList{};
-        QTest::newRow("no pages wanted") << with(QStringLiteral("openQuillmarshSite"), false) << QStringList{};
-        QTest::newRow("a build without a maker's site") << QVariantMap() << QStringList{};
+        addTextColumns("pages");
+        const std::pair<QString, QVariant> site("endpoints/Maker"_s, "http://127.0.0.1:9"_s);
+        addRow("the first start", QVariantMap{site}, "http://127.0.0.1:9/versewell/welcome.html");
+        addRow("a start after an update", QVariantMap{site, {"FirstStart"_s, "1.5.5"_s}},
+               "http://127.0.0.1:9/versewell/update.html");
+        addRow("another start", QVariantMap{site, {"FirstStart"_s, "1.5.6"_s}}, "");
+        addRow("no pages wanted", QVariantMap{site, {"openQuillmarshSite"_s, false}}, "");
+        addRow("a build without a maker's site", QVariantMap(), "");
     }
 
     void makerPagesAreOpenedOnce()
     {
         QFETCH(QVariantMap, stored);
-        QFETCH(QStringList, pages);
         Stage app(stored);
         m_opened.clear();
-        QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "noteOpenedUrl");
-        QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "noteOpenedUrl");
+        QDesktopServices::setUrlHandler("http"_s, this, "noteOpenedUrl");
+        QDesktopServices::setUrlHandler("https"_s, this, "noteOpenedUrl");
         app->noteStart();
         app->noteStart();
-        QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
-        QCOMPARE(QUrl::toStringList(m_opened), pages);
-        QCOMPARE(QSettings().value(QStringLiteral("FirstStart")).toString(), QStringLiteral("1.5.6"));
+        QDesktopServices::unsetUrlHandler("http"_s);
+        QDesktopServices::unsetUrlHandler("https"_s);
+        QTEST(QUrl::toStringList(m_opened).join(QLatin1Char(' ')), "pages");
+        QCOMPARE(QSettings().value("FirstStart"_s).toString(), "1.5.6"_s);
     }
 
     void languagesAreFoundAndChosen_data()
     {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<QStringList>("languages");
-        QTest::addColumn<QString>("locale");
-        const QString de = QStringLiteral("tst_application.de.qm");
-        const QString en = QStringLiteral("tst_application.en.qm");
-        const QString brazil = QStringLiteral("tst_application.pt_BR.qm");
-        QTest::newRow("no translations") << QStringList{} << "de" << QStringList{QStringLiteral("en")} << "en";
-        QTest::newRow("English comes first when it has no file")
-            << QStringList{brazil, de, QStringLiteral("other.fr.qm")} << "pt_BR"
-            << QStringList{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("pt_BR")} << "pt_BR";
-        QTest::newRow("English keeps its place when it has one")
-            << QStringList{de, en} << "" << QStringList{QStringLiteral("de"), QStringLiteral("en")} << "en";
-        QTest::newRow("a language that is not there")
-            << QStringList{de} << "xx" << QStringList{QStringLiteral("en"), QStringLiteral("de")} << "en";
+        addTextColumns("files", "chosen", "languages", "locale");
+        addRow("no translations", "", "de", "en", "en");
+        addRow("English comes first when it has no file", "tst_application.pt_BR tst_application.de other.fr", "pt_BR",
+               "en de pt_BR", "pt_BR");
+        addRow("English keeps its place when it has one", "tst_application.de tst_application.en", "", "de en", "en");
+        addRow("a language that is not there", "tst_application.de", "xx", "en de", "en");
     }
 
     void languagesAreFoundAndChosen()
     {
-        QFETCH(QStringList, files);
+        QFETCH(QString, files);
         QFETCH(QString, chosen);
         QFETCH(QString, locale);
-        Stage app({{QStringLiteral("language"), chosen}});
+        Stage app({{"language"_s, chosen}});
         QDir folder(Application::applicationDirPath() + QLatin1String("/locale"));
-        QVERIFY(folder.removeRecursively() && folder.mkpath(QStringLiteral(".")));
-        for (const QString &name : files) {
-            QFile file(folder.filePath(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        QVERIFY(folder.removeRecursively() && folder.mkpath("."_s));
+        for (const QString &name : files.split(QLatin1Char(' ')))
+            QVERIFY(QFile(folder.filePath(name + ".qm"_s)).open(QIODevice::WriteOnly));
         app->setUpLanguages();
-        QTEST(app->property("languageList").toStringList(), "languages");
+        QTEST(app->property("languageList").toStringList().join(QLatin1Char(' ')), "languages");
         QCOMPARE(QLocale(), QLocale(locale));
-        app->settings()->setLanguage(QStringLiteral("en"));
-        QCOMPARE(QLocale(), QLocale(QStringLiteral("en")));
+        app->settings()->setLanguage("en"_s);
+        QCOMPARE(QLocale(), QLocale("en"_s));
         QVERIFY(folder.removeRecursively());
     }
 
@@ -309,18 +231,17 @@ private slots:
         QTest::addColumn<QByteArray>("environment");
         QTest::addColumn<QVariant>("method");
         QTest::addColumn<QByteArray>("device");
-        QTest::newRow("nothing said") << QByteArray() << QVariant() << QByteArray("softwarecontext");
-        QTest::newRow("automatic") << QByteArray() << QVariant(0) << QByteArray();
-        QTest::newRow("the environment wins") << QByteArray("mine") << QVariant(2) << QByteArray("mine");
-        QTest::newRow("more than there are numbers")
-            << QByteArray() << QVariant(1LL << 32) << QByteArray("softwarecontext");
+        addRow("nothing said", QByteArray(), QVariant(), QByteArray("softwarecontext"));
+        addRow("automatic", QByteArray(), QVariant(0), QByteArray());
+        addRow("the environment wins", QByteArray("mine"), QVariant(2), QByteArray("mine"));
+        addRow("more than there are numbers", QByteArray(), QVariant(1LL << 32), QByteArray("softwarecontext"));
     }
 
     void theGraphicsBackendIsChosen()
     {
         QFETCH(QByteArray, environment);
         QFETCH(QVariant, method);
-        Stage app(method.isValid() ? QVariantMap{{QStringLiteral("openGlMethod"), method}} : QVariantMap());
+        Stage app(method.isValid() ? QVariantMap{{"openGlMethod"_s, method}} : QVariantMap());
         qputenv("QMLSCENE_DEVICE", environment);
         chooseGraphicsBackend();
         QTEST(qgetenv("QMLSCENE_DEVICE"), "device");
@@ -337,6 +258,22 @@ private:
         QVERIFY(chmod(QFile::encodeName(QFileInfo(stage.settingsFile).path()).constData(), 0555) == 0);
         m_user = std::make_unique<AsOrdinaryUser>();
     }
+
+    static void takeAllNames(const Stage &stage)
+    {
+        for (int i = 1; i <= 99; ++i)
+            stage.folder.write(stage.settingsFile + (i == 1 ? ".bad"_s : ".bad.%1"_s.arg(i)), "other");
+    }
+
+    static void fillDisk(const Stage &)
+    {
+        signal(SIGXFSZ, SIG_IGN);
+        QVERIFY(getrlimit(RLIMIT_FSIZE, &m_usualSize) == 0);
+        const rlimit none{0, m_usualSize.rlim_max};
+        QVERIFY(setrlimit(RLIMIT_FSIZE, &none) == 0);
+    }
+
+    static void runAnother(const Stage &stage) { m_other = std::make_unique<SingleInstance>(stage.lockFile()); }
 
     QList<QUrl> m_opened;
     // What the obstacles put up until a test has looked.

@@ -114,7 +114,7 @@ private slots:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QVariant>("expected");
         const auto row = [](const char *name, const char *key, const QVariant &stored, const QVariant &expected) {
-            QTest::newRow(name) << stored << key << expected;
+            addRow(name, stored, key, expected);
         };
         const QVariant list = QStringList{"1"_s, "2"_s};
         row("just too small", "lyricsFontSize", 5, 12);

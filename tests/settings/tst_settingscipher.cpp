@@ -19,7 +19,7 @@ using Compression = SettingsCipher::CompressionMode;
 using Protection = SettingsCipher::IntegrityProtectionMode;
 using Error = SettingsCipher::Error;
 
-QByteArray fromText(const char *base64)
+QByteArray fromText(const QByteArray &base64)
 {
     return QByteArray::fromBase64(base64);
 }
@@ -95,20 +95,17 @@ private slots:
         SettingsCipher cipher;
         cipher.setKey(usedKey);
         QCOMPARE(cipher.decryptToString(text), plain);
-        QCOMPARE(cipher.decryptToByteArray(expected), plain.toUtf8());
         QCOMPARE(cipher.lastError(), SettingsCipher::ErrorNoError);
         cipher.setCompressionMode(compression);
         cipher.setIntegrityProtectionMode(protection);
-        QCOMPARE(withRandomByteOf(expected, cipher.encryptToByteArray(plain)), expected);
-        QCOMPARE(withRandomByteOf(expected, QByteArray::fromBase64(cipher.encryptToString(plain).toLatin1())),
-                 expected);
+        QCOMPARE(withRandomByteOf(expected, fromText(cipher.encryptToString(plain).toLatin1())), expected);
     }
 
     void equalTextsGiveDifferentCiphers()
     {
         QSet<QString> ciphers;
         for (int i = 0; i < 64; ++i)
-            ciphers.insert(SettingsCipher(key).encryptToString(QStringLiteral("swordfish")));
+            ciphers.insert(SettingsCipher(key).encryptToString("swordfish"_s));
         QVERIFY2(ciphers.size() > 16, qPrintable(QString::number(ciphers.size())));
     }
 
@@ -204,24 +201,20 @@ private slots:
         QCOMPARE(cipher.lastError(), SettingsCipher::ErrorNoError);
     }
 
-    void whatIsNoCipherGivesNothing()
+    void whatCannotBeReadGivesNothing()
     {
+        SettingsCipher keyless;
+        QTest::ignoreMessage(QtWarningMsg, "No key set.");
+        QCOMPARE(keyless.encryptToString("swordfish"_s), QString());
+        QCOMPARE(keyless.lastError(), SettingsCipher::ErrorNoKeySet);
+        QTest::ignoreMessage(QtWarningMsg, "No key set.");
+        QCOMPARE(keyless.decryptToString("AwJvxEdKnzXGn5ZLqL4="_s), QString());
         SettingsCipher cipher(key);
-        QCOMPARE(cipher.decryptToString(QStringLiteral("!\"§ ,;")), QString());
+        QCOMPARE(cipher.decryptToString("!\"§ ,;"_s), QString());
         QCOMPARE(cipher.lastError(), SettingsCipher::ErrorNoError);
         QTest::ignoreMessage(QtWarningMsg, "Invalid version or not a cyphertext.");
-        QCOMPARE(cipher.decryptToString(QStringLiteral("BAJvxEdKnzXGn5ZLqL4=")), QString()); // the next version
+        QCOMPARE(cipher.decryptToString("BAJvxEdKnzXGn5ZLqL4="_s), QString()); // the next version
         QCOMPARE(cipher.lastError(), SettingsCipher::ErrorUnknownVersion);
-    }
-
-    void withoutAKeyNothingIsDone()
-    {
-        SettingsCipher cipher;
-        QTest::ignoreMessage(QtWarningMsg, "No key set.");
-        QCOMPARE(cipher.encryptToString(QStringLiteral("swordfish")), QString());
-        QCOMPARE(cipher.lastError(), SettingsCipher::ErrorNoKeySet);
-        QTest::ignoreMessage(QtWarningMsg, "No key set.");
-        QCOMPARE(cipher.decryptToString(QStringLiteral("AwJvxEdKnzXGn5ZLqL4=")), QString());
     }
 };
 

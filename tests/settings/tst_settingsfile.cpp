@@ -2,6 +2,7 @@
 #include "settings/SettingsFile.h"
 
 #include "support/TestFolder.h"
+#include "support/TestTable.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,13 +37,13 @@ private slots:
         const QByteArray general("[General]\n");
         const QByteArray size("lyricsFontSize=20\n");
         const auto row = [](const char *name, const QByteArray &content, const QByteArray &readable) {
-            QTest::newRow(name) << content << readable << true;
+            addRow(name, content, readable, true);
         };
         const auto wholeRow = [](const char *name, const QByteArray &content) {
-            QTest::newRow(name) << content << content << false;
+            addRow(name, content, content, false);
         };
         const auto untidyRow = [](const char *name, const QByteArray &content, const QByteArray &readable) {
-            QTest::newRow(name) << content << readable << false;
+            addRow(name, content, readable, false);
         };
         wholeRow("nothing", "");
         wholeRow("a comment, blanks, a key before any group", "; a = \"note\n\n lyricsFontSize = 20 ; points\n");
@@ -85,7 +86,7 @@ private slots:
         QCOMPARE(check.clean, content == readable);
         QVERIFY2(checkSettingsFile(readable).clean, "what is left is to be mended again");
         const TestFolder folder;
-        const QSettings store(folder.write(QStringLiteral("a.conf"), readable), QSettings::NativeFormat);
+        const QSettings store(folder.write("a.conf"_s, readable), QSettings::NativeFormat);
         QCOMPARE(store.allKeys().size(), check.entries);
         QCOMPARE(store.status(), QSettings::NoError);
     }
@@ -93,7 +94,7 @@ private slots:
     void whatTheStoreWritesIsNoDamage()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("store.conf"));
+        const QString path = folder.path("store.conf"_s);
         QByteArray bytes;
         QString letters;
         for (int i = 0; i < 512; ++i) {
@@ -105,13 +106,13 @@ private slots:
             list.append(letters.mid(i, 3));
         {
             QSettings store(path, QSettings::NativeFormat);
-            store.setValue(QStringLiteral("geometry"), bytes);
-            store.setValue(QStringLiteral("letters"), letters);
-            store.setValue(QStringLiteral("list"), list);
-            store.setValue(QStringLiteral("empty list"), QStringList());
-            store.setValue(QStringLiteral("blank"), QStringLiteral(" @proxy.example"));
-            store.setValue(QStringLiteral("signs"), QStringLiteral("@Variant(x), @Invalid() \"@DateTime("));
-            store.setValue(letters.mid(1) + QStringLiteral("/[x]=;ключ"), QStringLiteral("\\ "));
+            store.setValue("geometry"_s, bytes);
+            store.setValue("letters"_s, letters);
+            store.setValue("list"_s, list);
+            store.setValue("empty list"_s, QStringList());
+            store.setValue("blank"_s, " @proxy.example"_s);
+            store.setValue("signs"_s, "@Variant(x), @Invalid() \"@DateTime("_s);
+            store.setValue(letters.mid(1) + "/[x]=;ключ"_s, "\\ "_s);
         }
         const QByteArray content = folder.read(path);
         QVERIFY(content.size() > 1000);
@@ -130,7 +131,7 @@ private slots:
     void aDamagedFileIsKeptAside()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.conf"));
+        const QString path = folder.path("a.conf"_s);
         const QString first = path + QLatin1String(".bad");
         QVERIFY(!mend(path).damaged); // there is none
         for (const QByteArray &harmless : {good, good + "#\n"}) {
@@ -159,7 +160,7 @@ private slots:
     {
         const TestFolder folder;
         const QString noRoom = folder.write(QString(253, QLatin1Char('a')), bad); // none for ".bad" in the name
-        const QString others = folder.write(QStringLiteral("a.conf"), bad);
+        const QString others = folder.write("a.conf"_s, bad);
         for (const auto &[path, access] :
              {std::pair(noRoom, SettingsFileAccess::Mend), std::pair(others, SettingsFileAccess::Look)}) {
             QTest::ignoreMessage(QtWarningMsg, cannotBeMended);
@@ -174,7 +175,7 @@ private slots:
     void whatIsNoFileIsNotOpened()
     {
         const TestFolder folder;
-        const QString pipe = folder.path(QStringLiteral("pipe"));
+        const QString pipe = folder.path("pipe"_s);
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0); // would never answer
         for (const QString &path : {folder.path(), pipe}) {
             QTest::ignoreMessage(QtWarningMsg, "The settings file cannot be read.");
@@ -187,7 +188,7 @@ private slots:
     void aFileOfImpossibleSizeIsMovedAside()
     {
         const TestFolder folder;
-        const QString path = folder.write(QStringLiteral("a.conf"), good);
+        const QString path = folder.write("a.conf"_s, good);
         constexpr qint64 tooMuch = 1024LL * 1024 * 1024; // a hole, which takes no space
         QVERIFY(QFile::resize(path, tooMuch));
         QTest::ignoreMessage(QtWarningMsg, "The settings file is too large to be one.");

@@ -20,8 +20,8 @@ class tst_UpdateDialogs : public QObject
 private slots:
     void initTestCase()
     {
-        QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-        QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
+        QCoreApplication::setApplicationName("Versewell"_s);
+        QCoreApplication::setApplicationVersion("1.5.6"_s);
     }
 
     void theAgeIsToldInTheLargestUnitThatFits_data()
@@ -60,11 +60,11 @@ private slots:
     {
         QFETCH(QString, changes);
         QFETCH(QString, items);
-        const QString list = QStringLiteral("<b>Version 2.0</b><br/>%1<ul>") + items + QStringLiteral("</ul><br/>");
+        const QString list = "<b>Version 2.0</b><br/>%1<ul>"_s + items + "</ul><br/>"_s;
         const QDate date(2026, 12, 24);
         QCOMPARE(releaseNotes({{"2.0"_s, {}, changes, {}, {}}}), list.arg(QString()));
         QCOMPARE(releaseNotes({{"2.0"_s, {}, changes, date, {}}}),
-                 list.arg(QStringLiteral("<i>%1</i><br/>").arg(date.toString(Qt::TextDate))));
+                 list.arg("<i>%1</i><br/>"_s.arg(date.toString(Qt::TextDate))));
     }
 
     void hostileNotesAreCut()
@@ -72,7 +72,7 @@ private slots:
         ReleasedVersions versions(3000, {"9"_s.repeated(100000), {}, "x"_s.repeated(300000), {}, {}});
         QVERIFY(releaseNotes(versions).size() < 200000);
         versions = {{"2.0"_s, {}, "- x\n"_s.repeated(100000), {}, {}}};
-        QCOMPARE(releaseNotes(versions).count(QStringLiteral("<li>")), 999);
+        QCOMPARE(releaseNotes(versions).count("<li>"_s), 999);
     }
 
     void theOfferSaysWhatIsKnown_data()
@@ -107,8 +107,8 @@ private slots:
         }
         QTEST(words.join(QLatin1Char('|')), "words");
         const QString notes = dialog.findChild<QTextBrowser *>()->toPlainText();
-        QCOMPARE(notes.count(QStringLiteral("new")), newer);
-        QVERIFY(notes.startsWith("Version 2.%1"_s.arg(newer - 1)) && !notes.contains(QStringLiteral("mine")));
+        QCOMPARE(notes.count("new"_s), newer);
+        QVERIFY(notes.startsWith("Version 2.%1"_s.arg(newer - 1)) && !notes.contains("mine"_s));
     }
 
     // The program may be in the hands of somebody who types.
@@ -117,7 +117,7 @@ private slots:
         UpdateDialog dialog({{"2.0"_s, {}, {}, {}, {}}}, {}, UpdateDialog::Occasion::Unasked);
         QSignalSpy answered(&dialog, &QDialog::finished);
         dialog.show();
-        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("some words "));
+        QTest::keyClicks(dialog.focusWidget(), "some words "_s);
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
         QCOMPARE(answered.count(), 0);
         QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -143,9 +143,9 @@ private slots:
         UpdateChecker checker(environment);
         const DownloadDialog dialog(&checker);
         emit checker.progressChanged(progress, total);
-        QTEST(dialog.findChild<QLabel *>(QStringLiteral("progressLabel"))->text(), "words");
+        QTEST(dialog.findChild<QLabel *>("progressLabel"_s)->text(), "words");
         QCOMPARE(dialog.findChild<QProgressBar *>()->maximum(), total);
-        QVERIFY(dialog.findChild<QPushButton *>(QStringLiteral("installButton"))->isHidden());
+        QVERIFY(dialog.findChild<QPushButton *>("installButton"_s)->isHidden());
     }
 };
 

@@ -33,13 +33,13 @@ struct Rig
     {
         folder.holdSettings();
         QSettings store;
-        store.setValue(QStringLiteral("endpoints/Maker"), site.base());
+        store.setValue("endpoints/Maker"_s, site.base());
         for (auto entry = stored.begin(); entry != stored.end(); ++entry)
             store.setValue(entry.key(), entry.value());
         reloadEndpoints();
-        site.route(QStringLiteral("/versewell/Versewell.xml"), information);
+        site.route("/versewell/Versewell.xml"_s, information);
         UpdateEnvironment environment;
-        environment.folder = folder.path(QStringLiteral("Update"));
+        environment.folder = folder.path("Update"_s);
         environment.keys = {QByteArray(32, 'x')};
         environment.now = [this] {
             return now;
@@ -49,7 +49,7 @@ struct Rig
         updater->setParentWindow(&window);
     }
 
-    [[nodiscard]] int checks() const { return site.requestCount(QStringLiteral("/versewell/Versewell.xml")); }
+    [[nodiscard]] int checks() const { return site.requestCount("/versewell/Versewell.xml"_s); }
     [[nodiscard]] UpdateChecker::States state() { return updater->checker()->state(); }
     // All that can be seen beside the window, by class and, of a box, by text.
     [[nodiscard]] QStringList shown() const
@@ -71,7 +71,7 @@ struct Rig
     std::optional<Updater> updater;
 };
 
-const QStringList offered{QStringLiteral("UpdateDialog")};
+const QStringList offered{"UpdateDialog"_s};
 
 } // namespace
 
@@ -82,9 +82,9 @@ class tst_Updater : public QObject
 private slots:
     void initTestCase()
     {
-        QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-        QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-        QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
+        QCoreApplication::setApplicationName("Versewell"_s);
+        QCoreApplication::setOrganizationName("Quillmarsh"_s);
+        QCoreApplication::setApplicationVersion("1.5.6"_s);
     }
 
     void aCheckIsDueByThePeriod_data()
@@ -92,15 +92,12 @@ private slots:
         QTest::addColumn<QVariant>("period");
         QTest::addColumn<qint64>("secondsLater");
         QTest::addColumn<int>("checks");
-        const auto row = [](const char *sentence, const QVariant &period, qint64 secondsLater, int checks) {
-            QTest::newRow(sentence) << period << secondsLater << checks;
-        };
-        row("a day by default", {}, 86400, 2);
-        row("not a second earlier", {}, 86399, 1);
-        row("a minute", 1, 60, 2);
-        row("never", 0, 999999, 0);
-        row("a period below zero", -5, 999999, 0);
-        row("a period beyond every clock", QStringLiteral("9223372036854775807"), 999999, 1);
+        addRow("a day by default", QVariant(), 86400LL, 2);
+        addRow("not a second earlier", QVariant(), 86399LL, 1);
+        addRow("a minute", QVariant(1), 60LL, 2);
+        addRow("never", QVariant(0), 999999LL, 0);
+        addRow("a period below zero", QVariant(-5), 999999LL, 0);
+        addRow("a period beyond every clock", QVariant("9223372036854775807"_s), 999999LL, 1);
     }
 
     void aCheckIsDueByThePeriod()
@@ -108,9 +105,9 @@ private slots:
         QFETCH(QVariant, period);
         QFETCH(qint64, secondsLater);
         Rig rig(newest("1.5.6"));
-        QSettings().setValue(QStringLiteral("updater/period"), period); // as the preferences do, at any time
+        QSettings().setValue("updater/period"_s, period); // as the preferences do, at any time
         if (!period.isValid())
-            QSettings().remove(QStringLiteral("updater/period"));
+            QSettings().remove("updater/period"_s);
         QSignalSpy checked(&*rig.updater, &Updater::checked);
         QVERIFY(!rig.updater->lastCheckUpdate().isValid());
         rig.updater->checkIfDue();
@@ -148,13 +145,13 @@ private slots:
     {
         QFETCH(LoopbackResponse, information);
         QFETCH(QString, skipped);
-        Rig rig(information, {{QStringLiteral("updater/skippedVersion"), skipped}});
+        Rig rig(information, {{"updater/skippedVersion"_s, skipped}});
         rig.updater->checkIfDue();
         QCOMPARE(rig.shown(), QStringList());
         QTRY_VERIFY(rig.state() != UpdateChecker::Checking);
         QTEST(rig.shown(), "bySchedule");
         rig.updater->checkByUser();
-        QCOMPARE(rig.shown(), QStringList{QStringLiteral("UpdateInfoDialog")});
+        QCOMPARE(rig.shown(), QStringList{"UpdateInfoDialog"_s});
         QTRY_VERIFY(rig.state() != UpdateChecker::Checking);
         QTEST(rig.shown(), "byUser");
     }
@@ -164,7 +161,7 @@ private slots:
         Rig rig(LoopbackResponse::error(500));
         rig.updater->checkIfDue();
         rig.updater->checkByUser();
-        QTRY_COMPARE(rig.shown(), QStringList{QStringLiteral("Failed to update")});
+        QTRY_COMPARE(rig.shown(), QStringList{"Failed to update"_s});
         QCOMPARE(rig.checks(), 1);
     }
 
@@ -188,7 +185,7 @@ private slots:
         rig.updater->checkIfDue(); // not while it is offered
         QCOMPARE(rig.state(), UpdateChecker::UpdateAvailable);
         rig.answer(UpdateDialog::Skip);
-        QCOMPARE(QSettings().value(QStringLiteral("updater/skippedVersion")).toString(), QStringLiteral("2.0"));
+        QCOMPARE(QSettings().value("updater/skippedVersion"_s).toString(), "2.0"_s);
         rig.updater->checkIfDue();
         QTRY_COMPARE(rig.state(), UpdateChecker::UpdateAvailable);
         QCOMPARE(rig.shown(), QStringList());
@@ -200,7 +197,7 @@ private slots:
         rig.updater->checkByUser();
         QTRY_COMPARE(rig.shown(), offered);
         rig.answer(UpdateDialog::Install);
-        const QStringList downloading{QStringLiteral("DownloadDialog")};
+        const QStringList downloading{"DownloadDialog"_s};
         QCOMPARE(rig.shown(), downloading);
         rig.updater->checkByUser(); // leads back to the download
         QCOMPARE(rig.state(), UpdateChecker::Downloading);
@@ -211,7 +208,7 @@ private slots:
         rig.updater->checkByUser();
         QTRY_COMPARE(rig.shown(), offered);
         rig.answer(UpdateDialog::Install);
-        QTRY_COMPARE(rig.shown(), QStringList{QStringLiteral("Failed to update")}); // nobody listens on port 9
+        QTRY_COMPARE(rig.shown(), QStringList{"Failed to update"_s}); // nobody listens on port 9
     }
 
     void nothingIsShownOrAskedWithoutAWindow()
@@ -243,7 +240,7 @@ private slots:
         rig.updater->checkIfDue();
         dialog->open();
         QTRY_COMPARE(rig.state(), UpdateChecker::UpdateAvailable);
-        QCOMPARE(rig.shown(), QStringList{QStringLiteral("QDialog")});
+        QCOMPARE(rig.shown(), QStringList{"QDialog"_s});
         dialog->hide();
         rig.updater->checkIfDue();
         QCOMPARE(rig.shown(), offered);
@@ -265,14 +262,14 @@ private slots:
         QFETCH(QByteArray, command);
         TestFolder folder;
         if (!command.isEmpty()) {
-            const QString script = folder.write(QStringLiteral("xdg-open"),
-                                                QByteArrayLiteral("#!/bin/sh\nPATH=/usr/bin:/bin\n") + command);
+            const QString script =
+                folder.write("xdg-open"_s, QByteArrayLiteral("#!/bin/sh\nPATH=/usr/bin:/bin\n") + command);
             QVERIFY(QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         }
         const QByteArray path = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(folder.path()));
         QVector<bool> reports;
-        openOnDesktop(QStringLiteral("/a"), [&reports](bool opened) { reports.append(opened); });
+        openOnDesktop("/a"_s, [&reports](bool opened) { reports.append(opened); });
         QTRY_VERIFY(!reports.isEmpty());
         qputenv("PATH", path);
         QTEST(reports.first(), "isOpened");
