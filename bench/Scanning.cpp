@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <vector>
+
 namespace {
 
 constexpr int filesPerFolder = 100;
@@ -40,6 +42,21 @@ void scan(const QString &root, int expected)
         qFatal("%d files were found instead of %d", found, expected);
 }
 
+// In the midst of a scan, from the user's word until it has ended.
+double cancelMilliseconds(const QString &root)
+{
+    FolderScanner scanner;
+    scanner.setTypes({QStringLiteral("mp3")});
+    scanner.addFolder(QUrl::fromLocalFile(root));
+    while (scanner.lastCount() == 0)
+        QCoreApplication::processEvents();
+    return 1000 * secondsOf([&scanner] {
+               scanner.cancel();
+               while (scanner.processing())
+                   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+           });
+}
+
 void findFiles(const QString &root)
 {
     QProcess find;
@@ -68,5 +85,12 @@ void benchScanning()
         BenchTable::printRow(name, files, times.work, times.reference, fewer, 4,
                              {2, fewer > 0 ? BenchTable::inStep : 0});
         fewer = times.work;
+        if (files == benchSize(50000)) {
+            std::vector<double> cancels;
+            while (cancels.size() < 9)
+                cancels.push_back(cancelMilliseconds(root.path()));
+            BenchTable::print(
+                {QStringLiteral("cancel a scan, until it has ended"), files, median(cancels), 0, 0, 0, {0, 0, 100}});
+        }
     }
 }
