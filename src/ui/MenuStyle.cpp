@@ -128,6 +128,19 @@ void MenuStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     const bool isField = control == CC_ComboBox || control == CC_SpinBox;
     if (isField && isStark(option->palette) && !(option->state & State_HasFocus))
         drawOutline(option, painter);
+    // Fusion's own mark is a shade of the window's colour.
+    if (control == CC_ToolButton && (option->state & State_HasFocus))
+        drawFocusRing(painter, option->rect, option->palette);
+}
+
+void MenuStyle::drawFocusRing(QPainter *painter, const QRect &button, const QPalette &palette)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(palette.color(QPalette::Highlight), 2));
+    painter->drawRoundedRect(QRectF(button).adjusted(1, 1, -1, -1), 4, 4);
+    painter->restore();
 }
 
 void MenuStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

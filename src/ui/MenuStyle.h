@@ -15,6 +15,9 @@ public:
     // Takes the place of the application's style when that is Fusion; the menus of other styles are their own.
     static void install();
 
+    // Around a tool button that has the keyboard; for those with a style sheet, which draw themselves.
+    static void drawFocusRing(QPainter *painter, const QRect &button, const QPalette &palette);
+
     void polish(QPalette &palette) override;
     using QProxyStyle::polish;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

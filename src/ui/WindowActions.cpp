@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/WindowActions.h"
 
+#include "ui/MenuStyle.h"
 #include "ui/Pictures.h"
 
 #include <QAction>
@@ -33,9 +34,7 @@ protected:
         if (!hasFocus())
             return;
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(window()->palette().color(QPalette::Highlight), 2));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+        MenuStyle::drawFocusRing(&painter, rect(), window()->palette());
     }
 };
 
