@@ -123,22 +123,6 @@
         <source>No file is selected</source>
         <translation>Keine Datei ausgewählt</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Interpret:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Interpret</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Titel:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titel</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1110,6 +1094,25 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Achtung! Alle Websites sind deaktiviert.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Interpret:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Interpret</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
     </message>
 </context>
 <context>

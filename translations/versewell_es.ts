@@ -123,22 +123,6 @@
         <source>No file is selected</source>
         <translation>Ningún archivo seleccionado</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Artista:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artista</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Título:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Título</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1110,6 +1094,25 @@ Comprobar que el nombre es correcto.</translation>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>¡Atención! Todos los sitios están desactivados.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Artista:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
     </message>
 </context>
 <context>

@@ -83,11 +83,11 @@
     <name>ConsentBar</name>
     <message>
         <source>May usage events be sent to the maker? Those about searches name artist and title.</source>
-        <translation>Autoriser l’envoi de données d’utilisation au développeur ? Pour les recherches, elles contiennent l’artiste et le titre.</translation>
+        <translation>Autoriser l’envoi de données d’utilisation au développeur&#x202f;? Pour les recherches, elles contiennent l’artiste et le titre.</translation>
     </message>
     <message>
         <source>What is sent?</source>
-        <translation>Qu’est-ce qui est envoyé ?</translation>
+        <translation>Qu’est-ce qui est envoyé&#x202f;?</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
@@ -122,22 +122,6 @@
     <message>
         <source>No file is selected</source>
         <translation>Aucun fichier sélectionné</translation>
-    </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Artiste :</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artiste</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Titre :</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titre</translation>
     </message>
 </context>
 <context>
@@ -217,7 +201,7 @@
     <name>ExitWidget</name>
     <message>
         <source>Do you want to quit anyway?</source>
-        <translation>Voulez-vous quitter quand même ?</translation>
+        <translation>Voulez-vous quitter quand même&#x202f;?</translation>
     </message>
     <message numerus="yes">
         <source>Search for %n songs is currently in progress.</source>
@@ -344,7 +328,7 @@
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation>Voulez-vous enregistrer les modifications ?</translation>
+        <translation>Voulez-vous enregistrer les modifications&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -360,7 +344,7 @@
     </message>
     <message>
         <source>These lyrics are very long; their beginning is shown.</source>
-        <translation>Ces paroles sont très longues ; seul le début est affiché.</translation>
+        <translation>Ces paroles sont très longues&#x202f;; seul le début est affiché.</translation>
     </message>
 </context>
 <context>
@@ -943,7 +927,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>All settings will be removed and returned to default values. Are you sure?</source>
-        <translation>Tous les paramètres seront effacés et rétablis à leur valeur par défaut. Voulez-vous continuer ?</translation>
+        <translation>Tous les paramètres seront effacés et rétablis à leur valeur par défaut. Voulez-vous continuer&#x202f;?</translation>
     </message>
     <message>
         <source>All settings were cleared. The program starts anew after OK.</source>
@@ -1109,7 +1093,26 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
-        <translation>Attention ! Tous les sites sont désactivés.</translation>
+        <translation>Attention&#x202f;! Tous les sites sont désactivés.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Artiste :</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artiste</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
     </message>
 </context>
 <context>
@@ -1249,11 +1252,11 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>The settings file was damaged. What could be read is kept; the damaged file is now %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation>Le fichier de paramètres était endommagé. Ce qui a pu être lu est conservé ; le fichier endommagé est désormais %1</translation>
+        <translation>Le fichier de paramètres était endommagé. Ce qui a pu être lu est conservé&#x202f;; le fichier endommagé est désormais %1</translation>
     </message>
     <message>
         <source>The settings cannot be read or stored; changes last for this run only.</source>
-        <translation>Les paramètres ne peuvent être ni lus ni enregistrés ; les modifications ne valent que pour cette session.</translation>
+        <translation>Les paramètres ne peuvent être ni lus ni enregistrés&#x202f;; les modifications ne valent que pour cette session.</translation>
     </message>
     <message numerus="yes">
         <source>Files left out, since their names are damaged or too long: %n</source>
@@ -1282,7 +1285,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation>Un enregistrement a été interrompu et ne peut pas être annulé, car ces chansons sont inaccessibles ; une nouvelle tentative a lieu à chaque démarrage : %1</translation>
+        <translation>Un enregistrement a été interrompu et ne peut pas être annulé, car ces chansons sont inaccessibles&#x202f;; une nouvelle tentative a lieu à chaque démarrage : %1</translation>
     </message>
     <message numerus="yes">
         <source>Songs that could not be written: %n (%1)</source>
@@ -1386,7 +1389,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>the disk failed; the file will be restored at the next start</source>
-        <translation>défaillance du disque ; le fichier sera restauré au prochain démarrage</translation>
+        <translation>défaillance du disque&#x202f;; le fichier sera restauré au prochain démarrage</translation>
     </message>
     <message>
         <source>the file could not be saved</source>
@@ -1408,7 +1411,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Do you want to give them up?</source>
-        <translation>Voulez-vous les abandonner ?</translation>
+        <translation>Voulez-vous les abandonner&#x202f;?</translation>
     </message>
     <message numerus="yes">
         <source>The changed artist or title of %n song(s) is not in the file yet.</source>
@@ -1419,7 +1422,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation>Voulez-vous enregistrer les modifications ?</translation>
+        <translation>Voulez-vous enregistrer les modifications&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -1534,15 +1537,15 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Update available!</source>
-        <translation>Mise à jour disponible !</translation>
+        <translation>Mise à jour disponible&#x202f;!</translation>
     </message>
     <message>
         <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
-        <translation>Une nouvelle version de &lt;b&gt;%appName&lt;/b&gt; est disponible !</translation>
+        <translation>Une nouvelle version de &lt;b&gt;%appName&lt;/b&gt; est disponible&#x202f;!</translation>
     </message>
     <message>
         <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
-        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; est disponible – vous avez la version &lt;b&gt;%oldVersion&lt;/b&gt;. Voulez-vous la télécharger maintenant ?</translation>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; est disponible – vous avez la version &lt;b&gt;%oldVersion&lt;/b&gt;. Voulez-vous la télécharger maintenant&#x202f;?</translation>
     </message>
     <message>
         <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
@@ -1615,7 +1618,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
-        <translation>Ceci est envoyé chaque fois que la recherche d’une chanson commence ; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour, les clics vers les pages du développeur et une fenêtre qui ne peut pas être affichée sont signalés de la même façon, sans nom de chanson.</translation>
+        <translation>Ceci est envoyé chaque fois que la recherche d’une chanson commence&#x202f;; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour, les clics vers les pages du développeur et une fenêtre qui ne peut pas être affichée sont signalés de la même façon, sans nom de chanson.</translation>
     </message>
 </context>
 <context>

@@ -123,22 +123,6 @@
         <source>No file is selected</source>
         <translation>Nessun file selezionato</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Artista:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artista</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Titolo:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titolo</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1110,6 +1094,25 @@ Verificare che il nome della cartella sia corretto.</translation>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Attenzione! Tutti i siti sono disattivati.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Artista:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titolo:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
     </message>
 </context>
 <context>

@@ -122,22 +122,6 @@
         <source>No file is selected</source>
         <translation>ファイルが選択されていません</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>アーティスト:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>アーティスト</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>タイトル:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>タイトル</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1106,6 +1090,25 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>警告: すべての検索元が無効になっています。</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>アーティスト:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>アーティスト</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>タイトル:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
     </message>
 </context>
 <context>

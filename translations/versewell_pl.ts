@@ -124,22 +124,6 @@
         <source>No file is selected</source>
         <translation>Nie zaznaczono żadnego pliku</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Wykonawca:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Wykonawca</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Tytuł:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Tytuł</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1114,6 +1098,25 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Uwaga!!! Wszystkie źródła są wyłączone.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Wykonawca:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Wykonawca</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Tytuł:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Tytuł</translation>
     </message>
 </context>
 <context>

@@ -123,22 +123,6 @@
         <source>No file is selected</source>
         <translation>Nenhum ficheiro selecionado</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Artista:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Artista</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Título:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Título</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1110,6 +1094,25 @@ Verificar se o nome da pasta está correto.</translation>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Atenção! Todos os sites estão desativados.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Artista:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
     </message>
 </context>
 <context>

@@ -124,22 +124,6 @@
         <source>No file is selected</source>
         <translation>Файл не выбран</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Исполнитель:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Исполнитель</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Название:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Название</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1114,6 +1098,25 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Внимание!!! Все источники отключены.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Исполнитель:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Исполнитель</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Название</translation>
     </message>
 </context>
 <context>

@@ -122,22 +122,6 @@
         <source>No file is selected</source>
         <translation>Seçili dosya yok</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Sanatçı:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Sanatçı</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Başlık:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Başlık</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1106,6 +1090,25 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Uyarı! Tüm kaynaklar devre dışı bırakıldı.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Sanatçı:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Sanatçı</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Başlık:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Başlık</translation>
     </message>
 </context>
 <context>

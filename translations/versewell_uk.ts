@@ -124,22 +124,6 @@
         <source>No file is selected</source>
         <translation>Файл не вибрано</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>Виконавець:</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>Виконавець</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Назва:</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Назва</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1114,6 +1098,25 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>Увага!!! Усі джерела вимкнено.</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>Виконавець:</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Виконавець</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Назва:</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Назва</translation>
     </message>
 </context>
 <context>

@@ -122,22 +122,6 @@
         <source>No file is selected</source>
         <translation>未选择文件</translation>
     </message>
-    <message>
-        <source>Artist:</source>
-        <translation>艺术家：</translation>
-    </message>
-    <message>
-        <source>Artist</source>
-        <translation>艺术家</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>标题：</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>标题</translation>
-    </message>
 </context>
 <context>
     <name>DownloadDialog</name>
@@ -1106,6 +1090,25 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
         <translation>警告！所有来源均已停用。</translation>
+    </message>
+</context>
+<context>
+    <name>SongDetails</name>
+    <message>
+        <source>Artist:</source>
+        <translation>艺术家：</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>艺术家</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>标题：</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
     </message>
 </context>
 <context>

@@ -26,21 +26,33 @@ Rectangle {
     signal copyRequested(int id)
     signal browserRequested(url source)
 
-    readonly property bool lyricsFocused: lyrics.focused
+    readonly property bool lyricsFocused: details.item !== null && details.item.lyricsFocused
+    readonly property bool tagsLoaded: state.tagsLoaded
+    readonly property string stateLine: state.line
+
+    function makeDetails() {
+        if (song !== null && details.item === null)
+            details.setSource("SongDetails.qml", { pane: pane });
+    }
 
     function focusLyrics() {
-        lyrics.takeFocus();
+        if (details.item !== null)
+            details.item.focusLyrics();
     }
 
     function beginEdit() {
-        lyrics.beginEdit();
+        if (details.item !== null)
+            details.item.beginEdit();
     }
 
     // Names that were typed for the song of this id but not confirmed yet.
     function confirmNames(id) {
-        artist.confirmOf(id);
-        title.confirmOf(id);
+        if (details.item !== null)
+            details.item.confirmNames(id);
     }
+
+    onSongChanged: makeDetails()
+    Component.onCompleted: makeDetails()
 
     color: appPalette.window
 
@@ -73,84 +85,10 @@ Rectangle {
         Accessible.name: text
     }
 
-    ColumnLayout {
+    // Not before there is a song: a start with an empty list need not wait for it.
+    Loader {
+        id: details
+
         anchors { fill: parent; margins: Measures.margin }
-        spacing: Measures.margin
-        visible: pane.song !== null
-
-        AudioPreview {
-            objectName: "audioPreview"
-            Layout.fillWidth: true
-            source: pane.song ? pane.song.url : ""
-        }
-
-        GridLayout {
-            Layout.fillWidth: true
-            columns: 2
-            columnSpacing: Measures.grid
-            rowSpacing: Measures.grid
-            enabled: state.tagsLoaded
-
-            Text {
-                Layout.alignment: Qt.AlignRight | Qt.AlignVCenter
-                text: qsTr("Artist:")
-                textFormat: Text.PlainText
-                font.pixelSize: Measures.fieldFont
-                color: appPalette.windowText
-                opacity: Measures.quiet
-            }
-
-            EditableField {
-                id: artist
-
-                objectName: "artistField"
-                Layout.fillWidth: true
-                subject: pane.song
-                role: "artistTag"
-                unsaved: pane.saveOffered && pane.song.artistEdited
-                label: qsTr("Artist")
-            }
-
-            Text {
-                Layout.alignment: Qt.AlignRight | Qt.AlignVCenter
-                text: qsTr("Title:")
-                textFormat: Text.PlainText
-                font.pixelSize: Measures.fieldFont
-                color: appPalette.windowText
-                opacity: Measures.quiet
-            }
-
-            EditableField {
-                id: title
-
-                objectName: "titleField"
-                Layout.fillWidth: true
-                subject: pane.song
-                role: "titleTag"
-                unsaved: pane.saveOffered && pane.song.titleEdited
-                label: qsTr("Title")
-            }
-        }
-
-        LyricsItem {
-            id: lyrics
-
-            objectName: "lyricsItem"
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            song: pane.song
-            edit: pane.edit
-            stateLine: state.line
-            searchOffered: pane.searchOffered
-            saveOffered: pane.saveOffered
-            onSaveRequested: pane.saveRequested()
-            onSearchRequested: {
-                pane.confirmNames(pane.song.id);
-                mainModel.startSearch(pane.song.id);
-            }
-            onForceSearchRequested: pane.forceSearchRequested()
-            onCopyRequested: pane.copyRequested(id)
-            onBrowserRequested: pane.browserRequested(source)
-        }
     }
 }

@@ -480,9 +480,9 @@ private slots:
         QFile player(m_folder.filePath("Player.qml"_s));
         QVERIFY(player.open(QIODevice::WriteOnly) && player.write("import NoSuchModule 1.0\nMediaPlayer {}\n") > 0);
         player.close();
-        part("audioPreview")->setProperty("playerDocument", QUrl::fromLocalFile(player.fileName()));
         m_model->add({sample("lyrics.mp3")});
         QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+        part("audioPreview")->setProperty("playerDocument", QUrl::fromLocalFile(player.fileName()));
         QVERIFY(QMetaObject::invokeMethod(part("audioPreview"), "toggle"));
         QVERIFY(part("audioPreview")->property("missing").toBool());
         QVERIFY(!part("playButton")->isEnabled());
