@@ -14,9 +14,9 @@
 static constexpr double frameStrength = 0.4;
 static constexpr double separatorStrength = 0.25;
 static constexpr int separatorMargin = 6;
-// What WCAG 2.1 asks of text, and by how much a colour is changed at a time until it has that.
+// What WCAG 2.1 asks of text, and how many tones between a colour and the text's are tried for it.
 static constexpr double textContrast = 4.5;
-static constexpr double toneStep = 0.1;
+static constexpr int tones = 10;
 // Of at most 21; no palette that is drawn to be looked at has so much.
 static constexpr double starkContrast = 20;
 static constexpr double starkOutlineStrength = 0.6;
@@ -38,9 +38,9 @@ static qreal leastContrast(const QColor &color, const QPalette &palette)
 // The colour, or the next of its tones that can be read on the palette's grounds; the text's own when none can.
 static QColor readable(const QColor &color, const QPalette &palette)
 {
-    const QColor text = palette.color(QPalette::Active, QPalette::Text);
-    for (double share = 0; share < 1; share += toneStep) {
-        const QColor tone = AppPalette::mixedColor(text, color, share);
+    const QColor &text = palette.color(QPalette::Active, QPalette::Text);
+    for (int step = 0; step < tones; ++step) {
+        const QColor tone = AppPalette::mixedColor(text, color, double(step) / tones);
         if (leastContrast(tone, palette) >= textContrast)
             return tone;
     }
