@@ -5,6 +5,7 @@
 #include "lyrics/LyricsText.h"
 #include "model/DelayedFileCheck.h"
 #include "model/FileManager.h"
+#include "model/RemovedItems.h"
 #include "settings/Settings.h"
 
 #include <QFileInfo>
@@ -348,22 +349,23 @@ void MainModel::removeScattered(const QVector<int> &rows)
                   [this](const Range &range) { removeRows(range.first, range.last - range.first + 1); });
 }
 
-// Takes removed items out of every queue; they are deleted when control is back in the event loop, since the scene may
-// still hold them.
+// Takes removed items out of every queue.
 void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
 {
     const int activeBefore = m_activeCount;
     QVector<quint16> ids;
+    std::vector<std::unique_ptr<ModelItem>> items;
     bool readAbandoned = false;
     for (ItemStore::Taken &taken : removed) {
-        ModelItem *item = taken.item.release();
+        const ModelItem *item = taken.item.get();
         disconnect(item, nullptr, this, nullptr);
         m_activeCount -= item->active() ? 1 : 0;
         m_searchable.erase(taken.sequence);
         ids.append(item->id());
         readAbandoned = m_reads.remove(item->id(), taken.sequence) || readAbandoned;
-        item->deleteLater();
+        items.push_back(std::move(taken.item));
     }
+    new RemovedItems(std::move(items), this); // goes with the last of them
     forgetUnsaved(ids);
     if (m_activeCount != activeBefore)
         emit activeCountChanged();
