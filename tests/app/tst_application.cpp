@@ -4,6 +4,7 @@
 #include "app/GraphicsBackend.h"
 #include "app/Stage.h"
 #include "support/AsOrdinaryUser.h"
+#include "support/FullDisk.h"
 #include "support/TestTable.h"
 
 #include <QDesktopServices>
@@ -13,11 +14,9 @@
 #include <QSettings>
 #include <QTest>
 
-#include <csignal>
 #include <functional>
 #include <memory>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -135,9 +134,7 @@ private slots:
         const bool isStored = app->settings()->save();
         m_user.reset();
         m_other.reset();
-        if (m_usualSize.rlim_max != 0)
-            QCOMPARE(setrlimit(RLIMIT_FSIZE, &m_usualSize), 0);
-        m_usualSize = {};
+        m_disk.reset();
         QTEST(fontSize, "fontSize");
         QVERIFY(!isStored && !app->areSettingsStored());
         QVERIFY(app->settingsMending().damaged && app->settingsMending().copy.isEmpty());
@@ -265,21 +262,14 @@ private:
             stage.folder.write(stage.settingsFile + (i == 1 ? ".bad"_s : ".bad.%1"_s.arg(i)), "other");
     }
 
-    static void fillDisk(const Stage &)
-    {
-        signal(SIGXFSZ, SIG_IGN);
-        QVERIFY(getrlimit(RLIMIT_FSIZE, &m_usualSize) == 0);
-        const rlimit none{0, m_usualSize.rlim_max};
-        QVERIFY(setrlimit(RLIMIT_FSIZE, &none) == 0);
-    }
-
+    static void fillDisk(const Stage &) { m_disk = std::make_unique<FullDisk>(); }
     static void runAnother(const Stage &stage) { m_other = std::make_unique<SingleInstance>(stage.lockFile()); }
 
     QList<QUrl> m_opened;
     // What the obstacles put up until a test has looked.
     static inline std::unique_ptr<AsOrdinaryUser> m_user;
     static inline std::unique_ptr<SingleInstance> m_other;
-    static inline rlimit m_usualSize = {};
+    static inline std::unique_ptr<FullDisk> m_disk;
 };
 
 QTEST_APPLESS_MAIN(tst_Application)

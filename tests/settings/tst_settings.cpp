@@ -3,6 +3,7 @@
 
 #include "settings/SettingsChange.h"
 #include "settings/SettingsKeys.h"
+#include "support/FullDisk.h"
 #include "support/TestFolder.h"
 #include "support/TestTable.h"
 
@@ -13,8 +14,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <csignal>
-#include <sys/resource.h>
+#include <optional>
 
 namespace {
 
@@ -188,15 +188,11 @@ private slots:
         QVERIFY(settings.save());
         const QByteArray before = m_folder.read(m_path);
         settings.setLanguage("fr"_s);
-        signal(SIGXFSZ, SIG_IGN);
-        rlimit usual = {};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
         for (int room = 0; room < before.size(); room += 3) {
-            const rlimit full{static_cast<rlim_t>(room), usual.rlim_max};
             QTest::ignoreMessage(QtWarningMsg, "The settings cannot be stored: their file cannot be written.");
-            QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+            std::optional<FullDisk> disk(room);
             const bool saved = settings.save();
-            QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+            disk.reset();
             QVERIFY2(!saved, qPrintable(QString::number(room)));
             QCOMPARE(m_folder.read(m_path), before);
         }

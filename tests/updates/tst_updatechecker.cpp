@@ -2,6 +2,7 @@
 #include "updates/UpdateChecker.h"
 
 #include "network/Endpoints.h"
+#include "support/FullDisk.h"
 #include "support/LoopbackServer.h"
 #include "support/TestFolder.h"
 #include "support/TestTable.h"
@@ -10,10 +11,8 @@
 #include <QSettings>
 #include <QtTest>
 
-#include <csignal>
 #include <memory>
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -524,13 +523,8 @@ private slots:
         Maker maker(m_publicKey, m_signature);
         maker.serve(LoopbackResponse::page(QByteArray(200000, 'a')));
         maker.run(checked);
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit before = {};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit small = {100000, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
+        const FullDisk disk(100000);
         maker.run("download: Downloading Error: Can't get update: "_s + qt_error_string(EFBIG));
-        setrlimit(RLIMIT_FSIZE, &before);
         QCOMPARE(maker.files(), QStringList());
     }
 
