@@ -11,7 +11,7 @@ import re
 import subprocess
 import sys
 
-DOCUMENTS = ["README.md", "ARCHITECTURE.md", "CONTRIBUTING.md", "CHANGELOG.md"]
+DOCUMENTS = ["README.md", "ARCHITECTURE.md", "CONTRIBUTING.md", "CHANGELOG.md", "docs/performance.md"]
 LICENCE = "SPDX-License-Identifier: MIT"
 SOURCES = {".h", ".cpp", ".qml", ".js", ".py", ".cmake", ".toml", ".sh"}
 
