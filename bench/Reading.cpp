@@ -63,8 +63,8 @@ int readThroughModel(const QList<QUrl> &urls, double *longestTurn)
     MainModel model;
     model.setReaderProgram(QCoreApplication::applicationFilePath());
     model.setAutoStart(false);
-    model.add(urls);
-    while (!model.itemAt(urls.size() - 1)->tagsLoaded())
+    model.add(urls, MainModel::IsRegularFile); // as files that were found in folders
+    while (model.rowCount() < urls.size() || !model.itemAt(urls.size() - 1)->tagsLoaded())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     int covers = 0;
     for (int row = 0; row < model.rowCount(); ++row)
