@@ -87,7 +87,10 @@ void UpdateDialog::createHeaders(QVBoxLayout *layout)
             layout->addWidget(header);
     }
     QFont font = m_headers[Title]->font();
-    font.setPointSizeF(font.pointSizeF() * titleSize);
+    if (font.pixelSize() > 0) // a desktop that sets its font in pixels
+        font.setPixelSize(qRound(font.pixelSize() * titleSize));
+    else
+        font.setPointSizeF(font.pointSizeF() * titleSize);
     m_headers[Title]->setFont(font);
     m_headers[Notes]->setBuddy(m_notes);
 }
