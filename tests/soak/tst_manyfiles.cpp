@@ -30,7 +30,6 @@ private slots:
         model->add(first);
 
         scanner->addFolder(QUrl::fromLocalFile(music.path()));
-        QTRY_VERIFY(scanner->lastCount() > 0);
         scanner->cancel();
         QTRY_VERIFY(!scanner->processing());
         QCOMPARE(model->urls().size(), first.size());
