@@ -524,13 +524,23 @@ QVector<quint16> MainModel::idsWithUnsavedLyrics() const
 
 bool MainModel::writeTags(quint16 id)
 {
+    // Who saves once more, after being told of another program's change, means it.
+    return write(id, m_writes.isForeignChangeTold(id));
+}
+
+bool MainModel::writeTagsUnlessForeign(quint16 id)
+{
+    return write(id, false);
+}
+
+bool MainModel::write(quint16 id, bool insists)
+{
     ModelItem *item = m_items.find(id);
     if (!item || !item->tagsLoaded())
         return false;
     if (item->processState() == ModelItem::ProcessWorking)
         m_overruled.insert(id);
-    // Who saves once more, after being told of another program's change, means it.
-    startWriting(item, m_writes.isForeignChangeTold(id));
+    startWriting(item, insists);
     return true;
 }
 

@@ -131,6 +131,9 @@ public:
     // Queues a write of the item's names and lyrics into its file; false when there is no such item or its tags are
     // not loaded, since the write would replace what nobody has seen.
     Q_INVOKABLE bool writeTags(quint16 id);
+    // The same, but lyrics that another program has stored meanwhile stay, however often it is called: for whoever was
+    // asked about something else.
+    bool writeTagsUnlessForeign(quint16 id);
 
 public slots:
     // Appends the urls that name regular local files and are not listed yet. One call is one request for a read.
@@ -186,6 +189,7 @@ private:
     void forgetItems(std::vector<ItemStore::Taken> removed);
     void feedSearches();
     void useTags(quint16 id, const MediaFileTags &tags);
+    bool write(quint16 id, bool insists);
     void startWriting(ModelItem *item, bool insists);
     [[nodiscard]] LyricsFileWriter &automaticExports();
     static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);

@@ -96,7 +96,7 @@ void UnsavedLyricsGuard::beforeGivingUpNames(std::function<void()> action)
         const auto answered = [this, ids, action](int answer) {
             if (answer == QMessageBox::Save) {
                 for (const quint16 id : ids)
-                    m_model->writeTags(id);
+                    m_model->writeTagsUnlessForeign(id);
                 beforeGivingUpNames(action);
             } else if (answer == QMessageBox::Discard) {
                 action();
