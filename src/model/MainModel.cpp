@@ -5,7 +5,6 @@
 #include "lyrics/LyricsText.h"
 #include "model/DelayedFileCheck.h"
 #include "model/FileManager.h"
-#include "model/RemovedItems.h"
 #include "settings/Settings.h"
 
 #include <QFileInfo>
@@ -365,7 +364,7 @@ void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
         readAbandoned = m_reads.remove(item->id(), taken.sequence) || readAbandoned;
         items.push_back(std::move(taken.item));
     }
-    new RemovedItems(std::move(items), this); // goes with the last of them
+    m_removed.add(std::move(items));
     forgetUnsaved(ids);
     if (m_activeCount != activeBefore)
         emit activeCountChanged();

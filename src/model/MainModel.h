@@ -5,6 +5,7 @@
 #include "model/ItemStore.h"
 #include "model/LyricsFileWriter.h"
 #include "model/ReadQueue.h"
+#include "model/RemovedItems.h"
 #include "model/SongWrites.h"
 #include "tags/MediaFileTags.h"
 
@@ -92,6 +93,8 @@ public:
     [[nodiscard]] ModelItem *itemAt(int row) const { return m_items.itemAt(row); }
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
+    // Whether its read was overtaken by a newer one: it stays unread until a search of it is forced.
+    [[nodiscard]] bool isReadOvertaken(quint16 id) const { return m_reads.isOvertaken(id); }
     // Lyrics that are in the list only, since their last write failed or was refused.
     [[nodiscard]] int unsavedCount() const { return unsavedIds().size(); }
     [[nodiscard]] QVector<quint16> unsavedIds() const;
@@ -200,6 +203,7 @@ private:
     static void setNotSuitable(ModelItem *item);
 
     ItemStore m_items;
+    RemovedItems m_removed;
     quint16 m_lastId = 0;
     IncomingFiles m_incoming;
     QStringList m_extensions;

@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "model/RemovedItems.h"
 
-#include <algorithm>
+#include <QDeadlineTimer>
+
+#include <chrono>
+#include <iterator>
 #include <utility>
 
-// How many are deleted in one turn of the event loop: a few milliseconds of work.
-constexpr std::size_t blockSize = 1000;
+// How long one turn of the event loop deletes: a quarter of a frame.
+constexpr std::chrono::milliseconds turnTime(4);
 
-RemovedItems::RemovedItems(std::vector<std::unique_ptr<ModelItem>> items, QObject *parent)
-    : QObject(parent)
-    , m_items(std::move(items))
+void RemovedItems::add(Items items)
 {
-    startTimer(0);
+    m_items.insert(m_items.end(), std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
+    if (!m_items.empty() && !m_nextTurn.isActive())
+        m_nextTurn.start(0, this);
 }
 
 void RemovedItems::timerEvent(QTimerEvent *)
 {
-    m_items.resize(m_items.size() - std::min(blockSize, m_items.size()));
-    if (m_items.empty())
-        deleteLater();
+    const QDeadlineTimer turnEnd(turnTime);
+    while (!m_items.empty() && !turnEnd.hasExpired())
+        m_items.pop_back();
+    if (!m_items.empty())
+        return;
+    m_nextTurn.stop();
+    m_items.shrink_to_fit();
 }
