@@ -192,6 +192,7 @@ int main(int argc, char **argv)
     app.setUpLanguages();
     app.noteStart();
     status = runWindow(app, signalsToEnd);
+    app.folderScanner()->cancel();
     finishWrites();
     keepLyrics(app, isTerminated);
     app.mainModel()->stopReading();
