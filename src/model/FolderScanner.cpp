@@ -4,6 +4,12 @@
 #include "model/DelayedFolderScanner.h"
 
 #include <QThreadPool>
+#include <QTimer>
+
+#include <chrono>
+
+// A walk that was cancelled and has not reported by then waits for a disk that may never answer.
+constexpr std::chrono::milliseconds cancelPatience(100);
 
 FolderScanner::FolderScanner(QObject *parent)
     : QObject(parent)
@@ -51,7 +57,11 @@ void FolderScanner::scanNext()
     auto *walk = new DelayedFolderScanner(m_folders.first(), m_walked);
     walk->setNameFilters(nameFilters());
     m_current = walk->progress();
-    connect(walk, &DelayedFolderScanner::scanned, this, &FolderScanner::scanned, Qt::QueuedConnection);
+    const auto report = [this, walked = m_current](const QString &folder, const QList<QUrl> &files) {
+        if (walked == m_current)
+            scanned(folder, files);
+    };
+    connect(walk, &DelayedFolderScanner::scanned, this, report, Qt::QueuedConnection);
     QThreadPool::globalInstance()->start(walk);
     emit processingChanged(true);
 }
@@ -89,4 +99,8 @@ void FolderScanner::cancel()
     m_current->cancel();
     m_folders.clear();
     emit foldersChanged();
+    QTimer::singleShot(cancelPatience, this, [this, cancelled = m_current] {
+        if (cancelled == m_current)
+            scanned({}, {}); // in its stead
+    });
 }

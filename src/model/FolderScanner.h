@@ -50,7 +50,8 @@ public slots:
     void scanned(const QString &folder, const QList<QUrl> &files);
     void scanNext();
     void addFolder(const QUrl &folder);
-    // Ends the walk under way, which then reports no files, and empties the queue.
+    // Ends the walk under way, which then reports no files, and empties the queue. A walk whose disk does not answer
+    // within a tenth of a second is left to itself: it counts as ended, and other folders can be walked.
     void cancel();
 
 private:

@@ -196,6 +196,22 @@ private slots:
         QCOMPARE(songs.found(), words("a/1.mp3"));
     }
 
+    void aCancelledWalkThatDoesNotEndHoldsUpNothing()
+    {
+        Tree songs(words("a/1.mp3"));
+        QThreadPool &pool = *QThreadPool::globalInstance();
+        QSemaphore disk;
+        for (int i = 0; i < pool.maxThreadCount(); ++i)
+            pool.start([&disk] { disk.acquire(); });
+        songs.scanner.addFolder(songs.folder.url("a"_s));
+        songs.scanner.cancel();
+        QTRY_VERIFY(!songs.scanner.processing());
+        songs.scanner.addFolder(songs.folder.url("a"_s));
+        disk.release(pool.maxThreadCount()); // the walk that was given up reports before the other one
+        QTRY_VERIFY(!songs.scanner.processing());
+        QCOMPARE(songs.found(), words("a/1.mp3"));
+    }
+
     void aWalkThatTakesLongLeavesThePoolToOthers()
     {
         QThreadPool &pool = *QThreadPool::globalInstance();
