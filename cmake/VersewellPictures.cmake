@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-# Pictures: drawn as SVG, rendered while building, compiled into the program as ":/img/<name>.png" and
-# ":/img/<name>@2x.png".
+# Pictures: drawn as SVG, rendered while building, compiled into the program as ":/img/<name>.png",
+# ":/img/<name>@2x.png" and ":/img/<name>@4x.png".
 find_program(RSVG_CONVERT rsvg-convert REQUIRED DOC "Renders SVG to PNG (Debian package librsvg2-bin)")
 
-# Renders the drawing ${source} to the two PNGs of the picture ${name}, ${size} pixels wide and high at 1x; a style sheet
+# Renders the drawing ${source} to the three PNGs of the picture ${name}, ${size} pixels wide and high at 1x; a style sheet
 # may follow. Adds to what the caller has in files (PNGs) and entries (lines of the resource list).
 macro(_versewell_render_picture name size source)
     set(style ${ARGN})
@@ -11,11 +11,11 @@ macro(_versewell_render_picture name size source)
     if(style)
         set(with_style --stylesheet "${style}")
     endif()
-    foreach(scale 1 2)
+    foreach(scale 1 2 4)
         math(EXPR pixels "${size} * ${scale}")
         set(file "${name}.png")
-        if(scale EQUAL 2)
-            set(file "${name}@2x.png")
+        if(scale GREATER 1)
+            set(file "${name}@${scale}x.png")
         endif()
         add_custom_command(OUTPUT "${folder}/${file}"
             COMMAND "${RSVG_CONVERT}" ${with_style} --width ${pixels} --height ${pixels} --output "${folder}/${file}" "${source}"

@@ -94,7 +94,7 @@ Item {
         id: noCover
 
         anchors.fill: cover
-        source: "qrc:/img/no-coverart.png"
+        source: "qrc:/img/no-coverart" + Measures.pictureEnd
         visible: cover.status !== Image.Ready
     }
 
@@ -178,7 +178,7 @@ Item {
         anchors { right: word.left; rightMargin: width > 0 ? Measures.halfGrid : 0; verticalCenter: light.verticalCenter }
         width: source == "" ? 0 : Measures.icon
         height: Measures.icon
-        source: state.unsaved ? "qrc:/img/exclamation.png" : ""
+        source: state.unsaved ? "qrc:/img/exclamation" + Measures.pictureEnd : ""
     }
 
     Text {
@@ -209,7 +209,7 @@ Item {
         anchors { right: parent.right; rightMargin: Measures.rowMargin; bottom: parent.bottom; bottomMargin: 5 }
         width: source == "" ? 0 : Measures.light
         height: Measures.light
-        source: state.lightSource
+        source: state.lightSource.replace(".png", Measures.pictureEnd)
     }
 
     Rectangle {

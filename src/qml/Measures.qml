@@ -3,8 +3,8 @@ pragma Singleton
 import QtQuick 2.2
 import com.quillmarsh 1.0
 
-// All sizes and distances of the scene in pixels, its durations in milliseconds, and how strong its quiet parts are. What
-// holds text grows with the desktop's; pictures and distances stay.
+// All sizes and distances of the scene in pixels, its durations in milliseconds, and how strong its quiet parts are.
+// Texts, what holds them, pictures and what is pressed grow with the desktop's text; distances stay.
 QtObject {
     readonly property Legibility legibility: Legibility {}
     readonly property real textScale: legibility.textScale
@@ -14,6 +14,12 @@ QtObject {
     // Pictures for the highlight colour are white, and some palettes write on it in black.
     readonly property bool whiteOnHighlight: legibility.contrast(appPalette.highlightedText, "white")
                                              < legibility.contrast(appPalette.highlightedText, "black")
+
+    // The end of the name of a picture in the resources that is sharp at this size of text. Pictures of rows are named by it;
+    // those that come from the provider are asked for by their size.
+    readonly property string pictureEnd: textScale * screenRatio <= 1 ? ".png" : textScale * screenRatio <= 2 ? "@2x.png" : "@4x.png"
+    // Device pixels in a pixel of the scene. Set by the scene, since a singleton is on no screen.
+    property real screenRatio: 1
 
     function scaled(pixels) {
         return Math.round(textScale * pixels);
@@ -35,29 +41,29 @@ QtObject {
     readonly property int splitterStep: 16
 
     readonly property int rowHeight: scaled(60)
-    readonly property int coverSide: 44
+    readonly property int coverSide: scaled(44)
     readonly property int coverMargin: 10
-    readonly property int textColumn: 66
+    readonly property int textColumn: coverMargin + coverSide + 12
     readonly property int titleTop: scaled(7)
     readonly property int artistTop: scaled(24)
     readonly property int fileNameTop: scaled(41)
     readonly property int rowMargin: 14
     // Of the text's width at most; the file's name has the rest. Large text has few letters in a row.
     readonly property real wordShare: textScale > 1 ? 0.7 : 0.5
-    readonly property int light: 16
-    readonly property int locateButton: 24
+    readonly property int light: scaled(16)
+    readonly property int locateButton: scaled(24)
     readonly property int textButton: scaled(24)
 
     readonly property int barHeight: scaled(34)
     readonly property int fieldHeight: scaled(28)
-    readonly property int toolbarHeight: 37
-    readonly property int button: 28
-    readonly property int icon: 16
-    readonly property int playButton: 32
-    readonly property int sliderGroove: 4
-    readonly property int sliderKnob: 12
-    readonly property int emptyPicture: 96
-    readonly property int scrollBar: 10
+    readonly property int toolbarHeight: scaled(37)
+    readonly property int button: scaled(28)
+    readonly property int icon: scaled(16)
+    readonly property int playButton: scaled(32)
+    readonly property int sliderGroove: scaled(4)
+    readonly property int sliderKnob: scaled(12)
+    readonly property int emptyPicture: scaled(96)
+    readonly property int scrollBar: scaled(10)
     // Below this width the names of found lyrics stand under the buttons instead of beside them.
     readonly property int sideBySideWidth: scaled(480)
 

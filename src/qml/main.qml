@@ -2,6 +2,7 @@
 import QtQuick 2.5
 import QtQuick.Controls 1.1
 import QtQuick.Layouts 1.0
+import QtQuick.Window 2.2
 import "."
 
 // The whole of the window's content: the list of songs at the left, the selected song at the right. It talks to the
@@ -101,6 +102,12 @@ Rectangle {
         layOutPanes();
         showSelectedSong();
         list.takeFocus();
+    }
+
+    Binding {
+        target: Measures
+        property: "screenRatio"
+        value: Screen.devicePixelRatio
     }
 
     Connections {

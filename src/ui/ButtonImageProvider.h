@@ -5,7 +5,9 @@
 
 // Serves the pictures of buttons to the scene, as "image://btnimage/<name>/<device pixel ratio>/<colour>": the picture
 // ":/img/<name>.png", or ":/img/<name>@2x.png" on dense screens. The colour is part of the address, so that a change of
-// the palette asks anew, but the picture is not tinted. A malformed address or a missing picture is an empty pixmap.
+// the palette asks anew, but the picture is not tinted. Who asks for a size, in device pixels, gets exactly that, made
+// of a larger ":/img/<name>@4x.png" where the other is too small; one of 4x is enlarged no further. A malformed address
+// or a missing picture is an empty pixmap.
 class ButtonImageProvider : public QQuickImageProvider
 {
 public:

@@ -108,8 +108,8 @@ void tst_Pictures::picturesAreSharpAndReadable()
     QFETCH(QString, name);
     QFETCH(int, side);
     QFETCH(QVector<QColor>, grounds);
-    for (const int scale : {1, 2}) {
-        const QImage image = picture(scale == 1 ? name : name + QLatin1String("@2x"));
+    for (const int scale : {1, 2, 4}) {
+        const QImage image = picture(scale == 1 ? name : QStringLiteral("%1@%2x").arg(name).arg(scale));
         QCOMPARE(image.size(), QSize(side, side) * scale);
         QCOMPARE(image.devicePixelRatio(), double(scale));
         const QVector<QColor> colours = outline(image);
