@@ -45,10 +45,10 @@ constexpr std::array<Site, LyricsSites::count> sites{
 constexpr int azLyrics = 3; // which is asked for a script before
 
 // The number in "Song 7", wherever it stands in the request; -1 when it asks for something else.
-int songNumber(const LoopbackRequest &request)
+int songNumber(const QByteArray &target)
 {
     static const QRegularExpression song(QStringLiteral("Song (\\d+)"));
-    const QRegularExpressionMatch match = song.match(QUrl::fromPercentEncoding(request.target));
+    const QRegularExpressionMatch match = song.match(QUrl::fromPercentEncoding(target));
     return match.hasMatch() ? match.captured(1).toInt() : -1;
 }
 
@@ -56,11 +56,8 @@ void serve(LoopbackServer &server, int index, const LyricsSites::Answer &answer)
 {
     server.route(QStringLiteral("/round"), LoopbackResponse::redirect(301, "/round"));
     server.routeOthers([&server, index, &answer](const LoopbackRequest &request) {
-        const Site &site = sites.at(static_cast<std::size_t>(index));
-        const int song = songNumber(request);
-        QByteArray page = song < 0 ? site.songPage : site.searchPage;
-        page.replace('@', "Song " + QByteArray::number(song)).replace('$', server.base().toUtf8());
-        return answer({index, song, page});
+        const QByteArray page = LyricsSites::pageFor(index, request.target, server.base());
+        return answer({index, songNumber(request.target), page});
     });
 }
 
@@ -82,6 +79,14 @@ int LyricsSites::requestsInVain(int site)
     return site == azLyrics ? 2 : 1;
 }
 
+QByteArray LyricsSites::pageFor(int site, const QByteArray &target, const QString &base)
+{
+    const Site &pages = sites.at(static_cast<std::size_t>(site));
+    const int song = songNumber(target);
+    QByteArray page = song < 0 ? pages.songPage : pages.searchPage;
+    return page.replace('@', "Song " + QByteArray::number(song)).replace('$', base.toUtf8());
+}
+
 void LyricsSites::startSites()
 {
     start();
@@ -92,6 +97,7 @@ void LyricsSites::startSites()
     for (int i = 0; i < count; ++i)
         pointTo(sites.at(static_cast<std::size_t>(i)).endpoint, m_bases.at(i));
     pointTo(Endpoint::AZLyricsSearch, m_bases.at(azLyrics));
+    pointTo(Endpoint::Lastfm, m_bases.first()); // it gets pages that name no other song
     reloadEndpoints();
 }
 

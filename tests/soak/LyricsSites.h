@@ -35,6 +35,9 @@ public:
     [[nodiscard]] const QStringList &bases() const { return m_bases; }
     // How many requests lead a site to say that it has no such song.
     [[nodiscard]] static int requestsInVain(int site);
+    // What a site at the address `base` has for a request of this path and query: a list with the song that it names,
+    // or else the words.
+    [[nodiscard]] static QByteArray pageFor(int site, const QByteArray &target, const QString &base);
 
 protected:
     void run() override;

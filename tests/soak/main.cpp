@@ -2,29 +2,24 @@
 #include "soak/FailingSites.h"
 #include "soak/Soak.h"
 
-#include "lyrics/LyricsProvider.h"
-#include "lyrics/LyricsSearch.h"
-#include "lyrics/providers/ProviderCatalogue.h"
-#include "model/MainModel.h"
-#include "network/AccessManager.h"
+#include "app/Application.h"
+#include "support/TestFolder.h"
 #include "tags/TagReaderService.h"
 
 #include <QCommandLineParser>
-#include <QGuiApplication>
-#include <QSettings>
+#include <QFile>
 
 #include <malloc.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <vector>
 
 namespace {
 
-constexpr int rounds = 10;
-// What a list that was filled and emptied again may hold on to: connections that are kept open, pools that grow in
-// steps.
-constexpr double allowedGrowth = 1.1;
-constexpr size_t allowedBytes = size_t{2} * 1024 * 1024;
+constexpr int tenths = 10;
+// By so much the memory in use differs from one tenth to the next: connections are open or not, pools grow in steps.
+constexpr std::size_t chanceBytes = std::size_t{512} * 1024;
 
 struct Wishes
 {
@@ -52,40 +47,42 @@ Wishes readWishes()
 }
 
 // With an empty list.
-size_t usedBytes()
+std::size_t usedBytes()
 {
-    return mallinfo2().uordblks + mallinfo2().hblkhd;
+    const struct mallinfo2 heap = mallinfo2();
+    return heap.uordblks + heap.hblkhd;
+}
+
+// Whether even the least of the last three tenths is above the first.
+bool hasGrown(const std::vector<std::size_t> &used)
+{
+    return *std::min_element(used.end() - 3, used.end()) > used.front() + chanceBytes;
 }
 
 // One tenth of the time. How many faults there were.
-int workOnce(Soak &soak, MainModel &model, std::chrono::milliseconds time)
+int workOnce(Soak &soak, std::chrono::milliseconds time)
 {
     soak.work(time);
     const QStringList faults = soak.faults();
     std::printf("%s; %d faults", qPrintable(soak.summary()), static_cast<int>(faults.size()));
     for (const QString &fault : faults.mid(0, 20))
         std::printf("\n  %s", qPrintable(fault));
-    model.removeAll();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
+    soak.clear();
     return faults.size();
 }
 
-int run(MainModel &model, const Wishes &wishes)
+int run(Application &app, const Wishes &wishes)
 {
-    Soak soak(&model, wishes.songs, wishes.seed);
+    Soak soak(app, wishes.songs, wishes.seed);
     int faults = 0;
-    size_t first = 0;
-    size_t last = 0;
-    for (int round = 0; round < rounds; ++round) {
-        faults += workOnce(soak, model, std::chrono::milliseconds(wishes.seconds * 1000 / rounds));
-        last = usedBytes();
-        first = round == 0 ? last : first;
-        std::printf("; %zu kB in use with an empty list\n", last / 1024);
+    std::vector<std::size_t> used;
+    while (used.size() < std::size_t{tenths}) {
+        faults += workOnce(soak, std::chrono::milliseconds(wishes.seconds * 1000 / tenths));
+        used.push_back(usedBytes());
+        std::printf("; %zu kB in use with an empty list\n", used.back() / 1024);
         std::fflush(stdout);
     }
-    const bool grown =
-        static_cast<double>(last) > static_cast<double>(first) * allowedGrowth && last - first > allowedBytes;
+    const bool grown = hasGrown(used);
     std::printf("%d faults; memory %s since the first tenth\n", faults, grown ? "has GROWN" : "has not grown");
     return faults > 0 || grown ? 1 : 0;
 }
@@ -96,23 +93,12 @@ int main(int argc, char **argv)
 {
     if (tags::isReaderCall(argc, argv))
         return tags::runReader(argc, argv);
-    const QGuiApplication app(argc, argv);
-    const QTemporaryDir configuration;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, configuration.path());
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
+    const TestFolder folder;
+    folder.holdSettings();
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
+    Application app(argc, argv, QStringLiteral("/proc/self/exe"));
     const Wishes wishes = readWishes();
     LyricsSites sites(failingAnswers(wishes.seed));
     sites.startSites();
-    AccessManager manager;
-    LyricsSearch search;
-    for (std::unique_ptr<LyricsProvider> &provider : makeProviders(&manager))
-        search.addProvider(std::move(provider));
-    MainModel model;
-    model.setReaderProgram(QCoreApplication::applicationFilePath());
-    model.setDataFolder(configuration.filePath(QStringLiteral("saves")));
-    model.setSearch(&search);
-    const int status = run(model, wishes);
-    model.setSearch(nullptr);
-    return status;
+    return run(app, wishes);
 }
