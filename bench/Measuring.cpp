@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Measuring.h"
 
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QFile>
 
 #include <algorithm>
@@ -41,16 +43,14 @@ double secondsOf(const std::function<void()> &work)
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
-double processSeconds()
-{
-    return secondsOfClock(CLOCK_PROCESS_CPUTIME_ID);
-}
-
 double processorSecondsOf(const std::function<void()> &work)
 {
-    const double before = processSeconds() + secondsOfChildren();
+    const auto used = [] {
+        return secondsOfClock(CLOCK_PROCESS_CPUTIME_ID) + secondsOfChildren();
+    };
+    const double before = used();
     work();
-    return processSeconds() + secondsOfChildren() - before;
+    return used() - before;
 }
 
 double median(std::vector<double> values)
@@ -90,6 +90,19 @@ double residentBytes()
     return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE));
 }
 
+void turnUntil(const std::function<bool()> &isDone)
+{
+    while (!isDone())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void turnFor(std::chrono::milliseconds time)
+{
+    QEventLoop loop; // which deletes what is to be deleted later
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 TurnWatch::TurnWatch()
 {
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -102,8 +115,9 @@ TurnWatch::TurnWatch()
 void TurnWatch::tick()
 {
     const double worked = secondsOfClock(CLOCK_THREAD_CPUTIME_ID);
-    m_longestWork = std::max(m_longestWork, (worked - m_workedUntil) * 1000);
-    m_longestWall = std::max(m_longestWall, static_cast<double>(m_clock.nsecsElapsed()) / 1e6);
+    const double wall = static_cast<double>(m_clock.nsecsElapsed()) / 1e6;
+    if (wall > m_longest.wall)
+        m_longest = {wall, (worked - m_workedUntil) * 1000};
     m_workedUntil = worked;
     m_clock.start();
 }

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -14,8 +15,6 @@
 // Processor time of the work in seconds, in all threads of this process, in the system, and in the processes that it
 // has started and waited for: what else a busy machine does is not counted.
 [[nodiscard]] double processorSecondsOf(const std::function<void()> &work);
-// The processor time of this process since its start, in seconds.
-[[nodiscard]] double processSeconds();
 
 // `work` and `reference` in turns, so that what else the machine does hits both: the medians of so many rounds, by the
 // time that `clock` measures.
@@ -37,16 +36,25 @@ void makeBenchesQuick();
 // What the process holds of the machine's memory, in bytes, without what it has freed.
 [[nodiscard]] double residentBytes();
 
-// Watches how long the event loop of the main thread stands still, from its making on.
+// Lets the event loop of the main thread run until `isDone` says so; it is asked after each turn.
+void turnUntil(const std::function<bool()> &isDone);
+void turnFor(std::chrono::milliseconds time);
+
+// A turn of the event loop of the main thread, in milliseconds.
+struct Turn
+{
+    double wall = 0; // what somebody at the window waits
+    double work = 0; // of the thread; the rest went to other threads and processes
+};
+
+// Watches the turns from its making on.
 class TurnWatch : public QObject
 {
 public:
     TurnWatch();
 
-    // Of the longest turn, in milliseconds: what the thread has worked, and how long that took on a machine that may
-    // have been busy with other things.
-    [[nodiscard]] double longestWork() const { return m_longestWork; }
-    [[nodiscard]] double longestWall() const { return m_longestWall; }
+    // By the clock on the wall.
+    [[nodiscard]] Turn longest() const { return m_longest; }
 
 private:
     void tick();
@@ -54,6 +62,5 @@ private:
     QTimer m_timer;
     QElapsedTimer m_clock;
     double m_workedUntil = 0;
-    double m_longestWork = 0;
-    double m_longestWall = 0;
+    Turn m_longest;
 };

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Benches.h"
+#include "GivenPages.h"
 #include "Table.h"
 
 #include "lyrics/JunkCheck.h"
+#include "lyrics/LyricsProvider.h"
 #include "lyrics/LyricsText.h"
-#include "lyrics/providers/AZLyricsProvider.h"
-#include "lyrics/providers/DarkLyricsProvider.h"
-#include "lyrics/providers/GeniusProvider.h"
-#include "lyrics/providers/LyricsFreakProvider.h"
-#include "lyrics/providers/MegaLyricsProvider.h"
-#include "lyrics/providers/MusixMatchProvider.h"
+#include "lyrics/providers/ProviderCatalogue.h"
+#include "soak/LyricsSites.h"
 
-#include <algorithm>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -23,189 +21,162 @@ constexpr double mostTimes = 4.5;
 // The window stands still meanwhile.
 constexpr double mostMilliseconds = 200;
 
-using ReadPage = std::function<bool(const Page &)>;
+// The sites in their order.
+enum Site { LyricsFreak, Genius, Megalyrics, AZLyrics, DarkLyrics, MusixMatch };
 
 // A page that is `opening` and then `piece` again and again up to the wanted size, without anything to find.
-struct HostilePage
+struct LargePage
 {
     const char *name;
     QString opening;
     QString piece;
     QString closing;
-    ReadPage findsSomething;
+
+    [[nodiscard]] QString text(int size) const { return opening + piece.repeated(size / piece.size()) + closing; }
 };
 
-bool hasLyrics(const ProviderStep &step)
+// What a site could send as its answer to the request of this number in a search, from 0.
+struct HostilePage
 {
-    return !step.lyrics().isEmpty();
-}
-
-std::vector<HostilePage> lyricsFreakPages()
-{
-    const auto search = [](const Page &page) {
-        return LyricsFreakProvider::songLink(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
-    };
-    const auto song = [](const Page &page) {
-        return hasLyrics(LyricsFreakProvider::lyricsRequestFinished(page));
-    };
-    const QString row = QStringLiteral("<div data-sorting-artist=\"\" data-sorting-song=\"\">");
-    return {
-        {"LyricsFreak, rows that match, not closed", {}, row, {}, search},
-        {"LyricsFreak, blocks not closed", {}, QStringLiteral("<div id=\"content\">"), {}, song},
-    };
-}
-
-std::vector<HostilePage> megalyricsPages()
-{
-    const auto search = [](const Page &page) {
-        return MegaLyricsProvider::songLink(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
-    };
-    const auto song = [](const Page &page) {
-        return hasLyrics(MegaLyricsProvider::lyricsRequestFinished(page));
-    };
-    const QString table = QStringLiteral("<div class=\"songs-table\"><table><tbody>");
-    const QString end = QStringLiteral("</tr></tbody>");
-    return {
-        {"Megalyrics, rows of other songs", table,
-         QStringLiteral("<tr><td><td><a href=\"\">x</a><td>x</td><td><td></tr>"), end, search},
-        {"Megalyrics, cells of one row", table + QStringLiteral("<tr>"), QStringLiteral("<td><a href=\"\">x</a></td>"),
-         end, search},
-        {"Megalyrics, texts without a switch", {}, QStringLiteral("<div id=\"song_text\"></div>"), {}, song},
-    };
-}
-
-std::vector<HostilePage> azLyricsPages()
-{
-    const auto script = [](const Page &page) {
-        return !AZLyricsProvider::searchParameter(page.text).first.isEmpty();
-    };
-    const auto search = [](const Page &page) {
-        return AZLyricsProvider::songLink(page.text, QStringLiteral("b")).has_value();
-    };
-    const auto song = [](const Page &page) {
-        return hasLyrics(AZLyricsProvider::lyricsRequestFinished(page));
-    };
-    const QString table = QStringLiteral(" <table>");
-    return {
-        {"AZLyrics, other attributes in one line", {}, QStringLiteral("setAttribute(\"x\",\"x\")"), {}, script},
-        {"AZLyrics, rows of other artists", table,
-         QStringLiteral("<tr><td class><a href=\"\"><b>s</b><b>x</b></td></tr>"), QStringLiteral("</table>"), search},
-        {"AZLyrics, links of one row", table + QStringLiteral("<tr>"),
-         QStringLiteral("<td class><a href=\"\"><b>x</b><b>x</b>"), QStringLiteral("</td></tr></table>"), search},
-        {"AZLyrics, blocks not closed", {}, QStringLiteral("<div>"), {}, song},
-    };
-}
-
-std::vector<HostilePage> geniusPages()
-{
-    const auto search = [](const Page &page) {
-        return GeniusProvider::songPath(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
-    };
-    const auto song = [](const Page &page) {
-        return hasLyrics(GeniusProvider::lyricsRequestFinished(page));
-    };
-    const QString answer = QStringLiteral(R"({"meta":{"status":200},"response":{"sections":[{"type":"song","hits":[)");
-    const QString container = QStringLiteral("<div class=\"Lyrics__Container\">");
-    return {
-        {"Genius, hits without an address", answer, QStringLiteral(R"({"type":"song","result":{"_type":"song"}},)"),
-         QStringLiteral("0]}]}}"), search},
-        {"Genius, older blocks not closed", {}, QStringLiteral("<div class=\"lyrics\">"), {}, song},
-        {"Genius, containers not closed", {}, container, {}, song},
-        {"Genius, empty containers", {}, container + QStringLiteral("</div>"), {}, song},
-    };
-}
-
-std::vector<HostilePage> darkLyricsPages()
-{
-    const auto search = [](const Page &page) {
-        return DarkLyricsProvider::songLink(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
-    };
-    const auto song = [](const Page &page) {
-        return hasLyrics(DarkLyricsProvider::lyricsRequestFinished(page));
-    };
-    const QString content = QStringLiteral("<div class='cntwrap'><h3>Songs:</h3>");
-    const QString end = QStringLiteral("</div>");
-    return {
-        {"DarkLyrics, links to other songs", content, QStringLiteral("<h2><a x href=\"x\" x>x</a>"), end, search},
-        {"DarkLyrics, addresses without an end", content, QStringLiteral("<h2><a x href=\"x"), end, search},
-        {"DarkLyrics, headings", content, QStringLiteral("<h3>x</h3>"), end, song},
-        {"DarkLyrics, wrappers not closed", {}, QStringLiteral("<div class='cntwrap'>"), {}, song},
-    };
-}
-
-std::vector<HostilePage> musixMatchPages()
-{
-    const auto search = [](const Page &page) {
-        return MusixMatchProvider::trackLink(page.text, QStringLiteral("b"), QStringLiteral("a")).has_value();
-    };
-    const auto song = [](const Page &page) {
-        const auto step = MusixMatchProvider::lyricsOfBlock(MusixMatchProvider::lyricsBlock(page.text));
-        return step && hasLyrics(*step);
-    };
-    const QString list = QStringLiteral("<ul class=\"tracks list thumb-list\">");
-    const QString block = QStringLiteral("<div class=\"mxm-lyrics\">");
-    const QString span = QStringLiteral("<span class=\"lyrics__content__ok\">");
-    return {
-        {"MusixMatch, other songs", list, QStringLiteral("<li x><a class=\"title\" href=\"/\">x</a></li>"),
-         QStringLiteral("</ul>"), search},
-        {"MusixMatch, anchors of one item", list + QStringLiteral("<li x>"),
-         QStringLiteral("<a class=\"title\" href=\"/\">"), QStringLiteral("</li></ul>"), search},
-        {"MusixMatch, parts not closed", block, span, QStringLiteral("</div>"), song},
-        {"MusixMatch, blocks not closed", {}, block, {}, song},
-    };
-}
+    Site site;
+    int request;
+    LargePage page;
+};
 
 // What the frame of all clients does to each page, and to what a client takes for lyrics: with an ordinary page, and
 // with pages of what has to be removed or decoded.
-std::vector<HostilePage> cleaningPages()
+std::vector<LargePage> cleaningPages()
 {
-    const auto clean = [](const Page &page) {
-        const QString decoded = QString::fromUtf8(decodePercentEscapes(page.text.toUtf8()));
-        const QString lyrics = withoutBrokenCharacters(cleanLyrics(withoutScriptsAndStyles(decoded)));
-        return !isJunk(lyrics, decoded) && lyrics.size() == page.text.size();
-    };
     return {
-        {"clean a page of lyrics", {}, QStringLiteral("A line &amp; <i>a%20word</i> nobody sang<br />\n"), {}, clean},
-        {"clean a page of breaks", {}, QStringLiteral("<br>"), {}, clean},
-        {"clean a page of entities", {}, QStringLiteral("&#38;#38;"), {}, clean},
-        {"clean a page of tags that do not end", {}, QStringLiteral("<b"), {}, clean},
-        {"clean a page of scripts", {}, QStringLiteral("<script></style>"), {}, clean},
-        {"clean a page of escapes", {}, QStringLiteral("%25"), {}, clean},
+        {"clean a page of lyrics", {}, QStringLiteral("A line &amp; <i>a%20word</i> nobody sang<br />\n"), {}},
+        {"clean a page of breaks", {}, QStringLiteral("<br>"), {}},
+        {"clean a page of entities", {}, QStringLiteral("&#38;#38;"), {}},
+        {"clean a page of tags that do not end", {}, QStringLiteral("<b"), {}},
+        {"clean a page of scripts", {}, QStringLiteral("<script></style>"), {}},
+        {"clean a page of escapes", {}, QStringLiteral("%25"), {}},
     };
 }
 
-Page pageOf(const HostilePage &hostile, int size)
+void clean(const QString &page)
 {
-    return {hostile.opening + hostile.piece.repeated(size / hostile.piece.size()) + hostile.closing, {}};
+    const QString decoded = QString::fromUtf8(decodePercentEscapes(page.toUtf8()));
+    const QString lyrics = withoutBrokenCharacters(cleanLyrics(withoutScriptsAndStyles(decoded)));
+    if (!isJunk(lyrics, decoded) && lyrics.size() == page.size())
+        qFatal("nothing was cleaned");
 }
 
-void readPage(const HostilePage &hostile, const Page &page)
+std::vector<HostilePage> hostilePages()
 {
-    if (hostile.findsSomething(page))
-        qFatal("%s: there is nothing to find", hostile.name);
+    const QString megaTable = QStringLiteral("<div class=\"songs-table\"><table><tbody>");
+    const QString megaEnd = QStringLiteral("</tr></tbody>");
+    const QString azTable = QStringLiteral(" <table>");
+    const QString answer = QStringLiteral(R"({"meta":{"status":200},"response":{"sections":[{"type":"song","hits":[)");
+    const QString container = QStringLiteral("<div class=\"Lyrics__Container\">");
+    const QString content = QStringLiteral("<div class='cntwrap'><h3>Songs:</h3>");
+    const QString divEnd = QStringLiteral("</div>");
+    const QString list = QStringLiteral("<ul class=\"tracks list thumb-list\">");
+    const QString block = QStringLiteral("<div class=\"mxm-lyrics\">");
+    return {
+        {LyricsFreak,
+         0,
+         {"LyricsFreak, rows that match, not closed",
+          {},
+          QStringLiteral("<div data-sorting-artist=\"\" data-sorting-song=\"\">"),
+          {}}},
+        {LyricsFreak, 1, {"LyricsFreak, blocks not closed", {}, QStringLiteral("<div id=\"content\">"), {}}},
+        {Genius,
+         0,
+         {"Genius, hits without an address", answer, QStringLiteral(R"({"type":"song","result":{"_type":"song"}},)"),
+          QStringLiteral("0]}]}}")}},
+        {Genius, 1, {"Genius, older blocks not closed", {}, QStringLiteral("<div class=\"lyrics\">"), {}}},
+        {Genius, 1, {"Genius, containers not closed", {}, container, {}}},
+        {Genius, 1, {"Genius, empty containers", {}, container + QStringLiteral("</div>"), {}}},
+        {Megalyrics,
+         0,
+         {"Megalyrics, rows of other songs", megaTable,
+          QStringLiteral("<tr><td><td><a href=\"\">x</a><td>x</td><td><td></tr>"), megaEnd}},
+        {Megalyrics,
+         0,
+         {"Megalyrics, cells of one row", megaTable + QStringLiteral("<tr>"),
+          QStringLiteral("<td><a href=\"\">x</a></td>"), megaEnd}},
+        {Megalyrics, 1, {"Megalyrics, texts without a switch", {}, QStringLiteral("<div id=\"song_text\"></div>"), {}}},
+        {AZLyrics, 0, {"AZLyrics, other attributes in one line", {}, QStringLiteral("setAttribute(\"x\",\"x\")"), {}}},
+        {AZLyrics,
+         1,
+         {"AZLyrics, rows of other artists", azTable,
+          QStringLiteral("<tr><td class><a href=\"\"><b>s</b><b>x</b></td></tr>"), QStringLiteral("</table>")}},
+        {AZLyrics,
+         1,
+         {"AZLyrics, links of one row", azTable + QStringLiteral("<tr>"),
+          QStringLiteral("<td class><a href=\"\"><b>x</b><b>x</b>"), QStringLiteral("</td></tr></table>")}},
+        {AZLyrics, 2, {"AZLyrics, blocks not closed", {}, QStringLiteral("<div>"), {}}},
+        {DarkLyrics,
+         0,
+         {"DarkLyrics, links to other songs", content, QStringLiteral("<h2><a x href=\"x\" x>x</a>"), divEnd}},
+        {DarkLyrics, 0, {"DarkLyrics, addresses without an end", content, QStringLiteral("<h2><a x href=\"x"), divEnd}},
+        {DarkLyrics, 1, {"DarkLyrics, headings", content, QStringLiteral("<h3>x</h3>"), divEnd}},
+        {DarkLyrics, 1, {"DarkLyrics, wrappers not closed", {}, QStringLiteral("<div class='cntwrap'>"), {}}},
+        {MusixMatch,
+         0,
+         {"MusixMatch, other songs", list, QStringLiteral("<li x><a class=\"title\" href=\"/\">x</a></li>"),
+          QStringLiteral("</ul>")}},
+        {MusixMatch,
+         0,
+         {"MusixMatch, anchors of one item", list + QStringLiteral("<li x>"),
+          QStringLiteral("<a class=\"title\" href=\"/\">"), QStringLiteral("</li></ul>")}},
+        {MusixMatch,
+         1,
+         {"MusixMatch, parts not closed", block, QStringLiteral("<span class=\"lyrics__content__ok\">"), divEnd}},
+        {MusixMatch, 1, {"MusixMatch, blocks not closed", {}, block, {}}},
+    };
 }
 
-// The best of nine rounds, in turns: reading a page waits for nothing, and what else the machine does only adds.
-void printPage(const HostilePage &hostile)
+// The client of the site from the delivered bytes of the page to what it makes of them, in seconds. Before that page
+// the site answers as it should, and after it with nothing.
+double secondsFor(const HostilePage &hostile, const QByteArray &page)
 {
-    const Page page = pageOf(hostile, largest);
-    const Page smaller = pageOf(hostile, largest / times);
-    std::vector<double> ofPage;
+    int requests = 0;
+    GivenPages manager([&](const QUrl &url) {
+        const QByteArray target = url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
+        const int request = requests++;
+        if (request < hostile.request)
+            return LyricsSites::pageFor(hostile.site, target, url.adjusted(QUrl::RemovePath).toString());
+        return request == hostile.request ? page : QByteArray();
+    });
+    const std::unique_ptr<LyricsProvider> client = std::move(makeProviders(&manager).at(hostile.site));
+    bool isDone = false;
+    QObject::connect(client.get(), &LyricsProvider::finished, &manager, [&](const QString &lyrics) {
+        isDone = lyrics.isEmpty() && requests > hostile.request;
+        if (!isDone)
+            qFatal("%s: there is nothing to find", hostile.page.name);
+    });
+    if (!client->search(QStringLiteral("Artist"), QStringLiteral("Song 7")))
+        qFatal("%s: nothing is searched for", hostile.page.name);
+    turnUntil([&isDone] { return isDone; });
+    return manager.seconds();
+}
+
+// `secondsOf` a page; it waits for nothing.
+void printPage(const LargePage &page, const std::function<double(const QString &)> &secondsOfPage)
+{
+    const QString large = page.text(largest);
+    const QString smaller = page.text(largest / times);
+    std::vector<double> ofLarge;
     std::vector<double> ofSmaller;
-    while (ofPage.size() < 9) {
-        ofSmaller.push_back(processorSecondsOf([&] { readPage(hostile, smaller); }));
-        ofPage.push_back(processorSecondsOf([&] { readPage(hostile, page); }));
+    while (ofLarge.size() < 9) {
+        ofSmaller.push_back(secondsOfPage(smaller));
+        ofLarge.push_back(secondsOfPage(large));
     }
-    BenchTable::printRow(QStringLiteral("%1 / 256 KiB of it").arg(QLatin1String(hostile.name)), largest,
-                         *std::min_element(ofPage.begin(), ofPage.end()),
-                         *std::min_element(ofSmaller.begin(), ofSmaller.end()), 0, 0, {mostTimes, 0, mostMilliseconds});
+    BenchTable::printRow(QStringLiteral("%1 / 256 KiB of it").arg(QLatin1String(page.name)), largest, median(ofLarge),
+                         median(ofSmaller), 0, 0, {mostTimes, 0, mostMilliseconds});
 }
 
 } // namespace
 
 void benchPages()
 {
-    for (const auto &pages : {cleaningPages(), lyricsFreakPages(), geniusPages(), megalyricsPages(), azLyricsPages(),
-                              darkLyricsPages(), musixMatchPages()})
-        std::for_each(pages.begin(), pages.end(), printPage);
+    for (const LargePage &page : cleaningPages())
+        printPage(page, [](const QString &text) { return processorSecondsOf([&text] { clean(text); }); });
+    for (const HostilePage &hostile : hostilePages())
+        printPage(hostile.page, [&hostile](const QString &text) { return secondsFor(hostile, text.toUtf8()); });
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Program.h"
 
+#include "Measuring.h"
+
 #include "ui/MainWindow.h"
 
 #include <QCoreApplication>
@@ -36,8 +38,7 @@ QQuickItem *Program::songList() const
 void Program::load(const QList<QUrl> &songs)
 {
     model.add(songs, MainModel::IsRegularFile);
-    while (model.rowCount() < songs.size() || !model.itemAt(songs.size() - 1)->tagsLoaded())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    turnUntil([&] { return model.rowCount() >= songs.size() && model.itemAt(songs.size() - 1)->tagsLoaded(); });
 }
 
 void paintOnce(QMainWindow *window)
@@ -58,6 +59,5 @@ void paintOnce(QMainWindow *window)
     QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch,
                      [&watch] { watch.isRendered = true; });
     window->show();
-    while (!watch.isPainted)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    turnUntil([&watch] { return watch.isPainted; });
 }

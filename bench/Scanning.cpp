@@ -36,8 +36,7 @@ void scan(const QString &root, int expected)
     int found = 0;
     QObject::connect(&scanner, &FolderScanner::found, [&found](const QList<QUrl> &files) { found += files.size(); });
     scanner.addFolder(QUrl::fromLocalFile(root));
-    while (scanner.processing())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    turnUntil([&scanner] { return !scanner.processing(); });
     if (found != expected)
         qFatal("%d files were found instead of %d", found, expected);
 }
@@ -52,8 +51,7 @@ double cancelMilliseconds(const QString &root)
         QCoreApplication::processEvents();
     return 1000 * secondsOf([&scanner] {
                scanner.cancel();
-               while (scanner.processing())
-                   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+               turnUntil([&scanner] { return !scanner.processing(); });
            });
 }
 

@@ -3,7 +3,7 @@
 
 #include <QtGlobal>
 
-// A program that starts, paints its first frame, says on standard output what that has cost, and ends at once. The
+// A program that starts, paints its first frame, says on standard output when that was, and ends at once. The
 // bench starts itself in this role, once for each measurement.
 
 // Whether the arguments of a program ask for that role.

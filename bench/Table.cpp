@@ -74,6 +74,14 @@ void BenchTable::printRow(const QString &work, int size, double seconds, double 
     print({work, size, seconds * 1000, reference * 1000, smaller * 1000, less, aim});
 }
 
+void BenchTable::printTurn(const QString &work, int size, const Turn &longest, double most)
+{
+    const TurnWatch idle;
+    turnFor(std::chrono::seconds(3));
+    print({work + QStringLiteral(" / of an idle loop"), size, longest.wall, idle.longest().wall, 0, 0, {0, 0, most}});
+    printNote(QStringLiteral("of that turn the thread worked for %1 ms").arg(longest.work, 0, 'f', 1));
+}
+
 void BenchTable::printNote(const QString &note)
 {
     out() << QStringLiteral("  ") << note << Qt::endl;

@@ -38,6 +38,9 @@ void print(const Row &row);
 // A row of times: all of them in seconds, but for the aim.
 void printRow(const QString &work, int size, double seconds, double reference, double smaller = 0, double less = 0,
               const Aim &aim = {});
+// A row of the longest turn that was watched, by the clock on the wall, beside the longest of a loop that has nothing
+// to do, which is watched now: what the machine itself does to a turn. `most` is the aim, in milliseconds.
+void printTurn(const QString &work, int size, const Turn &longest, double most);
 // A line below the last row.
 void printNote(const QString &note);
 // How many of the aims are met.

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -50,6 +51,7 @@ int main(int argc, char **argv)
         runStart(argc, argv);
     qputenv("QMLSCENE_DEVICE", "softwarecontext"); // as the program does
     const QApplication app(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("versewell.*=false")); // a line for each page
     QCommandLineParser parser;
     const QCommandLineOption only(QStringLiteral("only"),
                                   QStringLiteral("Only these rows: ") + names().join(QStringLiteral(", ")),
