@@ -4,7 +4,7 @@
 #include "app/GraphicsBackend.h"
 #include "app/Recovery.h"
 #include "app/TerminationSignals.h"
-#include "model/UnsavedLyrics.h"
+#include "model/UnsavedTexts.h"
 #include "tags/TagReaderService.h"
 #include "tags/TagWriter.h"
 #include "ui/FirstPaint.h"
@@ -119,19 +119,19 @@ void finishWrites()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
-void showLyricsKept(const KeptLyrics &kept, const QString &folder)
+void showTextsKept(const KeptTexts &kept, const QString &folder)
 {
     QStringList sentences;
     if (kept.songs > 0)
-        sentences.append(QApplication::translate("main", "The lyrics of %n song(s) were kept as text files in %1",
+        sentences.append(QApplication::translate("main", "The changes to %n song(s) were kept as text files in %1",
                                                  "%1 is the path of a folder", kept.songs)
                              .arg(QDir::toNativeSeparators(folder)));
     if (!kept.lost.isEmpty())
         sentences.append(QApplication::translate(
-            "main", "The lyrics of %n song(s) could be kept nowhere: copy them from the details now.", nullptr,
+            "main", "The changes to %n song(s) could be kept nowhere: copy them from the details now.", nullptr,
             kept.lost.size()));
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Versewell"),
-                    QApplication::translate("main", "Not all lyrics could be written into the songs."),
+                    QApplication::translate("main", "Not all changes could be written into the songs."),
                     QMessageBox::Close);
     box.setInformativeText(sentences.join(QLatin1String("\n\n")));
     box.setDetailedText(kept.lost.join(QLatin1String("\n\n")));
@@ -139,16 +139,17 @@ void showLyricsKept(const KeptLyrics &kept, const QString &folder)
     box.exec();
 }
 
-// Of writes that have failed when nobody could be asked any more. A session that ends waits for no box.
-void keepLyrics(Application &app, bool isTerminated)
+// What writes have failed to store when nobody could be asked any more, and what nobody was asked about. A session that
+// ends waits for no box.
+void keepTexts(Application &app, bool isTerminated)
 {
     const QString folder =
         QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1String("/unsaved");
-    const KeptLyrics kept = keepUnsavedLyrics(*app.mainModel(), folder);
+    const KeptTexts kept = keepUnsavedTexts(*app.mainModel(), folder);
     if (!kept.lost.isEmpty())
-        qCritical("The lyrics of %d songs could be kept nowhere.", kept.lost.size());
+        qCritical("The changes to %d songs could be kept nowhere.", kept.lost.size());
     if (!isTerminated && (kept.songs > 0 || !kept.lost.isEmpty()))
-        showLyricsKept(kept, folder);
+        showTextsKept(kept, folder);
 }
 
 } // namespace
@@ -194,7 +195,7 @@ int main(int argc, char **argv)
     status = runWindow(app, signalsToEnd);
     app.folderScanner()->cancel();
     finishWrites();
-    keepLyrics(app, isTerminated);
+    keepTexts(app, isTerminated);
     app.mainModel()->stopReading();
     // The application object would wait for a scan without end. All is saved, and the lock ends with the process.
     if (!QThreadPool::globalInstance()->waitForDone(static_cast<int>(scanPatience.count())))

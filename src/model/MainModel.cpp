@@ -501,45 +501,58 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 bool MainModel::hasUnsavedLyrics(quint16 id) const
 {
     const ModelItem *item = m_items.find(id);
-    return item && !item->lyricsTag().isEmpty() && (m_writes.isUnsaved(id) || m_writes.isWriting(id));
+    return item && !item->lyricsTag().isEmpty() &&
+           (item->lyricsEdited() || m_writes.isWritingOther(id, item->lyricsTag()));
 }
 
 QVector<quint16> MainModel::unsavedIds() const
 {
-    QVector<quint16> ids = m_writes.unsavedIds();
-    ids.erase(std::remove_if(ids.begin(), ids.end(), [this](quint16 id) { return !hasUnsavedLyrics(id); }), ids.end());
-    return ids;
-}
-
-QVector<quint16> MainModel::idsWithUnsavedLyrics() const
-{
-    QVector<quint16> ids = unsavedIds();
-    for (const quint16 id : m_writes.idsInWriting()) {
-        if (hasUnsavedLyrics(id) && !m_writes.isUnsaved(id))
-            ids.append(id);
+    QVector<quint16> ids;
+    for (int row = 0; row < m_items.count(); ++row) {
+        const ModelItem *item = m_items.itemAt(row);
+        if (item->namesEdited() || hasUnsavedLyrics(item->id()))
+            ids.append(item->id());
     }
     return ids;
 }
 
+void MainModel::giveUpUnsaved(const QVector<quint16> &ids)
+{
+    forgetUnsaved(ids);
+    for (const quint16 id : ids) {
+        if (ModelItem *item = m_items.find(id))
+            item->revert();
+    }
+}
+
+// Null when the song is not there, or nobody has seen what a write would replace.
+ModelItem *MainModel::writableItem(quint16 id) const
+{
+    ModelItem *item = m_items.find(id);
+    return item && item->tagsLoaded() ? item : nullptr;
+}
+
 bool MainModel::writeTags(quint16 id)
 {
+    ModelItem *item = writableItem(id);
+    if (!item)
+        return false;
+    if (item->processState() == ModelItem::ProcessWorking)
+        m_overruled.insert(id);
     // Who saves once more, after being told of another program's change, means it.
-    return write(id, m_writes.isForeignChangeTold(id));
+    startWriting(item, m_writes.isForeignChangeTold(id));
+    return true;
 }
 
 bool MainModel::writeTagsUnlessForeign(quint16 id)
 {
-    return write(id, false);
-}
-
-bool MainModel::write(quint16 id, bool insists)
-{
-    ModelItem *item = m_items.find(id);
-    if (!item || !item->tagsLoaded())
+    ModelItem *item = writableItem(id);
+    if (!item)
         return false;
-    if (item->processState() == ModelItem::ProcessWorking)
-        m_overruled.insert(id);
-    startWriting(item, insists);
+    if (item->active())
+        m_writes.start(*item, false);
+    else
+        startWriting(item, false);
     return true;
 }
 
@@ -634,11 +647,6 @@ void MainModel::forgetUnsaved(const QVector<quint16> &ids)
     }
     for (const QString &reason : qAsConst(reasons))
         emit failedWritesLeft(reason, m_writes.unsavedCount(reason));
-}
-
-void MainModel::giveUpUnsaved(const QVector<quint16> &ids)
-{
-    forgetUnsaved(ids);
 }
 
 // Exporting

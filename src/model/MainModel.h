@@ -95,17 +95,15 @@ public:
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // Whether its read was overtaken by a newer one: it stays unread until a search of it is forced.
     [[nodiscard]] bool isReadOvertaken(quint16 id) const { return m_reads.isOvertaken(id); }
-    // Lyrics that are in the list only, since their last write failed or was refused.
-    [[nodiscard]] int unsavedCount() const { return unsavedIds().size(); }
-    [[nodiscard]] QVector<quint16> unsavedIds() const;
-    // These songs' lyrics no longer count as unsaved, until another write of them fails.
-    void giveUpUnsaved(const QVector<quint16> &ids);
     // Whether a write of this song is under way, also when it was removed meanwhile.
     [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.isWriting(id); }
-    // These, or such whose write is under way and may still fail.
+    // Whether the song has lyrics that are in the list only: their last write has failed, or may still fail. Not so
+    // when that write was to store other names alone.
     [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const;
-    // All songs of which this is true, in no order.
-    [[nodiscard]] QVector<quint16> idsWithUnsavedLyrics() const;
+    // The songs with such lyrics, or with edited names that are in no file; in row order.
+    [[nodiscard]] QVector<quint16> unsavedIds() const;
+    // What these songs have in the list only is forgotten: their texts are those of the files.
+    void giveUpUnsaved(const QVector<quint16> &ids);
     // The urls of all rows, in row order, then of the files that are still to become rows, and of those that were in
     // the restored list and whose disk is away, until the list is emptied: what is to be kept across runs.
     [[nodiscard]] QList<QUrl> urls() const;
@@ -134,8 +132,8 @@ public:
     // Queues a write of the item's names and lyrics into its file; false when there is no such item or its tags are
     // not loaded, since the write would replace what nobody has seen.
     Q_INVOKABLE bool writeTags(quint16 id);
-    // The same, but lyrics that another program has stored meanwhile stay, however often it is called: for whoever was
-    // asked about something else.
+    // The same for whoever was asked about something else: lyrics that another program has stored meanwhile stay,
+    // however often it is called, and a search of the song goes on.
     bool writeTagsUnlessForeign(quint16 id);
 
 public slots:
@@ -192,7 +190,7 @@ private:
     void forgetItems(std::vector<ItemStore::Taken> removed);
     void feedSearches();
     void useTags(quint16 id, const MediaFileTags &tags);
-    bool write(quint16 id, bool insists);
+    [[nodiscard]] ModelItem *writableItem(quint16 id) const;
     void startWriting(ModelItem *item, bool insists);
     [[nodiscard]] LyricsFileWriter &automaticExports();
     static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);

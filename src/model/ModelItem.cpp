@@ -116,11 +116,6 @@ bool ModelItem::lyricsEmbedded() const
     return m_tagsLoaded && m_lyricsEmbedded && !m_lyricsTag.isEmpty();
 }
 
-bool ModelItem::edited() const
-{
-    return artistEdited() || titleEdited() || (m_tagsLoaded && m_lyricsTag != m_storedTexts.lyrics);
-}
-
 bool ModelItem::bad() const
 {
     return m_unreadable || !valid() || (m_tagsLoaded && m_duration <= 0);
@@ -181,6 +176,13 @@ void ModelItem::setStoredTexts(const tags::SongTexts &texts)
 {
     m_storedTexts = texts;
     emit changed();
+}
+
+void ModelItem::revert()
+{
+    setArtistTag(m_storedTexts.artist);
+    setTitleTag(m_storedTexts.title);
+    setLyricsTag(m_storedTexts.lyrics);
 }
 
 void ModelItem::setUnreadable(const QString &reason)

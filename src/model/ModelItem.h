@@ -123,9 +123,11 @@ public:
     [[nodiscard]] const tags::SongTexts &storedTexts() const { return m_storedTexts; }
     [[nodiscard]] tags::SongTexts texts() const { return {artistTag(), titleTag(), lyricsTag()}; }
     // Whether a text differs from the stored one; false while the tags are not loaded.
-    [[nodiscard]] bool edited() const;
+    [[nodiscard]] bool edited() const { return namesEdited() || lyricsEdited(); }
     [[nodiscard]] bool artistEdited() const { return m_tagsLoaded && m_artistTag != m_storedTexts.artist; }
     [[nodiscard]] bool titleEdited() const { return m_tagsLoaded && m_titleTag != m_storedTexts.title; }
+    [[nodiscard]] bool namesEdited() const { return artistEdited() || titleEdited(); }
+    [[nodiscard]] bool lyricsEdited() const { return m_tagsLoaded && m_lyricsTag != m_storedTexts.lyrics; }
     // Queued for a search or being searched for.
     [[nodiscard]] bool active() const { return isActive(m_processState); }
     [[nodiscard]] bool editable() const;
@@ -140,6 +142,8 @@ public:
     void setId(quint16 id) { m_id = id; }
     void setTags(const MediaFileTags &tags);
     void setStoredTexts(const tags::SongTexts &texts);
+    // Makes the texts those that are stored.
+    void revert();
     // Instead of the tags, which then count as not loaded.
     void setUnreadable(const QString &reason);
     void setWriteError(const QString &reason);

@@ -3,6 +3,8 @@
 
 #include "tags/TagWriter.h"
 
+#include <algorithm>
+
 namespace {
 
 // Nothing when the disk failed, or the file was left unopened: it may be there or away.
@@ -51,6 +53,13 @@ void SongWrites::start(const ModelItem &item, bool insists)
     connect(writer, &TagWriter::written, this, &SongWrites::written);
     connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
     writer->queueWrite(item.url(), id, texts.artist, texts.title, texts.lyrics, shown);
+}
+
+bool SongWrites::isWritingOther(quint16 id, const QString &lyrics) const
+{
+    const QQueue<Write> writes = m_writes.value(id);
+    return std::any_of(writes.begin(), writes.end(),
+                       [&lyrics](const Write &write) { return write.texts.lyrics != lyrics; });
 }
 
 SongWrites::Outcome SongWrites::takeOutcome(quint16 id)

@@ -39,7 +39,8 @@ public:
     void start(const ModelItem &item, bool insists);
     [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.contains(id); }
     [[nodiscard]] bool isWriting(const QUrl &file) const { return m_files.contains(file); }
-    [[nodiscard]] QVector<quint16> idsInWriting() const { return m_writes.keys().toVector(); }
+    // Whether a write of this song is under way that stores other lyrics than these.
+    [[nodiscard]] bool isWritingOther(quint16 id, const QString &lyrics) const;
     // To be called once for each written().
     [[nodiscard]] Outcome takeOutcome(quint16 id);
 
@@ -53,7 +54,6 @@ public:
     [[nodiscard]] bool isUnsaved(quint16 id) const { return m_unsaved.contains(id); }
     // How many songs are unsaved for this reason.
     [[nodiscard]] int unsavedCount(const QString &reason) const { return m_unsavedByReason.value(reason); }
-    [[nodiscard]] QVector<quint16> unsavedIds() const { return m_unsaved.keys().toVector(); }
 
 signals:
     void written(quint16 id);

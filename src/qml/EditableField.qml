@@ -46,6 +46,14 @@ FocusScope {
             left.subject[role] = left.text;
     }
 
+    // The same for all subjects of these ids; for every subject when there is no id.
+    function confirmAmong(ids) {
+        Object.keys(leftTexts || {}).concat(shownId).map(Number).forEach(function (id) {
+            if (ids.length === 0 || ids.indexOf(id) >= 0)
+                confirmOf(id);
+        });
+    }
+
     function leave() {
         if (!pending)
             return;

@@ -28,6 +28,15 @@ ColumnLayout {
     spacing: Measures.margin
     visible: pane.song !== null
 
+    Connections {
+        target: mainWindow
+
+        function onTypedNamesWanted(ids) {
+            artist.confirmAmong(ids);
+            title.confirmAmong(ids);
+        }
+    }
+
     AudioPreview {
         objectName: "audioPreview"
         Layout.fillWidth: true

@@ -57,6 +57,13 @@ void LyricsEdit::write(ModelItem *song, const QString &text)
     m_model->writeTags(song->id());
 }
 
+void LyricsEdit::handOver()
+{
+    if (m_song && modified())
+        m_song->setEditedLyricsTag(m_text);
+    cancel();
+}
+
 void LyricsEdit::cancel()
 {
     change(nullptr, {}, {});

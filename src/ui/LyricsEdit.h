@@ -45,6 +45,8 @@ public:
     // Gives a text to a song and has it written, past all edits. Nothing when the song is null, not in the list, or its
     // tags are not loaded.
     void write(ModelItem *song, const QString &text);
+    // Ends the edit and gives a modified draft to its song, which is not written: for the end of the program.
+    void handOver();
     // Ends the edit and forgets the draft.
     Q_INVOKABLE void cancel();
 

@@ -6,9 +6,6 @@
 #include "ui/LyricsEdit.h"
 #include "ui/QuestionBox.h"
 
-// Longer names of songs are cut in a question; in pixels.
-static constexpr int widestName = 320;
-
 LyricsEditGuard::LyricsEditGuard(LyricsEdit *edit, MainModel *model, ProxyModel *proxy, QWidget *window)
     : QObject(window)
     , m_edit(edit)
@@ -88,11 +85,9 @@ void LyricsEditGuard::saveDraft(ModelItem *song, const QString &text)
 
 QMessageBox *LyricsEditGuard::makeQuestion() const
 {
-    const ModelItem *song = m_edit->song();
-    const QString name = song->titleTag().isEmpty() ? song->filename() : song->titleTag();
-    const QString shortName = m_window->fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, widestName);
+    const QString name = shownName(*m_edit->song(), m_window);
     QMessageBox *box =
-        makeQuestionBox(tr("The lyrics of “%1” have been changed.", "%1 is the title of a song").arg(shortName),
+        makeQuestionBox(tr("The lyrics of “%1” have been changed.", "%1 is the title of a song").arg(name),
                         tr("Do you want to save the changes?"),
                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
     box->setDefaultButton(QMessageBox::Save);

@@ -75,6 +75,12 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
 {
     setWindowTitle(QStringLiteral("Versewell"));
+    m_unsavedGuard.setTakeTypedNames([this](const UnsavedLyricsGuard::Songs &songs) {
+        QVariantList ids;
+        for (const quint16 id : songs)
+            ids.append(id);
+        emit typedNamesWanted(ids);
+    });
     setUpLinks();
     setUpUpdates();
     setCentralWidget(m_scene.get());
@@ -96,6 +102,8 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
 
 MainWindow::~MainWindow()
 {
+    emit typedNamesWanted({});
+    m_lyricsEdit->handOver();
     m_export->queueRest();
     saveState();
 }

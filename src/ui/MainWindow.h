@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QStringList>
 #include <QTimer>
+#include <QVariantList>
 
 #include <functional>
 #include <memory>
@@ -36,8 +37,8 @@ class WindowActions;
 // The program's one window: menus, tool bar and status bar around the scene. It turns actions and signals of the scene
 // into calls on the models, and asks before work of the user is lost.
 //
-// As it goes it queues what is left of an export, and stores its geometry, the settings and, when that is wanted, the
-// list of files.
+// As it goes it gives the songs what was typed for them, queues what is left of an export, and stores its geometry, the
+// settings and, when that is wanted, the list of files.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -129,6 +130,9 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    // The scene is to give these songs, by their ids, the names that were typed for them and not confirmed: they go.
+    // Without ids all songs are meant.
+    void typedNamesWanted(const QVariantList &ids);
     void showEvent(QShowEvent *event) override;
     // Tells the scene when a dialog blocks the window: its shortcuts would work on behind it.
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -38,14 +38,33 @@ void SongRemoval::selectCurrent()
 
 void SongRemoval::removeAll()
 {
-    m_editGuard->before([this] { m_unsavedGuard->beforeRemovingAny([this] { m_proxy->removeAll(); }); });
+    m_editGuard->before([this] { m_unsavedGuard->beforeRemoving(shownIds(), [this] { m_proxy->removeAll(); }); });
+}
+
+QVector<quint16> SongRemoval::shownIds() const
+{
+    QVector<quint16> ids;
+    for (int row = 0; row < m_proxy->rowCount(); ++row)
+        ids.append(m_model->itemAt(m_proxy->mapToSource(m_proxy->index(row, 0)).row())->id());
+    return ids;
 }
 
 void SongRemoval::removeWithLyrics()
 {
     const auto remove = [this] {
-        m_unsavedGuard->beforeRemovingAny([this] { m_model->removeWithLyrics(); });
+        m_unsavedGuard->beforeRemoving(idsWithLyrics(), [this] { m_model->removeWithLyrics(); });
     };
     const ModelItem *edited = m_edit->song();
     edited && !edited->lyricsTag().isEmpty() ? m_editGuard->before(remove) : remove();
+}
+
+QVector<quint16> SongRemoval::idsWithLyrics() const
+{
+    QVector<quint16> ids;
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const ModelItem *song = m_model->itemAt(row);
+        if (!song->lyricsTag().isEmpty())
+            ids.append(song->id());
+    }
+    return ids;
 }

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QVector>
+
 class LyricsEdit;
 class LyricsEditGuard;
 class MainModel;
 class ProxyModel;
 class UnsavedLyricsGuard;
 
-// Removes songs from the list, after asking where words of the user would be lost: a draft of lyrics, or lyrics that
-// are in no file. Main thread only.
+// Removes songs from the list, after asking where words of the user would be lost: a draft of lyrics, or names and
+// lyrics that are in no file. Main thread only.
 class SongRemoval
 {
 public:
@@ -24,6 +26,8 @@ public:
 
 private:
     void selectCurrent();
+    [[nodiscard]] QVector<quint16> shownIds() const;
+    [[nodiscard]] QVector<quint16> idsWithLyrics() const;
 
     MainModel *m_model;
     ProxyModel *m_proxy;

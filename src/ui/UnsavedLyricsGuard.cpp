@@ -8,15 +8,15 @@
 #include <algorithm>
 #include <utility>
 
-static QVector<quint16> idsWithNewNames(const MainModel &model)
+// A question names so many songs that could not be saved, and counts the others.
+static constexpr int mostFailures = 3;
+
+template<typename Condition>
+static UnsavedLyricsGuard::Songs those(const UnsavedLyricsGuard::Songs &ids, Condition condition)
 {
-    QVector<quint16> ids;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        const ModelItem *song = model.itemAt(row);
-        if (song->artistEdited() || song->titleEdited())
-            ids.append(song->id());
-    }
-    return ids;
+    UnsavedLyricsGuard::Songs found;
+    std::copy_if(ids.begin(), ids.end(), std::back_inserter(found), condition);
+    return found;
 }
 
 UnsavedLyricsGuard::UnsavedLyricsGuard(MainModel *model, QWidget *window)
@@ -25,30 +25,25 @@ UnsavedLyricsGuard::UnsavedLyricsGuard(MainModel *model, QWidget *window)
 {
 }
 
-void UnsavedLyricsGuard::beforeRemoving(const QVector<quint16> &ids, std::function<void()> action)
+void UnsavedLyricsGuard::beforeRemoving(const Songs &ids, std::function<void()> action)
 {
-    afterWrites(ids, [this, ids, action = std::move(action)] {
-        const auto unsaved =
-            std::count_if(ids.begin(), ids.end(), [this](quint16 id) { return m_model->hasUnsavedLyrics(id); });
-        beforeGivingUpLyrics(static_cast<int>(unsaved), action);
-    });
-}
-
-void UnsavedLyricsGuard::beforeRemovingAny(std::function<void()> action)
-{
-    const QVector<quint16> ids = m_model->idsWithUnsavedLyrics();
-    afterWrites(ids,
-                [this, ids, action = std::move(action)] { beforeGivingUpLyrics(unsavedOfAll(ids).size(), action); });
+    if (!ids.isEmpty())
+        m_takeTypedNames(ids);
+    before([ids] { return ids; }, [action = std::move(action)](const Songs &) { action(); });
 }
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
-    beforeGivingUpNames([this, action = std::move(action)] {
-        const QVector<quint16> unsaved = m_model->unsavedIds();
-        beforeGivingUpLyrics(unsaved.size(), [this, unsaved, action] {
-            m_givenUp = unsaved;
-            action();
+    m_takeTypedNames({});
+    const auto candidates = [this] {
+        return those(m_model->unsavedIds(), [this](quint16 id) {
+            const ModelItem *song = m_model->item(id);
+            return song->namesEdited() || song->unsaved();
         });
+    };
+    before(candidates, [this, action = std::move(action)](const Songs &givenUp) {
+        m_givenUp = givenUp;
+        action();
     });
 }
 
@@ -57,7 +52,35 @@ void UnsavedLyricsGuard::giveUp()
     m_model->giveUpUnsaved(m_givenUp);
 }
 
-void UnsavedLyricsGuard::afterWrites(const QVector<quint16> &ids, std::function<void()> action)
+// Of the candidates, those that are being written are waited for, as that may store their texts; those that are written
+// only after that are of searches that ended meanwhile, and no more unsaved than others that are searched for.
+void UnsavedLyricsGuard::before(const std::function<Songs()> &candidates,
+                                const std::function<void(const Songs &)> &action)
+{
+    const Songs waitedFor = those(candidates(), [this](quint16 id) { return m_model->isWriting(id); });
+    afterWrites(waitedFor, [this, candidates, action, waitedFor] {
+        const Songs unsaved = those(candidates(), [this, &waitedFor](quint16 id) {
+            const ModelItem *song = m_model->item(id);
+            return song && (song->namesEdited() ||
+                            (m_model->hasUnsavedLyrics(id) && (song->unsaved() || waitedFor.contains(id))));
+        });
+        if (unsaved.isEmpty()) {
+            action({});
+            return;
+        }
+        ask(unsaved, [this, candidates, action, unsaved](int answer) {
+            if (answer == QMessageBox::Save) {
+                for (const quint16 id : unsaved)
+                    m_model->writeTagsUnlessForeign(id);
+                before(candidates, action);
+            } else if (answer == QMessageBox::Discard) {
+                action(unsaved);
+            }
+        });
+    });
+}
+
+void UnsavedLyricsGuard::afterWrites(const Songs &ids, std::function<void()> action)
 {
     if (m_wait) {
         m_wait->raise();
@@ -72,69 +95,50 @@ void UnsavedLyricsGuard::afterWrites(const QVector<quint16> &ids, std::function<
     }
 }
 
-// The songs whose write has failed, and those that were waited for in vain. Other writes that are under way are of
-// searches that ended meanwhile.
-QVector<quint16> UnsavedLyricsGuard::unsavedOfAll(const QVector<quint16> &waitedFor) const
-{
-    QVector<quint16> unsaved = m_model->unsavedIds();
-    std::copy_if(waitedFor.begin(), waitedFor.end(), std::back_inserter(unsaved),
-                 [this](quint16 id) { return m_model->isWriting(id) && m_model->hasUnsavedLyrics(id); });
-    std::sort(unsaved.begin(), unsaved.end());
-    unsaved.erase(std::unique(unsaved.begin(), unsaved.end()), unsaved.end());
-    return unsaved;
-}
-
-// Writes under way come first, as they may store them.
-void UnsavedLyricsGuard::beforeGivingUpNames(std::function<void()> action)
-{
-    afterWrites(idsWithNewNames(*m_model), [this, action = std::move(action)] {
-        const QVector<quint16> ids = idsWithNewNames(*m_model);
-        if (ids.isEmpty()) {
-            action();
-            return;
-        }
-        const auto answered = [this, ids, action](int answer) {
-            if (answer == QMessageBox::Save) {
-                for (const quint16 id : ids)
-                    m_model->writeTagsUnlessForeign(id);
-                beforeGivingUpNames(action);
-            } else if (answer == QMessageBox::Discard) {
-                action();
-            }
-        };
-        ask(tr("The changed artist or title of %n song(s) is not in the file yet.", nullptr, ids.size()),
-            tr("Do you want to save the changes?"), QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-            answered);
-    });
-}
-
-void UnsavedLyricsGuard::beforeGivingUpLyrics(int unsaved, std::function<void()> action)
-{
-    if (unsaved == 0) {
-        action();
-        return;
-    }
-    ask(tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, unsaved),
-        tr("Do you want to give them up?"), QMessageBox::Discard | QMessageBox::Cancel,
-        [action = std::move(action)](int answer) {
-            if (answer == QMessageBox::Discard)
-                action();
-        });
-}
-
-void UnsavedLyricsGuard::ask(const QString &text, const QString &question, QMessageBox::StandardButtons buttons,
-                             std::function<void(int)> answered)
+void UnsavedLyricsGuard::ask(const Songs &ids, std::function<void(int)> answered)
 {
     if (m_question) {
         m_question->raise();
         m_question->activateWindow();
         return;
     }
-    m_question = makeQuestionBox(text, question, buttons, m_window);
-    m_question->setDefaultButton(buttons.testFlag(QMessageBox::Save) ? QMessageBox::Save : QMessageBox::Cancel);
+    const QStringList failures = failuresOf(ids);
+    m_question = makeQuestionBox(
+        lossOf(ids), (failures + QStringList(tr("Do you want to save the changes?"))).join(QLatin1Char('\n')),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
+    m_question->setDefaultButton(failures.isEmpty() ? QMessageBox::Save : QMessageBox::Cancel);
     QObject::connect(m_question, &QMessageBox::finished, m_window, [this, answered = std::move(answered)](int answer) {
         m_question.clear();
         answered(answer);
     });
     m_question->open();
+}
+
+QString UnsavedLyricsGuard::lossOf(const Songs &ids) const
+{
+    const int names = those(ids, [this](quint16 id) { return m_model->item(id)->namesEdited(); }).size();
+    const int lyrics = those(ids, [this](quint16 id) { return m_model->hasUnsavedLyrics(id); }).size();
+    QStringList sentences;
+    if (names > 0)
+        sentences.append(tr("The changed artist or title of %n song(s) is not in the file yet.", nullptr, names));
+    if (lyrics > 0)
+        sentences.append(
+            tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, lyrics));
+    return sentences.join(QLatin1Char('\n'));
+}
+
+QStringList UnsavedLyricsGuard::failuresOf(const Songs &ids) const
+{
+    const Songs failed =
+        those(ids, [this](quint16 id) { return m_model->item(id)->unsaved() || m_model->isWriting(id); });
+    QStringList lines;
+    for (const quint16 id : failed.mid(0, mostFailures)) {
+        const ModelItem *song = m_model->item(id);
+        lines.append(tr("“%1” could not be saved: %2", "%1 is the title of a song, %2 the reason")
+                         .arg(shownName(*song, m_window),
+                              song->unsaved() ? song->writeError() : tr("it is still being written")));
+    }
+    if (failed.size() > mostFailures)
+        lines.append(tr("... and %n more", "other songs that could not be saved", failed.size() - mostFailures));
+    return lines;
 }

@@ -3,7 +3,7 @@
 
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/LyricsSearch.h"
-#include "model/UnsavedLyrics.h"
+#include "model/UnsavedTexts.h"
 #include "settings/Settings.h"
 #include "support/TestFolder.h"
 #include "support/TestTable.h"
@@ -296,7 +296,7 @@ private slots:
             }
             QVERIFY(item->unsaved() && item->bad() && !item->fileExists() && !item->writeError().isEmpty());
             QCOMPARE(failures.takeFirst(), (QVariantList{item->errorString(), 1}));
-            QCOMPARE(stage.model.unsavedCount(), lyrics.isEmpty() ? 0 : 1);
+            QCOMPARE(stage.model.hasUnsavedLyrics(1), !lyrics.isEmpty());
         }
         const QString reason = item->writeError();
         item->setErrorString("a search failed meanwhile"_s);
@@ -319,10 +319,10 @@ private slots:
             QVERIFY(id == 3 || QFile::remove(urls.at(id - 1).toLocalFile()));
             QVERIFY(stage.model.writeTags(id));
         }
-        QTRY_VERIFY(stage.model.unsavedCount() == 2 && stage.isComplete(2));
+        QTRY_VERIFY(stage.isComplete(0) && stage.isComplete(1) && stage.isComplete(2));
         const QString folder = stage.folder.path("data/unsaved"_s);
         for (int time = 0; time < 2; ++time) { // what is kept already is not written again
-            const KeptLyrics kept = keepUnsavedLyrics(stage.model, folder);
+            const KeptTexts kept = keepUnsavedTexts(stage.model, folder);
             QVERIFY(kept.songs == 2 && kept.lost.isEmpty());
         }
         QCOMPARE(stage.folder.names(folder), (QStringList{"Ёж.mp3 2.txt"_s, "Ёж.mp3.txt"_s}));
@@ -331,11 +331,9 @@ private slots:
         std::sort(contents.begin(), contents.end());
         QCOMPARE(contents, (QByteArrayList{urls.at(1).toLocalFile().toUtf8() + "\n\nmine\r\nё\n",
                                            urls.at(0).toLocalFile().toUtf8() + "\n\nmine\r\nё\n"}));
-        QCOMPARE(keepUnsavedLyrics(stage.model, urls.at(2).toLocalFile()).lost.size(), 2); // no folder
+        QCOMPARE(keepUnsavedTexts(stage.model, urls.at(2).toLocalFile()).lost.size(), 2); // no folder
         stage.model.giveUpUnsaved({1});
-        QCOMPARE(stage.model.idsWithUnsavedLyrics(), QVector<quint16>{2});
-        stage.model.removeAll();
-        QCOMPARE(stage.model.unsavedCount(), 0);
+        QCOMPARE(stage.model.unsavedIds(), QVector<quint16>{2});
     }
 
     void anUnreadableSongIsLeftAloneUntilItIsForced()
@@ -468,7 +466,7 @@ private slots:
         QTRY_VERIFY(stage.isComplete()); // the model hears of both only now
         QCOMPARE(states.count(), 2);
         QCOMPARE(stage.model.itemAt(0)->errorString(), QString());
-        QVERIFY(!stage.model.hasUnsavedLyrics(1) && stage.model.idsWithUnsavedLyrics().isEmpty());
+        QVERIFY(stage.model.unsavedIds().isEmpty());
         QCOMPARE(Stage::stored(url, "lyrics"), "second"_s);
     }
 

@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <QVariantList>
 
 class QQmlEngine;
 
@@ -35,6 +36,10 @@ public:
     Q_INVOKABLE QString searchEngine(const QString &name) const { return SearchProvider().effectiveName(name); }
     // The folder with the copies.
     Q_INVOKABLE QUrl folder() const;
+
+signals:
+    // As the window has it.
+    void typedNamesWanted(const QVariantList &ids);
 
 public slots:
     void applicationAvailable();

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "model/UnsavedLyrics.h"
+#include "model/UnsavedTexts.h"
 
 #include "model/MainModel.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -21,11 +22,26 @@ QString baseName(const ModelItem &item)
     return name;
 }
 
-QByteArray contentFor(const ModelItem &item)
+QString oneLine(QString text)
 {
-    QString path = item.url().toLocalFile();
-    path.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    return path.toUtf8() + "\n\n" + item.lyricsTag().toUtf8() + '\n';
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+QByteArray contentFor(const ModelItem &item, bool withLyrics)
+{
+    QString content = oneLine(item.url().toLocalFile()) + QLatin1Char('\n');
+    QString names;
+    if (item.artistEdited())
+        names += QCoreApplication::translate("UnsavedTexts", "Artist: %1").arg(oneLine(item.artistTag())) +
+                 QLatin1Char('\n');
+    if (item.titleEdited())
+        names +=
+            QCoreApplication::translate("UnsavedTexts", "Title: %1").arg(oneLine(item.titleTag())) + QLatin1Char('\n');
+    if (!names.isEmpty())
+        content += QLatin1Char('\n') + names;
+    if (withLyrics)
+        content += QLatin1Char('\n') + item.lyricsTag() + QLatin1Char('\n');
+    return content.toUtf8();
 }
 
 bool holds(const QString &path, const QByteArray &content)
@@ -59,15 +75,15 @@ bool keep(const ModelItem &item, const QByteArray &content, const QString &folde
 
 } // namespace
 
-KeptLyrics keepUnsavedLyrics(const MainModel &model, const QString &folder)
+KeptTexts keepUnsavedTexts(const MainModel &model, const QString &folder)
 {
-    KeptLyrics kept;
-    const QVector<quint16> ids = model.idsWithUnsavedLyrics();
+    KeptTexts kept;
+    const QVector<quint16> ids = model.unsavedIds();
     if (!ids.isEmpty())
         QDir().mkpath(folder);
     for (const quint16 id : ids) {
         const ModelItem *item = model.item(id);
-        const QByteArray content = contentFor(*item);
+        const QByteArray content = contentFor(*item, model.hasUnsavedLyrics(id));
         if (keep(*item, content, folder))
             ++kept.songs;
         else
