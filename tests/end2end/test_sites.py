@@ -8,6 +8,8 @@ import sites
 from server import Answer
 
 NAMES = [site.endpoints[0] for site in sites.LYRICS_SITES]
+# The last in the default order.
+LAST = sites.LYRICS_SITES[-1]
 TAKEDOWN = "gracenote_takedown of these lyrics"
 
 
@@ -64,13 +66,13 @@ class SitesTest(unittest.TestCase):
                     self.assert_words(path, name)
 
     def test_the_order_is_the_users_and_what_one_has_not_the_next_is_asked_for(self):
+        order = NAMES[::-1]
         known = {name: ["Everywhere", "Withdrawn"] for name in NAMES}
-        known["MusixMatch"] = make_site(sites.MusixMatchSite, known["MusixMatch"], Withdrawn=TAKEDOWN)
-        known["LyricsFreak"] = [*known["LyricsFreak"], "Last in Line"]
+        known[NAMES[-1]] = make_site(LAST, known[NAMES[-1]], Withdrawn=TAKEDOWN)
+        known[order[-1]] = [*known[order[-1]], "Last in Line"]
         known["Genius"] = [*known["Genius"], "Mended Names"]
         wrong = ("Nora Wale", "Mended Names")
         session = self.session(known, {wrong: [("Nobody", "Mended Names"), (rig.ARTIST, "Mended Names")]})
-        order = NAMES[::-1]
         paths = [*self.songs(session, "Everywhere", "Withdrawn", "Last in Line"),
                  *self.songs(session, "Mended Names", artist=wrong[0])]
         unknown, = self.songs(session, "Never Written")
@@ -86,7 +88,7 @@ class SitesTest(unittest.TestCase):
                     self.assert_words(session.music / f"{title}.mp3", holder)
         self.assertEqual(rig.digest(unknown), digest)
         log = session.messages(10000)
-        for message in ("MusixMatch has the lyrics", "AZLyrics has no such song", "DarkLyrics listed nothing"):
+        for message in (f"{order[0]} has the lyrics", "AZLyrics has no such song", "DarkLyrics listed nothing"):
             self.assertIn(message, log)
         for secret in ("first line", "Last in Line", "127.0.0.1", str(session.music)):
             self.assertNotIn(secret, log)
@@ -108,10 +110,10 @@ class SitesTest(unittest.TestCase):
         alone, = self.songs(session, "Left Alone")
         digest = rig.digest(alone)
         self.search(session, [path], [f"{name}::0" for name in NAMES[::-1]], [alone])
-        self.assert_words(path, "MusixMatch", "Second Guess")
+        self.assert_words(path, NAMES[-1], "Second Guess")
         self.assertEqual(rig.digest(alone), digest)
         self.assertEqual([asked(session, title) for title in ("Locked", "First Guess", "Second Guess", "Left Alone")],
-                         [["Lastfm"], [], ["MusixMatch"], ["Lastfm"]])
+                         [["Lastfm"], [], [NAMES[-1]], ["Lastfm"]])
 
 
 def asked(session, title):
