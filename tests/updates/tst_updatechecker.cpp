@@ -182,7 +182,7 @@ private slots:
         m_signature = signUpdate({m_key, "2.0"_s, m_keys.write("setup"_s, setupContent)});
         QCOMPARE(QByteArray::fromBase64(m_signature).size(), 64);
         // No program could read these as they are meant.
-        for (const QString &version : {"2..0"_s, "1.256"_s, "1.000000000000000000000000000000000"_s})
+        for (const QString &version : {"2"_s, "2..0"_s, "1.256"_s, "1.000000000000000000000000000000000"_s})
             QCOMPARE(signUpdate({m_key, version, m_keys.path("setup"_s)}), QByteArray());
     }
 
