@@ -172,6 +172,7 @@ void LimitedReply::forwardSignals()
     connect(source, &QNetworkReply::uploadProgress, this, &QNetworkReply::uploadProgress);
     connect(source, &QNetworkReply::downloadProgress, this, &QNetworkReply::downloadProgress);
     connect(source, &QNetworkReply::encrypted, this, &QNetworkReply::encrypted);
+    connect(source, &QNetworkReply::sslErrors, this, [this] { m_isDistrusted = true; });
     connect(source, &QNetworkReply::sslErrors, this, &QNetworkReply::sslErrors);
 }
 
@@ -302,6 +303,10 @@ int LimitedReply::httpStatus() const
 
 QString LimitedReply::sourceErrorText() const
 {
+    // Qt has its words for these in English alone, and they name what nobody can do anything about.
+    if (m_source->error() == SslHandshakeFailedError)
+        return m_isDistrusted ? tr("The site's certificate is not trusted.")
+                              : tr("No secure connection to the site could be made.");
     // Qt's text for these names the whole address, which helps nobody and may hold a key of a web service.
     return httpStatus() >= 400 ? statusText(httpStatus()) : m_source->errorString();
 }

@@ -96,6 +96,7 @@ private:
     qint64 m_receivedBytes = 0; // as transferred, before inflation
     bool m_ignoresSslErrors = false;
     QList<QSslError> m_ignoredSslErrors;
+    bool m_isDistrusted = false; // something is wrong with the certificate
     NetworkError m_failure = NoError;
     QString m_failureText;
     bool m_settled = false;
