@@ -8,6 +8,7 @@ import "."
 ScrollView {
     id: songList
 
+    readonly property string label: qsTr("Songs")
     readonly property alias count: list.count
     readonly property bool hasScrollBar: __verticalScrollBar.visible
 
@@ -134,7 +135,7 @@ ScrollView {
         }
 
         Accessible.role: Accessible.List
-        Accessible.name: qsTr("Songs")
+        Accessible.name: songList.label
         Accessible.focusable: true
 
         delegate: FileItemDelegate {

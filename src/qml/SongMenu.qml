@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.2
 import QtQuick.Controls 1.1
+import QtQuick.Window 2.2
+import com.quillmarsh 1.0
 
 // The commands for the songs of the list.
 Menu {
@@ -16,6 +18,11 @@ Menu {
     property int qtVersion: 0
     readonly property bool forSelection: row >= 0 && selectedCount > 0
     readonly property bool forRow: row >= 0 && selectedCount <= 1
+
+    // The arrow keys move no focus in such a menu, so a screen reader would hear nothing of them.
+    property SpokenFocus spoken: SpokenFocus {
+        item: menu.__currentIndex >= 0 ? menu.items[menu.__currentIndex].__visualItem : null
+    }
 
     signal forceSearch()
     signal exportLyrics()
@@ -34,6 +41,14 @@ Menu {
 
     function openAt(x, y) {
         __popup(Qt.rect(x, y, 0, 0), -1, 0);
+    }
+
+    // The content and its window are made anew each time.
+    onPopupVisibleChanged: {
+        if (__popupVisible) {
+            __contentItem.item.Accessible.name = title;
+            __contentItem.item.Window.window.title = title;
+        }
     }
 
     MenuItem {

@@ -81,6 +81,27 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     return scene ? itemInterface(scene, item) : nullptr;
 }
 
+// Hands every event on to the screen readers, but two that Qt 5.15 tells amiss: that the keyboard has come to the
+// widget, which never acts on it, comes after the scene has told of its item; and that a row is or is not selected any
+// more is told in a way that Qt's bridge to the bus takes no notice of.
+void passOn(QAccessibleEvent *event)
+{
+    const bool isFocus = event->type() == QAccessible::Focus;
+    auto *scene = isFocus ? qobject_cast<QQuickWidget *>(event->object()) : nullptr;
+    QQuickItem *focused = scene ? scene->quickWindow()->activeFocusItem() : nullptr;
+    const bool isSelection = event->type() == QAccessible::StateChanged && event->object() &&
+                             static_cast<QAccessibleStateChangeEvent *>(event)->changedStates().selected;
+    QAccessible::installUpdateHandler(nullptr);
+    if (focused || isSelection) {
+        QAccessibleEvent instead(focused ? focused : event->object(),
+                                 focused ? QAccessible::Focus : QAccessible::Selection);
+        QAccessible::updateAccessibility(&instead);
+    } else {
+        QAccessible::updateAccessibility(event);
+    }
+    QAccessible::installUpdateHandler(passOn);
+}
+
 // Keeps the invisible window where the scene is seen when the window around it moves, which the widget is not told:
 // the places of all items on the screen are reckoned from there.
 class PlaceKeeper : public QObject
@@ -111,7 +132,8 @@ void SceneAccessibility::install(QQuickWidget *scene)
     // Qt Quick's own interfaces come with its first import, and what comes last is asked first.
     QQmlComponent(scene->engine()).setData("import QtQuick 2.2; Item {}", QUrl());
     QAccessible::installFactory(makeInterface); // once, however often it is called
-    new PlaceKeeper(scene);                     // owned by the scene
+    QAccessible::installUpdateHandler(passOn);
+    new PlaceKeeper(scene); // owned by the scene
 }
 
 SceneAccessibility::SceneAccessibility(QQuickWidget *scene)

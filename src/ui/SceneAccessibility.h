@@ -9,7 +9,8 @@ class QQuickWidget;
 // role. Qt 5.15 shows nothing inside a QQuickWidget; it takes the invisible window that the scene is drawn in for a
 // window of the program, and all items for invisible.
 //
-// The items' interfaces are Qt's own, but for their state and the root's parent. Main thread only.
+// The items' interfaces are Qt's own, but for their state and the root's parent; what happens to them is told as screen
+// readers understand it. Main thread only.
 class SceneAccessibility : public QAccessibleWidget
 {
 public:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/SceneItemAccessibility.h"
 
+#include "ui/SpokenFocus.h"
+
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
@@ -25,6 +27,10 @@ QAccessible::State SceneItemAccessibility::state() const
         state.invisible = !m_scene->isVisible() || !item->isVisible() || rect().isNull();
     if (item)
         state.disabled = !item->isEnabled();
+    if (item && SpokenFocus::isOn(item)) {
+        state.focusable = true;
+        state.focused = true;
+    }
     return state;
 }
 

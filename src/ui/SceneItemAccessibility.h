@@ -8,8 +8,9 @@ class QQuickItem;
 class QQuickWidget;
 
 // An item of a scene in a QQuickWidget as screen readers see it: what Qt says of it, but that it is visible when the
-// widget is and disabled when the item is, and that the way up from the scene's root leads to the widget. Qt asks the
-// window that the item is drawn in, which is never shown. Owned by Qt's cache of interfaces.
+// widget is and disabled when the item is, that it has the focus when the keys act on it (SpokenFocus), and that the
+// way up from the scene's root leads to the widget. Qt asks the window that the item is drawn in, which is never shown.
+// Owned by Qt's cache of interfaces.
 class SceneItemAccessibility : public QAccessibleInterface
 {
 public:

@@ -8,6 +8,7 @@
 #include "ui/LineSpacing.h"
 #include "ui/Pictures.h"
 #include "ui/SceneAccessibility.h"
+#include "ui/SpokenFocus.h"
 
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -68,6 +69,7 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
     LineSpacing::registerType();
     Legibility::registerType();
+    SpokenFocus::registerType();
     SceneAccessibility::install(this);
     setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     if (rootObject())

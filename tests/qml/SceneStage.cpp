@@ -7,6 +7,7 @@
 #include "ui/Legibility.h"
 #include "ui/LineSpacing.h"
 #include "ui/Pictures.h"
+#include "ui/SpokenFocus.h"
 
 #include <QFile>
 #include <QQmlContext>
@@ -63,6 +64,7 @@ void SceneStage::applicationAvailable()
     initPictures();
     LineSpacing::registerType();
     Legibility::registerType();
+    SpokenFocus::registerType();
 }
 
 void SceneStage::qmlEngineAvailable(QQmlEngine *engine)
