@@ -75,6 +75,26 @@ Item {
             verify(!field.pending);
         }
 
+        function test_a_song_that_goes_gets_what_was_typed_for_it() {
+            var gone = Qt.createQmlObject("import QtQuick 2.2; QtObject { property int id: 3; property string title }", field);
+            field.subject = gone;
+            keyClick(Qt.Key_G);
+            field.subject = otherSong;
+            gone.destroy();
+            wait(0);
+            field.confirmAmong([2, 3]);
+            compare(song.title, "Old");
+            keyClick(Qt.Key_O);
+            field.confirmAmong([]);
+            compare(song.title, "Olde");
+            compare(otherSong.title, field.text);
+            field.subject = song;
+            keyClick(Qt.Key_X);
+            keyClick(Qt.Key_Escape); // given up
+            field.confirmAmong([]);
+            compare(song.title, "Olde");
+        }
+
         function test_a_line_break_in_the_value_is_no_edit() {
             field.restore();
             song.title = "two\nlines";

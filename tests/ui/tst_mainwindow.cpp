@@ -628,10 +628,8 @@ private slots:
         QCOMPARE(textOf("artistField"), "n"_s); // a name that was typed is still there as well
         act();
         answer(QMessageBox::Discard);
-        if (rowsLeft < 3 || cause == "close"_s) {
-            QTRY_VERIFY(question() && question()->text().contains("artist"_s)); // the name that was typed
-            answer(QMessageBox::Discard);
-        }
+        if (rowsLeft < 3 || cause == "close"_s)
+            answer(QMessageBox::Discard); // of the name that was typed
         QVERIFY(!edit->active());
         QCOMPARE(m_model->rowCount(), rowsLeft);
         QCOMPARE(m_window->isVisible(), cause != "close"_s);
@@ -722,6 +720,19 @@ private slots:
         QCOMPARE(m_model->unsavedIds().size(), 0); // nothing is left to be kept elsewhere
         if (cause == "key"_s)                      // the next one takes the place, and the keyboard goes on with it
             QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{song(1)->id()});
+    }
+
+    // Nobody is asked when the program is told to end.
+    void whatIsTypedGoesToItsSongWhenTheWindowGoes()
+    {
+        addCopies(1);
+        beginDraft(0);
+        part("artistField")->forceActiveFocus();
+        press(Qt::Key_N);
+        m_window.reset();
+        QCOMPARE(song(0)->artistTag(), "n"_s);
+        QCOMPARE(song(0)->lyricsTag(), "new"_s);
+        QCOMPARE(m_model->unsavedIds().size(), 1);
     }
 
     void writesAreWaitedFor_data()
@@ -822,9 +833,9 @@ private:
             MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
         QTRY_COMPARE(frames.size(), 1); // the scene is whole then
 
+    }
     // Songs without names, which nobody searches for, in a folder of their own.
     void addCopies(int count)
     {
@@ -848,12 +859,15 @@ private:
         m_window->lyricsEdit()->setText("new"_s);
     }
 
-    // Answers the open question, after which the window has the keyboard again.
+    // Answers the open question, after which the next one is there, or the window has the keyboard again.
     void answer(QMessageBox::StandardButton button)
     {
         QTRY_VERIFY(question());
-        question()->button(button)->click();
-        QTRY_VERIFY(!question());
+        const QPointer<QMessageBox> answered = question();
+        answered->button(button)->click();
+        QTRY_VERIFY(!answered);
+        if (question())
+            return;
         m_window->activateWindow();
         QTRY_VERIFY(!m_window->isVisible() || QGuiApplication::focusWindow() == m_window->windowHandle());
     }
