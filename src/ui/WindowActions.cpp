@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/WindowActions.h"
 
+#include "ui/Legibility.h"
 #include "ui/MenuStyle.h"
 #include "ui/Pictures.h"
 
@@ -15,6 +16,7 @@
 #include <QToolButton>
 
 static constexpr QSize toolIconSize(24, 24);
+static constexpr int gearWidth = 30;
 
 // In a list of a menu's entries.
 static constexpr QAction *separator = nullptr;
@@ -39,6 +41,14 @@ protected:
 };
 
 } // namespace
+
+static void scale(QToolBar *bar, QToolButton *gear, qreal textScale)
+{
+    bar->setIconSize(toolIconSize * textScale);
+    gear->setStyleSheet(
+        QStringLiteral(" QToolButton { width: %1; border: none; } QToolButton::menu-indicator { image: none; }")
+            .arg(qRound(gearWidth * textScale)));
+}
 
 static void fill(QMenu *menu, std::initializer_list<QAction *> entries)
 {
@@ -108,7 +118,7 @@ void WindowActions::createActions(QMainWindow *window)
         action->setObjectName(QLatin1String(row.name));
         action->setMenuRole(row.role);
         if (row.icon)
-            action->setIcon(QIcon(QLatin1String(row.icon)));
+            action->setIcon(pictureIcon(QLatin1String(row.icon)));
         action->setIconVisibleInMenu(false); // it would not be seen on the highlight colour
         if (row.shortcut)
             action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
@@ -137,7 +147,6 @@ void WindowActions::createToolBar(QMainWindow *window)
     m_toolBar->setMovable(false);
     m_toolBar->setFloatable(false);
     m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
-    m_toolBar->setIconSize(toolIconSize);
     m_toolBar->setStyleSheet(QStringLiteral("QToolBar { border: none; spacing: 0px }"));
     m_toolBar->addActions({addFile, addFolder});
     for (QAction *action : m_toolBar->actions())
@@ -147,17 +156,19 @@ void WindowActions::createToolBar(QMainWindow *window)
     m_toolBar->addWidget(gap);
     createGearButton(m_toolBar);
     m_toolBar->layout()->setContentsMargins(4, 4, 8, 4); // the bar's own margins would only make it larger
+    const auto *legibility = new Legibility(m_toolBar);
+    QObject::connect(legibility, &Legibility::textScaleChanged, m_gear,
+                     [bar = m_toolBar, gear = m_gear, legibility] { scale(bar, gear, legibility->textScale()); });
+    scale(m_toolBar, m_gear, legibility->textScale());
 }
 
 void WindowActions::createGearButton(QToolBar *bar)
 {
     m_gear = new RingedToolButton(bar);
     m_gear->setObjectName(QStringLiteral("gearButton"));
-    m_gear->setIcon(QIcon(QStringLiteral(":/img/gear_small.png")));
+    m_gear->setIcon(pictureIcon(QStringLiteral(":/img/gear_small.png")));
     m_gear->setFocusPolicy(Qt::TabFocus);
     m_gear->setPopupMode(QToolButton::InstantPopup);
-    m_gear->setStyleSheet(
-        QStringLiteral(" QToolButton { width: 30; border: none; } QToolButton::menu-indicator { image: none; }"));
     auto *menu = new QMenu(bar->window()); // as a child of the button its colours would not follow the palette
     fill(menu, {settings, checkForUpdates, separator, hideWithLyrics});
     m_gear->setMenu(menu);
