@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Saves pictures of all that the program can show, light and dark, at 1x and 2x.
+"""Saves pictures of all that the program can show, light and dark, at 1x and 2x; and of much of it in large text, in high
+contrast and in other languages.
 
 The real program runs on virtual screens with generated songs, sites of its own and a private configuration, and is driven
 by keys and clicks.
@@ -42,7 +43,8 @@ FAILING = "Undertow"
 # The songs that are larger than this cannot be written where it is the limit.
 WRITE_LIMIT_BYTES = 80000
 
-DARK_PALETTE = """\
+# As the desktop stores them.
+DARK = """\
 [Colors:Window]
 BackgroundNormal=43,45,48
 ForegroundNormal=236,237,240
@@ -62,22 +64,36 @@ ForegroundNormal=255,255,255
 BackgroundNormal=54,56,60
 ForegroundNormal=236,237,240
 """
+COLOURS = {"light": "", "dark": DARK}
+for name, ground, ink, link, selection in [("black-on-white", "255,255,255", "0,0,0", "0,0,160", "0,0,0"),
+                                           ("white-on-black", "0,0,0", "255,255,255", "255,255,0", "255,255,0")]:
+    groups = "".join(f"[Colors:{group}]\nBackgroundNormal={ground}\nBackgroundAlternate={ground}\nForegroundNormal={ink}\n"
+                     f"ForegroundLink={link}\nForegroundVisited={link}\n" for group in ("Window", "View", "Button", "Tooltip"))
+    COLOURS[name] = f"{groups}[Colors:Selection]\nBackgroundNormal={selection}\nForegroundNormal={ground}\n"
+# Twice as large as desktops have it unasked.
+LARGE_TEXT = "[General]\nfont=Sans Serif,18,-1,5,50,0,0,0,0,0\nmenuFont=Sans Serif,18,-1,5,50,0,0,0,0,0\n"
 
 
 @dataclasses.dataclass(frozen=True)
 class Appearance:
-    dark: bool
+    colours: str
     scale: int
     language: str = ""
+    large: bool = False
 
     @property
     def name(self):
-        language = f"-{self.language}" if self.language else ""
-        return f"{'dark' if self.dark else 'light'}-{self.scale}x{language}"
+        parts = [self.colours, f"{self.scale}x", *["large"] * self.large, *[self.language] * bool(self.language)]
+        return "-".join(parts)
+
+    @property
+    def desktop(self):
+        """What the desktop's file of settings holds."""
+        return COLOURS[self.colours] + LARGE_TEXT * self.large
 
     @property
     def environment(self):
-        desktop = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"} if self.dark else {"XDG_CURRENT_DESKTOP": ""}
+        desktop = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"} if self.desktop else {"XDG_CURRENT_DESKTOP": ""}
         language = {"LC_ALL": f"{self.language}_{self.language.upper()}.UTF-8"} if self.language else {}
         return {**desktop, **language, "QT_SCALE_FACTOR": str(self.scale)}
 
@@ -137,8 +153,8 @@ class Show:
         # Every show writes into songs of its own.
         self.music = shutil.copytree(music, place.home / "Music")
         self.paths = [self.music / song.name for song in songs.SONGS]
-        if appearance.dark:
-            (place.home / "xdg_config_home" / "kdeglobals").write_text(DARK_PALETTE, encoding="ascii")
+        if appearance.desktop:
+            (place.home / "xdg_config_home" / "kdeglobals").write_text(appearance.desktop, encoding="ascii")
 
     def start(self, *prefix, files=(), title=MAIN, **general):
         """Starts the program with these files in its list and waits for its window."""
@@ -159,6 +175,10 @@ class Show:
         """Clicks there, so many rows below it, and takes the mouse away."""
         for x, y, *click in [(place[0], place[1] + row * ROW_HEIGHT, "click", button), NOWHERE]:
             self.screen.xdotool("mousemove", x * self.appearance.scale, y * self.appearance.scale, *click)
+
+    def choose_by_keys(self, *keys):
+        """Chooses from the menu "File", wherever it is."""
+        self.keys("Alt_L", "Down", *keys, "Return")
 
     def choose(self, menu, *keys):
         """Opens a menu by a click and chooses from it by keys."""
@@ -250,15 +270,19 @@ def show_dialogs(show):
     show.picture("menu")
     show.keys("Escape", "Escape")
     show.choose(GEAR, "Down")
+    show_preferences(show)
+    show.keys("Alt_L", "Left", "Down", "Return")
+    show.picture("about", show.focus(ABOUT))
+    show.keys("Escape")
+
+
+def show_preferences(show):
     preferences = show.focus(PREFERENCES)
     for tab in ("general", "network", "sites"):
         show.picture(f"preferences-{tab}", preferences)
         show.keys("ctrl+Tab")
     show.keys("Escape")
     show.focus(MAIN)
-    show.keys("Alt_L", "Left", "Down", "Return")
-    show.picture("about", show.focus(ABOUT))
-    show.keys("Escape")
 
 
 def show_small(show):
@@ -278,7 +302,12 @@ def show_troubles(show):
     show.picture("error-site")
     show.keys("End")
     show.picture("error-names")
-    show.choose(FILE_MENU, "Up")
+    show.keys("Home", "F2")
+    show.picture("error-edit")
+    show.keys("Escape")
+    show.choose_by_keys("Up", "Up")
+    show_preferences(show)
+    show.choose_by_keys("Up")
     show.picture("unsaved")
     stage.end(program)
 
@@ -312,12 +341,7 @@ def show_update(show):
     show.picture("update-checking", show.focus("Update"))
     maker.may_tell.set()
     show.picture("update-offer", show.focus("Update available!"))
-    show.keys("Return")
-    download = show.focus("Updating Versewell")
-    show.picture("update-download", download)
-    maker.may_send.set()
-    show.picture("update-ready", download)
-    show.keys("Return")  # nothing is installed that is not signed
+    show.keys("Return")  # nothing is downloaded that is not signed
     show.picture("update-failed", show.focus("Update"))
     show.keys("Escape")
     maker.newer = []
@@ -336,7 +360,16 @@ SHOWS = {
 }
 
 
-APPEARANCES = [*(Appearance(dark, scale) for dark in (False, True) for scale in (1, 2)), Appearance(False, 1, "de")]
+APPEARANCES = [*(Appearance(colours, scale) for colours in ("light", "dark") for scale in (1, 2)), Appearance("light", 1, "de"),
+               Appearance("black-on-white", 1), Appearance("white-on-black", 1),
+               *(Appearance("light", 1, language, True) for language in ("", "de", "ru")), Appearance("dark", 2, "", True)]
+
+
+def is_shown(scenes, appearance):
+    """The clicks of most shows are for text of the usual size; what is told in words alone is the same in all colours."""
+    if appearance.large or appearance.colours not in ("light", "dark"):
+        return scenes is show_troubles
+    return not appearance.language or scenes in (show_work, show_consent)
 
 
 def make_music(folder):
@@ -371,8 +404,7 @@ def main():
         make_music(pathlib.Path(music))
         for appearance in APPEARANCES:
             for scenes in SHOWS:
-                foreign = appearance.language and scenes not in (show_work, show_consent)
-                if not foreign and options.only in f"{scenes.__name__} {appearance.name}":
+                if is_shown(scenes, appearance) and options.only in f"{scenes.__name__} {appearance.name}":
                     run(options, scenes, appearance, music)
     print(f"Pictures: {options.folder}")
 

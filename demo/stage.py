@@ -74,7 +74,11 @@ class Screen:
 
     def windows(self, title):
         """The ids of all windows with this title that can be seen."""
-        return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+        if title.isascii():
+            return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+        # By other letters it finds none, although it knows the names.
+        return [window for window in self.xdotool("search", "--onlyvisible", "--class", ".")
+                if self.xdotool("getwindowname", window) == title.split()]
 
     def focus(self, title, seconds=30):
         """Waits for the window with this title and gives it the keyboard; its id, None when it did not come."""
