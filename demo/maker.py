@@ -6,7 +6,6 @@ import threading
 from server import Answer
 
 SETUP_BYTES = 14784921
-FIRST_BYTES = 3774874  # that are sent before the rest is held back
 YEAR = datetime.timedelta(days=366)
 
 NEWER = [
@@ -25,7 +24,7 @@ def version_info(version, changes, date, address):
 
 
 class MakerSite:
-    """Holds back what it knows, and the rest of a download, until it is told to go on."""
+    """Holds back what it knows until it is told to go on."""
 
     endpoints = ("Maker",)
 
@@ -33,7 +32,6 @@ class MakerSite:
         self.running = running
         self.newer = NEWER
         self.may_tell = threading.Event()
-        self.may_send = threading.Event()
 
     def answer(self, request):
         if request.path == "/versewell/Versewell.xml":
@@ -52,8 +50,5 @@ class MakerSite:
         handler.send_response(200)
         handler.send_header("Content-Length", str(SETUP_BYTES))
         handler.end_headers()
-        if handler.command == "HEAD":
-            return
-        handler.wfile.write(bytes(FIRST_BYTES))
-        self.may_send.wait()
-        handler.wfile.write(bytes(SETUP_BYTES - FIRST_BYTES))
+        if handler.command != "HEAD":
+            handler.wfile.write(bytes(SETUP_BYTES))
