@@ -42,12 +42,6 @@ QString lockFile()
     return QFileInfo(Application::settingsFile()).absolutePath() + QLatin1String("/Versewell.lock");
 }
 
-// An entry of the saved list: a url, or an absolute path.
-QUrl savedFileUrl(const QString &text)
-{
-    return text.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(text) : QUrl(text);
-}
-
 } // namespace
 
 Application::Application(int &argc, char **argv, const QString &readerProgram)
@@ -179,16 +173,8 @@ void Application::restoreFilesList()
 {
     if (!m_settings.keepsFilesList())
         return;
-    QList<QUrl> urls;
     // A list of one comes back from the store as a plain string, which toList() would lose.
-    const QStringList entries = storedValue(QSettings(), SettingsKey::FilesList).toStringList();
-    for (const QString &entry : entries) {
-        const QUrl url = savedFileUrl(entry);
-        if (url.isValid())
-            urls.append(url);
-    }
-    if (!urls.isEmpty())
-        m_mainModel.restore(urls);
+    m_mainModel.keep(storedValue(QSettings(), SettingsKey::FilesList).toStringList());
 }
 
 Application::OSType Application::osType()

@@ -64,8 +64,8 @@ public:
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
     // Lets another instance start while this one ends; nothing may be stored from here on.
     void makeWayForRestart() { m_instance.release(); }
-    // Adds the saved list of files to the model, when this program holds the lock and the settings say so. Once, before
-    // the window is made.
+    // Gives the saved list of files to the model, when this program holds the lock and the settings say so. Once, before
+    // the window is made; its files are looked at when the window is there (MainModel::restore).
     void restoreFilesList();
 
     [[nodiscard]] static OSType osType();

@@ -7,7 +7,6 @@
 #include "model/UnsavedTexts.h"
 #include "tags/TagReaderService.h"
 #include "tags/TagWriter.h"
-#include "ui/FirstPaint.h"
 #include "ui/MainWindow.h"
 
 #include <QDir>
@@ -56,7 +55,8 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
         window.hide();
         QCoreApplication::exit(showSceneError(app, reason));
     });
-    afterFirstPaint(&window, &app, [&app, &window] {
+    QObject::connect(&window, &MainWindow::firstFrameShown, &app, [&app, &window] {
+        app.mainModel()->restore();
         app.tracker()->release();
         app.updater()->setParentWindow(&window);
         // The way of the window's own "Quit", so that the end of the session is reported. It ends in the application's

@@ -12,6 +12,21 @@ constexpr std::chrono::milliseconds fetchInterval(20);
 // So many folders of one job may fail to answer before the others have to wait for them.
 constexpr std::size_t mostChecks = 32;
 
+// Whoever waits for the kept list is told after so long that it may take a while.
+constexpr std::chrono::seconds restorePatience(1);
+
+static QList<QUrl> urlsOf(const QStringList &entries)
+{
+    QList<QUrl> urls;
+    urls.reserve(entries.size());
+    for (const QString &entry : entries) {
+        const QUrl url = entry.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(entry) : QUrl(entry);
+        if (url.isValid())
+            urls.append(url);
+    }
+    return urls;
+}
+
 // Folders side by side are mostly on one disk: when the one of an album does not answer, those of the same collection
 // are looked at last.
 static void putNeighboursLast(QList<QUrl> &urls, const QUrl &stalled)
@@ -35,14 +50,33 @@ IncomingFiles::IncomingFiles(const DelayedFileCheck::Look &look, QObject *parent
     m_nextLook.setInterval(fetchInterval);
 }
 
-void IncomingFiles::restore(const QList<QUrl> &urls)
+void IncomingFiles::keep(const QStringList &entries)
+{
+    m_kept = entries;
+    setRestoring(!entries.isEmpty());
+}
+
+void IncomingFiles::restore()
 {
     const auto use = [this](const Found &found, bool isFirst) {
         m_away += found.away;
-        if (!found.files.isEmpty()) // else an empty block would come out
-            add(found.files, isFirst);
+        if (found.files.isEmpty()) // an empty block would come out
+            return;
+        add(found.files, isFirst);
+        setRestoring(false);
     };
-    begin(urls, use, true);
+    begin(urlsOf(std::exchange(m_kept, {})), use, true);
+    if (m_jobs.empty())
+        setRestoring(false);
+    QTimer::singleShot(restorePatience, this, [this] { setRestoring(false); });
+}
+
+void IncomingFiles::setRestoring(bool restoring)
+{
+    if (restoring == m_isRestoring)
+        return;
+    m_isRestoring = restoring;
+    emit restoringChanged();
 }
 
 void IncomingFiles::look(const QList<QUrl> &urls, const Use &use)
@@ -83,6 +117,8 @@ void IncomingFiles::takeFound()
         m_nextLook.stop();
     for (const Report &report : reports)
         report.use(report.found, report.isFirst);
+    if (m_jobs.empty() && m_kept.isEmpty())
+        setRestoring(false); // nothing was left of the list
 }
 
 IncomingFiles::Found IncomingFiles::takeFrom(Job &job)
@@ -114,7 +150,7 @@ void IncomingFiles::passStalled(Job &job) const
 
 QList<QUrl> IncomingFiles::waiting() const
 {
-    QList<QUrl> urls = m_known;
+    QList<QUrl> urls = m_known + urlsOf(m_kept);
     for (const Job &job : m_jobs) {
         for (const auto &check : job.checks)
             urls += job.isKept ? check->untaken() : QList<QUrl>();
@@ -124,6 +160,8 @@ QList<QUrl> IncomingFiles::waiting() const
 
 void IncomingFiles::clear()
 {
+    m_kept.clear();
+    setRestoring(false);
     m_jobs.clear();
     m_nextLook.stop();
     m_known.clear();

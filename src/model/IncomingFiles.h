@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 #include <QUrl>
 
@@ -28,8 +29,14 @@ public:
     // Looks at urls in this way.
     explicit IncomingFiles(const DelayedFileCheck::Look &look, QObject *parent = nullptr);
 
-    // Takes a list that was kept across runs; once.
-    void restore(const QList<QUrl> &urls);
+    // Takes a list that was kept across runs, of urls and absolute paths, and waits with it for restore(). Entries that
+    // are neither are left out.
+    void keep(const QStringList &entries);
+    // Begins to look at the kept list.
+    void restore();
+    // Whether files of the kept list may come out at any moment, and none has so far. Not longer than a second after
+    // restore(), since a disk that does not answer may never do so.
+    [[nodiscard]] bool isRestoring() const { return m_isRestoring; }
     // Looks at urls and hands over what they are, in parts, from the event loop. They are in the order in which they
     // were given, but for those that have to wait for a disk.
     void look(const QList<QUrl> &urls, const Use &use);
@@ -48,6 +55,7 @@ signals:
     // In the order in which they were taken. `isFirst` says that no block came right before this one, and that its
     // files are not a later part.
     void block(const QList<QUrl> &files, bool isFirst);
+    void restoringChanged();
 
 private:
     // The last check looks at most of the urls; those before it wait for disks.
@@ -63,9 +71,12 @@ private:
     void takeFound();
     [[nodiscard]] static Found takeFrom(Job &job);
     void passStalled(Job &job) const;
+    void setRestoring(bool restoring);
     void emitBlock(bool isFirst);
 
     const DelayedFileCheck::Look m_look;
+    QStringList m_kept; // until restore()
+    bool m_isRestoring = false;
     std::vector<Job> m_jobs;
     QTimer m_nextLook; // runs while there are jobs
     QList<QUrl> m_known;

@@ -36,6 +36,7 @@ MainModel::MainModel(QObject *parent)
     connect(&m_incoming, &IncomingFiles::block, this, [this](const QList<QUrl> &files, bool isFirst) {
         insertFiles(newUrls(files), isFirst || !m_reads.isReading());
     });
+    connect(&m_incoming, &IncomingFiles::restoringChanged, this, &MainModel::restoringChanged);
 }
 
 MainModel::~MainModel() = default;
@@ -184,11 +185,6 @@ void MainModel::add(const QList<QUrl> &urls, FileKnowledge knowledge)
         std::remove_if(files.begin(), files.end(), [](const QUrl &url) { return !DelayedFileCheck::isFile(url); }),
         files.end());
     insertFiles(files, true);
-}
-
-void MainModel::restore(const QList<QUrl> &urls)
-{
-    m_incoming.restore(urls);
 }
 
 void MainModel::insertFiles(const QList<QUrl> &files, bool requestRead)

@@ -32,6 +32,7 @@ class MainModel : public QAbstractListModel
     Q_PROPERTY(bool autoStart READ autoStart WRITE setAutoStart NOTIFY autoStartChanged)
     Q_PROPERTY(int searchCount READ searchCount NOTIFY searchCountChanged)
     Q_PROPERTY(int activeCount READ activeCount NOTIFY activeCountChanged)
+    Q_PROPERTY(bool restoring READ isRestoring NOTIFY restoringChanged)
 
 public:
     enum Role {
@@ -108,9 +109,14 @@ public:
     // the restored list and whose disk is away, until the list is emptied: what is to be kept across runs.
     [[nodiscard]] QList<QUrl> urls() const;
 
-    // Adds a list that was kept across runs. Its files are looked at elsewhere and become rows when that is done, so
-    // that a disk that does not answer holds up nothing but its own. To be called once.
-    void restore(const QList<QUrl> &urls);
+    // Takes a list that was kept across runs, of urls and absolute paths; once. It counts as part of the list from now
+    // on, but becomes rows only after restore(). Entries that are neither are left out.
+    void keep(const QStringList &entries) { m_incoming.keep(entries); }
+    // Begins to look at the files of the kept list, elsewhere; they become rows when that is done, so that a disk that
+    // does not answer holds up nothing but its own.
+    void restore() { m_incoming.restore(); }
+    // Whether the first rows of the kept list are to be expected at any moment.
+    [[nodiscard]] bool isRestoring() const { return m_incoming.isRestoring(); }
 
     // The supported extensions, each as "*.mp3", joined with the separator.
     Q_INVOKABLE QString supportedTypesMask(const QString &separator) const;
@@ -158,6 +164,7 @@ signals:
     void autoStartChanged(bool on);
     void searchCountChanged(int count);
     void activeCountChanged();
+    void restoringChanged();
     void scanFolders(const QList<QUrl> &folders);
     // A search was handed to the coordinator.
     void searchStarted(const QString &artist, const QString &title);

@@ -7,13 +7,11 @@ import "."
 Rectangle {
     id: bar
 
-    property bool shown: false
-
     signal answered(bool yes)
     signal exampleRequested()
 
-    implicitHeight: shown ? Math.max(Measures.barHeight, question.implicitHeight + 2 * Measures.halfGrid) : 0
-    visible: shown
+    objectName: "consentBar"
+    implicitHeight: Math.max(Measures.barHeight, question.implicitHeight + 2 * Measures.halfGrid)
     color: appPalette.hiddenInfoBackground
 
     Accessible.role: Accessible.Grouping

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.2
-import QtQuick.Layouts 1.0
 import com.quillmarsh 1.0
 import "."
 
@@ -72,7 +71,7 @@ Rectangle {
     Text {
         anchors.centerIn: parent
         width: parent.width - 4 * Measures.grid
-        visible: pane.song === null
+        visible: pane.song === null && !mainModel.restoring
         text: pane.selectedCount > 0 ? qsTr("Selected %n files", "", pane.selectedCount) : qsTr("No file is selected")
         textFormat: Text.PlainText
         wrapMode: Text.Wrap

@@ -3,22 +3,16 @@ import QtQuick 2.2
 import "."
 
 // The list of songs with the bars around it and its menu.
-Rectangle {
+Item {
     id: pane
 
-    property int qtVersion: 0
-
-    signal removeSelectedRequested()
-    signal removeAllRequested()
-    signal removeWithLyricsRequested()
-    signal forceSearchRequested()
-    signal exportLyricsRequested()
-    signal copyPathRequested(int row)
-    signal searchInBrowserRequested(int row)
-    signal addFilesRequested()
-    signal addFolderRequested()
-    // The user wants the list so many pixels wider.
-    signal edgeMoved(int distance)
+    // The ListSide that holds it.
+    property var side: null
+    readonly property alias count: songs.count
+    readonly property alias hasScrollBar: songs.hasScrollBar
+    // Heights of the bars that are shown.
+    readonly property alias above: scanningBar.height
+    readonly property alias below: hiddenBar.height
 
     // Whether a modified draft is of a song that is not shown any more.
     function draftLeft() {
@@ -28,15 +22,8 @@ Rectangle {
     }
 
     function takeFocus() {
-        if (songs.count === 0 && !emptyList.allHidden)
-            emptyList.takeFocus();
-        else
-            songs.takeFocus();
+        songs.takeFocus();
     }
-
-    // Another colour node, to the eye the same, whenever the scroll bar goes: the software renderer does not paint over
-    // what is left of it by itself.
-    color: songs.hasScrollBar ? appPalette.listBackground : Qt.tint(appPalette.listBackground, "#01808080")
 
     InfoBar {
         id: scanningBar
@@ -71,7 +58,7 @@ Rectangle {
 
         anchors { left: parent.left; right: parent.right; top: scanningBar.bottom; bottom: hiddenBar.top }
         focus: true
-        onRemoveSelectedRequested: pane.removeSelectedRequested()
+        onRemoveSelectedRequested: side.removeSelectedRequested()
         onMenuRequested: {
             // A click on another row may have left a draft that has to be asked about first.
             if (pane.draftLeft())
@@ -84,17 +71,6 @@ Rectangle {
             else
                 menu.openAtPointer(x, y);
         }
-    }
-
-    EmptyList {
-        id: emptyList
-
-        anchors.centerIn: songs
-        width: parent.width - 4 * Measures.grid
-        visible: songs.count === 0
-        allHidden: proxyModel.hiddenCount > 0
-        onAddFilesRequested: pane.addFilesRequested()
-        onAddFolderRequested: pane.addFolderRequested()
     }
 
     InfoBar {
@@ -116,28 +92,24 @@ Rectangle {
         LinkButton {
             text: qsTr("Remove")
             Accessible.name: qsTr("Remove hidden files from the list")
-            onClicked: pane.removeWithLyricsRequested()
+            onClicked: side.removeWithLyricsRequested()
         }
-    }
-
-    SplitterHandle {
-        anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
-        onMoved: pane.edgeMoved(distance)
     }
 
     SongMenu {
         id: menu
 
         objectName: "songMenu"
-        qtVersion: pane.qtVersion
+        title: songs.label
+        qtVersion: side ? side.qtVersion : 0
         selectedCount: proxyModel.selectedCount
         searchProvider: mainWindow ? mainWindow.searchEngine(settings.searchProvider) : ""
-        onForceSearch: pane.forceSearchRequested()
-        onExportLyrics: pane.exportLyricsRequested()
-        onRemoveSelected: pane.removeSelectedRequested()
-        onRemoveAll: pane.removeAllRequested()
+        onForceSearch: side.forceSearchRequested()
+        onExportLyrics: side.exportLyricsRequested()
+        onRemoveSelected: side.removeSelectedRequested()
+        onRemoveAll: side.removeAllRequested()
         // The rows may have moved since the menu was opened, or the song may have gone.
-        onCopyPath: pane.copyPathRequested(proxyModel.rowOf(songId))
-        onSearchInBrowser: pane.searchInBrowserRequested(proxyModel.rowOf(songId))
+        onCopyPath: side.copyPathRequested(proxyModel.rowOf(songId))
+        onSearchInBrowser: side.searchInBrowserRequested(proxyModel.rowOf(songId))
     }
 }

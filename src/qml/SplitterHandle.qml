@@ -2,11 +2,12 @@
 import QtQuick 2.2
 import "."
 
-// The border between list and details for the keyboard: with it, Left and Right move the border. It lies at the list's
-// edge, since the Tab key comes to the handles of a split view after all that they divide.
+// The border between list and details, at the list's edge: the mouse drags it, and with the keyboard Left and Right move
+// it.
 Item {
     id: handle
 
+    // By so many pixels to the right. The handle goes along with the border.
     signal moved(int distance)
 
     width: Measures.focusRing
@@ -25,5 +26,15 @@ Item {
         anchors.fill: parent
         color: appPalette.highlight
         visible: handle.activeFocus
+    }
+
+    MouseArea {
+        property real grabbedAt: 0
+
+        anchors { fill: parent; margins: -Measures.hairline }
+        cursorShape: Qt.SplitHCursor
+        preventStealing: true
+        onPressed: grabbedAt = mouse.x
+        onPositionChanged: handle.moved(mouse.x - grabbedAt)
     }
 }

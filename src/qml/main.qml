@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.5
-import QtQuick.Controls 1.1
-import QtQuick.Layouts 1.0
 import QtQuick.Window 2.2
 import "."
 
@@ -14,6 +12,8 @@ Rectangle {
     property int listWidth: Measures.listWidth
     // The version of Qt as one number; 0 until the window sets it.
     property int qtVersion: 0
+    // The first frame is on the screen: time to make what it could do without. Set by the window.
+    property bool complete: false
     // Whether the window waits for a dialog; set by the window.
     property bool blocked: false
     // Null while the window goes.
@@ -82,11 +82,6 @@ Rectangle {
         return Math.max(Measures.listMinimumWidth, Math.min(wanted, most));
     }
 
-    function layOutPanes() {
-        if (!panes.resizing)
-            list.width = boundedListWidth(listWidth);
-    }
-
     function showSelectedSong() {
         shownSong = proxyModel.selectedItem();
     }
@@ -96,10 +91,7 @@ Rectangle {
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Songs and lyrics")
 
-    onListWidthChanged: layOutPanes()
-    onWidthChanged: layOutPanes()
     Component.onCompleted: {
-        layOutPanes();
         showSelectedSong();
         list.takeFocus();
     }
@@ -161,62 +153,63 @@ Rectangle {
         onActivated: root.leaveEdit()
     }
 
-    SplitView {
-        id: panes
+    ListSide {
+        id: list
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: consentBar.top }
-        orientation: Qt.Horizontal
-        handleDelegate: Rectangle {
-            width: Measures.hairline
-            color: Qt.tint(appPalette.window, Qt.rgba(appPalette.windowText.r, appPalette.windowText.g, appPalette.windowText.b,
-                                                      Measures.hairlineStrength))
-        }
-
-        ListPane {
-            id: list
-
-            Layout.minimumWidth: Measures.listMinimumWidth
-            qtVersion: root.qtVersion
-            onWidthChanged: {
-                if (panes.resizing)
-                    root.listWidth = width;
-            }
-            onEdgeMoved: root.listWidth = root.boundedListWidth(width + distance)
-            onRemoveSelectedRequested: root.listRemoveSelected()
-            onRemoveAllRequested: root.listRemoveAll()
-            onRemoveWithLyricsRequested: root.listRemoveWithLyrics()
-            onForceSearchRequested: root.forceSearch()
-            onExportLyricsRequested: root.listExportLyricsSelected()
-            onCopyPathRequested: root.listCopyPathToClipboard(row)
-            onSearchInBrowserRequested: root.listSearchLyricsInBrowser(row)
-            onAddFilesRequested: root.addFilesRequested()
-            onAddFolderRequested: root.addFolderRequested()
-        }
-
-        DetailsPane {
-            id: details
-
-            Layout.minimumWidth: Measures.detailsMinimumWidth
-            Layout.fillWidth: true
-            song: root.shownSong
-            selectedCount: proxyModel.selectedCount
-            edit: root.edit
-            onSaveRequested: root.saveLyrics()
-            onForceSearchRequested: root.forceSearch()
-            onCopyRequested: root.listLyricsToClipboard(id)
-            onBrowserRequested: root.listSearchLyricsInBrowser_url(source)
-        }
+        anchors { left: parent.left; top: parent.top; bottom: consentBar.top }
+        width: root.boundedListWidth(root.listWidth)
+        complete: root.complete
+        qtVersion: root.qtVersion
+        onEdgeMoved: root.listWidth = root.boundedListWidth(width + distance)
+        onRemoveSelectedRequested: root.listRemoveSelected()
+        onRemoveAllRequested: root.listRemoveAll()
+        onRemoveWithLyricsRequested: root.listRemoveWithLyrics()
+        onForceSearchRequested: root.forceSearch()
+        onExportLyricsRequested: root.listExportLyricsSelected()
+        onCopyPathRequested: root.listCopyPathToClipboard(row)
+        onSearchInBrowserRequested: root.listSearchLyricsInBrowser(row)
+        onAddFilesRequested: root.addFilesRequested()
+        onAddFolderRequested: root.addFolderRequested()
     }
 
-    ConsentBar {
+    Rectangle {
+        id: border
+
+        anchors { left: list.right; top: parent.top; bottom: consentBar.top }
+        width: Measures.hairline
+        color: Qt.tint(appPalette.window, Qt.rgba(appPalette.windowText.r, appPalette.windowText.g, appPalette.windowText.b,
+                                                  Measures.hairlineStrength))
+    }
+
+    DetailsPane {
+        id: details
+
+        anchors { left: border.right; right: parent.right; top: parent.top; bottom: consentBar.top }
+        song: root.shownSong
+        selectedCount: proxyModel.selectedCount
+        edit: root.edit
+        onSaveRequested: root.saveLyrics()
+        onForceSearchRequested: root.forceSearch()
+        onCopyRequested: root.listLyricsToClipboard(id)
+        onBrowserRequested: root.listSearchLyricsInBrowser_url(source)
+    }
+
+    // No longer than there is something to ask.
+    Loader {
         id: consentBar
 
-        objectName: "consentBar"
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        height: implicitHeight
-        shown: root.consent !== null && root.consent.pending
-        onExampleRequested: root.consent.showExample()
-        onAnswered: {
+        source: root.consent !== null && root.consent.pending ? "ConsentBar.qml" : ""
+    }
+
+    Connections {
+        target: consentBar.item
+
+        function onExampleRequested() {
+            root.consent.showExample();
+        }
+
+        function onAnswered(yes) {
             // Before the button with the keyboard goes.
             list.takeFocus();
             root.consent.answer(yes);
@@ -239,7 +232,7 @@ Rectangle {
     Rectangle {
         x: list.x
         width: list.width
-        height: panes.height
+        height: list.height
         visible: dropArea.containsDrag
         color: "transparent"
         border { width: Measures.focusRing; color: appPalette.highlight }

@@ -125,14 +125,17 @@ public slots:
     void showSavesMended(const tags::MendedSaves &mended);
 
 signals:
+    // Once: the window is on the screen, or nobody sees it (SceneWidget::firstFrameShown). For work that must not delay
+    // it.
+    void firstFrameShown();
     // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.
     void sceneFailed(const QString &reason);
-
-protected:
-    void closeEvent(QCloseEvent *event) override;
     // The scene is to give these songs, by their ids, the names that were typed for them and not confirmed: they go.
     // Without ids all songs are meant.
     void typedNamesWanted(const QVariantList &ids);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     // Tells the scene when a dialog blocks the window: its shortcuts would work on behind it.
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -17,13 +17,18 @@
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 // The version of Qt that the scene is told, as one number: it opens its menus in the way of 5.5 and later.
 static constexpr int qtVersion = 551;
 
 static const char listWidthName[] = "listWidth";
+
+// A window that nobody sees is not painted; by then one that is seen has been.
+static constexpr std::chrono::seconds framePatience(2);
 
 // The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
 // namespace.
@@ -67,6 +72,8 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     engine()->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider);
     engine()->addImageProvider(QStringLiteral("file-cover"), covers);
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
+    connect(quickWindow(), &QQuickWindow::afterRendering, this, [this] { m_isRendered = true; });
+    QTimer::singleShot(framePatience, this, &SceneWidget::endFirstFrame);
     LineSpacing::registerType();
     Legibility::registerType();
     SpokenFocus::registerType();
@@ -84,11 +91,9 @@ SceneWidget::~SceneWidget()
 
 QString SceneWidget::loadErrors() const
 {
-    const QList<QQmlError> found = errors();
-    if (found.isEmpty())
-        return {};
+    // Those that the first frame does without are needed as well.
     QStringList lines = missingModules(engine()->importPathList());
-    for (const QQmlError &error : found)
+    for (const QQmlError &error : errors())
         lines.append(error.toString());
     return lines.join(QLatin1Char('\n'));
 }
@@ -169,6 +174,23 @@ void SceneWidget::watchFocus()
     m_focusedText = isText ? item : nullptr;
     if (isText)
         item->installEventFilter(this);
+}
+
+void SceneWidget::paintEvent(QPaintEvent *event)
+{
+    QQuickWidget::paintEvent(event);
+    if (m_isRendered && m_isFirstFrame)
+        QTimer::singleShot(0, this, &SceneWidget::endFirstFrame); // the window is painted as a whole before that
+}
+
+void SceneWidget::endFirstFrame()
+{
+    if (!m_isFirstFrame)
+        return;
+    m_isFirstFrame = false;
+    if (rootObject())
+        rootObject()->setProperty("complete", true);
+    emit firstFrameShown();
 }
 
 void SceneWidget::changeEvent(QEvent *event)

@@ -48,7 +48,13 @@ public slots:
     // Gives the keyboard to the lyrics that are edited.
     void focusLyrics();
 
+signals:
+    // Once, from the event loop: the first frame is on the screen, or none has come for two seconds, as in a window
+    // that starts minimized. The scene is told before this and makes what that frame could do without.
+    void firstFrameShown();
+
 protected:
+    void paintEvent(QPaintEvent *event) override;
     // A change of the language changes the scene's texts at once.
     void changeEvent(QEvent *event) override;
     // The Tab key goes round in the scene as one part of the window: its last item hands on to the window's buttons,
@@ -59,6 +65,9 @@ protected:
 private:
     [[nodiscard]] QQuickItem *firstTabStop() const;
     void watchFocus();
+    void endFirstFrame();
 
     QPointer<QQuickItem> m_focusedText;
+    bool m_isRendered = false; // what is painted before that shows nothing of the scene
+    bool m_isFirstFrame = true;
 };

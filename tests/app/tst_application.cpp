@@ -72,6 +72,9 @@ private slots:
         Stage app({{"filesList"_s, stored}, {"saveFilesList"_s, wanted}});
         QVERIFY(app->mainModel()->urls().isEmpty());
         app->restoreFilesList();
+        QCOMPARE(app->mainModel()->isRestoring(), wanted && stored.canConvert<QStringList>());
+        app->mainModel()->restore();
+        QTRY_VERIFY(!app->mainModel()->isRestoring());
         QTRY_COMPARE(app->mainModel()->urls().size(), expected.size());
         QTRY_COMPARE(app->mainModel()->rowCount(), expected.size());
         for (int row = 0; row < expected.size(); ++row)

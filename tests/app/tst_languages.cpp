@@ -29,6 +29,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -222,8 +223,10 @@ void tst_Languages::everyWindowServesEverybody()
     MainWindow window({m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this,
                        m_tracker.get(), m_consent.get(), &updater});
     window.resize(640, 400);
+    QSignalSpy frames(&window, &MainWindow::firstFrameShown);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_COMPARE(frames.size(), 1); // the scene is whole then
     if (isChangedWhileRunning) {
         QVERIFY(QCoreApplication::installTranslator(&m_translator));
         QCoreApplication::processEvents();

@@ -3,11 +3,11 @@
 
 #include "support/LoopbackServer.h"
 #include "support/TestTable.h"
-#include "ui/FirstPaint.h"
 #include "ui/MainWindow.h"
 
 #include <QAction>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
@@ -130,14 +130,13 @@ private slots:
         Stage &app = stageWithWindow();
         app->noteStart();
         m_window->resize(640, 400);
-        bool isPainted = false;
-        afterFirstPaint(m_window.get(), &*app, [&isPainted] { isPainted = true; });
+        QSignalSpy frames(m_window.get(), &MainWindow::firstFrameShown);
         QCoreApplication::processEvents();
-        QVERIFY(!isPainted);
+        QVERIFY(frames.isEmpty());
         m_window->show();
-        QTRY_VERIFY(isPainted);
+        QTRY_COMPARE(frames.size(), 1);
         app->tracker()->release();
-        QQuickItem *bar = item("consentBar");
+        const QPointer<QQuickItem> bar = item("consentBar");
         QVERIFY(bar->isVisible());
         for (const char *name : {"consentExample", "consentYes", "consentNo"})
             QVERIFY2(QRectF(scene()->rect()).contains(item(name)->mapRectToScene(item(name)->boundingRect())), name);
@@ -159,7 +158,7 @@ private slots:
         QTest::keyClick(scene(), Qt::Key_Tab);
         QVERIFY(item("consentYes")->hasActiveFocus());
         QTest::keyClick(scene(), Qt::Key_Space);
-        QVERIFY(!bar->isVisible());
+        QTRY_VERIFY(!bar);
         const QQuickItem *next = scene()->quickWindow()->activeFocusItem();
         QVERIFY(next && next->isVisible() && !next->objectName().startsWith("consent"_s));
         QCOMPARE(QSettings().value("usageStatistics"_s), QVariant("true"_s));

@@ -7,15 +7,15 @@ Item {
     width: 900
     height: 320
 
-    Loader { id: scene; anchors.fill: parent; source: "qrc:/qml/main.qml" }
+    Loader { id: scene; anchors.fill: parent; source: "qrc:/qml/main.qml"; onLoaded: item.complete = true }
     SignalSpy { id: removals; target: scene.item; signalName: "listRemoveSelected" }
     SignalSpy { id: searches; target: scene.item; signalName: "listForceSearchSelected" }
     SignalSpy { id: copies; target: scene.item; signalName: "listCopyPathToClipboard" }
 
     TestCase {
         readonly property var root: scene.item
-        readonly property var list: part("songList")
-        readonly property var menu: part("songMenu")
+        readonly property var list: root && root.complete ? part("songList") : null
+        readonly property var menu: root && root.complete ? part("songMenu") : null
 
         name: "Scene"
         when: windowShown

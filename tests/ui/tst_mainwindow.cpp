@@ -250,7 +250,7 @@ private slots:
         QVERIFY(QFile::remove(m_songs->filePath("0.txt"_s)));
         QVERIFY(QDir(m_songs->path()).mkdir("0.txt"_s));
         exportLyrics();
-        QTRY_VERIFY(labels().contains("The lyrics of 2 song(s) could not be exported"_s));
+        QTRY_VERIFY(labels().contains("The lyrics of 2 songs could not be exported"_s));
         QVERIFY(labels().contains("The list is full. Files left out: 7"_s));
         QCOMPARE(labels().filter("settings file"_s).size(), 1);
         QVERIFY(m_window->minimumSizeHint().width() < 640);
@@ -831,11 +831,12 @@ private:
     {
         m_window = std::make_unique<MainWindow>(
             MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
+        QSignalSpy frames(m_window.get(), &MainWindow::firstFrameShown);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTRY_COMPARE(frames.size(), 1); // the scene is whole then
-
     }
+
     // Songs without names, which nobody searches for, in a folder of their own.
     void addCopies(int count)
     {
