@@ -112,7 +112,7 @@ Item {
 
         x: Measures.textColumn
         y: Measures.titleTop
-        width: Math.min(implicitWidth, duration.x - x - Measures.icon - Measures.grid)
+        width: Math.min(implicitWidth, duration.x - x - (titleTagRole === "" ? 0 : Measures.icon) - Measures.grid)
         text: titleTagRole || qsTr("No title")
         textFormat: Text.PlainText
         elide: Text.ElideRight
@@ -152,7 +152,7 @@ Item {
 
     PaletteImage {
         anchors { left: title.right; leftMargin: Measures.halfGrid; verticalCenter: title.verticalCenter }
-        imageName: row.signsShown ? (row.selected ? "title_on_highlight" : "title") : ""
+        imageName: row.signsShown && titleTagRole !== "" ? (row.selected ? "title_on_highlight" : "title") : ""
     }
 
     PaletteImage {
