@@ -127,12 +127,14 @@ void StatusLine::updateWritesFailed(const QString &reason, int count)
 void StatusLine::showExported(const LyricsExport::Result &result)
 {
     if (result.failed > 1)
-        showNotice(LyricsExported, tr("The lyrics of %n song(s) could not be exported", nullptr, result.failed));
+        showNotice(LyricsExported, tr("The lyrics of %n songs could not be exported", nullptr, result.failed));
     else if (result.failed == 1)
         showNotice(LyricsExported, tr("The lyrics could not be written to %1", "%1 is the path of a file")
                                        .arg(QDir::toNativeSeparators(result.failedFile)));
-    else if (result.written > 0)
-        showNoticeBriefly(LyricsExported, tr("Lyrics exported to %n text file(s)", nullptr, result.written));
+    else if (result.written > 1)
+        showNoticeBriefly(LyricsExported, tr("Lyrics exported to %n text files", nullptr, result.written));
+    else if (result.written == 1)
+        showNoticeBriefly(LyricsExported, tr("Lyrics exported to one text file"));
     else
         showNoticeBriefly(LyricsExported, tr("There are no lyrics to export"));
 }
