@@ -119,17 +119,30 @@ void finishWrites()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
+QString keptText(int songs)
+{
+    return songs == 1 ? QApplication::translate("main", "The changes to one song were kept as a text file in %1",
+                                                "%1 is the path of a folder")
+                      : QApplication::translate("main", "The changes to %n songs were kept as text files in %1",
+                                                "%1 is the path of a folder", songs);
+}
+
+QString lostText(int songs)
+{
+    return songs == 1 ? QApplication::translate(
+                            "main", "The changes to one song could be kept nowhere: copy them from the details now.")
+                      : QApplication::translate(
+                            "main", "The changes to %n songs could be kept nowhere: copy them from the details now.",
+                            nullptr, songs);
+}
+
 void showTextsKept(const KeptTexts &kept, const QString &folder)
 {
     QStringList sentences;
     if (kept.songs > 0)
-        sentences.append(QApplication::translate("main", "The changes to %n song(s) were kept as text files in %1",
-                                                 "%1 is the path of a folder", kept.songs)
-                             .arg(QDir::toNativeSeparators(folder)));
+        sentences.append(keptText(kept.songs).arg(QDir::toNativeSeparators(folder)));
     if (!kept.lost.isEmpty())
-        sentences.append(QApplication::translate(
-            "main", "The changes to %n song(s) could be kept nowhere: copy them from the details now.", nullptr,
-            kept.lost.size()));
+        sentences.append(lostText(kept.lost.size()));
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Versewell"),
                     QApplication::translate("main", "Not all changes could be written into the songs."),
                     QMessageBox::Close);

@@ -61,8 +61,9 @@ void UnsavedLyricsGuard::before(const std::function<Songs()> &candidates,
     afterWrites(waitedFor, [this, candidates, action, waitedFor] {
         const Songs unsaved = those(candidates(), [this, &waitedFor](quint16 id) {
             const ModelItem *song = m_model->item(id);
-            return song && (song->namesEdited() ||
-                            (m_model->hasUnsavedLyrics(id) && (song->unsaved() || waitedFor.contains(id))));
+            const bool isWrittenSince = m_model->isWriting(id) && !waitedFor.contains(id);
+            return song && (song->unsaved() || !isWrittenSince) &&
+                   (song->namesEdited() || m_model->hasUnsavedLyrics(id));
         });
         if (unsaved.isEmpty()) {
             action({});
@@ -120,10 +121,13 @@ QString UnsavedLyricsGuard::lossOf(const Songs &ids) const
     const int lyrics = those(ids, [this](quint16 id) { return m_model->hasUnsavedLyrics(id); }).size();
     QStringList sentences;
     if (names > 0)
-        sentences.append(tr("The changed artist or title of %n song(s) is not in the file yet.", nullptr, names));
-    if (lyrics > 0)
         sentences.append(
-            tr("The lyrics of %n song(s) are not in the files and stand in the list only.", nullptr, lyrics));
+            names == 1 ? tr("The changed artist or title of one song is not in its file yet.")
+                       : tr("The changed artist or title of %n songs is not in their files yet.", nullptr, names));
+    if (lyrics > 0)
+        sentences.append(lyrics == 1 ? tr("The lyrics of one song are not in its file and stand in the list only.")
+                                     : tr("The lyrics of %n songs are not in their files and stand in the list only.",
+                                          nullptr, lyrics));
     return sentences.join(QLatin1Char('\n'));
 }
 

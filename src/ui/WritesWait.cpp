@@ -55,7 +55,7 @@ void WritesWait::show()
 {
     if (!m_next.isActive())
         return;
-    m_box = makeQuestionBox(tr("Lyrics are still being written into the songs."),
+    m_box = makeQuestionBox(tr("Changes are still being written into the songs."),
                             tr("It goes on by itself when this is done."), QMessageBox::Cancel, m_window);
     connect(m_box, &QMessageBox::finished, this, [this] {
         m_next.stop();
