@@ -281,6 +281,14 @@
         <source>The answer is larger than %1.</source>
         <translation>Die Antwort ist größer als %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Dem Zertifikat der Website wird nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Es kam keine sichere Verbindung zur Website zustande.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1295,24 +1303,10 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
             <numerusform>Nicht gespeichert: %n Songs (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Der Songtext von %n Song konnte nicht exportiert werden</numerusform>
-            <numerusform>Die Songtexte von %n Songs konnten nicht exportiert werden</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Der Songtext konnte nicht geschrieben werden: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Songtext in %n Textdatei exportiert</numerusform>
-            <numerusform>Songtexte in %n Textdateien exportiert</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1331,6 +1325,24 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Ein Speichern wurde abgebrochen. Songs, die noch wiederhergestellt werden: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Der Songtext von %n Song konnte nicht exportiert werden</numerusform>
+            <numerusform>Die Songtexte von %n Songs konnten nicht exportiert werden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Songtext in %n Textdatei exportiert</numerusform>
+            <numerusform>Songtexte in %n Textdateien exportiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Songtext in eine Textdatei exportiert</translation>
     </message>
 </context>
 <context>
@@ -1402,27 +1414,59 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>Der Songtext von %n Song ist nicht in der Datei gespeichert und steht nur in der Liste.</numerusform>
-            <numerusform>Die Songtexte von %n Songs sind nicht in den Dateien gespeichert und stehen nur in der Liste.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Möchten Sie die Änderungen speichern?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Trotzdem verwerfen?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>Der geänderte Interpret oder Titel eines Songs ist noch nicht in der Datei gespeichert.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>Der geänderte Interpret oder Titel von %n Song ist noch nicht in der Datei gespeichert.</numerusform>
             <numerusform>Die geänderten Interpreten oder Titel von %n Songs sind noch nicht in den Dateien gespeichert.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Möchten Sie die Änderungen speichern?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Der Songtext eines Songs ist nicht in der Datei gespeichert und steht nur in der Liste.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>Der Songtext von %n Song ist nicht in der Datei gespeichert und steht nur in der Liste.</numerusform>
+            <numerusform>Die Songtexte von %n Songs sind nicht in den Dateien gespeichert und stehen nur in der Liste.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>„%1“ konnte nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>der Song wird gerade noch geschrieben</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... und %n weiterer</numerusform>
+            <numerusform>... und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Interpret: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Titel: %1</translation>
     </message>
 </context>
 <context>
@@ -1624,12 +1668,12 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Songtexte werden noch in die Songs geschrieben.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Danach geht es von selbst weiter.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Änderungen werden noch in die Songs geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -1642,24 +1686,33 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
         <source>The window could not be built.</source>
         <translation>Das Fenster konnte nicht aufgebaut werden.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>Der Songtext von %n Song wurde als Textdatei aufbewahrt in %1</numerusform>
-            <numerusform>Die Songtexte von %n Songs wurden als Textdateien aufbewahrt in %1</numerusform>
-        </translation>
+        <translation>Die Änderungen an einem Song wurden als Textdatei aufbewahrt in %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>Der Songtext von %n Song konnte nirgends aufbewahrt werden: Kopieren Sie ihn jetzt aus den Details.</numerusform>
-            <numerusform>Die Songtexte von %n Songs konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</numerusform>
+            <numerusform>Die Änderungen an %n Song wurden als Textdatei aufbewahrt in %1</numerusform>
+            <numerusform>Die Änderungen an %n Songs wurden als Textdateien aufbewahrt in %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Nicht alle Songtexte konnten in die Songs geschrieben werden.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Die Änderungen an einem Song konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Die Änderungen an %n Song konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</numerusform>
+            <numerusform>Die Änderungen an %n Songs konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Nicht alle Änderungen konnten in die Songs geschrieben werden.</translation>
     </message>
 </context>
 </TS>

@@ -281,6 +281,14 @@
         <source>The answer is larger than %1.</source>
         <translation>La respuesta ocupa más de %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>El certificado del sitio no es de confianza.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>No se pudo establecer una conexión segura con el sitio.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1295,24 +1303,10 @@ Comprobar que el nombre es correcto.</translation>
             <numerusform>No se pudieron guardar %n canciones (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>No se pudo exportar la letra de %n canción</numerusform>
-            <numerusform>No se pudieron exportar las letras de %n canciones</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>No se pudo guardar la letra en %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Letra exportada a %n archivo de texto</numerusform>
-            <numerusform>Letras exportadas a %n archivos de texto</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1331,6 +1325,24 @@ Comprobar que el nombre es correcto.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Un guardado se interrumpió. Canciones que aún se están restaurando: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>No se pudo exportar la letra de %n canción</numerusform>
+            <numerusform>No se pudieron exportar las letras de %n canciones</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Letra exportada a %n archivo de texto</numerusform>
+            <numerusform>Letras exportadas a %n archivos de texto</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Letra exportada a un archivo de texto</translation>
     </message>
 </context>
 <context>
@@ -1402,27 +1414,59 @@ Comprobar que el nombre es correcto.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>La letra de %n canción no está guardada en el archivo, solo en la lista.</numerusform>
-            <numerusform>Las letras de %n canciones no están guardadas en los archivos, solo en la lista.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>¿Guardar los cambios?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>¿Descartar de todos modos?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>El artista o el título modificado de una canción aún no está guardado en el archivo.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>El artista o el título modificado de %n canción aún no está guardado en el archivo.</numerusform>
             <numerusform>Los artistas o títulos modificados de %n canciones aún no están guardados en los archivos.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>¿Guardar los cambios?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>La letra de una canción no está guardada en el archivo, solo en la lista.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>La letra de %n canción no está guardada en el archivo, solo en la lista.</numerusform>
+            <numerusform>Las letras de %n canciones no están guardadas en los archivos, solo en la lista.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>No se pudo guardar «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>todavía se está escribiendo</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... y %n más</numerusform>
+            <numerusform>... y %n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Artista: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Título: %1</translation>
     </message>
 </context>
 <context>
@@ -1624,12 +1668,12 @@ Comprobar que el nombre es correcto.</translation>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Aún se están escribiendo letras en las canciones.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Continúa por sí solo cuando termina.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Todavía se están escribiendo cambios en las canciones.</translation>
     </message>
 </context>
 <context>
@@ -1642,24 +1686,33 @@ Comprobar que el nombre es correcto.</translation>
         <source>The window could not be built.</source>
         <translation>No se pudo crear la ventana.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>La letra de %n canción se conservó como archivo de texto en %1</numerusform>
-            <numerusform>Las letras de %n canciones se conservaron como archivos de texto en %1</numerusform>
-        </translation>
+        <translation>Los cambios de una canción se conservaron como archivo de texto en %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>La letra de %n canción no se pudo conservar en ningún sitio: hay que copiarla ahora desde los detalles.</numerusform>
-            <numerusform>Las letras de %n canciones no se pudieron conservar en ningún sitio: hay que copiarlas ahora desde los detalles.</numerusform>
+            <numerusform>Los cambios de %n canción se conservaron como archivo de texto en %1</numerusform>
+            <numerusform>Los cambios de %n canciones se conservaron como archivos de texto en %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>No se pudieron escribir todas las letras en las canciones.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Los cambios de una canción no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde los detalles.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Los cambios de %n canción no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde los detalles.</numerusform>
+            <numerusform>Los cambios de %n canciones no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde los detalles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>No se pudieron escribir todos los cambios en las canciones.</translation>
     </message>
 </context>
 </TS>

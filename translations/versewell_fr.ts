@@ -83,11 +83,11 @@
     <name>ConsentBar</name>
     <message>
         <source>May usage events be sent to the maker? Those about searches name artist and title.</source>
-        <translation>Autoriser l’envoi de données d’utilisation au développeur&#x202f;? Pour les recherches, elles contiennent l’artiste et le titre.</translation>
+        <translation>Autoriser l’envoi de données d’utilisation au développeur ? Pour les recherches, elles contiennent l’artiste et le titre.</translation>
     </message>
     <message>
         <source>What is sent?</source>
-        <translation>Qu’est-ce qui est envoyé&#x202f;?</translation>
+        <translation>Qu’est-ce qui est envoyé ?</translation>
     </message>
     <message>
         <source>Show an example of a usage event</source>
@@ -201,7 +201,7 @@
     <name>ExitWidget</name>
     <message>
         <source>Do you want to quit anyway?</source>
-        <translation>Voulez-vous quitter quand même&#x202f;?</translation>
+        <translation>Voulez-vous quitter quand même ?</translation>
     </message>
     <message numerus="yes">
         <source>Search for %n songs is currently in progress.</source>
@@ -281,6 +281,14 @@
         <source>The answer is larger than %1.</source>
         <translation>La réponse dépasse %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Le certificat du site n’est pas approuvé.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Aucune connexion sécurisée au site n’a pu être établie.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -328,7 +336,7 @@
     </message>
     <message>
         <source>Do you want to save the changes?</source>
-        <translation>Voulez-vous enregistrer les modifications&#x202f;?</translation>
+        <translation>Voulez-vous enregistrer les modifications ?</translation>
     </message>
 </context>
 <context>
@@ -344,7 +352,7 @@
     </message>
     <message>
         <source>These lyrics are very long; their beginning is shown.</source>
-        <translation>Ces paroles sont très longues&#x202f;; seul le début est affiché.</translation>
+        <translation>Ces paroles sont très longues ; seul le début est affiché.</translation>
     </message>
 </context>
 <context>
@@ -927,7 +935,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>All settings will be removed and returned to default values. Are you sure?</source>
-        <translation>Tous les paramètres seront effacés et rétablis à leur valeur par défaut. Voulez-vous continuer&#x202f;?</translation>
+        <translation>Tous les paramètres seront effacés et rétablis à leur valeur par défaut. Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>All settings were cleared. The program starts anew after OK.</source>
@@ -1093,7 +1101,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Warning!!! You have disabled all sources.</source>
-        <translation>Attention&#x202f;! Tous les sites sont désactivés.</translation>
+        <translation>Attention ! Tous les sites sont désactivés.</translation>
     </message>
 </context>
 <context>
@@ -1252,11 +1260,11 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>The settings file was damaged. What could be read is kept; the damaged file is now %1</source>
         <comment>%1 is the path of a file</comment>
-        <translation>Le fichier de paramètres était endommagé. Ce qui a pu être lu est conservé&#x202f;; le fichier endommagé est désormais %1</translation>
+        <translation>Le fichier de paramètres était endommagé. Ce qui a pu être lu est conservé ; le fichier endommagé est désormais %1</translation>
     </message>
     <message>
         <source>The settings cannot be read or stored; changes last for this run only.</source>
-        <translation>Les paramètres ne peuvent être ni lus ni enregistrés&#x202f;; les modifications ne valent que pour cette session.</translation>
+        <translation>Les paramètres ne peuvent être ni lus ni enregistrés ; les modifications ne valent que pour cette session.</translation>
     </message>
     <message numerus="yes">
         <source>Files left out, since their names are damaged or too long: %n</source>
@@ -1285,7 +1293,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1</source>
         <comment>%1 is the paths of files</comment>
-        <translation>Un enregistrement a été interrompu et ne peut pas être annulé, car ces chansons sont inaccessibles&#x202f;; une nouvelle tentative a lieu à chaque démarrage : %1</translation>
+        <translation>Un enregistrement a été interrompu et ne peut pas être annulé, car ces chansons sont inaccessibles ; une nouvelle tentative a lieu à chaque démarrage : %1</translation>
     </message>
     <message numerus="yes">
         <source>Songs that could not be written: %n (%1)</source>
@@ -1295,24 +1303,10 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
             <numerusform>Non enregistrées : %n chansons (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Les paroles de %n chanson n’ont pas pu être exportées</numerusform>
-            <numerusform>Les paroles de %n chansons n’ont pas pu être exportées</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Les paroles n’ont pas pu être écrites dans %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Paroles exportées dans %n fichier texte</numerusform>
-            <numerusform>Paroles exportées dans %n fichiers texte</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1331,6 +1325,24 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Un enregistrement a été interrompu. Chansons encore en cours de restauration : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Les paroles de %n chanson n’ont pas pu être exportées</numerusform>
+            <numerusform>Les paroles de %n chansons n’ont pas pu être exportées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Paroles exportées dans %n fichier texte</numerusform>
+            <numerusform>Paroles exportées dans %n fichiers texte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Paroles exportées dans un fichier texte</translation>
     </message>
 </context>
 <context>
@@ -1389,7 +1401,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>the disk failed; the file will be restored at the next start</source>
-        <translation>défaillance du disque&#x202f;; le fichier sera restauré au prochain démarrage</translation>
+        <translation>défaillance du disque ; le fichier sera restauré au prochain démarrage</translation>
     </message>
     <message>
         <source>the file could not be saved</source>
@@ -1402,27 +1414,59 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>Les paroles de %n chanson ne sont pas enregistrées dans le fichier et ne figurent que dans la liste.</numerusform>
-            <numerusform>Les paroles de %n chansons ne sont pas enregistrées dans les fichiers et ne figurent que dans la liste.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Voulez-vous enregistrer les modifications ?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Voulez-vous les abandonner&#x202f;?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>L’artiste ou le titre modifié d’une chanson n’est pas encore enregistré dans le fichier.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>L’artiste ou le titre modifié de %n chanson n’est pas encore enregistré dans le fichier.</numerusform>
             <numerusform>Les artistes ou titres modifiés de %n chansons ne sont pas encore enregistrés dans les fichiers.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Voulez-vous enregistrer les modifications&#x202f;?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Les paroles d’une chanson ne sont pas enregistrées dans le fichier et ne figurent que dans la liste.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>Les paroles de %n chanson ne sont pas enregistrées dans le fichier et ne figurent que dans la liste.</numerusform>
+            <numerusform>Les paroles de %n chansons ne sont pas enregistrées dans les fichiers et ne figurent que dans la liste.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>« %1 » n’a pas pu être enregistrée : %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>l’écriture est encore en cours</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... et %n autre</numerusform>
+            <numerusform>... et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Artiste : %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Titre : %1</translation>
     </message>
 </context>
 <context>
@@ -1537,15 +1581,15 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Update available!</source>
-        <translation>Mise à jour disponible&#x202f;!</translation>
+        <translation>Mise à jour disponible !</translation>
     </message>
     <message>
         <source>A new version of &lt;b&gt;%appName&lt;/b&gt; is available!</source>
-        <translation>Une nouvelle version de &lt;b&gt;%appName&lt;/b&gt; est disponible&#x202f;!</translation>
+        <translation>Une nouvelle version de &lt;b&gt;%appName&lt;/b&gt; est disponible !</translation>
     </message>
     <message>
         <source>%appName &lt;b&gt;%newVersion&lt;/b&gt; is available - you have &lt;b&gt;%oldVersion&lt;/b&gt;. Would you like to download it now?</source>
-        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; est disponible – vous avez la version &lt;b&gt;%oldVersion&lt;/b&gt;. Voulez-vous la télécharger maintenant&#x202f;?</translation>
+        <translation>%appName &lt;b&gt;%newVersion&lt;/b&gt; est disponible – vous avez la version &lt;b&gt;%oldVersion&lt;/b&gt;. Voulez-vous la télécharger maintenant ?</translation>
     </message>
     <message>
         <source>Your version was released more than &lt;b&gt;%releasePeriod&lt;/b&gt; ago.</source>
@@ -1618,18 +1662,18 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>This is sent whenever a search for a song begins; the song is made up here. The start and the end of the program, an update, clicks on the maker&apos;s pages and a window that cannot be drawn are reported in the same way, without names of songs.</source>
-        <translation>Ceci est envoyé chaque fois que la recherche d’une chanson commence&#x202f;; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour, les clics vers les pages du développeur et une fenêtre qui ne peut pas être affichée sont signalés de la même façon, sans nom de chanson.</translation>
+        <translation>Ceci est envoyé chaque fois que la recherche d’une chanson commence ; la chanson est ici inventée. Le démarrage et la fermeture du programme, une mise à jour, les clics vers les pages du développeur et une fenêtre qui ne peut pas être affichée sont signalés de la même façon, sans nom de chanson.</translation>
     </message>
 </context>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Des paroles sont encore en cours d’écriture dans les chansons.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>La suite vient d’elle-même une fois que c’est terminé.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Des modifications sont encore en cours d’écriture dans les chansons.</translation>
     </message>
 </context>
 <context>
@@ -1642,24 +1686,33 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
         <source>The window could not be built.</source>
         <translation>La fenêtre n’a pas pu être créée.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>Les paroles de %n chanson ont été conservées dans un fichier texte dans %1</numerusform>
-            <numerusform>Les paroles de %n chansons ont été conservées dans des fichiers texte dans %1</numerusform>
-        </translation>
+        <translation>Les modifications d’une chanson ont été conservées dans un fichier texte dans %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>Les paroles de %n chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
-            <numerusform>Les paroles de %n chansons n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
+            <numerusform>Les modifications de %n chanson ont été conservées dans un fichier texte dans %1</numerusform>
+            <numerusform>Les modifications de %n chansons ont été conservées dans des fichiers texte dans %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Toutes les paroles n’ont pas pu être écrites dans les chansons.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Les modifications d’une chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Les modifications de %n chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
+            <numerusform>Les modifications de %n chansons n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Toutes les modifications n’ont pas pu être écrites dans les chansons.</translation>
     </message>
 </context>
 </TS>

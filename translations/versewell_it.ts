@@ -281,6 +281,14 @@
         <source>The answer is larger than %1.</source>
         <translation>La risposta supera %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Il certificato del sito non è attendibile.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Impossibile stabilire una connessione sicura con il sito.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1295,24 +1303,10 @@ Verificare che il nome della cartella sia corretto.</translation>
             <numerusform>Non salvati: %n brani (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Impossibile esportare il testo di %n brano</numerusform>
-            <numerusform>Impossibile esportare i testi di %n brani</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Impossibile scrivere il testo in %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Testo esportato in %n file TXT</numerusform>
-            <numerusform>Testi esportati in %n file TXT</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1331,6 +1325,24 @@ Verificare che il nome della cartella sia corretto.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Un salvataggio è stato interrotto. Brani ancora in fase di ripristino: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Impossibile esportare il testo di %n brano</numerusform>
+            <numerusform>Impossibile esportare i testi di %n brani</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Testo esportato in %n file TXT</numerusform>
+            <numerusform>Testi esportati in %n file TXT</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Testo esportato in un file TXT</translation>
     </message>
 </context>
 <context>
@@ -1402,27 +1414,59 @@ Verificare che il nome della cartella sia corretto.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>Il testo di %n brano non è salvato nel file e si trova solo nell’elenco.</numerusform>
-            <numerusform>I testi di %n brani non sono salvati nei file e si trovano solo nell’elenco.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Salvare le modifiche?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Scartare comunque?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>L’artista o il titolo modificato di un brano non è ancora salvato nel file.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>L’artista o il titolo modificato di %n brano non è ancora salvato nel file.</numerusform>
             <numerusform>Gli artisti o i titoli modificati di %n brani non sono ancora salvati nei file.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Salvare le modifiche?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Il testo di un brano non è salvato nel file e si trova solo nell’elenco.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>Il testo di %n brano non è salvato nel file e si trova solo nell’elenco.</numerusform>
+            <numerusform>I testi di %n brani non sono salvati nei file e si trovano solo nell’elenco.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>Impossibile salvare “%1”: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>la scrittura è ancora in corso</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... e %n altro</numerusform>
+            <numerusform>... e altri %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Artista: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Titolo: %1</translation>
     </message>
 </context>
 <context>
@@ -1624,12 +1668,12 @@ Verificare che il nome della cartella sia corretto.</translation>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>I testi sono ancora in fase di scrittura nei brani.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Poi si prosegue da sé.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Le modifiche si stanno ancora scrivendo nei brani.</translation>
     </message>
 </context>
 <context>
@@ -1642,24 +1686,33 @@ Verificare che il nome della cartella sia corretto.</translation>
         <source>The window could not be built.</source>
         <translation>Impossibile creare la finestra.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>Il testo di %n brano è stato conservato come file di testo in %1</numerusform>
-            <numerusform>I testi di %n brani sono stati conservati come file di testo in %1</numerusform>
-        </translation>
+        <translation>Le modifiche a un brano sono state conservate come file di testo in %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>Il testo di %n brano non si è potuto conservare da nessuna parte: copiarlo ora dai dettagli.</numerusform>
-            <numerusform>I testi di %n brani non si sono potuti conservare da nessuna parte: copiarli ora dai dettagli.</numerusform>
+            <numerusform>Le modifiche a %n brano sono state conservate come file di testo in %1</numerusform>
+            <numerusform>Le modifiche a %n brani sono state conservate come file di testo in %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Non tutti i testi si sono potuti scrivere nei brani.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Le modifiche a un brano non si sono potute conservare da nessuna parte: copiarle ora dai dettagli.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Le modifiche a %n brano non si sono potute conservare da nessuna parte: copiarle ora dai dettagli.</numerusform>
+            <numerusform>Le modifiche a %n brani non si sono potute conservare da nessuna parte: copiarle ora dai dettagli.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Non tutte le modifiche si sono potute scrivere nei brani.</translation>
     </message>
 </context>
 </TS>

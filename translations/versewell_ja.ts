@@ -279,6 +279,14 @@
         <source>The answer is larger than %1.</source>
         <translation>応答が %1 を超えています。</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>サイトの証明書は信頼されていません。</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>サイトへの安全な接続を確立できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1287,22 +1295,10 @@ Please verify the correct directory name was given.</source>
             <numerusform>書き込めなかった曲: %n 曲 (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>%n 曲の歌詞をエクスポートできませんでした</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>歌詞を %1 に書き込めませんでした</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>歌詞を %n 個のテキストファイルにエクスポートしました</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1321,6 +1317,22 @@ Please verify the correct directory name was given.</source>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>保存が中断されました。復元中の曲: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>%n 曲の歌詞をエクスポートできませんでした</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>歌詞を %n 個のテキストファイルにエクスポートしました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>歌詞を 1 個のテキストファイルにエクスポートしました</translation>
     </message>
 </context>
 <context>
@@ -1392,25 +1404,56 @@ Please verify the correct directory name was given.</source>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>%n 曲の歌詞はファイルに保存されておらず、リストにしかありません。</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>変更を保存しますか？</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>これらの歌詞を破棄しますか？</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>1 曲で変更したアーティストまたはタイトルは、まだファイルに保存されていません。</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>%n 曲で変更したアーティストまたはタイトルは、まだファイルに保存されていません。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>変更を保存しますか？</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>1 曲の歌詞はファイルに保存されておらず、リストにしかありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>%n 曲の歌詞はファイルに保存されておらず、リストにしかありません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>「%1」を保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>まだ書き込み中です</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... ほか %n 曲</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>アーティスト: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>タイトル: %1</translation>
     </message>
 </context>
 <context>
@@ -1609,12 +1652,12 @@ Please verify the correct directory name was given.</source>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>歌詞を曲に書き込んでいます。</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>終わると自動的に続行します。</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>変更をまだ曲に書き込んでいます。</translation>
     </message>
 </context>
 <context>
@@ -1627,22 +1670,31 @@ Please verify the correct directory name was given.</source>
         <source>The window could not be built.</source>
         <translation>ウィンドウを作成できませんでした。</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>%n 曲の歌詞をテキストファイルとして %1 に保管しました</numerusform>
-        </translation>
+        <translation>1 曲の変更をテキストファイルとして %1 に保管しました</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>%n 曲の歌詞をどこにも保管できませんでした。今すぐ詳細からコピーしてください。</numerusform>
+            <numerusform>%n 曲の変更をテキストファイルとして %1 に保管しました</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>一部の歌詞を曲に書き込めませんでした。</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>1 曲の変更をどこにも保管できませんでした。今すぐ詳細からコピーしてください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>%n 曲の変更をどこにも保管できませんでした。今すぐ詳細からコピーしてください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>一部の変更を曲に書き込めませんでした。</translation>
     </message>
 </context>
 </TS>

@@ -283,6 +283,14 @@
         <source>The answer is larger than %1.</source>
         <translation>Odpowiedź jest większa niż %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Certyfikat serwisu nie jest zaufany.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Nie udało się nawiązać bezpiecznego połączenia z serwisem.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1303,26 +1311,10 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
             <numerusform>Utwory, których nie udało się zapisać: %n (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Nie udało się wyeksportować tekstu %n utworu</numerusform>
-            <numerusform>Nie udało się wyeksportować tekstów %n utworów</numerusform>
-            <numerusform>Nie udało się wyeksportować tekstów %n utworów</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Nie udało się zapisać tekstu do pliku %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Wyeksportowano tekst do %n pliku tekstowego</numerusform>
-            <numerusform>Wyeksportowano teksty do %n plików tekstowych</numerusform>
-            <numerusform>Wyeksportowano teksty do %n plików tekstowych</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1341,6 +1333,26 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Zapis został przerwany. Utwory, które są jeszcze przywracane: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Nie udało się wyeksportować tekstu %n utworu</numerusform>
+            <numerusform>Nie udało się wyeksportować tekstów %n utworów</numerusform>
+            <numerusform>Nie udało się wyeksportować tekstów %n utworów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Wyeksportowano tekst do %n pliku tekstowego</numerusform>
+            <numerusform>Wyeksportowano teksty do %n plików tekstowych</numerusform>
+            <numerusform>Wyeksportowano teksty do %n plików tekstowych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Wyeksportowano tekst do jednego pliku tekstowego</translation>
     </message>
 </context>
 <context>
@@ -1412,20 +1424,16 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>Tekst %n utworu nie jest zapisany w pliku i znajduje się tylko na liście.</numerusform>
-            <numerusform>Teksty %n utworów nie są zapisane w plikach i znajdują się tylko na liście.</numerusform>
-            <numerusform>Teksty %n utworów nie są zapisane w plikach i znajdują się tylko na liście.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Czy zapisać zmiany?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Czy je odrzucić?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>Zmieniony wykonawca lub tytuł jednego utworu nie jest jeszcze zapisany w pliku.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>Zmieniony wykonawca lub tytuł %n utworu nie jest jeszcze zapisany w pliku.</numerusform>
             <numerusform>Zmienieni wykonawcy lub tytuły %n utworów nie są jeszcze zapisane w plikach.</numerusform>
@@ -1433,8 +1441,45 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Czy zapisać zmiany?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Tekst jednego utworu nie jest zapisany w pliku i znajduje się tylko na liście.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>Tekst %n utworu nie jest zapisany w pliku i znajduje się tylko na liście.</numerusform>
+            <numerusform>Teksty %n utworów nie są zapisane w plikach i znajdują się tylko na liście.</numerusform>
+            <numerusform>Teksty %n utworów nie są zapisane w plikach i znajdują się tylko na liście.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>Nie udało się zapisać utworu „%1”: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>zapis jeszcze trwa</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... i jeszcze %n</numerusform>
+            <numerusform>... i jeszcze %n</numerusform>
+            <numerusform>... i jeszcze %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Wykonawca: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Tytuł: %1</translation>
     </message>
 </context>
 <context>
@@ -1639,12 +1684,12 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Teksty są jeszcze zapisywane w utworach.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Potem wszystko potoczy się samo.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Trwa jeszcze zapisywanie zmian w utworach.</translation>
     </message>
 </context>
 <context>
@@ -1657,26 +1702,35 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
         <source>The window could not be built.</source>
         <translation>Nie udało się utworzyć okna.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>Tekst %n utworu zachowano jako plik tekstowy w %1</numerusform>
-            <numerusform>Teksty %n utworów zachowano jako pliki tekstowe w %1</numerusform>
-            <numerusform>Teksty %n utworów zachowano jako pliki tekstowe w %1</numerusform>
-        </translation>
+        <translation>Zmiany w jednym utworze zachowano jako plik tekstowy w %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>Tekstu %n utworu nie można nigdzie zachować: należy go teraz skopiować ze szczegółów.</numerusform>
-            <numerusform>Tekstów %n utworów nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
-            <numerusform>Tekstów %n utworów nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+            <numerusform>Zmiany w %n utworze zachowano jako plik tekstowy w %1</numerusform>
+            <numerusform>Zmiany w %n utworach zachowano jako pliki tekstowe w %1</numerusform>
+            <numerusform>Zmiany w %n utworach zachowano jako pliki tekstowe w %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Nie wszystkie teksty udało się zapisać w utworach.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Zmian w jednym utworze nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Zmian w %n utworze nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+            <numerusform>Zmian w %n utworach nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+            <numerusform>Zmian w %n utworach nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Nie wszystkie zmiany udało się zapisać w utworach.</translation>
     </message>
 </context>
 </TS>

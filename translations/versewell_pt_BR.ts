@@ -281,6 +281,14 @@
         <source>The answer is larger than %1.</source>
         <translation>A resposta tem mais de %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>O certificado do site não é confiável.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Não foi possível estabelecer uma conexão segura com o site.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1295,24 +1303,10 @@ Verifique se o nome da pasta está correto.</translation>
             <numerusform>Não foi possível salvar %n músicas (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Não foi possível exportar a letra de %n música</numerusform>
-            <numerusform>Não foi possível exportar as letras de %n músicas</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Não foi possível gravar a letra em %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Letra exportada para %n arquivo de texto</numerusform>
-            <numerusform>Letras exportadas para %n arquivos de texto</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1331,6 +1325,24 @@ Verifique se o nome da pasta está correto.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Um salvamento foi interrompido. Músicas que ainda estão sendo restauradas: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Não foi possível exportar a letra de %n música</numerusform>
+            <numerusform>Não foi possível exportar as letras de %n músicas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Letra exportada para %n arquivo de texto</numerusform>
+            <numerusform>Letras exportadas para %n arquivos de texto</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Letra exportada para um arquivo de texto</translation>
     </message>
 </context>
 <context>
@@ -1402,27 +1414,59 @@ Verifique se o nome da pasta está correto.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>A letra de %n música não está salva no arquivo, só na lista.</numerusform>
-            <numerusform>As letras de %n músicas não estão salvas nos arquivos, só na lista.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Deseja salvar as alterações?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Deseja descartar mesmo assim?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>O artista ou o título alterado de uma música ainda não está salvo no arquivo.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>O artista ou o título alterado de %n música ainda não está salvo no arquivo.</numerusform>
             <numerusform>Os artistas ou títulos alterados de %n músicas ainda não estão salvos nos arquivos.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Deseja salvar as alterações?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>A letra de uma música não está salva no arquivo, só na lista.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>A letra de %n música não está salva no arquivo, só na lista.</numerusform>
+            <numerusform>As letras de %n músicas não estão salvas nos arquivos, só na lista.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>Não foi possível salvar “%1”: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>ainda está sendo gravada</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... e mais %n</numerusform>
+            <numerusform>... e mais %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Artista: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Título: %1</translation>
     </message>
 </context>
 <context>
@@ -1624,12 +1668,12 @@ Verifique se o nome da pasta está correto.</translation>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Letras ainda estão sendo gravadas nas músicas.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Depois disso, tudo continua sozinho.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Ainda há alterações sendo gravadas nas músicas.</translation>
     </message>
 </context>
 <context>
@@ -1642,24 +1686,33 @@ Verifique se o nome da pasta está correto.</translation>
         <source>The window could not be built.</source>
         <translation>Não foi possível criar a janela.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>A letra de %n música foi guardada como arquivo de texto em %1</numerusform>
-            <numerusform>As letras de %n músicas foram guardadas como arquivos de texto em %1</numerusform>
-        </translation>
+        <translation>As alterações de uma música foram guardadas como arquivo de texto em %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>A letra de %n música não pôde ser guardada em lugar nenhum: copie-a agora dos detalhes.</numerusform>
-            <numerusform>As letras de %n músicas não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</numerusform>
+            <numerusform>As alterações de %n música foram guardadas como arquivo de texto em %1</numerusform>
+            <numerusform>As alterações de %n músicas foram guardadas como arquivos de texto em %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Nem todas as letras puderam ser gravadas nas músicas.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>As alterações de uma música não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>As alterações de %n música não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</numerusform>
+            <numerusform>As alterações de %n músicas não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Nem todas as alterações puderam ser gravadas nas músicas.</translation>
     </message>
 </context>
 </TS>

@@ -283,6 +283,14 @@
         <source>The answer is larger than %1.</source>
         <translation>Размер ответа превышает %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Сертификату сайта нельзя доверять.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Не удалось установить защищённое соединение с сайтом.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1303,26 +1311,10 @@ Please verify the correct directory name was given.</source>
             <numerusform>Не удалось записать песен: %n (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Не удалось экспортировать текст %n песни</numerusform>
-            <numerusform>Не удалось экспортировать тексты %n песен</numerusform>
-            <numerusform>Не удалось экспортировать тексты %n песен</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Не удалось записать текст в файл %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Текст экспортирован в %n файл TXT</numerusform>
-            <numerusform>Тексты экспортированы в %n файла TXT</numerusform>
-            <numerusform>Тексты экспортированы в %n файлов TXT</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1341,6 +1333,26 @@ Please verify the correct directory name was given.</source>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Сохранение было прервано. Песни, которые ещё восстанавливаются: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Не удалось экспортировать текст %n песни</numerusform>
+            <numerusform>Не удалось экспортировать тексты %n песен</numerusform>
+            <numerusform>Не удалось экспортировать тексты %n песен</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Текст экспортирован в %n файл TXT</numerusform>
+            <numerusform>Тексты экспортированы в %n файла TXT</numerusform>
+            <numerusform>Тексты экспортированы в %n файлов TXT</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Текст экспортирован в один файл TXT</translation>
     </message>
 </context>
 <context>
@@ -1412,20 +1424,16 @@ Please verify the correct directory name was given.</source>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>Текст %n песни не записан в файл и есть только в списке.</numerusform>
-            <numerusform>Тексты %n песен не записаны в файлы и есть только в списке.</numerusform>
-            <numerusform>Тексты %n песен не записаны в файлы и есть только в списке.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Сохранить изменения?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Отказаться от них?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>Изменённые исполнитель или название одной песни ещё не сохранены в файл.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>Изменённые исполнитель или название %n песни ещё не сохранены в файл.</numerusform>
             <numerusform>Изменённые исполнители или названия %n песен ещё не сохранены в файлы.</numerusform>
@@ -1433,8 +1441,45 @@ Please verify the correct directory name was given.</source>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Сохранить изменения?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Текст одной песни не записан в файл и есть только в списке.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>Текст %n песни не записан в файл и есть только в списке.</numerusform>
+            <numerusform>Тексты %n песен не записаны в файлы и есть только в списке.</numerusform>
+            <numerusform>Тексты %n песен не записаны в файлы и есть только в списке.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>Не удалось сохранить «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>запись ещё не закончена</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... и ещё %n</numerusform>
+            <numerusform>... и ещё %n</numerusform>
+            <numerusform>... и ещё %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Исполнитель: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Название: %1</translation>
     </message>
 </context>
 <context>
@@ -1639,12 +1684,12 @@ Please verify the correct directory name was given.</source>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Тексты ещё записываются в песни.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>После этого всё продолжится само.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Изменения ещё записываются в песни.</translation>
     </message>
 </context>
 <context>
@@ -1657,26 +1702,35 @@ Please verify the correct directory name was given.</source>
         <source>The window could not be built.</source>
         <translation>Не удалось создать окно.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>Текст %n песни сохранён в текстовый файл в %1</numerusform>
-            <numerusform>Тексты %n песен сохранены в текстовые файлы в %1</numerusform>
-            <numerusform>Тексты %n песен сохранены в текстовые файлы в %1</numerusform>
-        </translation>
+        <translation>Изменения в одной песне сохранены в текстовый файл в %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>Текст %n песни негде сохранить: скопируйте его сейчас из окна сведений.</numerusform>
-            <numerusform>Тексты %n песен негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
-            <numerusform>Тексты %n песен негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+            <numerusform>Изменения в %n песне сохранены в текстовый файл в %1</numerusform>
+            <numerusform>Изменения в %n песнях сохранены в текстовые файлы в %1</numerusform>
+            <numerusform>Изменения в %n песнях сохранены в текстовые файлы в %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Не все тексты удалось записать в песни.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Изменения в одной песне негде сохранить: скопируйте их сейчас из окна сведений.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Изменения в %n песне негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+            <numerusform>Изменения в %n песнях негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+            <numerusform>Изменения в %n песнях негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Не все изменения удалось записать в песни.</translation>
     </message>
 </context>
 </TS>

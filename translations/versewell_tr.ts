@@ -279,6 +279,14 @@
         <source>The answer is larger than %1.</source>
         <translation>Yanıt %1 sınırını aşıyor.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Sitenin sertifikasına güvenilmiyor.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Siteyle güvenli bir bağlantı kurulamadı.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1287,22 +1295,10 @@ Klasör adının doğru olduğunu denetleyin.</translation>
             <numerusform>Yazılamayan şarkı sayısı: %n (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>%n şarkının sözleri dışa aktarılamadı</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Sözler %1 dosyasına yazılamadı</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Sözler %n metin dosyasına aktarıldı</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1321,6 +1317,22 @@ Klasör adının doğru olduğunu denetleyin.</translation>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Bir kaydetme yarıda kesildi. Hâlâ geri yüklenen şarkılar: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>%n şarkının sözleri dışa aktarılamadı</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Sözler %n metin dosyasına aktarıldı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Sözler bir metin dosyasına aktarıldı</translation>
     </message>
 </context>
 <context>
@@ -1392,25 +1404,56 @@ Klasör adının doğru olduğunu denetleyin.</translation>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>%n şarkının sözleri dosyaya kaydedilmedi, yalnızca listede duruyor.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Değişiklikleri kaydetmek istiyor musunuz?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Bu sözler atılsın mı?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>Bir şarkının değiştirilen sanatçısı veya başlığı henüz dosyaya kaydedilmedi.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>%n şarkının değiştirilen sanatçısı veya başlığı henüz dosyaya kaydedilmedi.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Değişiklikleri kaydetmek istiyor musunuz?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Bir şarkının sözleri dosyaya kaydedilmedi, yalnızca listede duruyor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>%n şarkının sözleri dosyaya kaydedilmedi, yalnızca listede duruyor.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>“%1” kaydedilemedi: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>hâlâ yazılıyor</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... ve %n tane daha</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Sanatçı: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Başlık: %1</translation>
     </message>
 </context>
 <context>
@@ -1609,12 +1652,12 @@ Klasör adının doğru olduğunu denetleyin.</translation>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Sözler hâlâ şarkılara yazılıyor.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Bitince kendiliğinden devam eder.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Değişiklikler hâlâ şarkılara yazılıyor.</translation>
     </message>
 </context>
 <context>
@@ -1627,22 +1670,31 @@ Klasör adının doğru olduğunu denetleyin.</translation>
         <source>The window could not be built.</source>
         <translation>Pencere oluşturulamadı.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>%n şarkının sözleri metin dosyası olarak saklandı: %1</numerusform>
-        </translation>
+        <translation>Bir şarkıdaki değişiklikler metin dosyası olarak saklandı: %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>%n şarkının sözleri hiçbir yere saklanamadı: Şimdi ayrıntılardan kopyalayın.</numerusform>
+            <numerusform>%n şarkıdaki değişiklikler metin dosyası olarak saklandı: %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Bazı sözler şarkılara yazılamadı.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Bir şarkıdaki değişiklikler hiçbir yere saklanamadı: Şimdi ayrıntılardan kopyalayın.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>%n şarkıdaki değişiklikler hiçbir yere saklanamadı: Şimdi ayrıntılardan kopyalayın.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Bazı değişiklikler şarkılara yazılamadı.</translation>
     </message>
 </context>
 </TS>

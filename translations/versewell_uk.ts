@@ -283,6 +283,14 @@
         <source>The answer is larger than %1.</source>
         <translation>Розмір відповіді перевищує %1.</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>Сертифікату сайту не можна довіряти.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>Не вдалося встановити захищене з’єднання із сайтом.</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1303,26 +1311,10 @@ Please verify the correct directory name was given.</source>
             <numerusform>Не вдалося записати пісень: %n (%1)</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>Не вдалося експортувати текст %n пісні</numerusform>
-            <numerusform>Не вдалося експортувати тексти %n пісень</numerusform>
-            <numerusform>Не вдалося експортувати тексти %n пісень</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>Не вдалося записати текст до файлу %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>Текст експортовано до %n файлу TXT</numerusform>
-            <numerusform>Тексти експортовано до %n файлів TXT</numerusform>
-            <numerusform>Тексти експортовано до %n файлів TXT</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1341,6 +1333,26 @@ Please verify the correct directory name was given.</source>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>Збереження було перервано. Пісні, які ще відновлюються: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>Не вдалося експортувати текст %n пісні</numerusform>
+            <numerusform>Не вдалося експортувати тексти %n пісень</numerusform>
+            <numerusform>Не вдалося експортувати тексти %n пісень</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>Текст експортовано до %n файлу TXT</numerusform>
+            <numerusform>Тексти експортовано до %n файлів TXT</numerusform>
+            <numerusform>Тексти експортовано до %n файлів TXT</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>Текст експортовано до одного файлу TXT</translation>
     </message>
 </context>
 <context>
@@ -1412,20 +1424,16 @@ Please verify the correct directory name was given.</source>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>Текст %n пісні не записано у файл, він є лише у списку.</numerusform>
-            <numerusform>Тексти %n пісень не записано у файли, вони є лише у списку.</numerusform>
-            <numerusform>Тексти %n пісень не записано у файли, вони є лише у списку.</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>Зберегти зміни?</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>Відкинути їх?</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>Змінені виконавець або назва однієї пісні ще не збережено у файл.</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>Змінені виконавець або назва %n пісні ще не збережено у файл.</numerusform>
             <numerusform>Змінені виконавці або назви %n пісень ще не збережено у файли.</numerusform>
@@ -1433,8 +1441,45 @@ Please verify the correct directory name was given.</source>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>Зберегти зміни?</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>Текст однієї пісні не записано у файл, він є лише у списку.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>Текст %n пісні не записано у файл, він є лише у списку.</numerusform>
+            <numerusform>Тексти %n пісень не записано у файли, вони є лише у списку.</numerusform>
+            <numerusform>Тексти %n пісень не записано у файли, вони є лише у списку.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>Не вдалося зберегти «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>запис іще не завершено</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... і ще %n</numerusform>
+            <numerusform>... і ще %n</numerusform>
+            <numerusform>... і ще %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>Виконавець: %1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Назва: %1</translation>
     </message>
 </context>
 <context>
@@ -1639,12 +1684,12 @@ Please verify the correct directory name was given.</source>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>Тексти ще записуються в пісні.</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>Після цього все продовжиться саме.</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>Зміни ще записуються в пісні.</translation>
     </message>
 </context>
 <context>
@@ -1657,26 +1702,35 @@ Please verify the correct directory name was given.</source>
         <source>The window could not be built.</source>
         <translation>Не вдалося створити вікно.</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>Текст %n пісні збережено в текстовий файл у %1</numerusform>
-            <numerusform>Тексти %n пісень збережено в текстові файли в %1</numerusform>
-            <numerusform>Тексти %n пісень збережено в текстові файли в %1</numerusform>
-        </translation>
+        <translation>Зміни в одній пісні збережено в текстовий файл у %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>Текст %n пісні ніде зберегти: скопіюйте його зараз із вікна відомостей.</numerusform>
-            <numerusform>Тексти %n пісень ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
-            <numerusform>Тексти %n пісень ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+            <numerusform>Зміни в %n пісні збережено в текстовий файл у %1</numerusform>
+            <numerusform>Зміни в %n піснях збережено в текстові файли в %1</numerusform>
+            <numerusform>Зміни в %n піснях збережено в текстові файли в %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>Не всі тексти вдалося записати в пісні.</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>Зміни в одній пісні ніде зберегти: скопіюйте їх зараз із вікна відомостей.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>Зміни в %n пісні ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+            <numerusform>Зміни в %n піснях ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+            <numerusform>Зміни в %n піснях ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>Не всі зміни вдалося записати в пісні.</translation>
     </message>
 </context>
 </TS>

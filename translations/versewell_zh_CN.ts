@@ -279,6 +279,14 @@
         <source>The answer is larger than %1.</source>
         <translation>响应超过了 %1。</translation>
     </message>
+    <message>
+        <source>The site&apos;s certificate is not trusted.</source>
+        <translation>该网站的证书不受信任。</translation>
+    </message>
+    <message>
+        <source>No secure connection to the site could be made.</source>
+        <translation>无法与网站建立安全连接。</translation>
+    </message>
 </context>
 <context>
     <name>ListPane</name>
@@ -1287,22 +1295,10 @@ Please verify the correct directory name was given.</source>
             <numerusform>无法写入的歌曲：%n 首（%1）</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) could not be exported</source>
-        <translation>
-            <numerusform>无法导出 %n 首歌曲的歌词</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The lyrics could not be written to %1</source>
         <comment>%1 is the path of a file</comment>
         <translation>无法将歌词写入 %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Lyrics exported to %n text file(s)</source>
-        <translation>
-            <numerusform>已将歌词导出到 %n 个文本文件</numerusform>
-        </translation>
     </message>
     <message>
         <source>There are no lyrics to export</source>
@@ -1321,6 +1317,22 @@ Please verify the correct directory name was given.</source>
         <source>A save was cut off. Songs that are still being restored: %1</source>
         <comment>%1 is the paths of files</comment>
         <translation>一次保存被中断。仍在恢复的歌曲：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs could not be exported</source>
+        <translation>
+            <numerusform>无法导出 %n 首歌曲的歌词</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Lyrics exported to %n text files</source>
+        <translation>
+            <numerusform>已将歌词导出到 %n 个文本文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lyrics exported to one text file</source>
+        <translation>已将歌词导出到 1 个文本文件</translation>
     </message>
 </context>
 <context>
@@ -1392,25 +1404,56 @@ Please verify the correct directory name was given.</source>
 </context>
 <context>
     <name>UnsavedLyricsGuard</name>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) are not in the files and stand in the list only.</source>
-        <translation>
-            <numerusform>有 %n 首歌曲的歌词尚未存入文件，仅保留在列表中。</numerusform>
-        </translation>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <translation>要保存更改吗？</translation>
     </message>
     <message>
-        <source>Do you want to give them up?</source>
-        <translation>要丢弃这些歌词吗？</translation>
+        <source>The changed artist or title of one song is not in its file yet.</source>
+        <translation>有 1 首歌曲的艺术家或标题更改尚未存入文件。</translation>
     </message>
     <message numerus="yes">
-        <source>The changed artist or title of %n song(s) is not in the file yet.</source>
+        <source>The changed artist or title of %n songs is not in their files yet.</source>
         <translation>
             <numerusform>有 %n 首歌曲的艺术家或标题更改尚未存入文件。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Do you want to save the changes?</source>
-        <translation>要保存更改吗？</translation>
+        <source>The lyrics of one song are not in its file and stand in the list only.</source>
+        <translation>有 1 首歌曲的歌词尚未存入文件，仅保留在列表中。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The lyrics of %n songs are not in their files and stand in the list only.</source>
+        <translation>
+            <numerusform>有 %n 首歌曲的歌词尚未存入文件，仅保留在列表中。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved: %2</source>
+        <comment>%1 is the title of a song, %2 the reason</comment>
+        <translation>无法保存“%1”：%2</translation>
+    </message>
+    <message>
+        <source>it is still being written</source>
+        <translation>仍在写入</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <comment>other songs that could not be saved</comment>
+        <translation>
+            <numerusform>... 以及另外 %n 首</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedTexts</name>
+    <message>
+        <source>Artist: %1</source>
+        <translation>艺术家：%1</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>标题：%1</translation>
     </message>
 </context>
 <context>
@@ -1609,12 +1652,12 @@ Please verify the correct directory name was given.</source>
 <context>
     <name>WritesWait</name>
     <message>
-        <source>Lyrics are still being written into the songs.</source>
-        <translation>歌词仍在写入歌曲。</translation>
-    </message>
-    <message>
         <source>It goes on by itself when this is done.</source>
         <translation>完成后会自动继续。</translation>
+    </message>
+    <message>
+        <source>Changes are still being written into the songs.</source>
+        <translation>仍在将更改写入歌曲。</translation>
     </message>
 </context>
 <context>
@@ -1627,22 +1670,31 @@ Please verify the correct directory name was given.</source>
         <source>The window could not be built.</source>
         <translation>无法创建窗口。</translation>
     </message>
-    <message numerus="yes">
-        <source>The lyrics of %n song(s) were kept as text files in %1</source>
+    <message>
+        <source>The changes to one song were kept as a text file in %1</source>
         <comment>%1 is the path of a folder</comment>
-        <translation>
-            <numerusform>%n 首歌曲的歌词已作为文本文件保留在 %1</numerusform>
-        </translation>
+        <translation>1 首歌曲的更改已作为文本文件保留在 %1</translation>
     </message>
     <message numerus="yes">
-        <source>The lyrics of %n song(s) could be kept nowhere: copy them from the details now.</source>
+        <source>The changes to %n songs were kept as text files in %1</source>
+        <comment>%1 is the path of a folder</comment>
         <translation>
-            <numerusform>%n 首歌曲的歌词无处保留：请立即从详细信息中复制。</numerusform>
+            <numerusform>%n 首歌曲的更改已作为文本文件保留在 %1</numerusform>
         </translation>
     </message>
     <message>
-        <source>Not all lyrics could be written into the songs.</source>
-        <translation>并非所有歌词都能写入歌曲。</translation>
+        <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
+        <translation>1 首歌曲的更改无处保留：请立即从详细信息中复制。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
+        <translation>
+            <numerusform>%n 首歌曲的更改无处保留：请立即从详细信息中复制。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not all changes could be written into the songs.</source>
+        <translation>并非所有更改都能写入歌曲。</translation>
     </message>
 </context>
 </TS>
