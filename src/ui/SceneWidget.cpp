@@ -174,6 +174,8 @@ void SceneWidget::watchFocus()
     m_focusedText = isText ? item : nullptr;
     if (isText)
         item->installEventFilter(this);
+    if (isText && !hasFocus())
+        setFocus(); // F2 begins an edit from a button of the window, too
 }
 
 void SceneWidget::paintEvent(QPaintEvent *event)
