@@ -24,12 +24,18 @@ void Program::showWindow()
 {
     window = std::make_unique<MainWindow>(MainWindow::Parts{&model, &proxy, &scanner, &settings, &palette, &app});
     paintOnce(window.get());
+    turnUntil([this] { return findSongList() != nullptr; }); // it is made after the first frame
+}
+
+QQuickItem *Program::findSongList() const
+{
+    const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
+    return scene->rootObject()->findChild<QQuickItem *>(QStringLiteral("songList"));
 }
 
 QQuickItem *Program::songList() const
 {
-    const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
-    auto *list = scene->rootObject()->findChild<QQuickItem *>(QStringLiteral("songList"));
+    QQuickItem *list = findSongList();
     if (!list)
         qFatal("the scene has no list");
     return list;

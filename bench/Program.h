@@ -33,6 +33,10 @@ struct Program
     AppPalette palette;
     QObject app;
     std::unique_ptr<MainWindow> window;
+
+private:
+    // Null before the first frame was painted.
+    [[nodiscard]] QQuickItem *findSongList() const;
 };
 
 // Shows a window whose central widget is a QQuickWidget, and returns when a frame of its scene was painted.
