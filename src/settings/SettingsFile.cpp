@@ -85,6 +85,12 @@ bool isStoredType(const QByteArray &value, int position)
     return has("@@") || has("@ByteArray(") || has("@String(") || has("@Invalid()");
 }
 
+// A letter that means nothing but itself in a value: nearly all of the kept list are such ones.
+bool isPlain(char c)
+{
+    return c > '@' ? c != '\\' : c >= '-' && c < ';';
+}
+
 // Whether quotes and escapes end, and each item of the list that a value may be is of a type that is stored.
 bool isValue(const QByteArray &value)
 {
@@ -92,6 +98,10 @@ bool isValue(const QByteArray &value)
     bool atItemStart = true;
     for (int i = 0; i < value.size(); ++i) {
         const char c = value.at(i);
+        if (isPlain(c)) {
+            atItemStart = false;
+            continue;
+        }
         if (c == ';' && !inQuotes)
             return true; // a comment
         if (c == '@' && atItemStart && !isStoredType(value, i))
