@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/ButtonImageProvider.h"
 
+#include "ui/Pictures.h"
+
 namespace {
 
 // From this device pixel ratio on a picture of twice the resolution is used.
@@ -8,7 +10,7 @@ constexpr double denseRatio = 1.96;
 
 QPixmap resource(const QString &name, const QString &suffix)
 {
-    return QPixmap(QStringLiteral(":/img/%1%2.png").arg(name, suffix));
+    return QPixmap::fromImage(readPicture(QStringLiteral(":/img/%1%2.png").arg(name, suffix)));
 }
 
 bool isSmaller(const QPixmap &picture, const QSize &wanted)

@@ -2,10 +2,12 @@
 #include "ui/MenuStyle.h"
 
 #include "ui/AppPalette.h"
+#include "ui/LateIcon.h"
 #include "ui/Legibility.h"
 
 #include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -156,4 +158,14 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption *option, 
     const QRect line(option->rect.left() + separatorMargin, option->rect.center().y(),
                      option->rect.width() - 2 * separatorMargin, 1);
     painter->fillRect(line, lineColor(option->palette, separatorStrength));
+}
+
+QIcon MenuStyle::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const
+{
+    if (icon != SP_ToolBarHorizontalExtensionButton && icon != SP_ToolBarVerticalExtensionButton)
+        return QProxyStyle::standardIcon(icon, option, widget);
+    const auto make = [icon, style = QPointer<QStyle>(baseStyle())](const QSize &) {
+        return style ? style->standardIcon(icon) : QIcon();
+    };
+    return QIcon(new LateIcon(make)); // the icon owns it
 }

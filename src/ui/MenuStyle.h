@@ -26,6 +26,8 @@ public:
                             const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
+    // The arrows of bars that are too narrow, which each bar asks for at once, are read when they are shown.
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const override;
 
 private:
     MenuStyle();

@@ -27,6 +27,8 @@ static constexpr int qtVersion = 551;
 
 static const char listWidthName[] = "listWidth";
 
+// So long the frame has to reach the screen before the thread is busy again.
+static constexpr std::chrono::milliseconds frameTime(10);
 // A window that nobody sees is not painted; by then one that is seen has been.
 static constexpr std::chrono::seconds framePatience(2);
 
@@ -182,7 +184,7 @@ void SceneWidget::paintEvent(QPaintEvent *event)
 {
     QQuickWidget::paintEvent(event);
     if (m_isRendered && m_isFirstFrame)
-        QTimer::singleShot(0, this, &SceneWidget::endFirstFrame); // the window is painted as a whole before that
+        QTimer::singleShot(frameTime, this, &SceneWidget::endFirstFrame);
 }
 
 void SceneWidget::endFirstFrame()
