@@ -45,8 +45,17 @@ Item {
         anchors.fill: parent
         radius: Measures.radius
         color: appPalette.highlight
-        opacity: mouseArea.pressed || button.checked ? 2.5 * Measures.hoverStrength : Measures.hoverStrength
+        opacity: Measures.hoverStrength
         visible: button.hovered || button.checked
+    }
+
+    // A stronger ground would leave the picture too little contrast.
+    Rectangle {
+        anchors.fill: parent
+        radius: Measures.radius
+        color: "transparent"
+        border { width: Measures.hairline; color: appPalette.highlight }
+        visible: mouseArea.pressed || button.checked
     }
 
     PaletteImage {
