@@ -367,8 +367,10 @@ APPEARANCES = [*(Appearance(colours, scale) for colours in ("light", "dark") for
 
 def is_shown(scenes, appearance):
     """The clicks of most shows are for text of the usual size; what is told in words alone is the same in all colours."""
-    if appearance.large or appearance.colours not in ("light", "dark"):
+    if appearance.large:
         return scenes is show_troubles
+    if appearance.colours not in ("light", "dark"):
+        return scenes in (show_work, show_troubles)
     return not appearance.language or scenes in (show_work, show_consent)
 
 
