@@ -32,6 +32,10 @@ MainModel::MainModel(QObject *parent)
     connect(&m_reads, &ReadQueue::infoExtracted, this, &MainModel::fileInfoExtracted);
     connect(&m_reads, &ReadQueue::tagsRead, this, &MainModel::useTags);
     connect(&m_writes, &SongWrites::written, this, &MainModel::tagsWritten);
+    connect(&m_failedWrites, &FailedWrites::counted, this, &MainModel::writesFailed);
+    connect(&m_failedWrites, &FailedWrites::left, this, &MainModel::failedWritesLeft);
+    connect(&m_exports, &LyricsExports::exported, this, &MainModel::lyricsExported);
+    connect(&m_exports, &LyricsExports::automaticFailed, this, &MainModel::automaticExportFailed);
     // A read under way asks for the next one by itself; a request for each block would only overtake it.
     connect(&m_incoming, &IncomingFiles::block, this, [this](const QList<QUrl> &files, bool isFirst) {
         insertFiles(newUrls(files), isFirst || !m_reads.isReading());
@@ -361,7 +365,7 @@ void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
         items.push_back(std::move(taken.item));
     }
     m_removed.add(std::move(items));
-    forgetUnsaved(ids);
+    m_failedWrites.forget(ids);
     if (m_activeCount != activeBefore)
         emit activeCountChanged();
     if (readAbandoned)
@@ -514,7 +518,7 @@ QVector<quint16> MainModel::unsavedIds() const
 
 void MainModel::giveUpUnsaved(const QVector<quint16> &ids)
 {
-    forgetUnsaved(ids);
+    m_failedWrites.forget(ids);
     for (const quint16 id : ids) {
         if (ModelItem *item = m_items.find(id))
             item->revert();
@@ -536,7 +540,7 @@ bool MainModel::writeTags(quint16 id)
     if (item->processState() == ModelItem::ProcessWorking)
         m_overruled.insert(id);
     // Who saves once more, after being told of another program's change, means it.
-    startWriting(item, m_writes.isForeignChangeTold(id));
+    startWriting(item, m_failedWrites.isForeignChangeTold(id));
     return true;
 }
 
@@ -556,7 +560,7 @@ void MainModel::startWriting(ModelItem *item, bool insists)
 {
     // The export comes first.
     if (m_settings && m_settings->generateLyricsFileAuto())
-        queueExport(automaticExports(), *item);
+        m_exports.queueAutomatic(*item);
     item->setErrorString(QString());
     item->setFoundNothing(false);
     item->setProcessState(ModelItem::ProcessWritingTags);
@@ -574,12 +578,10 @@ void MainModel::tagsWritten(quint16 id)
         item->setFileKind(*outcome.fileKind);
     if (outcome.reason.isEmpty()) {
         item->setStoredTexts(outcome.texts);
-        forgetUnsaved({id});
+        m_failedWrites.forget({id});
     } else {
-        noteUnsaved(item, outcome.reason);
+        m_failedWrites.note(item, outcome.reason, outcome.isForeignChange);
     }
-    if (outcome.isForeignChange)
-        m_writes.noteForeignChange(id);
     if (item->processState() != ModelItem::ProcessWritingTags)
         return;
     if (outcome.reason.isEmpty())
@@ -619,64 +621,12 @@ void MainModel::readHeldBack(const QUrl &file)
         extractNextFileInfo();
 }
 
-void MainModel::noteUnsaved(ModelItem *item, const QString &reason)
-{
-    if (item->writeError() != reason)
-        forgetUnsaved({item->id()});
-    m_writes.noteUnsaved(item->id(), reason);
-    item->setErrorString(reason);
-    item->setWriteError(reason);
-    emit writesFailed(reason, m_writes.unsavedCount(reason));
-}
-
-// However many songs, one signal a reason. They may have left the list.
-void MainModel::forgetUnsaved(const QVector<quint16> &ids)
-{
-    QSet<QString> reasons;
-    for (const quint16 id : ids) {
-        const QString reason = m_writes.forgetUnsaved(id);
-        if (reason.isEmpty())
-            continue;
-        reasons.insert(reason);
-        if (ModelItem *item = m_items.find(id))
-            item->setWriteError(QString());
-    }
-    for (const QString &reason : qAsConst(reasons))
-        emit failedWritesLeft(reason, m_writes.unsavedCount(reason));
-}
-
 // Exporting
 
 bool MainModel::generateLyricsFile(quint16 id)
 {
-    if (!m_exports) {
-        m_exports.reset(new LyricsFileWriter);
-        connect(m_exports.data(), &LyricsFileWriter::written, this, &MainModel::lyricsExported);
-    }
     const ModelItem *item = m_items.find(id);
-    return item && queueExport(*m_exports, *item);
-}
-
-LyricsFileWriter &MainModel::automaticExports()
-{
-    if (!m_automaticExports) {
-        m_automaticExports.reset(new LyricsFileWriter);
-        connect(m_automaticExports.data(), &LyricsFileWriter::written, this,
-                [this](quint16, const QString &textFile, bool isWritten) {
-                    if (!isWritten)
-                        emit automaticExportFailed(textFile);
-                });
-    }
-    return *m_automaticExports;
-}
-
-// Without lyrics there is nothing to export, and a text file that is there stays as it is.
-bool MainModel::queueExport(LyricsFileWriter &exports, const ModelItem &item)
-{
-    if (!item.url().isLocalFile() || item.lyricsTag().isEmpty())
-        return false;
-    exports.queueWrite(item.id(), item.url().toLocalFile(), item.lyricsTag());
-    return true;
+    return item && m_exports.queue(*item);
 }
 
 void MainModel::locate(int row) const

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/FailedWrites.h"
 #include "model/IncomingFiles.h"
 #include "model/ItemStore.h"
-#include "model/LyricsFileWriter.h"
+#include "model/LyricsExports.h"
 #include "model/ReadQueue.h"
 #include "model/RemovedItems.h"
 #include "model/SongWrites.h"
 #include "tags/MediaFileTags.h"
 
 #include <QAbstractListModel>
-#include <QScopedPointer>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
@@ -184,7 +184,6 @@ signals:
 private:
     // Ids in row order: from sequence number to id.
     using WorkQueue = std::map<quint64, quint16>;
-    using Exports = QScopedPointer<LyricsFileWriter, QScopedPointerDeleteLater>;
 
     void insertFiles(const QList<QUrl> &files, bool requestRead);
     [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
@@ -199,12 +198,8 @@ private:
     void useTags(quint16 id, const MediaFileTags &tags);
     [[nodiscard]] ModelItem *writableItem(quint16 id) const;
     void startWriting(ModelItem *item, bool insists);
-    [[nodiscard]] LyricsFileWriter &automaticExports();
-    static bool queueExport(LyricsFileWriter &exports, const ModelItem &item);
     [[nodiscard]] bool mustNotBeRead(const QUrl &file) const;
     void readHeldBack(const QUrl &file);
-    void noteUnsaved(ModelItem *item, const QString &reason);
-    void forgetUnsaved(const QVector<quint16> &ids);
     static void setNotSuitable(ModelItem *item);
 
     ItemStore m_items;
@@ -221,10 +216,9 @@ private:
     // Searched for while the user's own lyrics were written: what the search finds must not replace those.
     QSet<quint16> m_overruled;
     SongWrites m_writes;
+    FailedWrites m_failedWrites{&m_items};
     QStringList m_inMending;
     // Added while they were being written or mended: they are read when that is done.
     QSet<QUrl> m_heldBack;
-    // Made when they are needed first.
-    Exports m_exports;
-    Exports m_automaticExports;
+    LyricsExports m_exports;
 };

@@ -79,20 +79,3 @@ SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
         m_writes.erase(writes);
     return outcome;
 }
-
-void SongWrites::noteUnsaved(quint16 id, const QString &reason)
-{
-    if (isUnsaved(id))
-        return;
-    m_unsaved.insert(id, reason);
-    ++m_unsavedByReason[reason];
-}
-
-QString SongWrites::forgetUnsaved(quint16 id)
-{
-    m_foreignChanges.remove(id);
-    const QString reason = m_unsaved.take(id);
-    if (!reason.isEmpty() && --m_unsavedByReason[reason] == 0)
-        m_unsavedByReason.remove(reason);
-    return reason;
-}

@@ -12,8 +12,7 @@
 
 #include <optional>
 
-// The writes of songs that are under way, and which songs are unsaved: those whose last write failed. Main thread only;
-// the files are written elsewhere (tags/TagWriter.h).
+// The writes of songs that are under way. Main thread only; the files are written elsewhere (tags/TagWriter.h).
 class SongWrites : public QObject
 {
     Q_OBJECT
@@ -44,17 +43,6 @@ public:
     // To be called once for each written().
     [[nodiscard]] Outcome takeOutcome(quint16 id);
 
-    // Of a song that is not unsaved for another reason.
-    void noteUnsaved(quint16 id, const QString &reason);
-    // For what reason the song was unsaved; empty when it was not.
-    QString forgetUnsaved(quint16 id);
-    // The user is told that another program has changed the file of the unsaved song.
-    void noteForeignChange(quint16 id) { m_foreignChanges.insert(id); }
-    [[nodiscard]] bool isForeignChangeTold(quint16 id) const { return m_foreignChanges.contains(id); }
-    [[nodiscard]] bool isUnsaved(quint16 id) const { return m_unsaved.contains(id); }
-    // How many songs are unsaved for this reason.
-    [[nodiscard]] int unsavedCount(const QString &reason) const { return m_unsavedByReason.value(reason); }
-
 signals:
     void written(quint16 id);
 
@@ -70,8 +58,5 @@ private:
     QHash<QUrl, int> m_files;                        // how many writes of each are under way
     QHash<quint16, QString> m_failures;              // id to reason, until their end is told
     QHash<quint16, ModelItem::FileKind> m_fileKinds; // likewise
-    QHash<quint16, QString> m_unsaved;               // id to reason
-    QHash<QString, int> m_unsavedByReason;
-    QSet<quint16> m_refused;        // since another program has changed the file; until their end is told
-    QSet<quint16> m_foreignChanges; // likewise, and told
+    QSet<quint16> m_refused;                         // since another program has changed the file; likewise
 };

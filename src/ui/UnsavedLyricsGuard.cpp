@@ -104,9 +104,11 @@ void UnsavedLyricsGuard::ask(const Songs &ids, std::function<void(int)> answered
         return;
     }
     const QStringList failures = failuresOf(ids);
-    m_question = makeQuestionBox(
-        lossOf(ids), (failures + QStringList(tr("Do you want to save the changes?"))).join(QLatin1Char('\n')),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
+    QString question = tr("Do you want to save the changes?");
+    if (!failures.isEmpty())
+        question.prepend(failures.join(QLatin1Char('\n')) + QLatin1String("\n\n"));
+    m_question = makeQuestionBox(lossOf(ids), question, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                 m_window);
     m_question->setDefaultButton(failures.isEmpty() ? QMessageBox::Save : QMessageBox::Cancel);
     QObject::connect(m_question, &QMessageBox::finished, m_window, [this, answered = std::move(answered)](int answer) {
         m_question.clear();
