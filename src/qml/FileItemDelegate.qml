@@ -140,7 +140,8 @@ Item {
     Text {
         x: Measures.textColumn
         y: Measures.fileNameTop
-        width: warning.x - x - Measures.grid
+        width: Math.max(0, warning.x - x - Measures.grid)
+        visible: width > 2 * Measures.smallFont // or it would be an ellipsis alone
         text: filenameRole
         textFormat: Text.PlainText
         elide: Text.ElideMiddle

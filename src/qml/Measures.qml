@@ -41,7 +41,8 @@ QtObject {
     readonly property int splitterStep: 16
 
     readonly property int rowHeight: scaled(60)
-    readonly property int coverSide: scaled(44)
+    // Covers are kept small, and a large one would leave large words no room.
+    readonly property int coverSide: Math.min(scaled(44), 72)
     readonly property int coverMargin: 10
     readonly property int textColumn: coverMargin + coverSide + 12
     readonly property int titleTop: scaled(7)
@@ -49,7 +50,7 @@ QtObject {
     readonly property int fileNameTop: scaled(41)
     readonly property int rowMargin: 14
     // Of the text's width at most; the file's name has the rest. Large text has few letters in a row.
-    readonly property real wordShare: textScale > 1 ? 0.7 : 0.5
+    readonly property real wordShare: textScale > 1 ? 0.75 : 0.5
     readonly property int light: scaled(16)
     readonly property int locateButton: scaled(24)
     readonly property int textButton: scaled(24)
