@@ -251,6 +251,7 @@ class Walk(unittest.TestCase):
         self.press_keys(*keys)
 
     def begin_edit(self):
+        self.session.screen.focus("Versewell")
         self.press(self.the("push button", "Edit lyrics (F2)"))
         save = self.the("push button", "Save lyrics (Ctrl+S)")
         self.assertTrue(rig.wait_until(lambda: "showing" in self.states(save), PATIENCE_SECONDS), "the edit did not begin")
@@ -319,18 +320,16 @@ class EveryLanguageTest(Walk):
                 self.assertEqual(self.program.wait(PATIENCE_SECONDS), 3)
 
     def test_saves_that_are_slow_and_fail(self):
-        for language in WALKED_WHOLLY:
-            with self.subTest(language):
-                self.start(*SLOW_DISK, language=language, songs=2)
-                self.save_lyrics()
-                self.press(self.the("menu item", "Remove selected"))
-                self.check(self.find_window("Changes are still being written into the songs."))
-                self.look("The lyrics of one song are not in its file and stand in the list only.", "Discard")
-                self.check(self.window)  # with notices
-                self.save_lyrics()
-                self.press(self.the("menu item", "Quit"))
-                rig.wait_until(lambda: not self.windows(), PATIENCE_SECONDS)
-                self.look("Versewell", "Close")
+        self.start(*SLOW_DISK, language="de", songs=2)
+        self.save_lyrics()
+        self.press(self.the("menu item", "Remove selected"))
+        self.check(self.find_window("Changes are still being written into the songs."))
+        self.look("The lyrics of one song are not in its file and stand in the list only.", "Discard")
+        self.check(self.window)  # with notices
+        self.save_lyrics()
+        self.press(self.the("menu item", "Quit"))
+        rig.wait_until(lambda: not self.windows(), PATIENCE_SECONDS)
+        self.look("Versewell", "Close")
 
     def save_lyrics(self):
         self.begin_edit()
