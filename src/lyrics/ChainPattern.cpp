@@ -88,25 +88,28 @@ bool ChainPattern::CharacterSet::containsByKind(QChar c) const
     return false;
 }
 
+bool ChainPattern::Link::standsAt(const QChar *characters) const
+{
+    if (isPlain())
+        return std::equal(prefix.begin(), prefix.end(), characters);
+    return std::all_of(piece.begin(), piece.end(),
+                       [&characters](const CharacterSet &set) { return set.contains(*characters++); });
+}
+
 // By the first character: QString prepares a table for each longer text that it searches for, and pages have many
 // places.
-int ChainPattern::Link::indexIn(const QString &text, int from) const
+std::vector<int> ChainPattern::Link::placesIn(const QString &text) const
 {
-    const QChar *const characters = text.constData();
-    const auto matchesAt = [&](int at) {
-        const QChar *next = characters + at;
-        return std::all_of(piece.begin(), piece.end(),
-                           [&next](const CharacterSet &set) { return set.contains(*next++); });
-    };
+    std::vector<int> places;
     const int last = text.size() - length();
-    for (int at = from; at <= last; ++at) {
+    for (int at = 0; at <= last; ++at) {
         at = prefix.isEmpty() ? at : text.indexOf(prefix.at(0), at);
         if (at < 0 || at > last)
-            return -1;
-        if (matchesAt(at))
-            return at;
+            break;
+        if (standsAt(text.constData() + at))
+            places.push_back(at);
     }
-    return -1;
+    return places;
 }
 
 int ChainPattern::Link::endOfGap(const QString &text, int from, int limit) const

@@ -78,10 +78,16 @@ public:
         bool isLazy = false;
 
         [[nodiscard]] int length() const { return static_cast<int>(piece.size()); }
-        // Where the piece stands first from `from` on, -1 when nowhere.
-        [[nodiscard]] int indexIn(const QString &text, int from) const;
+        // Whether the piece is plain characters and nothing else.
+        [[nodiscard]] bool isPlain() const { return prefix.size() == length(); }
+        // Where the piece stands, also within another place of it; rising.
+        [[nodiscard]] std::vector<int> placesIn(const QString &text) const;
         // Where the gap that begins at `from` ends at the latest, looking no further than `limit`.
         [[nodiscard]] int endOfGap(const QString &text, int from, int limit) const;
+
+    private:
+        // It has as many characters left.
+        [[nodiscard]] bool standsAt(const QChar *characters) const;
     };
 
     // One end of a capture: a place inside or at the edge of a piece, counted from where the piece begins.

@@ -11,35 +11,40 @@ ChainScan::ChainScan(const ChainPattern &pattern, QString text)
 {
     KnownPlaces known;
     for (std::size_t link = m_spots.size(); link-- > 0;) {
-        ChainSpots spots = placesOf(m_pattern.links()[link], known);
-        if (link + 1 < m_spots.size())
-            keepViable(link, spots);
-        if (spots.empty())
+        m_spots[link] = spotsOf(link, known);
+        if (m_spots[link].empty())
             return;
-        m_spots[link] = std::move(spots);
     }
 }
 
 // Pieces such as "<td" and ">" stand in a pattern several times.
-ChainSpots ChainScan::placesOf(const ChainPattern::Link &piece, KnownPlaces &known) const
+ChainSpots ChainScan::spotsOf(std::size_t link, KnownPlaces &known) const
 {
-    const bool isPlain = piece.prefix.size() == piece.length();
-    if (!isPlain)
-        return searchedPlacesOf(piece);
-    const auto found = known.find(piece.prefix);
-    return found != known.end() ? found->second : known.emplace(piece.prefix, searchedPlacesOf(piece)).first->second;
+    const ChainPattern::Link &piece = m_pattern.links()[link];
+    const bool isLast = link + 1 == m_spots.size();
+    const auto spotsAt = [&](const std::vector<int> &places) {
+        return isLast ? lastSpots(places) : viableSpots(link, places);
+    };
+    if (!piece.isPlain())
+        return spotsAt(piece.placesIn(m_text));
+    auto found = known.find(piece.prefix);
+    if (found == known.end())
+        found = known.emplace(piece.prefix, piece.placesIn(m_text)).first;
+    return spotsAt(found->second);
 }
 
-ChainSpots ChainScan::searchedPlacesOf(const ChainPattern::Link &piece) const
+ChainSpots ChainScan::lastSpots(const std::vector<int> &places) const
 {
     ChainSpots spots;
-    for (int at = piece.indexIn(m_text, 0); at >= 0; at = piece.indexIn(m_text, at + 1))
-        spots.push_back({at, at + piece.length(), 0});
+    spots.reserve(places.size());
+    for (const int place : places)
+        spots.push_back({place, place + m_pattern.links().back().length(), 0});
     return spots;
 }
 
-// Drops the places from which no place of the next piece can be reached, and sets the end of the others.
-void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
+// Without the places from which no place of the next piece can be reached. A large page has more places than the
+// processor's caches hold, so each piece takes one block of memory and is gone through once.
+ChainSpots ChainScan::viableSpots(std::size_t link, const std::vector<int> &places) const
 {
     const ChainPattern::Link &piece = m_pattern.links()[link];
     const ChainSpots &next = m_spots[link + 1];
@@ -50,8 +55,10 @@ void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
     // Places [first, last) of the next piece lie within the gap; both bounds only ever fall.
     std::size_t first = next.size();
     std::size_t last = next.size();
-    for (auto spot = spots.rbegin(); spot != spots.rend(); ++spot) {
-        const int gapBegin = spot->position + piece.length();
+    ChainSpots spots(places.size());
+    auto spot = spots.end();
+    for (auto place = places.rbegin(); place != places.rend(); ++place) {
+        const int gapBegin = *place + piece.length();
         const int scanned = piece.endOfGap(m_text, gapBegin, known);
         gapEnd = scanned < known ? scanned : gapEnd;
         known = std::min(known, gapBegin);
@@ -59,11 +66,13 @@ void ChainScan::keepViable(std::size_t link, ChainSpots &spots) const
             --first;
         while (last > 0 && next[last - 1].position > gapEnd)
             --last;
-        spot->next = static_cast<quint32>(takesFirst ? first : last - 1);
-        spot->end = first < last ? next[spot->next].end : -1;
+        if (first >= last)
+            continue;
+        const std::size_t taken = takesFirst ? first : last - 1;
+        *--spot = {*place, next[taken].end, static_cast<quint32>(taken)};
     }
-    spots.erase(std::remove_if(spots.begin(), spots.end(), [](const ChainSpot &spot) { return spot.end < 0; }),
-                spots.end());
+    spots.erase(spots.begin(), spot);
+    return spots;
 }
 
 std::optional<ChainMatch> ChainScan::next(int from) const

@@ -38,12 +38,12 @@ public:
     [[nodiscard]] std::optional<ChainMatch> next(int from = 0) const;
 
 private:
-    // By pieces of plain characters.
-    using KnownPlaces = std::map<QString, ChainSpots>;
+    // Positions of the pieces of plain characters.
+    using KnownPlaces = std::map<QString, std::vector<int>>;
 
-    [[nodiscard]] ChainSpots placesOf(const ChainPattern::Link &piece, KnownPlaces &known) const;
-    [[nodiscard]] ChainSpots searchedPlacesOf(const ChainPattern::Link &piece) const;
-    void keepViable(std::size_t link, ChainSpots &spots) const;
+    [[nodiscard]] ChainSpots spotsOf(std::size_t link, KnownPlaces &known) const;
+    [[nodiscard]] ChainSpots lastSpots(const std::vector<int> &places) const;
+    [[nodiscard]] ChainSpots viableSpots(std::size_t link, const std::vector<int> &places) const;
 
     const ChainPattern &m_pattern;
     QString m_text;

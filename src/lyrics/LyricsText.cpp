@@ -154,20 +154,24 @@ QString withBreaksAsNewlines(const QString &html)
 
 QByteArray decodePercentEscapes(const QByteArray &bytes)
 {
+    int at = bytes.indexOf('%');
+    if (at < 0) // as most pages
+        return bytes;
     QByteArray decoded;
     decoded.reserve(bytes.size());
-    for (int i = 0; i < bytes.size(); ++i) {
-        const bool room = bytes.at(i) == '%' && i + 2 < bytes.size();
-        const int high = room ? hexDigitValue(bytes.at(i + 1)) : -1;
-        const int low = room ? hexDigitValue(bytes.at(i + 2)) : -1;
+    int copied = 0;
+    for (; at >= 0 && at + 2 < bytes.size(); at = bytes.indexOf('%', at)) {
+        const int high = hexDigitValue(bytes.at(at + 1));
+        const int low = hexDigitValue(bytes.at(at + 2));
         if (high < 0 || low < 0) {
-            decoded.append(bytes.at(i));
+            ++at;
             continue;
         }
-        decoded.append(static_cast<char>(high * 16 + low));
-        i += 2;
+        decoded.append(bytes.constData() + copied, at - copied).append(static_cast<char>(high * 16 + low));
+        at += 3;
+        copied = at;
     }
-    return decoded;
+    return decoded.append(bytes.constData() + copied, bytes.size() - copied);
 }
 
 QString decodeDecimalReferences(const QString &text)
