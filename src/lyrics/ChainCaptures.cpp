@@ -6,12 +6,15 @@
 
 namespace {
 
-// One of the ways to a place of a piece: the best one, going by what it captured.
+// Those so far; the others are empty.
+using CaptureSet = std::array<ChainCapture, ChainPattern::mostGroups>;
+
+// One of the ways to a place of a piece: the best one, going by what it captured. Most gaps capture nothing, and a
+// large page has more routes than fit the processor's caches, so what was captured lies elsewhere.
 struct Route
 {
     int position;
-    // Those so far; the others are empty.
-    std::array<ChainCapture, ChainPattern::mostGroups> captures;
+    quint32 captures; // index of the set
 };
 
 int rank(const ChainCapture &left, const ChainCapture &right)
@@ -23,10 +26,10 @@ int rank(const ChainCapture &left, const ChainCapture &right)
     return left.begin != right.begin ? left.begin - right.begin : right.end - left.end;
 }
 
-bool isBetter(const Route &left, const Route &right)
+bool isBetter(const CaptureSet &left, const CaptureSet &right)
 {
-    for (std::size_t i = 0; i < left.captures.size(); ++i) {
-        const int order = rank(left.captures[i], right.captures[i]);
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const int order = rank(left[i], right[i]);
         if (order != 0)
             return order < 0;
     }
@@ -37,10 +40,12 @@ bool isBetter(const Route &left, const Route &right)
 class GapCrossing
 {
 public:
-    GapCrossing(const ChainPattern::Link &piece, const QString &text, const std::vector<Route> &routes, int matchEnd)
+    GapCrossing(const ChainPattern::Link &piece, const QString &text, const std::vector<Route> &routes,
+                const std::vector<CaptureSet> &captures, int matchEnd)
         : m_piece(piece)
         , m_text(text)
         , m_routes(routes)
+        , m_captures(captures)
         , m_matchEnd(matchEnd)
     {
     }
@@ -49,12 +54,12 @@ public:
     const Route *to(int position)
     {
         while (m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) < position)
-            enter(m_routes[m_entered++]);
+            enter(static_cast<quint32>(m_entered++));
         while (m_firstInGap < m_inGap.size() && m_inGap[m_firstInGap].gapEnd < position)
             ++m_firstInGap;
-        const Route *best = m_firstInGap < m_inGap.size() ? m_inGap[m_firstInGap].route : nullptr;
+        const Route *best = m_firstInGap < m_inGap.size() ? &m_routes[m_inGap[m_firstInGap].route] : nullptr;
         const bool emptyGap = m_entered < m_routes.size() && gapBegin(m_routes[m_entered]) == position;
-        if (emptyGap && (!best || isBetter(m_routes[m_entered], *best)))
+        if (emptyGap && (!best || isBetterRoute(m_routes[m_entered], *best)))
             best = &m_routes[m_entered];
         return best;
     }
@@ -62,25 +67,32 @@ public:
 private:
     struct Entry
     {
-        const Route *route;
+        quint32 route; // index
         int gapEnd;
     };
 
     [[nodiscard]] int gapBegin(const Route &route) const { return route.position + m_piece.length(); }
 
-    // Earlier gaps never end later, so a route that is worse than a later one is of no more use.
-    void enter(const Route &route)
+    [[nodiscard]] bool isBetterRoute(const Route &left, const Route &right) const
     {
-        while (m_inGap.size() > m_firstInGap && isBetter(route, *m_inGap.back().route))
+        return left.captures != right.captures && isBetter(m_captures[left.captures], m_captures[right.captures]);
+    }
+
+    // Earlier gaps never end later, so a route that is worse than a later one is of no more use.
+    void enter(quint32 index)
+    {
+        const Route &route = m_routes[index];
+        while (m_inGap.size() > m_firstInGap && isBetterRoute(route, m_routes[m_inGap.back().route]))
             m_inGap.pop_back();
         if (gapBegin(route) > m_gapEnd)
             m_gapEnd = m_piece.endOfGap(m_text, gapBegin(route), m_matchEnd);
-        m_inGap.push_back({&route, m_gapEnd});
+        m_inGap.push_back({index, m_gapEnd});
     }
 
     const ChainPattern::Link &m_piece;
     const QString &m_text;
     const std::vector<Route> &m_routes;
+    const std::vector<CaptureSet> &m_captures;
     int m_matchEnd;
     std::size_t m_entered = 0;
     int m_gapEnd = -1;
@@ -125,13 +137,15 @@ ChainCaptures stepwiseCaptures(const ChainPattern &pattern, const std::vector<Ch
 ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, const std::vector<ChainSpots> &spots,
                            const ChainSpot &start)
 {
-    std::vector<Route> routes{{start.position, {}}};
+    std::vector<Route> routes{{start.position, 0}};
     std::vector<Route> reached;
+    std::vector<CaptureSet> sets(1);
+    std::vector<CaptureSet> reachedSets;
     auto group = pattern.groups().begin();
     const ChainSpot *onTheWay = &start;
     for (std::size_t link = 1; link < spots.size() && group != pattern.groups().end(); ++link) {
         const bool captures = group->end.link == link;
-        GapCrossing crossing(pattern.links()[link - 1], text, routes, start.end);
+        GapCrossing crossing(pattern.links()[link - 1], text, routes, sets, start.end);
         const auto [first, last] = placesAround(spots[link], onTheWay->next, start.position, start.end);
         reached.clear();
         reached.reserve(last - first);
@@ -141,14 +155,23 @@ ChainCaptures bestCaptures(const ChainPattern &pattern, const QString &text, con
             const Route *route = crossing.to(position);
             if (!route)
                 continue;
-            reached.push_back({position, route->captures});
-            if (captures)
-                reached.back().captures[static_cast<std::size_t>(group - pattern.groups().begin())] = {
-                    route->position + group->begin.offset, position + group->end.offset};
+            reached.push_back({position, captures ? static_cast<quint32>(reachedSets.size()) : route->captures});
+            if (!captures)
+                continue;
+            reachedSets.push_back(sets[route->captures]);
+            reachedSets.back()[static_cast<std::size_t>(group - pattern.groups().begin())] = {
+                route->position + group->begin.offset, position + group->end.offset};
         }
         routes.swap(reached);
-        group += captures ? 1 : 0;
+        if (captures) {
+            sets.swap(reachedSets);
+            reachedSets.clear();
+            ++group;
+        }
     }
-    const auto best = std::min_element(routes.begin(), routes.end(), isBetter);
-    return {best->captures.begin(), best->captures.begin() + (group - pattern.groups().begin())};
+    const auto best = std::min_element(routes.begin(), routes.end(), [&sets](const Route &left, const Route &right) {
+        return isBetter(sets[left.captures], sets[right.captures]);
+    });
+    const CaptureSet &found = sets[best->captures];
+    return {found.begin(), found.begin() + (group - pattern.groups().begin())};
 }
