@@ -278,8 +278,17 @@ void MainModel::connectItem(ModelItem *item)
     connect(item, &ModelItem::tagsLoadedChanged, this, [this, item] { queueForSearch(item); });
 }
 
+// Those that were removed live on for a while (RemovedItems), and are disconnected when they go: for tens of thousands
+// at once, that would make the window wait.
+bool MainModel::isListed(const ModelItem *item) const
+{
+    return m_items.find(item->id()) == item;
+}
+
 void MainModel::countActive(const ModelItem *item)
 {
+    if (!isListed(item))
+        return;
     m_activeCount += item->active() ? 1 : -1;
     emit activeCountChanged();
 }
@@ -287,6 +296,8 @@ void MainModel::countActive(const ModelItem *item)
 // Keeps the queue of searchable items in step with an item's state.
 void MainModel::queueForSearch(const ModelItem *item)
 {
+    if (!isListed(item))
+        return;
     const quint64 sequence = m_items.sequenceOf(item->id());
     if (item->processState() == ModelItem::ProcessWaiting && item->tagsLoaded())
         m_searchable.emplace(sequence, item->id());
@@ -296,8 +307,7 @@ void MainModel::queueForSearch(const ModelItem *item)
 
 void MainModel::itemChanged(const ModelItem *item)
 {
-    const int row = m_items.rowOf(item->id());
-    if (row >= 0)
+    if (const int row = m_items.rowOf(item->id()); row >= 0 && isListed(item))
         emit dataChanged(index(row), index(row));
 }
 
@@ -353,11 +363,12 @@ void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
 {
     const int activeBefore = m_activeCount;
     QVector<quint16> ids;
-    std::vector<std::unique_ptr<ModelItem>> items;
+    ids.reserve(static_cast<int>(removed.size()));
+    RemovedItems::Items items;
+    items.reserve(removed.size());
     bool readAbandoned = false;
     for (ItemStore::Taken &taken : removed) {
         const ModelItem *item = taken.item.get();
-        disconnect(item, nullptr, this, nullptr);
         m_activeCount -= item->active() ? 1 : 0;
         m_searchable.erase(taken.sequence);
         ids.append(item->id());

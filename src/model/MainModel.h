@@ -191,6 +191,7 @@ private:
     [[nodiscard]] bool isIdInUse(quint16 id) const;
     void insertItems(std::vector<std::unique_ptr<ModelItem>> items);
     void connectItem(ModelItem *item);
+    [[nodiscard]] bool isListed(const ModelItem *item) const;
     void countActive(const ModelItem *item);
     void queueForSearch(const ModelItem *item);
     void forgetItems(std::vector<ItemStore::Taken> removed);
