@@ -5,6 +5,7 @@
 #include "settings/SettingsLog.h"
 
 #include <QCryptographicHash>
+#include <QRandomGenerator>
 #include <QtEndian>
 
 namespace {
@@ -86,7 +87,7 @@ QByteArray SettingsCipher::encryptToByteArray(const QByteArray &plain)
     quint8 flags = 0;
     const QByteArray payload = pack(plain, &flags);
     const QByteArray integrity = integrityField(payload, &flags);
-    QByteArray body = QByteArray(1, static_cast<char>(m_random.bounded(256))) + integrity + payload;
+    QByteArray body = QByteArray(1, static_cast<char>(QRandomGenerator::system()->bounded(256))) + integrity + payload;
     quint8 last = 0;
     for (int i = 0; i < body.size(); ++i) {
         last = static_cast<quint8>(body.at(i)) ^ m_keyParts.at(i % keySize) ^ last;

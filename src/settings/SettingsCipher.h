@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QRandomGenerator>
 #include <QString>
 #include <QVector>
 
@@ -13,7 +12,8 @@
 // payload, which is the plain data or its qCompress form. The text form is that byte string in base64.
 //
 // Failures give an empty result and set lastError(). A compressed body that is no zlib data, or that becomes more than
-// 16 MiB, is read as empty without an error. The random byte comes from a generator of its own. Not thread-safe.
+// 16 MiB, is read as empty without an error. The random byte comes from the system, since seeding a generator for
+// it would take a millisecond of each start. Not thread-safe.
 class SettingsCipher
 {
 public:
@@ -63,5 +63,4 @@ private:
     CompressionMode m_compressionMode = CompressionAuto;
     IntegrityProtectionMode m_protectionMode = ProtectionChecksum;
     Error m_lastError = ErrorNoError;
-    QRandomGenerator m_random = QRandomGenerator::securelySeeded();
 };
