@@ -6,7 +6,6 @@
 #include "ui/WritesWait.h"
 
 #include <algorithm>
-#include <utility>
 
 // A question names so many songs that could not be saved, and counts the others.
 static constexpr int mostFailures = 3;

@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include <functional>
+#include <utility>
 
 class MainModel;
 class QWidget;
