@@ -144,6 +144,9 @@ void StatusLine::showNotice(Notice notice, const QString &text)
     remove(notice);
     m_notices.insert(notice, makeNotice(notice, text));
     m_bar->addWidget(m_notices.value(notice), 1);
+    if (m_firstButton) // which stands to the right of all notices
+        QWidget::setTabOrder(m_firstButton->previousInFocusChain(),
+                             m_notices.value(notice)->findChild<QToolButton *>());
     m_notices.value(notice)->show();
 }
 
@@ -203,4 +206,6 @@ void StatusLine::addButton(QAction *action)
     button->setVisible(action->isVisible());
     connect(action, &QAction::changed, button, [button, action] { button->setVisible(action->isVisible()); });
     m_bar->addPermanentWidget(button);
+    if (!m_firstButton)
+        m_firstButton = button;
 }

@@ -11,6 +11,7 @@ class QAction;
 class QLabel;
 class QProgressBar;
 class QStatusBar;
+class QToolButton;
 class QWidget;
 
 // What stands in the window's status bar: how many searches are left and their progress, notices that stay until the
@@ -75,4 +76,5 @@ private:
     int m_unusableNames = 0;
     QMap<QString, int> m_writesFailed; // reason to number, as shown
     QMap<Notice, QWidget *> m_notices;
+    QToolButton *m_firstButton = nullptr; // of those at the right
 };

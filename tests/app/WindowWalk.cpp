@@ -116,6 +116,17 @@ QVector<Shown> textsIn(const QQuickItem *item)
     return all;
 }
 
+// The entries of the scene's menus, which are drawn when they open only.
+QVector<Shown> entriesIn(const QQuickItem *root)
+{
+    QVector<Shown> all;
+    for (const QObject *entry : root->findChildren<QObject *>()) {
+        if (entry->inherits("QQuickMenuItem1"))
+            all.append({entry->property("text").toString(), false});
+    }
+    return all;
+}
+
 // What a screen reader is told
 
 using Nodes = QVector<QAccessibleInterface *>;
@@ -290,7 +301,7 @@ QStringList faultsOf(QWidget *window, const Catalogue &catalogue)
     QStringList faults;
     QVector<Shown> texts = textsIn(window);
     for (const QQuickWidget *scene : window->findChildren<QQuickWidget *>())
-        texts += textsIn(scene->rootObject());
+        texts += textsIn(scene->rootObject()) + entriesIn(scene->rootObject());
     for (const Shown &shown : qAsConst(texts)) {
         if (catalogue.isEnglish(shown.text))
             faults.append(QStringLiteral("English: %1").arg(shown.text));

@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "WindowWalk.h"
 #include "app/RecoveryDialog.h"
-#include "model/FolderScanner.h"
-#include "model/MainModel.h"
-#include "model/ModelItem.h"
-#include "model/ProxyModel.h"
 #include "network/Endpoints.h"
-#include "settings/Settings.h"
+#include "support/WindowStage.h"
 #include "tracking/AppTracker.h"
 #include "ui/AboutDialog.h"
 #include "ui/AddDialogs.h"
-#include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
 #include "ui/LyricsEdit.h"
-#include "ui/MainWindow.h"
-#include "ui/QuestionBox.h"
 #include "ui/SettingsDialog.h"
 #include "ui/UsageConsent.h"
 #include "ui/UsageExample.h"
@@ -27,11 +20,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
@@ -59,7 +50,7 @@ ReleasedVersions newerVersion()
 } // namespace
 
 // Goes through all windows of the program in each language.
-class tst_Languages : public QObject
+class tst_Languages : public QObject, private WindowStage
 {
     Q_OBJECT
 
@@ -72,32 +63,27 @@ private slots:
 
 private:
     void listSongs();
-    void walkWindow(MainWindow *window);
-    void walkDialogs(MainWindow *window);
+    void walkWindow();
+    void walkDialogs();
+    void walkQuestions();
+    void walkRecovery();
+    void walkUpdate(Updater *updater);
+    void walkNotices();
+    // Looks at a question that opens, and says no.
+    void lookAtQuestion(QWidget *asker, const char *place);
     void look(QWidget *window, const char *place);
     void show(QWidget *dialog);
 
-    QTemporaryDir m_folder;
     QFont m_font;
     QTranslator m_translator;
     std::unique_ptr<Catalogue> m_catalogue;
     QStringList m_faults;
-    std::unique_ptr<Settings> m_settings;
-    std::unique_ptr<MainModel> m_model;
-    std::unique_ptr<ProxyModel> m_proxy;
-    std::unique_ptr<FolderScanner> m_scanner;
     std::unique_ptr<AppTracker> m_tracker;
     std::unique_ptr<UsageConsent> m_consent;
-    AppPalette m_palette;
 };
 
 void tst_Languages::initTestCase()
 {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmarsh"));
-    QCoreApplication::setApplicationName(QStringLiteral("Versewell"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.6"));
-    qputenv("QMLSCENE_DEVICE", "softwarecontext");
     // Shows what is there with a site and a collector only; nothing is asked of them.
     QSettings().setValue(QStringLiteral("endpoints/Maker"), QStringLiteral("http://127.0.0.1:1"));
     QSettings().setValue(QStringLiteral("endpoints/Collector"), QStringLiteral("http://127.0.0.1:1"));
@@ -107,13 +93,8 @@ void tst_Languages::initTestCase()
 
 void tst_Languages::init()
 {
-    m_settings = std::make_unique<Settings>();
+    makeParts();
     m_settings->setProxyPort(65535);
-    m_model = std::make_unique<MainModel>();
-    m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
-    m_proxy = std::make_unique<ProxyModel>();
-    m_proxy->setSourceModel(m_model.get());
-    m_scanner = std::make_unique<FolderScanner>();
     m_tracker = std::make_unique<AppTracker>();
     m_consent = std::make_unique<UsageConsent>(m_tracker.get());
     m_consent->load();
@@ -121,16 +102,14 @@ void tst_Languages::init()
 
 void tst_Languages::cleanup()
 {
+    m_window.reset();
     QCoreApplication::removeTranslator(&m_translator);
     QApplication::setFont(m_font);
 }
 
 void tst_Languages::listSongs()
 {
-    QList<QUrl> songs;
-    for (const char *name : {"lyrics.mp3", "untagged.mp3", "plain.flac"})
-        songs.append(QUrl::fromLocalFile(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + QLatin1String(name)));
-    m_model->add(songs);
+    m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
     QTRY_VERIFY(m_model->itemAt(2)->tagsLoaded());
     m_model->itemAt(2)->setProcessState(ModelItem::ProcessWaiting);
 }
@@ -154,41 +133,101 @@ void tst_Languages::show(QWidget *dialog)
     dialog->hide();
 }
 
-void tst_Languages::walkWindow(MainWindow *window)
+void tst_Languages::walkWindow()
 {
-    look(window, "empty");
+    look(m_window.get(), "empty");
     listSongs();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         m_proxy->itemClicked(row);
         QTest::qWait(0);
-        look(window, "a song");
+        look(m_window.get(), "a song");
     }
     m_proxy->itemClicked(0);
-    window->lyricsEdit()->begin(m_model->itemAt(0));
-    look(window, "an edit");
-    window->lyricsEdit()->cancel();
+    m_window->lyricsEdit()->begin(m_model->itemAt(0));
+    look(m_window.get(), "an edit");
+    m_window->lyricsEdit()->cancel();
     m_proxy->selectAll();
-    look(window, "several");
+    look(m_window.get(), "several");
 }
 
-void tst_Languages::walkDialogs(MainWindow *window)
+void tst_Languages::walkDialogs()
 {
+    QWidget *window = m_window.get();
     SettingsDialog settings(m_settings.get(), m_consent.get(), window);
     AboutDialog about(window);
     ExitWidget exit(m_model.get(), window);
-    RecoveryDialog recovery;
     UpdateDialog update(newerVersion(), QDate(2026, 5, 1), UpdateDialog::Occasion::Asked, window);
     UpdateInfoDialog updateInfo(window);
     UpdateChecker checker;
     DownloadDialog download(&checker, window);
     UsageExample example(m_tracker.get(), window);
-    const std::unique_ptr<QMessageBox> question(makeQuestionBox(QString(), QString(), QMessageBox::Discard, window));
     const std::unique_ptr<QFileDialog> files(makeAddFilesDialog(QStringLiteral("*.mp3"), window));
     const std::unique_ptr<QFileDialog> folder(makeAddFolderDialog(window));
-    for (QWidget *dialog :
-         std::initializer_list<QWidget *>{&settings, &about, &exit, &recovery, &update, &updateInfo, &download,
-                                          &example, question.get(), files.get(), folder.get()})
+    for (QWidget *dialog : std::initializer_list<QWidget *>{&settings, &about, &exit, &update, &updateInfo, &download,
+                                                            &example, files.get(), folder.get()})
         show(dialog);
+}
+
+void tst_Languages::lookAtQuestion(QWidget *asker, const char *place)
+{
+    const auto box = [asker] {
+        return asker->findChild<QMessageBox *>();
+    };
+    QTRY_VERIFY2(box(), place);
+    look(box(), place);
+    box()->reject();
+    QTRY_VERIFY(!box());
+    asker->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(asker));
+}
+
+void tst_Languages::walkQuestions()
+{
+    m_model->removeAll();
+    addCopies(2);
+    beginDraft(0);
+    m_window->quit_app();
+    lookAtQuestion(m_window.get(), "a draft");
+    m_window->lyricsEdit()->cancel();
+    song(0)->setArtistTag(QStringLiteral("Anna"));
+    m_window->quit_app();
+    lookAtQuestion(m_window.get(), "a new name");
+    holdWrites();
+    beginDraft(1);
+    m_window->lyricsEdit()->save();
+    action("actionClearList")->trigger();
+    lookAtQuestion(m_window.get(), "a wait");
+    QVERIFY(QFile::remove(song(1)->url().toLocalFile()));
+    m_disk.release();
+    QTRY_VERIFY(song(1)->unsaved());
+    action("actionClearList")->trigger();
+    lookAtQuestion(m_window.get(), "lyrics in no file");
+    look(m_window.get(), "a failed write");
+}
+
+void tst_Languages::walkRecovery()
+{
+    RecoveryDialog recovery;
+    show(&recovery);
+    recovery.show();
+    recovery.findChild<QPushButton *>(QStringLiteral("btnClearSettings"))->click();
+    lookAtQuestion(&recovery, "clearing all settings");
+}
+
+// There is nobody at the maker's address.
+void tst_Languages::walkUpdate(Updater *updater)
+{
+    updater->setParentWindow(m_window.get());
+    updater->checkByUser();
+    lookAtQuestion(m_window.get(), "no update");
+}
+
+void tst_Languages::walkNotices()
+{
+    m_window->showSettingsDamaged(QStringLiteral("/a"));
+    m_window->showSettingsUnreadable();
+    emit m_model->filesLeftOut(3);
+    look(m_window.get(), "notices");
 }
 
 void tst_Languages::everyWindowServesEverybody_data()
@@ -220,20 +259,19 @@ void tst_Languages::everyWindowServesEverybody()
     if (!isChangedWhileRunning)
         QVERIFY(QCoreApplication::installTranslator(&m_translator));
     Updater updater;
-    MainWindow window({m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this,
-                       m_tracker.get(), m_consent.get(), &updater});
-    window.resize(640, 400);
-    QSignalSpy frames(&window, &MainWindow::firstFrameShown);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTRY_COMPARE(frames.size(), 1); // the scene is whole then
+    openWindow(this, QSize(640, 400), m_tracker.get(), m_consent.get(), &updater);
     if (isChangedWhileRunning) {
         QVERIFY(QCoreApplication::installTranslator(&m_translator));
         QCoreApplication::processEvents();
     }
-    walkWindow(&window);
-    walkDialogs(&window);
+    walkWindow();
+    walkDialogs();
+    walkRecovery();
     m_model->itemAt(2)->setProcessState(ModelItem::ProcessIdle);
+    walkUpdate(&updater);
+    walkQuestions();
+    walkNotices();
+    m_window.reset(); // before the updater
     m_faults.removeDuplicates();
     QVERIFY2(m_faults.isEmpty(), qPrintable(m_faults.join(QLatin1Char('\n'))));
 }
