@@ -7,7 +7,6 @@
 #include "model/FileManager.h"
 #include "settings/Settings.h"
 
-#include <QFileInfo>
 #include <QQmlEngine>
 
 #include <algorithm>
@@ -259,9 +258,7 @@ void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
         const quint16 id = item->id();
         const QUrl file = item->url();
         m_items.append(std::move(item));
-        if (mustNotBeRead(file))
-            m_heldBack.insert(file);
-        else
+        if (!m_heldBack.hold(file))
             m_reads.add(id);
     }
     endInsertRows();
@@ -581,7 +578,8 @@ void MainModel::startWriting(ModelItem *item, bool insists)
 void MainModel::tagsWritten(quint16 id)
 {
     const SongWrites::Outcome outcome = m_writes.takeOutcome(id);
-    readHeldBack(outcome.file);
+    if (m_heldBack.release(outcome.file))
+        readNow(outcome.file);
     ModelItem *item = m_items.find(id);
     if (!item)
         return;
@@ -603,29 +601,13 @@ void MainModel::tagsWritten(quint16 id)
 
 void MainModel::setSongsInMending(const QStringList &paths)
 {
-    m_inMending = paths;
-    const QSet<QUrl> heldBack = m_heldBack;
-    for (const QUrl &file : heldBack)
-        readHeldBack(file);
+    const QList<QUrl> released = m_heldBack.setInMending(paths);
+    for (const QUrl &file : released)
+        readNow(file);
 }
 
-// The disk is asked only about songs that bear the name of one that is being mended.
-bool MainModel::mustNotBeRead(const QUrl &file) const
+void MainModel::readNow(const QUrl &file)
 {
-    if (m_writes.isWriting(file))
-        return true;
-    const QFileInfo info(file.toLocalFile());
-    return std::any_of(m_inMending.begin(), m_inMending.end(), [&info](const QString &path) {
-        return path.endsWith(QLatin1Char('/') + info.fileName()) &&
-               (info.filePath() == path || info.canonicalFilePath() == path);
-    });
-}
-
-void MainModel::readHeldBack(const QUrl &file)
-{
-    if (!m_heldBack.contains(file) || mustNotBeRead(file))
-        return;
-    m_heldBack.remove(file);
     if (const ModelItem *item = m_items.find(file))
         m_reads.add(item->id());
     if (!m_reads.isReading())

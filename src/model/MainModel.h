@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/FailedWrites.h"
+#include "model/HeldBackReads.h"
 #include "model/IncomingFiles.h"
 #include "model/ItemStore.h"
 #include "model/LyricsExports.h"
@@ -199,8 +200,7 @@ private:
     void useTags(quint16 id, const MediaFileTags &tags);
     [[nodiscard]] ModelItem *writableItem(quint16 id) const;
     void startWriting(ModelItem *item, bool insists);
-    [[nodiscard]] bool mustNotBeRead(const QUrl &file) const;
-    void readHeldBack(const QUrl &file);
+    void readNow(const QUrl &file);
     static void setNotSuitable(ModelItem *item);
 
     ItemStore m_items;
@@ -218,8 +218,6 @@ private:
     QSet<quint16> m_overruled;
     SongWrites m_writes;
     FailedWrites m_failedWrites{&m_items};
-    QStringList m_inMending;
-    // Added while they were being written or mended: they are read when that is done.
-    QSet<QUrl> m_heldBack;
+    HeldBackReads m_heldBack{&m_writes};
     LyricsExports m_exports;
 };
