@@ -1,15 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "ui/MainWindow.h"
-
-#include "model/FolderScanner.h"
-#include "model/MainModel.h"
-#include "model/ProxyModel.h"
 #include "network/Endpoints.h"
-#include "settings/Settings.h"
 #include "support/TestTable.h"
+#include "support/WindowStage.h"
 #include "tags/TagWriter.h"
-#include "tags/WriterThread.h"
-#include "ui/AppPalette.h"
 #include "ui/ExitWidget.h"
 
 #include <QAction>
@@ -20,7 +13,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -29,10 +21,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
-#include <QSemaphore>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -45,11 +35,6 @@ void noteWarnings(QtMsgType type, const QMessageLogContext &, const QString &mes
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
         warnings.append(message);
-}
-
-QUrl sample(const char *name)
-{
-    return QUrl::fromLocalFile(QStringLiteral(VERSEWELL_SAMPLES_DIR "/") + QLatin1String(name));
 }
 
 // Opens pages in place of the browser.
@@ -69,33 +54,19 @@ public slots:
 
 } // namespace
 
-class tst_MainWindow : public QObject
+class tst_MainWindow : public QObject, private WindowStage
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
-        QCoreApplication::setOrganizationName("Quillmarsh"_s);
-        QCoreApplication::setApplicationName("Versewell"_s);
-        QCoreApplication::setApplicationVersion("1.5.6"_s);
-        qputenv("QMLSCENE_DEVICE", "softwarecontext");
-    }
-
     void init()
     {
         QSettings().clear();
         reloadEndpoints();
         warnings.clear();
         m_handler = qInstallMessageHandler(noteWarnings);
-        m_settings = std::make_unique<Settings>();
-        m_model = std::make_unique<MainModel>();
-        m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
-        m_proxy = std::make_unique<ProxyModel>();
-        m_proxy->setSourceModel(m_model.get());
-        m_scanner = std::make_unique<FolderScanner>();
-        openWindow();
+        makeParts();
+        openWindow(this);
     }
 
     void cleanup()
@@ -245,9 +216,9 @@ private slots:
         // A folder stands where the text file would.
         QVERIFY(QDir(m_songs->path()).mkdir("1.txt"_s));
         exportLyrics();
-        QTRY_VERIFY(labels().contains("The lyrics could not be written to "_s + m_songs->filePath("1.txt"_s)));
-        QVERIFY(QFile::exists(m_songs->filePath("2.txt"_s)));
-        QVERIFY(QFile::remove(m_songs->filePath("0.txt"_s)));
+        QTRY_VERIFY(labels().contains("The lyrics could not be written to "_s + m_songs->path("1.txt"_s)));
+        QVERIFY(QFile::exists(m_songs->path("2.txt"_s)));
+        QVERIFY(QFile::remove(m_songs->path("0.txt"_s)));
         QVERIFY(QDir(m_songs->path()).mkdir("0.txt"_s));
         exportLyrics();
         QTRY_VERIFY(labels().contains("The lyrics of 2 songs could not be exported"_s));
@@ -292,7 +263,7 @@ private slots:
         scene()->rootObject()->setProperty("listWidth", 321);
         m_window.reset();
         m_model->add({sample("lyrics.mp3")});
-        openWindow();
+        openWindow(this);
         QTRY_COMPARE(m_window->isMaximized(), maximized);
         QTRY_COMPARE(m_window->normalGeometry().size(), place.size());
         const QRect screen = m_window->screen()->availableGeometry();
@@ -477,7 +448,7 @@ private slots:
 
     void withoutItsModuleThePreviewAloneIsLost()
     {
-        QFile player(m_folder.filePath("Player.qml"_s));
+        QFile player(m_folder.path("Player.qml"_s));
         QVERIFY(player.open(QIODevice::WriteOnly) && player.write("import NoSuchModule 1.0\nMediaPlayer {}\n") > 0);
         player.close();
         m_model->add({sample("lyrics.mp3")});
@@ -595,27 +566,10 @@ private slots:
         addCopies(3);
         const QUrl url = song(1)->url();
         song(1)->setEditedLyricsTag("old"_s);
-        const auto act = [&] {
-            part("songList")->forceActiveFocus();
-            if (cause == "row"_s)
-                m_proxy->setCurrentIndex(0);
-            else if (cause == "several"_s)
-                m_proxy->selectAll();
-            else if (cause == "filter"_s)
-                m_proxy->setShowFound(false);
-            else if (cause == "key"_s)
-                press(Qt::Key_Delete);
-            else if (cause == "Escape"_s)
-                press(Qt::Key_Escape);
-            else if (cause == "close"_s)
-                m_window->close();
-            else
-                action(qPrintable(cause))->trigger();
-        };
         beginDraft(1);
         part("artistField")->forceActiveFocus();
         press(Qt::Key_N);
-        act();
+        lose(cause);
         answer(QMessageBox::Cancel);
         QVERIFY(part("lyricsText")->hasActiveFocus());
         press(Qt::Key_Backspace); // for the draft, not for the list
@@ -626,7 +580,7 @@ private slots:
         QCOMPARE(m_proxy->currentItem(), song(1));
         QCOMPARE(m_proxy->selectedIds(), QVector<quint16>{song(1)->id()});
         QCOMPARE(textOf("artistField"), "n"_s); // a name that was typed is still there as well
-        act();
+        lose(cause);
         answer(QMessageBox::Discard);
         if (rowsLeft < 3 || cause == "close"_s)
             answer(QMessageBox::Discard); // of the name that was typed
@@ -640,7 +594,7 @@ private slots:
         beginDraft(1);
         part("artistField")->forceActiveFocus();
         press(Qt::Key_Z);
-        act();
+        lose(cause);
         answer(QMessageBox::Save);
         QTRY_COMPARE(song(1)->processState(), ModelItem::ProcessComplete);
         MainModel again;
@@ -701,19 +655,11 @@ private slots:
         QVERIFY(m_model->writeTags(song(1)->id()));
         QTRY_VERIFY(song(1)->unsaved());
         m_proxy->setCurrentIndex(1);
-        const auto act = [&] {
-            if (cause == "key"_s)
-                press(Qt::Key_Delete);
-            else if (cause == "close"_s)
-                m_window->close();
-            else
-                action(qPrintable(cause))->trigger();
-        };
-        act();
+        lose(cause);
         answer(QMessageBox::Cancel);
         QCOMPARE(m_model->rowCount(), 3);
         QVERIFY(m_window->isVisible());
-        act();
+        lose(cause);
         answer(QMessageBox::Discard);
         QCOMPARE(m_model->rowCount(), rowsLeft);
         QCOMPARE(m_window->isVisible(), cause != "close"_s);
@@ -748,11 +694,7 @@ private slots:
         addCopies(3);
         if (!succeeds)
             QVERIFY(QFile::remove(song(1)->url().toLocalFile()));
-        QSemaphore disk;
-        auto *slowWrite = new QObject;
-        slowWrite->moveToThread(tags::WriterThread::instance().thread());
-        QMetaObject::invokeMethod(slowWrite, [&disk] { disk.acquire(); });
-        slowWrite->deleteLater();
+        holdWrites();
         beginDraft(1);
         action("actionClearList")->trigger();
         QTRY_VERIFY(question());
@@ -761,7 +703,7 @@ private slots:
         QCOMPARE(m_model->rowCount(), 3);
         answer(QMessageBox::Cancel); // and the songs stay
         action("actionClearList")->trigger();
-        disk.release();
+        m_disk.release();
         if (!succeeds)
             answer(QMessageBox::Discard);
         QTRY_COMPARE(m_model->rowCount(), 0);
@@ -819,45 +761,29 @@ private:
             texts.append(label->text());
         return texts;
     }
-    QAction *action(const char *name) const { return m_window->findChild<QAction *>(QLatin1String(name)); }
-    QMessageBox *question() const { return m_window->findChild<QMessageBox *>(); }
-    ModelItem *song(int row) const { return m_model->itemAt(row); }
     // A key as it comes from the screen: to the window, which gives it to whoever has the keyboard.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::keyClick(m_window->windowHandle(), key, modifiers);
     }
-    void openWindow()
+    // What would lose a draft, or lyrics that are in no file.
+    void lose(const QString &cause)
     {
-        m_window = std::make_unique<MainWindow>(
-            MainWindow::Parts{m_model.get(), m_proxy.get(), m_scanner.get(), m_settings.get(), &m_palette, this});
-        QSignalSpy frames(m_window.get(), &MainWindow::firstFrameShown);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QTRY_COMPARE(frames.size(), 1); // the scene is whole then
-    }
-
-    // Songs without names, which nobody searches for, in a folder of their own.
-    void addCopies(int count)
-    {
-        m_songs = std::make_unique<QTemporaryDir>();
-        QList<QUrl> urls;
-        for (int i = 0; i < count; ++i) {
-            const QString file = m_songs->filePath("%1.mp3"_s.arg(i));
-            QVERIFY(QFile::copy(sample("untagged.mp3").toLocalFile(), file));
-            urls.append(QUrl::fromLocalFile(file));
-        }
-        m_model->add(urls);
-        for (int i = 0; i < count; ++i)
-            QTRY_COMPARE(song(i)->processState(), ModelItem::ProcessNotSuitable);
-    }
-
-    void beginDraft(int row)
-    {
-        m_proxy->setCurrentIndex(-1);
-        m_proxy->setCurrentIndex(row);
-        m_window->lyricsEdit()->begin(song(row));
-        m_window->lyricsEdit()->setText("new"_s);
+        part("songList")->forceActiveFocus();
+        if (cause == "row"_s)
+            m_proxy->setCurrentIndex(0);
+        else if (cause == "several"_s)
+            m_proxy->selectAll();
+        else if (cause == "filter"_s)
+            m_proxy->setShowFound(false);
+        else if (cause == "key"_s)
+            press(Qt::Key_Delete);
+        else if (cause == "Escape"_s)
+            press(Qt::Key_Escape);
+        else if (cause == "close"_s)
+            m_window->close();
+        else
+            action(qPrintable(cause))->trigger();
     }
 
     // Answers the open question, after which the next one is there, or the window has the keyboard again.
@@ -873,15 +799,6 @@ private:
         QTRY_VERIFY(!m_window->isVisible() || QGuiApplication::focusWindow() == m_window->windowHandle());
     }
 
-    QTemporaryDir m_folder;
-    std::unique_ptr<QTemporaryDir> m_songs;
-
-    std::unique_ptr<Settings> m_settings;
-    std::unique_ptr<MainModel> m_model;
-    std::unique_ptr<ProxyModel> m_proxy;
-    std::unique_ptr<FolderScanner> m_scanner;
-    AppPalette m_palette;
-    std::unique_ptr<MainWindow> m_window;
     QtMessageHandler m_handler = nullptr;
 };
 
