@@ -86,6 +86,12 @@ QList<QUrl> DelayedFileCheck::untaken() const
     return m_work->urls.mid(m_work->taken);
 }
 
+bool DelayedFileCheck::isAllTaken() const
+{
+    const QMutexLocker lock(&m_work->mutex);
+    return m_work->taken == m_work->urls.size();
+}
+
 bool DelayedFileCheck::isStalled() const
 {
     const QMutexLocker lock(&m_work->mutex);

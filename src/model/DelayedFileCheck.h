@@ -37,6 +37,8 @@ public:
     [[nodiscard]] Found take();
     // The urls of which nothing was taken yet.
     [[nodiscard]] QList<QUrl> untaken() const;
+    // Whether all urls were looked at and taken.
+    [[nodiscard]] bool isAllTaken() const;
     // A single look has lasted for half a second.
     [[nodiscard]] bool isStalled() const;
     // Leaves to this check the url that is being looked at and those in the same folder, and returns the others, which

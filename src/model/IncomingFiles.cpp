@@ -130,9 +130,9 @@ IncomingFiles::Found IncomingFiles::takeFrom(Job &job)
         all.folders += found.folders;
         all.away += found.away;
     }
-    job.checks.erase(std::remove_if(job.checks.begin(), job.checks.end(),
-                                    [](const auto &check) { return check->untaken().isEmpty(); }),
-                     job.checks.end());
+    job.checks.erase(
+        std::remove_if(job.checks.begin(), job.checks.end(), [](const auto &check) { return check->isAllTaken(); }),
+        job.checks.end());
     return all;
 }
 
