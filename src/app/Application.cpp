@@ -106,7 +106,7 @@ QString Application::settingsFile()
 
 void Application::setUpTracker()
 {
-    m_tracker.setNetworkAccessManager(&m_trackerManager);
+    m_tracker.setNetworkAccessManager(NetworkSource::later([this] { return made(m_trackerManager); }));
     m_tracker.hold();
     if (m_instance.isHolder()) // nobody else may store an answer's consequences
         m_usageConsent.load();
@@ -114,12 +114,13 @@ void Application::setUpTracker()
 
 void Application::createSearch()
 {
-    for (std::unique_ptr<LyricsProvider> &provider : makeProviders(&m_networkManager))
+    const NetworkSource network = NetworkSource::later([this] { return made(m_networkManager); });
+    for (std::unique_ptr<LyricsProvider> &provider : makeProviders(network))
         m_search.addProvider(std::move(provider));
     m_search.setProvidersOrder(m_settings.providersOrder());
     // Stored back, so that the stored order always names every site.
     m_settings.setProvidersOrder(m_search.providersOrder());
-    m_search.addCorrector(std::make_unique<LastfmTagCorrector>(&m_networkManager));
+    m_search.addCorrector(std::make_unique<LastfmTagCorrector>(network));
 }
 
 void Application::onPaletteChanged(const QPalette &palette)
@@ -192,10 +193,21 @@ Application::OSType Application::osType()
 
 // The network
 
+AccessManager *Application::made(std::unique_ptr<AccessManager> &manager) const
+{
+    if (!manager) {
+        manager = std::make_unique<AccessManager>();
+        manager->useProxy(m_settings.proxy());
+    }
+    return manager.get();
+}
+
 void Application::proxyChanged()
 {
-    for (AccessManager *manager : {&m_networkManager, &m_trackerManager})
-        manager->useProxy(m_settings.proxy());
+    for (AccessManager *manager : {m_networkManager.get(), m_trackerManager.get()}) {
+        if (manager)
+            manager->useProxy(m_settings.proxy());
+    }
     m_updater->useProxy(m_settings.proxy());
 }
 

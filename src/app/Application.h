@@ -64,8 +64,8 @@ public:
     [[nodiscard]] bool isOtherInstanceRunning() const { return m_instance.isOtherRunning(); }
     // Lets another instance start while this one ends; nothing may be stored from here on.
     void makeWayForRestart() { m_instance.release(); }
-    // Gives the saved list of files to the model, when this program holds the lock and the settings say so. Once, before
-    // the window is made; its files are looked at when the window is there (MainModel::restore).
+    // Gives the saved list of files to the model, when this program holds the lock and the settings say so. Once,
+    // before the window is made; its files are looked at when the window is there (MainModel::restore).
     void restoreFilesList();
 
     [[nodiscard]] static OSType osType();
@@ -79,7 +79,8 @@ public:
     [[nodiscard]] Settings *settings() { return &m_settings; }
     [[nodiscard]] AppPalette *appPalette() { return &m_palette; }
     [[nodiscard]] LyricsSearch *lyricsSearch() { return &m_search; }
-    [[nodiscard]] QNetworkAccessManager *networkManager() { return &m_networkManager; }
+    // Made with the first request.
+    [[nodiscard]] QNetworkAccessManager *networkManager() { return made(m_networkManager); }
     // Its events wait until it is released, once the window is there.
     [[nodiscard]] AppTracker *tracker() { return &m_tracker; }
     [[nodiscard]] UsageConsent *usageConsent() { return &m_usageConsent; }
@@ -117,6 +118,7 @@ public slots:
 private:
     static void setNames();
     void readSettings();
+    AccessManager *made(std::unique_ptr<AccessManager> &manager) const;
     void setUpTracker();
     void createSearch();
     void connectModels();
@@ -137,8 +139,8 @@ private:
     MainModel m_mainModel;
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;
-    AccessManager m_networkManager;
-    AccessManager m_trackerManager;
+    std::unique_ptr<AccessManager> m_networkManager; // null until it is needed, as is the other (NetworkSource)
+    std::unique_ptr<AccessManager> m_trackerManager;
     AppTracker m_tracker;
     std::unique_ptr<Updater> m_updater; // made as soon as the names are set, by which it finds its folder
     Settings m_settings;

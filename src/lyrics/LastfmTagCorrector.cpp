@@ -58,9 +58,9 @@ QString corrections()
 
 } // namespace
 
-LastfmTagCorrector::LastfmTagCorrector(QNetworkAccessManager *networkManager, QObject *parent)
+LastfmTagCorrector::LastfmTagCorrector(const NetworkSource &network, QObject *parent)
     : TagCorrector(parent)
-    , m_networkManager(networkManager)
+    , m_network(network)
 {
 }
 
@@ -71,7 +71,7 @@ LastfmTagCorrector::~LastfmTagCorrector()
 
 TagCorrector *LastfmTagCorrector::clone(QObject *parent) const
 {
-    return new LastfmTagCorrector(m_networkManager, parent);
+    return new LastfmTagCorrector(m_network, parent);
 }
 
 bool LastfmTagCorrector::correct(const QString &artist, const QString &title)
@@ -118,8 +118,8 @@ void LastfmTagCorrector::searchTracks()
 
 QNetworkAccessManager *LastfmTagCorrector::accessManager()
 {
-    if (m_networkManager)
-        return m_networkManager;
+    if (QNetworkAccessManager *shared = m_network.manager())
+        return shared;
     if (!m_ownNetworkManager)
         m_ownNetworkManager = new AccessManager(this);
     return m_ownNetworkManager;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lyrics/TagCorrector.h"
+#include "network/NetworkSource.h"
 
 #include <QPointer>
 
@@ -18,8 +19,8 @@ class LastfmTagCorrector final : public TagCorrector
     Q_OBJECT
 
 public:
-    // The manager is not owned and must outlive the corrector. Without one, it makes its own at its first request.
-    explicit LastfmTagCorrector(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
+    // The manager must outlive the corrector. Without one, it makes its own at its first request.
+    explicit LastfmTagCorrector(const NetworkSource &network, QObject *parent = nullptr);
     // Gives up a request in flight; finished() is not emitted then.
     ~LastfmTagCorrector() override;
 
@@ -54,7 +55,7 @@ private:
     void searchFinished(QNetworkReply &reply);
     void append(const Names &names);
 
-    QPointer<QNetworkAccessManager> m_networkManager;
+    NetworkSource m_network;
     QNetworkAccessManager *m_ownNetworkManager = nullptr;
     QPointer<QNetworkReply> m_reply;
     QString m_artist; // both trimmed

@@ -39,9 +39,9 @@ QByteArray outcome(const ProviderStep &result, const QByteArray &failure)
 
 } // namespace
 
-LyricsProvider::LyricsProvider(QNetworkAccessManager *networkManager, QObject *parent)
+LyricsProvider::LyricsProvider(const NetworkSource &network, QObject *parent)
     : QObject(parent)
-    , m_networkManager(networkManager)
+    , m_network(network)
 {
 }
 
@@ -95,8 +95,8 @@ QNetworkRequest LyricsProvider::redirectedRequest(const QUrl &target) const
 
 QNetworkAccessManager *LyricsProvider::accessManager()
 {
-    if (m_networkManager)
-        return m_networkManager;
+    if (QNetworkAccessManager *shared = m_network.manager())
+        return shared;
     if (!m_ownNetworkManager)
         m_ownNetworkManager = new AccessManager(this);
     return m_ownNetworkManager;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lyrics/ProviderStep.h"
+#include "network/NetworkSource.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -19,9 +20,8 @@ class LyricsProvider : public QObject
     Q_OBJECT
 
 public:
-    // The manager is not owned and must outlive the provider. Without one, the provider makes its own at its first
-    // request.
-    explicit LyricsProvider(QNetworkAccessManager *networkManager, QObject *parent = nullptr);
+    // The manager must outlive the provider. Without one, the provider makes its own at its first request.
+    explicit LyricsProvider(const NetworkSource &network, QObject *parent = nullptr);
     // Aborts a request in flight; finished() is not emitted then.
     ~LyricsProvider() override;
 
@@ -53,7 +53,7 @@ protected:
     // A request as a browser sends it that comes from the page `referer`.
     static QNetworkRequest browserRequest(const QUrl &url, const QUrl &referer);
 
-    [[nodiscard]] QNetworkAccessManager *sharedNetworkManager() const { return m_networkManager; }
+    [[nodiscard]] const NetworkSource &network() const { return m_network; }
 
     // The beginning of a search for names that canSearch() accepts.
     virtual ProviderStep firstStep(const QString &artist, const QString &title) = 0;
@@ -74,7 +74,7 @@ private:
     void finish(const ProviderStep &result, const QByteArray &failure = QByteArrayLiteral("failed"));
     [[nodiscard]] QString decoded(QByteArray body) const;
 
-    QPointer<QNetworkAccessManager> m_networkManager;
+    NetworkSource m_network;
     QNetworkAccessManager *m_ownNetworkManager = nullptr;
     QPointer<QNetworkReply> m_reply;
     ProviderStep::PageFunction m_readPage;

@@ -45,9 +45,9 @@ AppTracker::AppTracker(QObject *parent, const SystemSources &sources)
 
 AppTracker::~AppTracker() = default;
 
-void AppTracker::setNetworkAccessManager(QNetworkAccessManager *manager)
+void AppTracker::setNetworkAccessManager(const NetworkSource &network)
 {
-    m_manager = manager;
+    m_network = network;
 }
 
 // Whether to speak
@@ -226,14 +226,13 @@ void AppTracker::sendWaiting()
 
 void AppTracker::send(const Event &event)
 {
-    QNetworkAccessManager *manager = m_manager;
-    if (!manager)
-        manager = new AccessManager(this);
+    QNetworkAccessManager *shared = m_network.manager();
+    QNetworkAccessManager *manager = shared ? shared : new AccessManager(this);
     QNetworkReply *reply = manager->post(request(), event.body);
     m_replies.insert(reply);
     connect(reply, &QObject::destroyed, this, [this, reply] { m_replies.remove(reply); });
     connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
-    if (manager != m_manager)
+    if (!shared)
         connect(reply, &QNetworkReply::finished, manager, &QObject::deleteLater);
     if (event.isQuit)
         connect(reply, &QNetworkReply::finished, this, &AppTracker::quitTracked);

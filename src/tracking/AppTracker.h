@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "network/NetworkSource.h"
 #include "tracking/OperatingSystemText.h"
 
 #include <QByteArray>
 #include <QNetworkRequest>
 #include <QObject>
 #include <QPair>
-#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -68,8 +68,8 @@ public:
                     std::optional<int> value = {});
 
 public slots:
-    // Posts go through this one, which is not owned. Without one, each has a manager of its own.
-    void setNetworkAccessManager(QNetworkAccessManager *manager);
+    // Posts go through this one. Without one, each has a manager of its own.
+    void setNetworkAccessManager(const NetworkSource &network);
 
 signals:
     // The report of the end of the session arrived or failed, or there was none to send.
@@ -93,7 +93,7 @@ private:
     void announceQuit();
 
     OperatingSystemText m_system;
-    QPointer<QNetworkAccessManager> m_manager;
+    NetworkSource m_network;
     bool m_isAllowed = false;
     bool m_isHeld = false;
     QString m_clientId;

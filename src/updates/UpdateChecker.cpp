@@ -65,7 +65,6 @@ UpdateChecker::UpdateChecker(const UpdateEnvironment &environment, QObject *pare
     , m_abortAction(tr("Cancel downloading", "Action text"))
     , m_installAction(tr("Exit and install update", "Action text"))
 {
-    m_manager.setLimits(environment.limits);
     connect(&m_downloadAction, &QAction::triggered, this, &UpdateChecker::download);
     connect(&m_abortAction, &QAction::triggered, this, &UpdateChecker::abortDownload);
     connect(&m_installAction, &QAction::triggered, this, &UpdateChecker::install);
@@ -104,7 +103,19 @@ QString UpdateChecker::latestVersion() const
 
 void UpdateChecker::useProxy(const QNetworkProxy &proxy)
 {
-    m_manager.useProxy(proxy);
+    m_proxy = proxy;
+    if (m_manager)
+        m_manager->useProxy(proxy);
+}
+
+AccessManager &UpdateChecker::manager()
+{
+    if (!m_manager) {
+        m_manager = std::make_unique<AccessManager>();
+        m_manager->setLimits(m_environment.limits);
+        m_manager->useProxy(m_proxy);
+    }
+    return *m_manager;
 }
 
 void UpdateChecker::setState(States state)
@@ -156,14 +167,14 @@ QNetworkRequest UpdateChecker::request(const QUrl &url) const
 
 void UpdateChecker::requestInformation(const QUrl &url)
 {
-    await(m_manager.get(request(url)), &UpdateChecker::checkFinished);
+    await(manager().get(request(url)), &UpdateChecker::checkFinished);
 }
 
 void UpdateChecker::requestSize(const QUrl &url)
 {
     QNetworkRequest sizeRequest = request(url);
     sizeRequest.setAttribute(AccessManager::DownloadAttribute, true); // or the size is that of a compressed file
-    await(m_manager.head(sizeRequest), &UpdateChecker::sizeRequestFinished);
+    await(manager().head(sizeRequest), &UpdateChecker::sizeRequestFinished);
 }
 
 void UpdateChecker::requestDownload(const QUrl &url)
@@ -174,7 +185,7 @@ void UpdateChecker::requestDownload(const QUrl &url)
         downloadRequest.setRawHeader("Range", "bytes=" + QByteArray::number(m_rest->bytes) + '-');
         downloadRequest.setRawHeader("If-Range", m_rest->source.validator);
     }
-    await(m_manager.get(downloadRequest), &UpdateChecker::downloadFinished);
+    await(manager().get(downloadRequest), &UpdateChecker::downloadFinished);
     m_discarded = 0;
     m_reply->setReadBufferSize(bufferedBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateChecker::downloadReadyRead);

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QDateTime>
+#include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QObject>
 #include <QPointer>
@@ -123,6 +124,7 @@ private slots:
     void sizeRequestFinished();
 
 private:
+    AccessManager &manager();
     // Of the installation.
     enum class Step { None, Checking, Asking, Opening };
     using Handler = void (UpdateChecker::*)();
@@ -179,7 +181,8 @@ private:
 
     UpdateEnvironment m_environment;
     UpdateFolder m_folder;
-    AccessManager m_manager;
+    QNetworkProxy m_proxy;
+    std::unique_ptr<AccessManager> m_manager; // made with the first request, see NetworkSource
     QPointer<QNetworkReply> m_reply;
     int m_redirects = 0;
     States m_state = Normal;

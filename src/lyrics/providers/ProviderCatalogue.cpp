@@ -8,14 +8,14 @@
 #include "lyrics/providers/MegaLyricsProvider.h"
 #include "lyrics/providers/MusixMatchProvider.h"
 
-std::vector<std::unique_ptr<LyricsProvider>> makeProviders(QNetworkAccessManager *networkManager)
+std::vector<std::unique_ptr<LyricsProvider>> makeProviders(const NetworkSource &network)
 {
     std::vector<std::unique_ptr<LyricsProvider>> providers;
-    providers.push_back(std::make_unique<LyricsFreakProvider>(networkManager));
-    providers.push_back(std::make_unique<GeniusProvider>(networkManager));
-    providers.push_back(std::make_unique<MegaLyricsProvider>(networkManager));
-    providers.push_back(std::make_unique<AZLyricsProvider>(networkManager));
-    providers.push_back(std::make_unique<DarkLyricsProvider>(networkManager));
-    providers.push_back(std::make_unique<MusixMatchProvider>(networkManager));
+    providers.push_back(std::make_unique<LyricsFreakProvider>(network));
+    providers.push_back(std::make_unique<GeniusProvider>(network));
+    providers.push_back(std::make_unique<MegaLyricsProvider>(network));
+    providers.push_back(std::make_unique<AZLyricsProvider>(network));
+    providers.push_back(std::make_unique<DarkLyricsProvider>(network));
+    providers.push_back(std::make_unique<MusixMatchProvider>(network));
     return providers;
 }

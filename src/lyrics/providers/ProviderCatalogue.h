@@ -5,8 +5,8 @@
 #include <vector>
 
 class LyricsProvider;
-class QNetworkAccessManager;
+class NetworkSource;
 
-// A client for each lyrics site, in the order in which the sites are tried unless the user wants another. The manager
-// is not owned and must outlive the clients.
-[[nodiscard]] std::vector<std::unique_ptr<LyricsProvider>> makeProviders(QNetworkAccessManager *networkManager);
+// A client for each lyrics site, in the order in which the sites are tried unless the user wants another. The access
+// manager must outlive the clients.
+[[nodiscard]] std::vector<std::unique_ptr<LyricsProvider>> makeProviders(const NetworkSource &network);

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] QString siteUrl() const override { return endpointBase(siteEndpoint).toString(); }
     [[nodiscard]] LyricsProvider *clone(QObject *parent) const override
     {
-        return new Site(sharedNetworkManager(), parent);
+        return new Site(network(), parent);
     }
 
 protected:
