@@ -159,12 +159,14 @@ public:
         QObject::disconnect(connection);
     }
 
+    // Waits until all that was found is stored.
     void checkFound() const
     {
-        turnUntil([this] { return m_model.activeCount() == 0; });
         for (int row = 0; row < m_model.rowCount(); ++row) {
-            if (m_model.itemAt(row)->lyricsTag().isEmpty() != (row % songsPerRound >= LyricsSites::count))
-                qFatal("song %d: %s", row, qPrintable(m_model.itemAt(row)->errorString()));
+            const ModelItem &song = *m_model.itemAt(row);
+            turnUntil([&song] { return !song.active() && !song.writingTags(); });
+            if (song.lyricsTag().isEmpty() != (row % songsPerRound >= LyricsSites::count))
+                qFatal("song %d: %s", row, qPrintable(song.errorString()));
         }
     }
 
