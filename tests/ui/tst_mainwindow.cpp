@@ -100,8 +100,7 @@ private slots:
 
     void theKeyboardReachesListLyricsAndButtons()
     {
-        m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
-        QTRY_VERIFY(song(2)->tagsLoaded());
+        listSamples({"lyrics.mp3", "untagged.mp3", "plain.flac"});
         song(0)->setEditedLyricsTag("la\n"_s.repeated(500));
         QQuickItem *list = part("songList");
         QQuickItem *lyrics = part("lyricsText");
@@ -138,19 +137,21 @@ private slots:
         QCOMPARE(top(), atBeginning); // another song begins at its beginning
     }
 
-    void theGearShowsTheKeyboard()
+    void theGearShowsTheKeyboardAndGivesItToAnEdit()
     {
         auto *gear = m_window->findChild<QToolButton *>("gearButton"_s);
         const QImage without = gear->grab().toImage();
         gear->setFocus();
         QVERIFY(gear->hasFocus());
         QVERIFY(gear->grab().toImage() != without);
+        listSamples({"lyrics.mp3"});
+        press(Qt::Key_F2);
+        QVERIFY(scene()->hasFocus() && part("lyricsText")->hasActiveFocus());
     }
 
     void keysOfTheEditWorkFromTheList()
     {
-        m_model->add({sample("lyrics.mp3")});
-        QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+        listSamples({"lyrics.mp3"});
         press(Qt::Key_F2);
         QTRY_VERIFY(m_window->lyricsEdit()->active());
         part("titleField")->forceActiveFocus();
@@ -201,26 +202,23 @@ private slots:
 
     void noticesStandSideBySide()
     {
-        const auto exportLyrics = [this] {
-            action("actionExportLyrics")->trigger();
-        };
+        QAction *exportLyrics = action("actionExportLyrics");
         addCopies(3);
         m_window->showSettingsDamaged("/home/<b>x</b>"_s);
         emit m_model->filesLeftOut(4);
         emit m_model->filesLeftOut(3);
         m_proxy->selectAll();
-        exportLyrics();
+        exportLyrics->trigger();
         QTRY_VERIFY(labels().contains("There are no lyrics to export"_s));
-        for (int row = 0; row < 3; ++row)
-            song(row)->setEditedLyricsTag("la"_s);
+        giveLyricsToAll();
         // A folder stands where the text file would.
         QVERIFY(QDir(m_songs->path()).mkdir("1.txt"_s));
-        exportLyrics();
+        exportLyrics->trigger();
         QTRY_VERIFY(labels().contains("The lyrics could not be written to "_s + m_songs->path("1.txt"_s)));
         QVERIFY(QFile::exists(m_songs->path("2.txt"_s)));
         QVERIFY(QFile::remove(m_songs->path("0.txt"_s)));
         QVERIFY(QDir(m_songs->path()).mkdir("0.txt"_s));
-        exportLyrics();
+        exportLyrics->trigger();
         QTRY_VERIFY(labels().contains("The lyrics of 2 songs could not be exported"_s));
         QVERIFY(labels().contains("The list is full. Files left out: 7"_s));
         QCOMPARE(labels().filter("settings file"_s).size(), 1);
@@ -235,9 +233,7 @@ private slots:
     void anExportIsNotCutOffByTheEnd()
     {
         addCopies(3);
-        for (int row = 0; row < 3; ++row)
-            song(row)->setEditedLyricsTag("la"_s);
-        m_proxy->selectAll();
+        giveLyricsToAll();
         action("actionExportLyrics")->trigger();
         m_window.reset();
         QVERIFY(TagWriter::waitForQueued(std::chrono::seconds(10)));
@@ -358,40 +354,43 @@ private slots:
         QCOMPARE(m_model->urls(), QList<QUrl>{sample("lyrics.mp3")});
     }
 
+    void theDialogsRememberTheirFolders_data()
+    {
+        addTextColumns("opener", "key");
+        addRow("files", "actionAddFile", "lastFileDir");
+        addRow("a folder", "actionAddFolder", "lastFolderDir");
+    }
+
     void theDialogsRememberTheirFolders()
     {
+        QFETCH(QString, opener);
+        QFETCH(QString, key);
         m_model->setSupportedExtensions({"mp3"_s, "ogg"_s});
+        m_scanner->setTypes({"flac"_s});
+        QSignalSpy scans(m_scanner.get(), &FolderScanner::found);
         const QString folder = QFileInfo(sample("lyrics.mp3").toLocalFile()).path();
-        QFileDialog *dialog = nullptr;
-        const auto open = [&](const char *name) {
-            action(name)->trigger();
-            dialog = m_window->findChild<QFileDialog *>();
-        };
-        const auto close = [&] {
+        QString begin;
+        const auto choose = [&](const QStringList &files) {
+            action(qPrintable(opener))->trigger();
+            auto *dialog = m_window->findChild<QFileDialog *>();
+            begin = dialog->directory().absolutePath();
+            if (key == "lastFileDir"_s)
+                QCOMPARE(dialog->nameFilters(), QStringList{"Audio files (*.mp3 *.ogg)"_s});
+            if (!files.isEmpty())
+                key == "lastFileDir"_s ? emit dialog->filesSelected(files) : emit dialog->fileSelected(folder);
             dialog->reject();
             QTRY_VERIFY(!m_window->findChild<QFileDialog *>());
         };
-        open("actionAddFile");
-        QCOMPARE(dialog->nameFilters(), QStringList{"Audio files (*.mp3 *.ogg)"_s});
-        close();
-        QVERIFY(!QSettings().contains("lastFileDir"_s));
-        open("actionAddFile");
-        emit dialog->filesSelected({sample("lyrics.mp3").toLocalFile(), sample("plain.flac").toLocalFile()});
-        close();
-        QTRY_COMPARE(m_model->rowCount(), 2);
-        QCOMPARE(QSettings().value("lastFileDir"_s).toString(), folder);
-        open("actionAddFile");
-        QCOMPARE(dialog->directory().absolutePath(), folder);
-        close();
-
-        QSignalSpy scans(m_scanner.get(), &FolderScanner::found);
-        m_scanner->setTypes({"flac"_s});
-        open("actionAddFolder");
-        emit dialog->fileSelected(folder);
-        close();
-        QCOMPARE(QSettings().value("lastFolderDir"_s).toString(), folder);
-        QVERIFY(!scans.isEmpty() || scans.wait());
-        QVERIFY(scans.at(0).at(0).value<QList<QUrl>>().contains(sample("plain.flac")));
+        choose({});
+        QVERIFY(!QSettings().contains(key));
+        choose({sample("lyrics.mp3").toLocalFile(), sample("plain.flac").toLocalFile()});
+        QCOMPARE(QSettings().value(key).toString(), folder);
+        if (key == "lastFileDir"_s)
+            QTRY_COMPARE(m_model->rowCount(), 2);
+        else
+            QTRY_VERIFY(scans.value(0).value(0).value<QList<QUrl>>().contains(sample("plain.flac")));
+        choose({});
+        QCOMPARE(begin, folder);
     }
 
     void aSongIsTakenToClipboardAndBrowser()
@@ -451,8 +450,7 @@ private slots:
         QFile player(m_folder.path("Player.qml"_s));
         QVERIFY(player.open(QIODevice::WriteOnly) && player.write("import NoSuchModule 1.0\nMediaPlayer {}\n") > 0);
         player.close();
-        m_model->add({sample("lyrics.mp3")});
-        QTRY_COMPARE(song(0)->processState(), ModelItem::ProcessComplete);
+        listSamples({"lyrics.mp3"});
         part("audioPreview")->setProperty("playerDocument", QUrl::fromLocalFile(player.fileName()));
         QVERIFY(QMetaObject::invokeMethod(part("audioPreview"), "toggle"));
         QVERIFY(part("audioPreview")->property("missing").toBool());
@@ -464,11 +462,7 @@ private slots:
 
     void allSelectedSongsAreSearchedForAgain()
     {
-        m_model->setAutoStart(false);
-        QList<QUrl> urls;
-        for (int i = 0; i < 3000; ++i)
-            urls.append(QUrl::fromLocalFile("/gone/A - %1.mp3"_s.arg(i)));
-        m_model->add(urls, MainModel::IsRegularFile);
+        listGoneSongs(3000);
         QTRY_COMPARE(m_model->rowCount(), 3000);
         m_proxy->selectAll();
         press(Qt::Key_R, Qt::ControlModifier);
@@ -479,15 +473,10 @@ private slots:
 
     void theListKeepsItsPlaceWhenManySongsGo()
     {
-        m_model->setAutoStart(false);
-        QList<QUrl> urls;
+        const QList<QUrl> urls = listGoneSongs(400);
         QVector<int> odd;
-        for (int i = 0; i < 400; ++i) {
-            urls.append(QUrl::fromLocalFile("/gone/%1.mp3"_s.arg(i)));
-            if (i % 2 == 1)
-                odd.append(i);
-        }
-        m_model->add(urls, MainModel::IsRegularFile);
+        for (int i = 1; i < urls.size(); i += 2)
+            odd.append(i);
         m_proxy->setCurrentIndex(60);
         part("songList")->setProperty("contentY", 1500);
         QSignalSpy resets(m_proxy.get(), &QAbstractItemModel::modelReset);
@@ -712,8 +701,7 @@ private slots:
 
     void rowsAreSelectedHiddenAndRemovedByKey()
     {
-        m_model->add({sample("lyrics.mp3"), sample("untagged.mp3"), sample("plain.flac")});
-        QTRY_VERIFY(song(2)->tagsLoaded());
+        listSamples({"lyrics.mp3", "untagged.mp3", "plain.flac"});
         press(Qt::Key_L, Qt::ControlModifier);
         QCOMPARE(m_proxy->rowCount(), 2);
         press(Qt::Key_A, Qt::ControlModifier);
@@ -766,6 +754,33 @@ private:
     {
         QTest::keyClick(m_window->windowHandle(), key, modifiers);
     }
+    void listSamples(const std::vector<const char *> &names)
+    {
+        QList<QUrl> urls;
+        for (const char *name : names)
+            urls.append(sample(name));
+        m_model->add(urls);
+        QTRY_VERIFY(song(urls.size() - 1)->tagsLoaded());
+    }
+
+    // Regular files, as far as the model is told.
+    QList<QUrl> listGoneSongs(int count)
+    {
+        m_model->setAutoStart(false);
+        QList<QUrl> urls;
+        for (int i = 0; i < count; ++i)
+            urls.append(QUrl::fromLocalFile("/gone/A - %1.mp3"_s.arg(i)));
+        m_model->add(urls, MainModel::IsRegularFile);
+        return urls;
+    }
+
+    void giveLyricsToAll()
+    {
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            song(row)->setEditedLyricsTag("la"_s);
+        m_proxy->selectAll();
+    }
+
     // What would lose a draft, or lyrics that are in no file.
     void lose(const QString &cause)
     {
