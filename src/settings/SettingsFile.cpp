@@ -96,12 +96,15 @@ bool isValue(const QByteArray &value)
 {
     bool inQuotes = false;
     bool atItemStart = true;
+    const char *const letters = value.constData(); // which end with a null
     for (int i = 0; i < value.size(); ++i) {
-        const char c = value.at(i);
-        if (isPlain(c)) {
+        if (isPlain(letters[i])) {
             atItemStart = false;
+            while (isPlain(letters[i + 1]))
+                ++i;
             continue;
         }
+        const char c = letters[i];
         if (c == ';' && !inQuotes)
             return true; // a comment
         if (c == '@' && atItemStart && !isStoredType(value, i))
