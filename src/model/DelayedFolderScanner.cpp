@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "model/DelayedFolderScanner.h"
 
+#include "tags/UncountedThread.h"
+
 #include <QFile>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <cerrno>
@@ -16,16 +17,6 @@
 #include <unistd.h>
 
 namespace {
-
-// A walk mostly waits for its disk, without end perhaps. While this lives, the pool counts the walk's thread as none of
-// its own, so that the reading of tags goes on.
-class UncountedThread
-{
-public:
-    UncountedThread() { QThreadPool::globalInstance()->releaseThread(); }
-    ~UncountedThread() { QThreadPool::globalInstance()->reserveThread(); }
-    Q_DISABLE_COPY(UncountedThread)
-};
 
 struct CloseDirectory
 {

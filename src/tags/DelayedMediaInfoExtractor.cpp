@@ -2,6 +2,7 @@
 #include "tags/DelayedMediaInfoExtractor.h"
 
 #include "tags/TagReader.h"
+#include "tags/UncountedThread.h"
 
 #include <new>
 #include <utility>
@@ -19,6 +20,7 @@ DelayedMediaInfoExtractor::DelayedMediaInfoExtractor(std::shared_ptr<tags::TagRe
 
 void DelayedMediaInfoExtractor::run()
 {
+    const UncountedThread uncounted;
     tags::TagSummary summary;
     try {
         if (m_reader)

@@ -3,6 +3,7 @@
 #include "tags/MediaInfoExtractor.h"
 #include "tags/SongFiles.h"
 
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThreadPool>
@@ -60,6 +61,26 @@ private slots:
         }
         QVERIFY(QThreadPool::globalInstance()->waitForDone(4'000)); // sooner than the limit on a file
         QCoreApplication::processEvents();
+    }
+
+    // On a machine with one core the pool has one thread, and the window waits for the pool where it shows large
+    // images.
+    void aReadThatStallsLeavesThePoolToOthers()
+    {
+        const SongFiles files;
+        QThreadPool &pool = *QThreadPool::globalInstance();
+        const int threads = pool.maxThreadCount();
+        pool.setMaxThreadCount(1);
+        QSemaphore others;
+        MediaInfoExtractor extractor;
+        extractor.setReaderProgram(QStringLiteral(VERSEWELL_READER));
+        extractor.request(files.copy("rich.mp3"_s, "stall.mp3"_s));
+        pool.start([&others] { others.release(); });
+        const bool wentOn = others.tryAcquire(1, 4'000); // sooner than the limit on a file
+        extractor.stop();
+        QVERIFY(pool.waitForDone(20'000));
+        pool.setMaxThreadCount(threads);
+        QVERIFY(wentOn);
     }
 };
 
