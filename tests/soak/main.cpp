@@ -19,7 +19,7 @@ namespace {
 
 constexpr int tenths = 10;
 // By so much the memory in use differs from one tenth to the next: connections are open or not, pools grow in steps.
-constexpr std::size_t chanceBytes = std::size_t{512} * 1024;
+constexpr std::size_t chanceBytes = std::size_t{1024} * 1024;
 
 struct Wishes
 {
