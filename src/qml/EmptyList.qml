@@ -41,15 +41,22 @@ Column {
         Accessible.name: text
     }
 
-    Flow {
+    // Side by side where there is room. They are at their places at once, which a Flow's are a moment later.
+    Item {
+        id: links
+
+        readonly property int gap: 2 * Measures.grid
+        readonly property bool inOneRow: addFiles.implicitWidth + gap + addFolder.implicitWidth <= emptyList.width
+
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, addFiles.implicitWidth + addFolder.implicitWidth + spacing)
-        spacing: 2 * Measures.grid
+        width: Math.max(addFiles.width, addFolder.x + addFolder.width)
+        height: addFolder.y + addFolder.height
         visible: !emptyList.allHidden
 
         LinkButton {
             id: addFiles
 
+            width: Math.min(implicitWidth, emptyList.width)
             text: qsTr("Add files...")
             onClicked: emptyList.addFilesRequested()
         }
@@ -57,6 +64,9 @@ Column {
         LinkButton {
             id: addFolder
 
+            x: links.inOneRow ? addFiles.width + links.gap : 0
+            y: links.inOneRow ? 0 : addFiles.height + links.gap
+            width: Math.min(implicitWidth, emptyList.width)
             text: qsTr("Add a folder...")
             onClicked: emptyList.addFolderRequested()
         }
