@@ -203,6 +203,17 @@ Item {
             mainWindow.showSongs([]);
         }
 
+        function test_the_border_is_dragged() {
+            var before = root.listWidth;
+            var rows = list.width;
+            mouseDrag(root, before - 1, 200, -40, 0);
+            compare(root.listWidth, before - 40);
+            compare(list.width, rows - 40);
+            mouseDrag(root, before - 41, 200, -900, 0);
+            verify(root.listWidth < before - 40 && root.listWidth >= 200); // as far as the list can be read
+            root.listWidth = before;
+        }
+
         function test_the_scanning_bar_is_there_while_folders_are_read() {
             var scanning = part("scanningBar");
             compare(scanning.height, 0);
