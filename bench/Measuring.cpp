@@ -116,8 +116,9 @@ void TurnWatch::tick()
 {
     const double worked = secondsOfClock(CLOCK_THREAD_CPUTIME_ID);
     const double wall = static_cast<double>(m_clock.nsecsElapsed()) / 1e6;
-    if (wall > m_longest.wall)
-        m_longest = {wall, (worked - m_workedUntil) * 1000};
+    const double work = (worked - m_workedUntil) * 1000;
+    const double mostWork = std::max(m_longest.mostWork, work);
+    m_longest = wall > m_longest.wall ? Turn{wall, work, mostWork} : Turn{m_longest.wall, m_longest.work, mostWork};
     m_workedUntil = worked;
     m_clock.start();
 }

@@ -40,11 +40,12 @@ void makeBenchesQuick();
 void turnUntil(const std::function<bool()> &isDone);
 void turnFor(std::chrono::milliseconds time);
 
-// A turn of the event loop of the main thread, in milliseconds.
+// The longest turn of the event loop of the main thread, in milliseconds.
 struct Turn
 {
-    double wall = 0; // what somebody at the window waits
-    double work = 0; // of the thread; the rest went to other threads and processes
+    double wall = 0;     // what somebody at the window waits
+    double work = 0;     // of the thread; the rest went to other threads and processes
+    double mostWork = 0; // that the thread has done in any turn
 };
 
 // Watches the turns from its making on.

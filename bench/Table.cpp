@@ -79,7 +79,9 @@ void BenchTable::printTurn(const QString &work, int size, const Turn &longest, d
     const TurnWatch idle;
     turnFor(std::chrono::seconds(3));
     print({work + QStringLiteral(" / of an idle loop"), size, longest.wall, idle.longest().wall, 0, 0, {0, 0, most}});
-    printNote(QStringLiteral("of that turn the thread worked for %1 ms").arg(longest.work, 0, 'f', 1));
+    printNote(QStringLiteral("of that turn the thread worked for %1 ms, and in no turn for more than %2 ms")
+                  .arg(longest.work, 0, 'f', 1)
+                  .arg(longest.mostWork, 0, 'f', 1));
 }
 
 void BenchTable::printNote(const QString &note)
