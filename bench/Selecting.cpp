@@ -68,8 +68,12 @@ Times work(const QString &path, int rows, Turn *longest)
     times[RemoveSelected] = timeOf([&] { program.proxy.removeSelected(); });
     if (program.model.rowCount() != 0)
         qFatal("rows are left");
-    if (watch && watch->longest().wall > longest->wall)
-        *longest = watch->longest();
+    if (watch) {
+        const Turn turn = watch->longest();
+        const double mostWork = std::max(longest->mostWork, turn.mostWork);
+        *longest = turn.wall > longest->wall ? turn : *longest;
+        longest->mostWork = mostWork;
+    }
     return times;
 }
 
