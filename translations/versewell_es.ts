@@ -1712,7 +1712,7 @@ Comprobar que el nombre es correcto.</translation>
     </message>
     <message>
         <source>Not all changes could be written into the songs.</source>
-        <translation>No se pudieron escribir todos los cambios en las canciones.</translation>
+        <translation>No todos los cambios se pudieron escribir en las canciones.</translation>
     </message>
 </context>
 </TS>

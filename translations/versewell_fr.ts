@@ -1712,7 +1712,7 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
     <message>
         <source>Not all changes could be written into the songs.</source>
-        <translation>Toutes les modifications n’ont pas pu être écrites dans les chansons.</translation>
+        <translation>Certaines modifications n’ont pas pu être écrites dans les chansons.</translation>
     </message>
 </context>
 </TS>

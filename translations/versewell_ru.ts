@@ -1718,14 +1718,14 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Изменения в одной песне негде сохранить: скопируйте их сейчас из окна сведений.</translation>
+        <translation>Изменения в одной песне не удалось нигде сохранить: скопируйте их сейчас из панели справа.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Изменения в %n песне негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
-            <numerusform>Изменения в %n песнях негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
-            <numerusform>Изменения в %n песнях негде сохранить: скопируйте их сейчас из окна сведений.</numerusform>
+            <numerusform>Изменения в %n песне не удалось нигде сохранить: скопируйте их сейчас из панели справа.</numerusform>
+            <numerusform>Изменения в %n песнях не удалось нигде сохранить: скопируйте их сейчас из панели справа.</numerusform>
+            <numerusform>Изменения в %n песнях не удалось нигде сохранить: скопируйте их сейчас из панели справа.</numerusform>
         </translation>
     </message>
     <message>

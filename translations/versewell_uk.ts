@@ -1718,14 +1718,14 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Зміни в одній пісні ніде зберегти: скопіюйте їх зараз із вікна відомостей.</translation>
+        <translation>Зміни в одній пісні не вдалося ніде зберегти: скопіюйте їх зараз із панелі праворуч.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Зміни в %n пісні ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
-            <numerusform>Зміни в %n піснях ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
-            <numerusform>Зміни в %n піснях ніде зберегти: скопіюйте їх зараз із вікна відомостей.</numerusform>
+            <numerusform>Зміни в %n пісні не вдалося ніде зберегти: скопіюйте їх зараз із панелі праворуч.</numerusform>
+            <numerusform>Зміни в %n піснях не вдалося ніде зберегти: скопіюйте їх зараз із панелі праворуч.</numerusform>
+            <numerusform>Зміни в %n піснях не вдалося ніде зберегти: скопіюйте їх зараз із панелі праворуч.</numerusform>
         </translation>
     </message>
     <message>
