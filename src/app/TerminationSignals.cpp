@@ -10,6 +10,7 @@
 
 namespace {
 
+constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
 int pipeEnds[2] = {-1, -1};
 
 // Does only what a signal handler may do: the byte wakes the event loop.
@@ -31,6 +32,13 @@ void handle(int signalNumber, void (*handler)(int))
     sigaction(signalNumber, &action, nullptr);
 }
 
+// Whoever started the program wants it to go on, as nohup does.
+bool isIgnored(int signalNumber)
+{
+    struct sigaction action = {};
+    return sigaction(signalNumber, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
 } // namespace
 
 TerminationSignals::TerminationSignals(QObject *parent)
@@ -45,14 +53,18 @@ TerminationSignals::TerminationSignals(QObject *parent)
         }
         emit received();
     });
-    handle(SIGTERM, wakeEventLoop);
-    handle(SIGINT, wakeEventLoop);
+    for (const int signalNumber : handledSignals) {
+        if (!isIgnored(signalNumber))
+            handle(signalNumber, wakeEventLoop);
+    }
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    handle(SIGTERM, SIG_DFL);
-    handle(SIGINT, SIG_DFL);
+    for (const int signalNumber : handledSignals) {
+        if (!isIgnored(signalNumber))
+            handle(signalNumber, SIG_DFL);
+    }
     for (int &end : pipeEnds) {
         if (end >= 0)
             close(end);

@@ -3,7 +3,8 @@
 
 #include <QObject>
 
-// Turns SIGTERM and SIGINT into a Qt signal of the thread that made it. One object a process.
+// Turns SIGTERM, SIGINT and SIGHUP, the end of the terminal, into a Qt signal of the thread that made it, but for those
+// that the process was started to ignore. One object a process.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

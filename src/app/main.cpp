@@ -42,7 +42,8 @@ int showSceneError(Application &app, const QString &reason)
     return SceneNotLoaded;
 }
 
-int runWindow(Application &app, const TerminationSignals &signalsToEnd)
+// `songs` are those of the command line.
+int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSignals &signalsToEnd)
 {
     MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app,
                        app.tracker(), app.usageConsent(), app.updater()});
@@ -55,8 +56,13 @@ int runWindow(Application &app, const TerminationSignals &signalsToEnd)
         window.hide();
         QCoreApplication::exit(showSceneError(app, reason));
     });
-    QObject::connect(&window, &MainWindow::firstFrameShown, &app, [&app, &window] {
+    QObject::connect(&window, &MainWindow::scenePartFailed, &app, [&app, &window](const QString &reason) {
+        window.hide();
+        QCoreApplication::exit(showSceneError(app, reason));
+    });
+    QObject::connect(&window, &MainWindow::firstFrameShown, &app, [&app, &window, songs] {
         app.mainModel()->restore();
+        app.mainModel()->addUrlsFromDrop(songs);
         app.tracker()->release();
         app.updater()->setParentWindow(&window);
         // The way of the window's own "Quit", so that the end of the session is reported. It ends in the application's
@@ -202,10 +208,9 @@ int main(int argc, char **argv)
     if (next == AfterRecovery::End)
         return Done;
     app.restoreFilesList();
-    app.mainModel()->addUrlsFromDrop(line.songs);
     app.setUpLanguages();
     app.noteStart();
-    status = runWindow(app, signalsToEnd);
+    status = runWindow(app, line.songs, signalsToEnd);
     app.folderScanner()->cancel();
     finishWrites();
     keepTexts(app, isTerminated);

@@ -105,8 +105,13 @@ void IncomingFiles::takeFound()
         bool isFirst;
     };
     std::vector<Report> reports; // used at the end, since a use may begin or clear jobs
+    const bool isKeptBusy = isKeptComing();
     for (Job &job : m_jobs) {
         passStalled(job);
+        if (isKeptBusy && !job.isKept) {
+            job.hasReported = true; // its files become a later part of the kept list's, whose reads go on with them
+            continue;
+        }
         Found found = takeFrom(job);
         if (!found.files.isEmpty() || !found.folders.isEmpty() || !found.away.isEmpty())
             reports.push_back({job.use, std::move(found), !std::exchange(job.hasReported, true)});
@@ -119,6 +124,15 @@ void IncomingFiles::takeFound()
         report.use(report.found, report.isFirst);
     if (m_jobs.empty() && m_kept.isEmpty())
         setRestoring(false); // nothing was left of the list
+}
+
+bool IncomingFiles::isKeptComing() const
+{
+    const auto isBusy = [](const Job &job) {
+        return job.isKept &&
+               std::any_of(job.checks.begin(), job.checks.end(), [](const auto &check) { return !check->isStalled(); });
+    };
+    return !m_kept.isEmpty() || std::any_of(m_jobs.begin(), m_jobs.end(), isBusy);
 }
 
 IncomingFiles::Found IncomingFiles::takeFrom(Job &job)

@@ -38,7 +38,8 @@ public:
     // restore(), since a disk that does not answer may never do so.
     [[nodiscard]] bool isRestoring() const { return m_isRestoring; }
     // Looks at urls and hands over what they are, in parts, from the event loop. They are in the order in which they
-    // were given, but for those that have to wait for a disk.
+    // were given, but for those that have to wait for a disk. What is on its way of the kept list comes before, but for
+    // what waits for a disk, so that the order of the list lasts.
     void look(const QList<QUrl> &urls, const Use &use);
     // Takes files that are known to be regular; the first block of them comes out before this returns. Later parts of
     // what was handed over in parts are not the first ones.
@@ -71,6 +72,7 @@ private:
     void takeFound();
     [[nodiscard]] static Found takeFrom(Job &job);
     void passStalled(Job &job) const;
+    [[nodiscard]] bool isKeptComing() const;
     void setRestoring(bool restoring);
     void emitBlock(bool isFirst);
 

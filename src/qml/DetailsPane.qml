@@ -24,6 +24,8 @@ Rectangle {
     signal forceSearchRequested()
     signal copyRequested(int id)
     signal browserRequested(url source)
+    // What a song needs cannot be made.
+    signal failed(url source)
 
     readonly property bool lyricsFocused: details.item !== null && details.item.lyricsFocused
     readonly property bool tagsLoaded: state.tagsLoaded
@@ -89,5 +91,9 @@ Rectangle {
         id: details
 
         anchors { fill: parent; margins: Measures.margin }
+        onStatusChanged: {
+            if (status === Loader.Error)
+                pane.failed(source);
+        }
     }
 }

@@ -10,6 +10,8 @@ Rectangle {
     // The first frame is on the screen.
     property bool complete: false
     property int qtVersion: 0
+    // The user has taken the keyboard to another part of the window.
+    property bool keyboardElsewhere: false
 
     signal removeSelectedRequested()
     signal removeAllRequested()
@@ -22,6 +24,8 @@ Rectangle {
     signal addFolderRequested()
     // The user wants the list so many pixels wider.
     signal edgeMoved(int distance)
+    // The list cannot be made.
+    signal failed(url source)
 
     function takeFocus() {
         if (emptyList.visible && !emptyList.allHidden)
@@ -32,7 +36,8 @@ Rectangle {
 
     onCompleteChanged: {
         pane.setSource("ListPane.qml", { side: side });
-        takeFocus();
+        if (!keyboardElsewhere)
+            takeFocus();
     }
 
     // Another colour node, to the eye the same, whenever the scroll bar goes: the software renderer does not paint over
@@ -44,7 +49,7 @@ Rectangle {
         target: mainModel
 
         function onRestoringChanged() {
-            if (emptyList.visible)
+            if (emptyList.visible && !side.keyboardElsewhere)
                 side.takeFocus();
         }
     }
@@ -54,6 +59,10 @@ Rectangle {
 
         anchors.fill: parent
         focus: true
+        onStatusChanged: {
+            if (status === Loader.Error)
+                side.failed(source);
+        }
     }
 
     EmptyList {

@@ -24,7 +24,7 @@ Item {
     Text {
         objectName: "stateLine"
         anchors {
-            left: parent.left; right: link.left; verticalCenter: parent.verticalCenter
+            left: parent.left; right: line.searchOffered ? link.left : parent.right; verticalCenter: parent.verticalCenter
             leftMargin: Measures.margin; rightMargin: Measures.grid
         }
         text: line.text
@@ -45,7 +45,6 @@ Item {
 
         objectName: "searchLink"
         anchors { right: parent.right; rightMargin: Measures.margin; verticalCenter: parent.verticalCenter }
-        width: line.searchOffered ? implicitWidth : 0
         visible: line.searchOffered
         text: qsTr("search for lyrics")
         onClicked: line.searchRequested()

@@ -37,6 +37,8 @@ Rectangle {
     signal listLyricsToClipboard(int itemIndex)
     // The user wants to leave a modified draft.
     signal leaveEditRequested()
+    // What is made after the first frame cannot be made.
+    signal partFailed(url source)
     signal addFilesRequested()
     signal addFolderRequested()
 
@@ -160,6 +162,8 @@ Rectangle {
         width: root.boundedListWidth(root.listWidth)
         complete: root.complete
         qtVersion: root.qtVersion
+        keyboardElsewhere: consentBar.activeFocus
+        onFailed: root.partFailed(source)
         onEdgeMoved: root.listWidth = root.boundedListWidth(width + distance)
         onRemoveSelectedRequested: root.listRemoveSelected()
         onRemoveAllRequested: root.listRemoveAll()
@@ -188,6 +192,7 @@ Rectangle {
         song: root.shownSong
         selectedCount: proxyModel.selectedCount
         edit: root.edit
+        onFailed: root.partFailed(source)
         onSaveRequested: root.saveLyrics()
         onForceSearchRequested: root.forceSearch()
         onCopyRequested: root.listLyricsToClipboard(id)

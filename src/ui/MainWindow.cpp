@@ -140,6 +140,7 @@ void MainWindow::connectSceneSignals()
     connectSignal("addFilesRequested()", "on_actionAddFile_triggered()");
     connectSignal("addFolderRequested()", "on_actionAddFolder_triggered()");
     connect(m_scene.get(), &SceneWidget::firstFrameShown, this, &MainWindow::firstFrameShown);
+    connect(m_scene.get(), &SceneWidget::partFailed, this, &MainWindow::scenePartFailed);
     connect(m_scene.get(), &QQuickWidget::sceneGraphError, this,
             [this](QQuickWindow::SceneGraphError, const QString &message) { emit sceneFailed(message); });
 }

@@ -130,6 +130,8 @@ signals:
     void firstFrameShown();
     // The scene was loaded but cannot be drawn, because OpenGL fails; the reason is in words for the user.
     void sceneFailed(const QString &reason);
+    // A part of the scene that is made later cannot be made; the reason is in words for the user.
+    void scenePartFailed(const QString &reason);
     // The scene is to give these songs, by their ids, the names that were typed for them and not confirmed: they go.
     // Without ids all songs are meant.
     void typedNamesWanted(const QVariantList &ids);

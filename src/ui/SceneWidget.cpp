@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlError>
@@ -83,6 +84,7 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     if (rootObject())
         rootObject()->setProperty("qtVersion", qtVersion);
+    connectRoot("partFailed(QUrl)", this, "reportPart(QUrl)");
 }
 
 SceneWidget::~SceneWidget()
@@ -194,7 +196,15 @@ void SceneWidget::endFirstFrame()
     m_isFirstFrame = false;
     if (rootObject())
         rootObject()->setProperty("complete", true);
-    emit firstFrameShown();
+    if (!m_isPartMissing)
+        emit firstFrameShown();
+}
+
+void SceneWidget::reportPart(const QUrl &source)
+{
+    m_isPartMissing = true;
+    const QString reason = QQmlComponent(engine(), source).errorString();
+    QTimer::singleShot(0, this, [this, reason] { emit partFailed(reason); }); // not while the scene makes its parts
 }
 
 void SceneWidget::changeEvent(QEvent *event)

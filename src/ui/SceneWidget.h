@@ -52,6 +52,9 @@ signals:
     // Once, from the event loop: the first frame is on the screen, or none has come for two seconds, as in a window
     // that starts minimized. The scene is told before this and makes what that frame could do without.
     void firstFrameShown();
+    // A part of the scene that is made later cannot be made, as when a plugin is broken; the reason is Qt's. No first
+    // frame is told of when it comes before that.
+    void partFailed(const QString &reason);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -66,8 +69,10 @@ private:
     [[nodiscard]] QQuickItem *firstTabStop() const;
     void watchFocus();
     void endFirstFrame();
+    Q_SLOT void reportPart(const QUrl &source);
 
     QPointer<QQuickItem> m_focusedText;
     bool m_isRendered = false; // what is painted before that shows nothing of the scene
     bool m_isFirstFrame = true;
+    bool m_isPartMissing = false;
 };

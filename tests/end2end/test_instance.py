@@ -4,6 +4,7 @@
 import configparser
 import pathlib
 import shutil
+import signal
 import threading
 import unittest
 
@@ -101,13 +102,16 @@ class InstanceTest(unittest.TestCase):
         self.assertEqual(kept[0].read_text("utf-8"), f"{path}\n\n{rig.words_for('Maple Door')}\n")
 
     def test_it_ends_in_order_while_a_site_keeps_it_waiting(self):
-        session = self.session(["Iron Lake"])
-        paths = self.songs_for(session, ["Iron Lake"])
-        before = rig.digest(paths[0])
-        program = session.start(paths)
-        self.wait_until(lambda: session.site.held == 1, "the song was never asked for", session)
-        self.assertEqual(rig.end(program, 20), 0, "it did not end within 20 seconds" + session.messages())
-        self.assertEqual(rig.digest(paths[0]), before)
+        for number in (signal.SIGTERM, signal.SIGHUP):
+            with self.subTest(number.name):
+                session = self.session(["Iron Lake"])
+                paths = self.songs_for(session, ["Iron Lake"])
+                before = rig.digest(paths[0])
+                program = session.start(paths)
+                self.wait_until(lambda: session.site.held == 1, "the song was never asked for", session)
+                program.send_signal(number)
+                self.assertEqual(program.wait(20), 0, session.messages())
+                self.assertEqual(rig.digest(paths[0]), before)
 
     def test_a_scene_that_cannot_be_loaded_ends_with_3_and_nothing_goes_on_behind_its_box(self):
         session = self.session(["Lantern Street"])
@@ -120,6 +124,18 @@ class InstanceTest(unittest.TestCase):
         plugins = next(pathlib.Path("/usr/lib").glob("*/qt5/plugins"))
         program = session.start(paths, QT_PLUGIN_PATH=str(plugins))
         self.wait_until(lambda: "qml-module-qtquick2" in session.messages(), "nobody said what is missing", session)
+        self.assertEqual(rig.end(program), 3, session.messages())
+        self.assertEqual(session.sites.requests(), [])
+
+    def test_neither_does_anything_go_on_when_the_list_cannot_be_made_after_the_first_frame(self):
+        session = self.session(["Lantern Street"])
+        paths = self.songs_for(session, ["Lantern Street"])
+        broken = session.music.parent / "broken" / "QtQuick" / "Controls"
+        broken.mkdir(parents=True)
+        (broken / "qmldir").write_text("module QtQuick.Controls\nplugin nowhere\n", encoding="utf-8")
+        program = session.start(paths, QML2_IMPORT_PATH=str(broken.parents[1]))
+        self.wait_until(lambda: "The window could not be built." in session.messages(), "nobody said so", session)
+        self.assertIn('"nowhere" not found', session.messages())
         self.assertEqual(rig.end(program), 3, session.messages())
         self.assertEqual(session.sites.requests(), [])
 

@@ -44,6 +44,28 @@ private slots:
         m_answers.acquire(m_answers.available());
     }
 
+    // As songs of the command line, which are there before the kept list is looked at.
+    void theKeptListComesFirst()
+    {
+        IncomingFiles incoming(look);
+        QList<QUrl> out;
+        int requests = 0;
+        connect(&incoming, &IncomingFiles::block, this, [&out, &requests](const QList<QUrl> &files, bool isFirst) {
+            out += files;
+            requests += isFirst ? 1 : 0;
+        });
+        const QList<QUrl> kept{song("/music/1.mp3"), song("/music/2.mp3")};
+        incoming.keep(QUrl::toStringList(kept));
+        incoming.look({song("/music/3.mp3"), kept.at(1)}, [&incoming](const IncomingFiles::Found &some, bool isFirst) {
+            incoming.add(some.files, isFirst);
+        });
+        QTest::qWait(100); // longer than a look takes
+        QVERIFY(out.isEmpty());
+        incoming.restore();
+        QTRY_COMPARE(out, kept + (QList<QUrl>{song("/music/3.mp3"), kept.at(1)}));
+        QCOMPARE(requests, 1); // a second one would overtake a read of the kept list
+    }
+
     void whatIsClearedDoesNotComeBack()
     {
         IncomingFiles incoming(look);

@@ -178,6 +178,19 @@ Item {
             tryCompare(mainWindow.song(0), "processState", ModelItem.ProcessComplete);
         }
 
+        function test_lyrics_of_other_names_offer_a_search() {
+            var song = mainWindow.song(2);
+            var link = part("searchLink");
+            proxyModel.currentIndex = 2;
+            song.setFoundLyricsTag(song.artistTag, song.titleTag, "words");
+            song.processState = ModelItem.ProcessComplete;
+            verify(!link.visible);
+            song.setFoundLyricsTag("another", song.titleTag, "words");
+            verify(link.visible && link.width > 10 && link.contentWidth <= link.width);
+            mouseClick(link);
+            tryCompare(song, "processState", ModelItem.ProcessNotSuitable); // a search was asked for; none is there
+        }
+
         function test_names_are_kept_and_saved_without_lyrics() {
             var song = mainWindow.song(1);
             var field = part("artistField");
