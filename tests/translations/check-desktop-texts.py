@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Checks that the launcher entry and the description of the program have every text in every language of the program.
+"""Checks that the launcher entry and the description of the program have every text in every language of the program,
+and that none was left in English or lost its ellipsis.
 
 usage: check-desktop-texts.py ENTRY DESCRIPTION   (as they are installed; exit status 1 when something is found)
 """
@@ -34,6 +35,17 @@ def texts_of_description(path):
                 yield f"{parent.tag}/{element.tag}", element.get(LANGUAGE), "".join(element.itertext()).strip()
 
 
+def faults_of(sources, texts, where):
+    """What is wrong with the translations of the texts of one kind, which come in the same order."""
+    if len(sources) != len(texts):
+        yield f"lacks {len(sources) - len(texts)}"
+    for source, text in zip(sources, texts):
+        if source.endswith("...") != text.endswith("..."):
+            yield f"\"{text}\" differs in an ellipsis at the end"
+        if source == text and not where.lower().endswith(("keyword", "keywords")):
+            yield f"\"{text}\" is still English"
+
+
 def offences(path, texts, languages):
     found = collections.defaultdict(list)
     for where, language, text in texts:
@@ -43,9 +55,8 @@ def offences(path, texts, languages):
             yield f"{path.name}: {where}[{language}] does not end in a semicolon"
     for where in [where for where, language in found if language is None]:
         for language in languages:
-            missing = len(found[where, None]) - len(found[where, language])
-            if missing:
-                yield f"{path.name}: {where} lacks {missing} in {language}"
+            yield from (f"{path.name}: {where} {fault} in {language}"
+                        for fault in faults_of(found[where, None], found[where, language], where))
     if not found:
         yield f"{path.name}: there are no texts"
 

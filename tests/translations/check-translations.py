@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Checks that every text of the program is translated into every language, and that the translations have the source's
-placeholders, markup, ellipses and accelerators.
+"""Checks that every text of the program is translated into every language, that none was left in English, and that the
+translations have the source's placeholders, markup, ellipses and accelerators.
 
 usage: check-translations.py [ROOT]   (exit status 1 when something is found)
 """
@@ -19,6 +19,17 @@ PLACEHOLDER = re.compile(r"%(?:\d|n|[A-Za-z]{3,})")
 MARKUP = re.compile(r"</?(?:b|i|br|ul|li)/?>")
 ACCELERATOR = re.compile(r"&(\w)")
 BLANKS = re.compile(r"^(\s*).*?(\s*)$", re.S)
+# Texts that are as in English: names, keys of a keyboard and units wherever they stand so, and the words of a language.
+SAME = {"Facebook", "Twitter", "OpenGL ES 2.0", "Ctrl", "Shift", "Alt", "Meta", "Del", "Esc", "%1 MB", "OK", "&OK"}
+SAME_WORDS = {
+    "de": {"Version %1", "Pause", "Website", "Name", "Computer", "Software", "Desktop", "Proxy:", "Port:", "Songs"},
+    "es": {"No", "&No", "General", "Proxy:"},
+    "fr": {"Version %1", "Pause", "Options", "Sites"},
+    "it": {"No", "&No", "&File", "Password:", "Computer", "Software", "Desktop", "Proxy:"},
+    "pl": {"Port:", "Proxy:"},
+    "pt_BR": {"Sites", "Proxy:"},
+    "pt_PT": {"Sites", "Proxy:"},
+}
 
 
 def updated(root, folder):
@@ -42,7 +53,14 @@ def faults_of(source, text):
         yield "is empty"
 
 
+def is_left(source, text, language):
+    """Whether words stand as in English that are others in that language."""
+    words = re.search(r"[^\W\d_]", PLACEHOLDER.sub("", source))
+    return words and text == source and source not in SAME | SAME_WORDS.get(language, set())
+
+
 def offences(path):
+    language = path.stem.split("_", 1)[1]
     for context in ElementTree.parse(path).getroot().findall("context"):
         name = context.findtext("name")
         letters = collections.Counter()
@@ -54,6 +72,8 @@ def offences(path):
                 yield f"{where} is not translated"
                 continue
             forms = [form.text or "" for form in translation.findall("numerusform")] or [translation.text or ""]
+            if any(is_left(source, text, language) for text in forms):
+                yield f"{where} is still English"
             for text in forms:
                 yield from (f"{where}: \"{text}\" {fault}" for fault in faults_of(source, text))
             letters.update(letter.lower() for letter in ACCELERATOR.findall(forms[0]))
