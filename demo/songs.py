@@ -48,7 +48,7 @@ SONGS = [
     Song("Marl - Undertow.wma", "Marl", "Undertow", "Undertow", VIOLET),
     Song("café d'hiver.aiff", "Agnès Rivière", "Café d'hiver", "Comptoir", BLUE),
     Song("Nora Vale - Second Kettle.mp3", "Nora Vale", "Second Kettle", tagged=False),
-    Song("legend and scale.wav", "The Kartografers", "Legend and Scale", "Legend and Scale", GREEN),
+    Song("legend and scale.mp3", "The Kartografers", "Legend and Scale", "Legend and Scale", GREEN),
     Song("03 - Windowsill.mp3", "Nora Vale", "Windowsill", "Paper Fleet", ORANGE,
          own_lyrics="A jar of pebbles, a jar of rain,\nI had these words before the train."),
     Song("Nobody Yet - Never Written.mp3", "Nobody Yet", "Never Written"),
