@@ -665,6 +665,105 @@ Please verify the correct directory name was given.</source>
 Ordner nicht gefunden.
 Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1-Datei</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Zuletzt besucht</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Anzeigen: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>&amp;Versteckte Dateien anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Möchten Sie „%1“ wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>„%1“ ist schreibgeschützt.
+Möchten Sie es trotzdem löschen?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Der Ordner konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Zurückgehen</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Vorgehen</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Zum übergeordneten Ordner gehen</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Einen neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Zur Listenansicht wechseln</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Zur Detailansicht wechseln</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Liste der Orte und Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -683,6 +782,11 @@ Bitte prüfen Sie, ob der Ordnername stimmt.</translation>
     <message>
         <source>Computer</source>
         <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Typ</translation>
     </message>
 </context>
 <context>

@@ -665,6 +665,105 @@ Please verify the correct directory name was given.</source>
 No se encontró la carpeta.
 Comprobar que el nombre es correcto.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Archivo %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Lugares recientes</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostrar: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Cambia&amp;r nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostrar archivos &amp;ocultos</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nueva carpeta</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nueva carpeta</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>¿Seguro que quieres eliminar «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1» está protegido contra escritura.
+¿Eliminarlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>No se pudo eliminar la carpeta.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Ir atrás</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Ir adelante</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Ir a la carpeta superior</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Crear una carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Cambiar a la vista de lista</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Cambiar a la vista detallada</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra lateral</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lista de lugares y marcadores</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -683,6 +782,11 @@ Comprobar que el nombre es correcto.</translation>
     <message>
         <source>Computer</source>
         <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Tipo</translation>
     </message>
 </context>
 <context>

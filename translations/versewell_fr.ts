@@ -665,6 +665,105 @@ Please verify the correct directory name was given.</source>
 Dossier introuvable.
 Veuillez vérifier que le nom du dossier est correct.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Lecteur</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Fichier %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Emplacements récents</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Afficher : </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Afficher les fichiers &amp;cachés</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Voulez-vous vraiment supprimer « %1 » ?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>« %1 » est protégé en écriture.
+Voulez-vous le supprimer quand même ?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Le dossier n’a pas pu être supprimé.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Revenir en arrière</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Aller en avant</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Aller au dossier parent</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Créer un dossier</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Passer à l’affichage en liste</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Passer à l’affichage détaillé</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barre latérale</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Liste des emplacements et des favoris</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -683,6 +782,11 @@ Veuillez vérifier que le nom du dossier est correct.</translation>
     <message>
         <source>Computer</source>
         <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Type</translation>
     </message>
 </context>
 <context>

@@ -665,6 +665,105 @@ Please verify the correct directory name was given.</source>
 Cartella non trovata.
 Verificare che il nome della cartella sia corretto.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unità</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>File %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Posizioni recenti</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostra: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rinomina</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;limina</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostra file na&amp;scosti</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nuova cartella</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nuova cartella</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Eliminare davvero «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1» è protetto da scrittura.
+Eliminarlo comunque?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Impossibile eliminare la cartella.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Torna indietro</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Vai avanti</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Vai alla cartella superiore</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Crea una nuova cartella</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Passa alla vista a elenco</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Passa alla vista dettagliata</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra laterale</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Elenco di posizioni e segnalibri</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -683,6 +782,11 @@ Verificare che il nome della cartella sia corretto.</translation>
     <message>
         <source>Computer</source>
         <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Tipo</translation>
     </message>
 </context>
 <context>

@@ -661,6 +661,105 @@ Please verify the correct directory name was given.</source>
 フォルダーが見つかりません。
 フォルダー名が正しいか確認してください。</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>ドライブ</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 ファイル</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>最近使用した場所</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>表示: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>名前を変更(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>隠しファイルを表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新しいフォルダー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新しいフォルダー</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>「%1」は書き込み禁止です。
+それでも削除しますか？</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>フォルダーを削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>前に戻る</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>次に進む</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>親フォルダーに移動</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>新しいフォルダーを作る</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>リスト表示に切り替え</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>詳細表示に切り替え</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>サイドバー</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>場所とブックマークの一覧</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -679,6 +778,11 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Computer</source>
         <translation>コンピューター</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>種類</translation>
     </message>
 </context>
 <context>

@@ -669,6 +669,105 @@ Please verify the correct directory name was given.</source>
 Nie znaleziono katalogu.
 Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Dysk</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Plik</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Plik %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Ostatnie miejsca</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Pokaż: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Z&amp;mień nazwę</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Pokaż u&amp;kryte pliki</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nowy katalog</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nowy katalog</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Czy na pewno usunąć „%1”?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>„%1” jest chroniony przed zapisem.
+Czy mimo to usunąć?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Nie udało się usunąć katalogu.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Przejdź wstecz</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Przejdź dalej</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Przejdź do katalogu nadrzędnego</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Utwórz nowy katalog</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Przełącz na widok listy</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Przełącz na widok szczegółowy</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Panel boczny</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lista miejsc i zakładek</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Pliki</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -687,6 +786,11 @@ Proszę sprawdzić, czy podano poprawną nazwę katalogu.</translation>
     <message>
         <source>Computer</source>
         <translation>Komputer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Typ</translation>
     </message>
 </context>
 <context>

@@ -665,6 +665,105 @@ Please verify the correct directory name was given.</source>
 Pasta não encontrada.
 Verificar se o nome da pasta está correto.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unidade</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Ficheiro</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Ficheiro %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Locais recentes</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostrar: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Muda&amp;r o nome</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostrar ficheiros &amp;ocultos</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nova pasta</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nova pasta</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Tem a certeza de que quer eliminar “%1”?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>“%1” está protegido contra escrita.
+Eliminar mesmo assim?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Não foi possível eliminar a pasta.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Ir para trás</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Ir para a frente</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Ir para a pasta superior</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Criar uma nova pasta</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Mudar para a vista de lista</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Mudar para a vista detalhada</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra lateral</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lista de locais e marcadores</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Ficheiros</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -683,6 +782,11 @@ Verificar se o nome da pasta está correto.</translation>
     <message>
         <source>Computer</source>
         <translation>Computador</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Tipo</translation>
     </message>
 </context>
 <context>

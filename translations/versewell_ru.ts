@@ -669,6 +669,105 @@ Please verify the correct directory name was given.</source>
 Папка не найдена.
 Проверьте, правильно ли указано имя папки.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Диск</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Файл %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Недавние места</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Показывать: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Пере&amp;именовать</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Показывать &amp;скрытые файлы</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Новая папка</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Новая папка</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Удалить «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>Объект «%1» защищён от записи.
+Всё равно удалить его?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Не удалось удалить папку.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Вернуться назад</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Перейти вперёд</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Перейти в родительскую папку</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Создать новую папку</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Переключиться на список</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Переключиться на подробный список</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Боковая панель</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Список мест и закладок</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Файлы</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -687,6 +786,11 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Computer</source>
         <translation>Компьютер</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Тип</translation>
     </message>
 </context>
 <context>

@@ -661,6 +661,105 @@ Please verify the correct directory name was given.</source>
 Klasör bulunamadı.
 Klasör adının doğru olduğunu denetleyin.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Sürücü</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 Dosyası</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Son Kullanılan Yerler</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Göster: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Yeniden &amp;Adlandır</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>&amp;Gizli dosyaları göster</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Yeni Klasör</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Yeni Klasör</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>“%1” silinsin mi?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>“%1” yazmaya karşı korumalı.
+Yine de silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Klasör silinemedi.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Geri git</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>İleri git</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Üst klasöre git</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Yeni bir klasör oluştur</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Liste görünümüne geç</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Ayrıntı görünümüne geç</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Kenar çubuğu</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Yerler ve yer imleri listesi</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -679,6 +778,11 @@ Klasör adının doğru olduğunu denetleyin.</translation>
     <message>
         <source>Computer</source>
         <translation>Bilgisayar</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Tür</translation>
     </message>
 </context>
 <context>

@@ -669,6 +669,105 @@ Please verify the correct directory name was given.</source>
 Теку не знайдено.
 Перевірте, чи правильно вказано назву теки.</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>Диск</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Тека</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Файл %1</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Нещодавні місця</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Показувати: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Пере&amp;йменувати</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Видалити</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Показувати при&amp;ховані файли</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Нова тека</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Нова тека</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Прибрати</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Видалити «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1» захищено від запису.
+Усе одно видалити?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Не вдалося видалити теку.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Повернутися назад</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Перейти вперед</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Перейти до батьківської теки</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Створити нову теку</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Перемкнути на список</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Перемкнути на докладний список</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Бічна панель</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Список місць і закладок</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Файли</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -687,6 +786,11 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Computer</source>
         <translation>Комп’ютер</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Тип</translation>
     </message>
 </context>
 <context>

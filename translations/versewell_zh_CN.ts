@@ -661,6 +661,105 @@ Please verify the correct directory name was given.</source>
 找不到文件夹。
 请确认文件夹名是否正确。</translation>
     </message>
+    <message>
+        <source>Drive</source>
+        <translation>驱动器</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 文件</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>最近访问的位置</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>显示: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>重命名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>显示隐藏文件(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新建文件夹(&amp;N)</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>确定要删除“%1”吗？</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>“%1”有写保护。
+仍要删除吗？</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>无法删除文件夹。</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>转到上级文件夹</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>创建新文件夹</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>切换到列表视图</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>切换到详细视图</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>侧边栏</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>位置和书签列表</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -679,6 +778,11 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Computer</source>
         <translation>计算机</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>类型</translation>
     </message>
 </context>
 <context>
