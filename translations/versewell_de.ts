@@ -1553,9 +1553,25 @@ Möchten Sie es trotzdem löschen?</translation>
         <source>it is still being written</source>
         <translation>der Song wird gerade noch geschrieben</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Der gelöschte Songtext eines Songs steht noch in der Datei.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>Der gelöschte Songtext von %n Song steht noch in der Datei.</numerusform>
+            <numerusform>Die gelöschten Songtexte von %n Songs stehen noch in den Dateien.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>„%1“</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... und %n weiterer</numerusform>
             <numerusform>... und %n weitere</numerusform>

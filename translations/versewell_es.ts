@@ -1553,9 +1553,25 @@ Do you want to delete it anyway?</source>
         <source>it is still being written</source>
         <translation>todavía se está escribiendo</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>La letra borrada de una canción sigue en el archivo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>La letra borrada de %n canción sigue en el archivo.</numerusform>
+            <numerusform>Las letras borradas de %n canciones siguen en los archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>«%1»</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... y %n más</numerusform>
             <numerusform>... y %n más</numerusform>

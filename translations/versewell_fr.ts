@@ -1553,9 +1553,25 @@ Voulez-vous le supprimer quand même ?</translation>
         <source>it is still being written</source>
         <translation>l’écriture est encore en cours</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Les paroles supprimées d’une chanson sont encore dans le fichier.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>Les paroles supprimées de %n chanson sont encore dans le fichier.</numerusform>
+            <numerusform>Les paroles supprimées de %n chansons sont encore dans les fichiers.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>« %1 »</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... et %n autre</numerusform>
             <numerusform>... et %n autres</numerusform>

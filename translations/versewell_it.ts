@@ -1553,9 +1553,25 @@ Eliminarlo comunque?</translation>
         <source>it is still being written</source>
         <translation>la scrittura è ancora in corso</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Il testo eliminato di un brano è ancora nel file.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>Il testo eliminato di %n brano è ancora nel file.</numerusform>
+            <numerusform>I testi eliminati di %n brani sono ancora nei file.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>“%1”</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... e %n altro</numerusform>
             <numerusform>... e altri %n</numerusform>

@@ -1541,9 +1541,24 @@ Do you want to delete it anyway?</source>
         <source>it is still being written</source>
         <translation>まだ書き込み中です</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>1 曲の削除した歌詞は、まだファイルに残っています。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>%n 曲の削除した歌詞は、まだファイルに残っています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>「%1」</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... ほか %n 曲</numerusform>
         </translation>

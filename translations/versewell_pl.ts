@@ -1565,9 +1565,26 @@ Czy mimo to usunąć?</translation>
         <source>it is still being written</source>
         <translation>zapis jeszcze trwa</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Usunięty tekst jednego utworu jest nadal w pliku.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>Usunięty tekst %n utworu jest nadal w pliku.</numerusform>
+            <numerusform>Usunięte teksty %n utworów są nadal w plikach.</numerusform>
+            <numerusform>Usunięte teksty %n utworów są nadal w plikach.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>„%1”</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... i jeszcze %n</numerusform>
             <numerusform>... i jeszcze %n</numerusform>

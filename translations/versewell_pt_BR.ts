@@ -1553,9 +1553,25 @@ Deseja excluir mesmo assim?</translation>
         <source>it is still being written</source>
         <translation>ainda está sendo gravada</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>A letra excluída de uma música ainda está no arquivo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>A letra excluída de %n música ainda está no arquivo.</numerusform>
+            <numerusform>As letras excluídas de %n músicas ainda estão nos arquivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>“%1”</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... e mais %n</numerusform>
             <numerusform>... e mais %n</numerusform>

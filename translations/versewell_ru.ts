@@ -1565,9 +1565,26 @@ Do you want to delete it anyway?</source>
         <source>it is still being written</source>
         <translation>запись ещё не закончена</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Удалённый текст одной песни всё ещё остаётся в файле.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>Удалённый текст %n песни всё ещё остаётся в файле.</numerusform>
+            <numerusform>Удалённые тексты %n песен всё ещё остаются в файлах.</numerusform>
+            <numerusform>Удалённые тексты %n песен всё ещё остаются в файлах.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>«%1»</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... и ещё %n</numerusform>
             <numerusform>... и ещё %n</numerusform>

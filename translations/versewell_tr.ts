@@ -1541,9 +1541,24 @@ Yine de silinsin mi?</translation>
         <source>it is still being written</source>
         <translation>hâlâ yazılıyor</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Bir şarkının silinen sözleri hâlâ dosyada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>%n şarkının silinen sözleri hâlâ dosyalarda.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>“%1”</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... ve %n tane daha</numerusform>
         </translation>

@@ -1565,9 +1565,26 @@ Do you want to delete it anyway?</source>
         <source>it is still being written</source>
         <translation>запис іще не завершено</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>Видалений текст однієї пісні досі є у файлі.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>Видалений текст %n пісні досі є у файлі.</numerusform>
+            <numerusform>Видалені тексти %n пісень досі є у файлах.</numerusform>
+            <numerusform>Видалені тексти %n пісень досі є у файлах.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>«%1»</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... і ще %n</numerusform>
             <numerusform>... і ще %n</numerusform>

@@ -1541,9 +1541,24 @@ Do you want to delete it anyway?</source>
         <source>it is still being written</source>
         <translation>仍在写入</translation>
     </message>
+    <message>
+        <source>The deleted lyrics of one song are still in its file.</source>
+        <translation>有 1 首歌曲的已删除歌词仍在文件中。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The deleted lyrics of %n songs are still in their files.</source>
+        <translation>
+            <numerusform>有 %n 首歌曲的已删除歌词仍在文件中。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>%1 is the title of a song</comment>
+        <translation>“%1”</translation>
+    </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <comment>other songs that could not be saved</comment>
+        <comment>other songs</comment>
         <translation>
             <numerusform>... 以及另外 %n 首</numerusform>
         </translation>

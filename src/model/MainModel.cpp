@@ -509,8 +509,18 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
 bool MainModel::hasUnsavedLyrics(quint16 id) const
 {
     const ModelItem *item = m_items.find(id);
-    return item && !item->lyricsTag().isEmpty() &&
-           (item->lyricsEdited() || m_writes.isWritingOther(id, item->lyricsTag()));
+    return item && !item->lyricsTag().isEmpty() && areLyricsUnsaved(*item);
+}
+
+bool MainModel::hasUnsavedDeletion(quint16 id) const
+{
+    const ModelItem *item = m_items.find(id);
+    return item && item->lyricsTag().isEmpty() && areLyricsUnsaved(*item);
+}
+
+bool MainModel::areLyricsUnsaved(const ModelItem &item) const
+{
+    return item.lyricsEdited() || m_writes.isWritingOther(item.id(), item.lyricsTag());
 }
 
 QVector<quint16> MainModel::unsavedIds() const
@@ -518,7 +528,7 @@ QVector<quint16> MainModel::unsavedIds() const
     QVector<quint16> ids;
     for (int row = 0; row < m_items.count(); ++row) {
         const ModelItem *item = m_items.itemAt(row);
-        if (item->namesEdited() || hasUnsavedLyrics(item->id()))
+        if (item->namesEdited() || areLyricsUnsaved(*item))
             ids.append(item->id());
     }
     return ids;

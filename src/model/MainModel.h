@@ -102,7 +102,10 @@ public:
     // Whether the song has lyrics that are in the list only: their last write has failed, or may still fail. Not so
     // when that write was to store other names alone.
     [[nodiscard]] bool hasUnsavedLyrics(quint16 id) const;
-    // The songs with such lyrics, or with edited names that are in no file; in row order.
+    // The other way round: the song has none, but those of its file are still there, since the write that was to delete
+    // them has failed, or may still fail.
+    [[nodiscard]] bool hasUnsavedDeletion(quint16 id) const;
+    // The songs with such lyrics or such a deletion, or with edited names that are in no file; in row order.
     [[nodiscard]] QVector<quint16> unsavedIds() const;
     // What these songs have in the list only is forgotten: their texts are those of the files.
     void giveUpUnsaved(const QVector<quint16> &ids);
@@ -198,6 +201,7 @@ private:
     void forgetItems(std::vector<ItemStore::Taken> removed);
     void feedSearches();
     void useTags(quint16 id, const MediaFileTags &tags);
+    [[nodiscard]] bool areLyricsUnsaved(const ModelItem &item) const;
     [[nodiscard]] ModelItem *writableItem(quint16 id) const;
     void startWriting(ModelItem *item, bool insists);
     void readNow(const QUrl &file);

@@ -482,12 +482,20 @@ void ProxyModel::removeInvalidSelections()
 
 void ProxyModel::removeSelected()
 {
+    removeSongs(selectedIds());
+}
+
+void ProxyModel::removeSongs(const QVector<quint16> &ids)
+{
+    if (!m_model)
+        return;
     QVector<int> sourceRows;
-    sourceRows.reserve(m_selectedCount);
-    for (int row = 0; row < m_rows.size(); ++row) {
-        if (isSelected(row))
-            sourceRows.append(m_rows.at(row));
+    sourceRows.reserve(ids.size());
+    for (const quint16 id : ids) {
+        if (const int row = m_model->rowOf(id); row >= 0)
+            sourceRows.append(row);
     }
+    std::sort(sourceRows.begin(), sourceRows.end());
     removeSourceRows(sourceRows);
 }
 

@@ -51,6 +51,8 @@ public:
     // this one. True when the click was a plain one.
     Q_INVOKABLE bool itemClicked(int n);
     Q_INVOKABLE void removeSelected();
+    // By their ids, shown or not; those that are not in the list are ignored.
+    void removeSongs(const QVector<quint16> &ids);
     // Removes the songs that are shown; hidden ones stay. When none is hidden, all that the list holds: see
     // MainModel::removeAll().
     Q_INVOKABLE void removeAll();

@@ -83,6 +83,8 @@ KeptTexts keepUnsavedTexts(const MainModel &model, const QString &folder)
         QDir().mkpath(folder);
     for (const quint16 id : ids) {
         const ModelItem *item = model.item(id);
+        if (!item->namesEdited() && !model.hasUnsavedLyrics(id))
+            continue; // what was deleted leaves no words to keep
         const QByteArray content = contentFor(*item, model.hasUnsavedLyrics(id));
         if (keep(*item, content, folder))
             ++kept.songs;

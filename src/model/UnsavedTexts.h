@@ -13,8 +13,8 @@ struct KeptTexts
     QStringList lost; // the full content of the text files that could not be written
 };
 
-// Puts what the songs of MainModel::unsavedIds() have in the list only into text files of a folder, which is made when
-// it is missing: UTF-8, named after the song, with the song's path in the first line. The edited names follow, a
-// labelled line each, and then the lyrics as they are, both after an empty line. No file that is there is touched; one
-// that says the same already is not written again. Blocks until all is on the disk.
+// Puts the words that the songs of MainModel::unsavedIds() have in the list only into text files of a folder, which is
+// made when it is missing: UTF-8, named after the song, with the song's path in the first line. The edited names
+// follow, a labelled line each, and then the lyrics as they are, both after an empty line. No file that is there is
+// touched; one that says the same already is not written again. Blocks until all is on the disk.
 [[nodiscard]] KeptTexts keepUnsavedTexts(const MainModel &model, const QString &folder);

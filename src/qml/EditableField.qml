@@ -54,6 +54,14 @@ FocusScope {
         });
     }
 
+    // Of the subjects, those for which something was typed and not confirmed.
+    function typedIds() {
+        return Object.keys(leftTexts || {}).map(Number).filter(function (id) {
+            var left = leftTexts[id].subject;
+            return left && left.id === id; // it may be gone
+        }).concat(pending && subject ? shownId : []);
+    }
+
     function leave() {
         if (!pending)
             return;

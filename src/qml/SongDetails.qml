@@ -31,6 +31,10 @@ ColumnLayout {
     Connections {
         target: mainWindow
 
+        function onTypedNamesAsked() {
+            mainWindow.noteTypedNames(artist.typedIds().concat(title.typedIds()));
+        }
+
         function onTypedNamesWanted(ids) {
             artist.confirmAmong(ids);
             title.confirmAmong(ids);

@@ -75,12 +75,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
 {
     setWindowTitle(QStringLiteral("Versewell"));
-    m_unsavedGuard.setTakeTypedNames([this](const UnsavedLyricsGuard::Songs &songs) {
-        QVariantList ids;
-        for (const quint16 id : songs)
-            ids.append(id);
-        emit typedNamesWanted(ids);
-    });
+    connectTypedNames();
     setUpLinks();
     setUpUpdates();
     setCentralWidget(m_scene.get());
@@ -143,6 +138,30 @@ void MainWindow::connectSceneSignals()
     connect(m_scene.get(), &SceneWidget::partFailed, this, &MainWindow::scenePartFailed);
     connect(m_scene.get(), &QQuickWidget::sceneGraphError, this,
             [this](QQuickWindow::SceneGraphError, const QString &message) { emit sceneFailed(message); });
+}
+
+void MainWindow::connectTypedNames()
+{
+    const auto songs = [this] {
+        m_typedNames.clear();
+        emit typedNamesAsked();
+        return m_typedNames;
+    };
+    const auto take = [this](const QVector<quint16> &owners) {
+        QVariantList ids;
+        for (const quint16 id : owners)
+            ids.append(id);
+        emit typedNamesWanted(ids);
+    };
+    m_unsavedGuard.setTypedNames({songs, take});
+}
+
+void MainWindow::noteTypedNames(const QVariantList &ids)
+{
+    for (const QVariant &id : ids) {
+        if (isId(id.toInt()))
+            m_typedNames.append(static_cast<quint16>(id.toInt()));
+    }
 }
 
 QString MainWindow::sceneErrors() const

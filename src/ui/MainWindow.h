@@ -74,6 +74,9 @@ public:
     // The search engine that is meant by this name of a setting.
     Q_INVOKABLE QString searchEngine(const QString &name) const { return m_searchProvider.effectiveName(name); }
 
+    // The ids of the songs for which the scene holds names that were typed and not confirmed.
+    Q_INVOKABLE void noteTypedNames(const QVariantList &ids);
+
 public slots:
     // Removing asks first when a modified draft of lyrics would be lost. `clearList` leaves hidden songs in the list.
     void clearList();
@@ -132,8 +135,10 @@ signals:
     void sceneFailed(const QString &reason);
     // A part of the scene that is made later cannot be made; the reason is in words for the user.
     void scenePartFailed(const QString &reason);
-    // The scene is to give these songs, by their ids, the names that were typed for them and not confirmed: they go.
-    // Without ids all songs are meant.
+    // The scene is to call noteTypedNames() before this returns.
+    void typedNamesAsked();
+    // The scene is to give these songs, by their ids, the names that were typed for them and not confirmed. Without ids
+    // all songs are meant.
     void typedNamesWanted(const QVariantList &ids);
 
 protected:
@@ -147,6 +152,7 @@ private:
     [[nodiscard]] SceneWidget::Names sceneNames();
     void connectSceneSignals();
     void connectModels();
+    void connectTypedNames();
     void resizeToText();
     void setUpLinks();
     void setUpUpdates();
@@ -163,6 +169,7 @@ private:
     LyricsEdit *const m_lyricsEdit;
     LyricsEditGuard *const m_editGuard;
     UnsavedLyricsGuard m_unsavedGuard;
+    QVector<quint16> m_typedNames; // as they were noted last
     SongRemoval m_removal;
     ForcedSearches *const m_forcedSearches;
     LyricsExport *const m_export;

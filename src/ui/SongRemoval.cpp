@@ -7,6 +7,15 @@
 #include "ui/LyricsEditGuard.h"
 #include "ui/UnsavedLyricsGuard.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+static bool hasLyrics(const ModelItem &song)
+{
+    return !song.lyricsTag().isEmpty();
+}
+
 SongRemoval::SongRemoval(MainModel *model, ProxyModel *proxy, const LyricsEdit *edit, LyricsEditGuard *editGuard,
                          UnsavedLyricsGuard *unsavedGuard)
     : m_model(model)
@@ -21,10 +30,7 @@ void SongRemoval::removeSelected()
 {
     const QVector<quint16> ids = m_proxy->selectedIds();
     const auto remove = [this, ids] {
-        m_unsavedGuard->beforeRemoving(ids, [this] {
-            m_proxy->removeSelected();
-            selectCurrent();
-        });
+        removeSongs(remaining(ids), [this] { selectCurrent(); });
     };
     ids.contains(m_edit->songId()) ? m_editGuard->before(remove) : remove();
 }
@@ -38,7 +44,11 @@ void SongRemoval::selectCurrent()
 
 void SongRemoval::removeAll()
 {
-    m_editGuard->before([this] { m_unsavedGuard->beforeRemoving(shownIds(), [this] { m_proxy->removeAll(); }); });
+    const auto removeRest = [this] {
+        if (m_model->rowCount() == 0)
+            m_model->removeAll(); // what has no row yet
+    };
+    m_editGuard->before([this, ids = shownIds(), removeRest] { removeSongs(remaining(ids), removeRest); });
 }
 
 QVector<quint16> SongRemoval::shownIds() const
@@ -51,11 +61,11 @@ QVector<quint16> SongRemoval::shownIds() const
 
 void SongRemoval::removeWithLyrics()
 {
-    const auto remove = [this] {
-        m_unsavedGuard->beforeRemoving(idsWithLyrics(), [this] { m_model->removeWithLyrics(); });
+    const auto remove = [this, ids = idsWithLyrics()] {
+        removeSongs(remaining(ids, hasLyrics), [] {});
     };
     const ModelItem *edited = m_edit->song();
-    edited && !edited->lyricsTag().isEmpty() ? m_editGuard->before(remove) : remove();
+    edited &&hasLyrics(*edited) ? m_editGuard->before(remove) : remove();
 }
 
 QVector<quint16> SongRemoval::idsWithLyrics() const
@@ -63,8 +73,28 @@ QVector<quint16> SongRemoval::idsWithLyrics() const
     QVector<quint16> ids;
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const ModelItem *song = m_model->itemAt(row);
-        if (!song->lyricsTag().isEmpty())
+        if (hasLyrics(*song))
             ids.append(song->id());
     }
     return ids;
+}
+
+SongRemoval::Songs SongRemoval::remaining(const QVector<quint16> &ids, Condition condition) const
+{
+    return [this, ids, condition] {
+        QVector<quint16> found;
+        std::copy_if(ids.begin(), ids.end(), std::back_inserter(found), [this, condition](quint16 id) {
+            const ModelItem *song = m_model->item(id);
+            return song && condition(*song);
+        });
+        return found;
+    };
+}
+
+void SongRemoval::removeSongs(const Songs &songs, const std::function<void()> &after)
+{
+    m_unsavedGuard->beforeRemoving(songs, [this, songs, after] {
+        m_proxy->removeSongs(songs());
+        after();
+    });
 }

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-// A question names so many songs that could not be saved, and counts the others.
-static constexpr int mostFailures = 3;
+// A question names so many songs, and counts the others.
+static constexpr int mostNamed = 3;
 
 template<typename Condition>
 static UnsavedLyricsGuard::Songs those(const UnsavedLyricsGuard::Songs &ids, Condition condition)
@@ -24,70 +24,86 @@ UnsavedLyricsGuard::UnsavedLyricsGuard(MainModel *model, QWidget *window)
 {
 }
 
-void UnsavedLyricsGuard::beforeRemoving(const Songs &ids, std::function<void()> action)
+void UnsavedLyricsGuard::beforeRemoving(std::function<Songs()> songs, std::function<void()> action)
 {
-    if (!ids.isEmpty())
-        m_takeTypedNames(ids);
-    before([ids] { return ids; }, [action = std::move(action)](const Songs &) { action(); });
+    before({std::move(songs), true, [action = std::move(action)](const Songs &) {
+                action();
+            }});
 }
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
-    m_takeTypedNames({});
-    const auto candidates = [this] {
-        return those(m_model->unsavedIds(), [this](quint16 id) {
+    const auto songs = [this] {
+        const Songs typed = m_typedNames.songs();
+        Songs found = those(m_model->unsavedIds(), [this, &typed](quint16 id) {
             const ModelItem *song = m_model->item(id);
-            return song->namesEdited() || song->unsaved();
+            return song->namesEdited() || song->unsaved() || typed.contains(id);
         });
+        for (const quint16 id : typed) {
+            if (m_model->item(id) && !found.contains(id))
+                found.append(id);
+        }
+        return found;
     };
-    before(candidates, [this, action = std::move(action)](const Songs &givenUp) {
-        m_givenUp = givenUp;
-        action();
-    });
+    before({songs, false, [this, action = std::move(action)](const Songs &givenUp) {
+                m_givenUp = givenUp;
+                action();
+            }});
 }
 
 void UnsavedLyricsGuard::giveUp()
 {
+    if (m_givenUp.isEmpty())
+        return;
+    m_typedNames.take(m_givenUp); // else they would be taken for unsaved ones after the last question
     m_model->giveUpUnsaved(m_givenUp);
 }
 
-// Of the candidates, those that are being written are waited for, as that may store their texts; those that are written
-// only after that are of searches that ended meanwhile, and no more unsaved than others that are searched for.
-void UnsavedLyricsGuard::before(const std::function<Songs()> &candidates,
-                                const std::function<void(const Songs &)> &action)
+// Songs that are being written are waited for, as that may store their texts. Those that are written only after that
+// are of searches that ended meanwhile: at the end of the program they are no more unsaved than others that are
+// searched for, but a song that is removed is waited for again.
+void UnsavedLyricsGuard::before(const Action &action)
 {
-    const Songs waitedFor = those(candidates(), [this](quint16 id) { return m_model->isWriting(id); });
-    afterWrites(waitedFor, [this, candidates, action, waitedFor] {
-        const Songs unsaved = those(candidates(), [this, &waitedFor](quint16 id) {
-            const ModelItem *song = m_model->item(id);
-            const bool isWrittenSince = m_model->isWriting(id) && !waitedFor.contains(id);
-            return song && (song->unsaved() || !isWrittenSince) &&
-                   (song->namesEdited() || m_model->hasUnsavedLyrics(id));
-        });
-        if (unsaved.isEmpty()) {
-            action({});
-            return;
-        }
-        ask(unsaved, [this, candidates, action, unsaved](int answer) {
-            if (answer == QMessageBox::Save) {
-                for (const quint16 id : unsaved)
-                    m_model->writeTagsUnlessForeign(id);
-                before(candidates, action);
-            } else if (answer == QMessageBox::Discard) {
-                action(unsaved);
-            }
-        });
+    const Songs writtenFirst = those(action.songs(), [this](quint16 id) { return m_model->isWriting(id); });
+    std::function<Songs()> waitedFor = action.songs;
+    if (!action.removes)
+        waitedFor = [writtenFirst] {
+            return writtenFirst;
+        };
+    afterWrites(waitedFor, [this, action, writtenFirst] {
+        const Losses losses = lossesOf(those(action.songs(), [this, &action, &writtenFirst](quint16 id) {
+            const bool isWrittenSince = m_model->isWriting(id) && !writtenFirst.contains(id);
+            return action.removes || !isWrittenSince || m_model->item(id)->unsaved();
+        }));
+        if (losses.songs.isEmpty())
+            action.run({});
+        else
+            askBefore(action, losses);
     });
 }
 
-void UnsavedLyricsGuard::afterWrites(const Songs &ids, std::function<void()> action)
+void UnsavedLyricsGuard::askBefore(const Action &action, const Losses &losses)
+{
+    ask(losses, [this, action, unsaved = losses.songs](int answer) {
+        if (answer == QMessageBox::Save) {
+            m_typedNames.take(unsaved);
+            for (const quint16 id : unsaved)
+                m_model->writeTagsUnlessForeign(id);
+            before(action);
+        } else if (answer == QMessageBox::Discard) {
+            action.run(unsaved);
+        }
+    });
+}
+
+void UnsavedLyricsGuard::afterWrites(const std::function<Songs()> &songs, std::function<void()> action)
 {
     if (m_wait) {
         m_wait->raise();
-    } else if (!WritesWait::isNeeded(*m_model, ids)) {
+    } else if (!WritesWait::isNeeded(*m_model, songs())) {
         action();
     } else {
-        m_wait = new WritesWait(m_model, ids, m_window);
+        m_wait = new WritesWait(m_model, songs, m_window);
         QObject::connect(m_wait, &WritesWait::done, m_window, [this, action = std::move(action)] {
             m_wait.clear();
             action();
@@ -95,20 +111,20 @@ void UnsavedLyricsGuard::afterWrites(const Songs &ids, std::function<void()> act
     }
 }
 
-void UnsavedLyricsGuard::ask(const Songs &ids, std::function<void(int)> answered)
+void UnsavedLyricsGuard::ask(const Losses &losses, std::function<void(int)> answered)
 {
     if (m_question) {
         m_question->raise();
         m_question->activateWindow();
         return;
     }
-    const QStringList failures = failuresOf(ids);
-    QString question = tr("Do you want to save the changes?");
-    if (!failures.isEmpty())
-        question.prepend(failures.join(QLatin1Char('\n')) + QLatin1String("\n\n"));
-    m_question = makeQuestionBox(lossOf(ids), question, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                                 m_window);
-    m_question->setDefaultButton(failures.isEmpty() ? QMessageBox::Save : QMessageBox::Cancel);
+    const Songs &ids = losses.songs;
+    const bool haveSomeFailed = std::any_of(ids.begin(), ids.end(), [this](quint16 id) { return hasFailed(id); });
+    const QString question =
+        linesOf(ids).join(QLatin1Char('\n')) + QLatin1String("\n\n") + tr("Do you want to save the changes?");
+    m_question = makeQuestionBox(textOf(losses), question,
+                                 QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
+    m_question->setDefaultButton(haveSomeFailed ? QMessageBox::Cancel : QMessageBox::Save);
     QObject::connect(m_question, &QMessageBox::finished, m_window, [this, answered = std::move(answered)](int answer) {
         m_question.clear();
         answered(answer);
@@ -116,34 +132,63 @@ void UnsavedLyricsGuard::ask(const Songs &ids, std::function<void(int)> answered
     m_question->open();
 }
 
-QString UnsavedLyricsGuard::lossOf(const Songs &ids) const
+// Its last write, or one that does not end.
+bool UnsavedLyricsGuard::hasFailed(quint16 id) const
 {
-    const int names = those(ids, [this](quint16 id) { return m_model->item(id)->namesEdited(); }).size();
-    const int lyrics = those(ids, [this](quint16 id) { return m_model->hasUnsavedLyrics(id); }).size();
+    return m_model->item(id)->unsaved() || m_model->isWriting(id);
+}
+
+UnsavedLyricsGuard::Losses UnsavedLyricsGuard::lossesOf(const Songs &ids) const
+{
+    const Songs typed = m_typedNames.songs();
+    Losses losses;
+    for (const quint16 id : ids) {
+        const bool names = m_model->item(id)->namesEdited() || typed.contains(id);
+        const bool lyrics = m_model->hasUnsavedLyrics(id);
+        const bool deletion = m_model->hasUnsavedDeletion(id);
+        losses.names += names ? 1 : 0;
+        losses.lyrics += lyrics ? 1 : 0;
+        losses.deletions += deletion ? 1 : 0;
+        if (names || lyrics || deletion)
+            losses.songs.append(id);
+    }
+    return losses;
+}
+
+QString UnsavedLyricsGuard::textOf(const Losses &losses)
+{
     QStringList sentences;
-    if (names > 0)
-        sentences.append(
-            names == 1 ? tr("The changed artist or title of one song is not in its file yet.")
-                       : tr("The changed artist or title of %n songs is not in their files yet.", nullptr, names));
-    if (lyrics > 0)
-        sentences.append(lyrics == 1 ? tr("The lyrics of one song are not in its file and stand in the list only.")
-                                     : tr("The lyrics of %n songs are not in their files and stand in the list only.",
-                                          nullptr, lyrics));
+    if (losses.names > 0)
+        sentences.append(losses.names == 1 ? tr("The changed artist or title of one song is not in its file yet.")
+                                           : tr("The changed artist or title of %n songs is not in their files yet.",
+                                                nullptr, losses.names));
+    if (losses.lyrics > 0)
+        sentences.append(losses.lyrics == 1
+                             ? tr("The lyrics of one song are not in its file and stand in the list only.")
+                             : tr("The lyrics of %n songs are not in their files and stand in the list only.", nullptr,
+                                  losses.lyrics));
+    if (losses.deletions > 0)
+        sentences.append(losses.deletions == 1 ? tr("The deleted lyrics of one song are still in its file.")
+                                               : tr("The deleted lyrics of %n songs are still in their files.", nullptr,
+                                                    losses.deletions));
     return sentences.join(QLatin1Char('\n'));
 }
 
-QStringList UnsavedLyricsGuard::failuresOf(const Songs &ids) const
+// Those that have failed come first, as there is more to say of them.
+QStringList UnsavedLyricsGuard::linesOf(Songs ids) const
 {
-    const Songs failed =
-        those(ids, [this](quint16 id) { return m_model->item(id)->unsaved() || m_model->isWriting(id); });
+    std::stable_partition(ids.begin(), ids.end(), [this](quint16 id) { return hasFailed(id); });
     QStringList lines;
-    for (const quint16 id : failed.mid(0, mostFailures)) {
+    for (const quint16 id : ids.mid(0, mostNamed)) {
         const ModelItem *song = m_model->item(id);
-        lines.append(tr("“%1” could not be saved: %2", "%1 is the title of a song, %2 the reason")
-                         .arg(shownName(*song, m_window),
-                              song->unsaved() ? song->writeError() : tr("it is still being written")));
+        const QString name = shownName(*song, m_window);
+        if (hasFailed(id))
+            lines.append(tr("“%1” could not be saved: %2", "%1 is the title of a song, %2 the reason")
+                             .arg(name, song->unsaved() ? song->writeError() : tr("it is still being written")));
+        else
+            lines.append(tr("“%1”", "%1 is the title of a song").arg(name));
     }
-    if (failed.size() > mostFailures)
-        lines.append(tr("... and %n more", "other songs that could not be saved", failed.size() - mostFailures));
+    if (ids.size() > mostNamed)
+        lines.append(tr("... and %n more", "other songs", ids.size() - mostNamed));
     return lines;
 }

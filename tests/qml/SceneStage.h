@@ -38,7 +38,8 @@ public:
     Q_INVOKABLE QUrl folder() const;
 
 signals:
-    // As the window has it.
+    // As the window has them.
+    void typedNamesAsked();
     void typedNamesWanted(const QVariantList &ids);
 
 public slots:

@@ -14,7 +14,7 @@ namespace {
 
 enum Action { Quit, Remove, RemoveAnother };
 // What another program has done to the song.
-enum Trouble { None, Gone, Changed };
+enum Trouble { None, Gone, Changed, NotDeleted };
 
 } // namespace
 
@@ -48,6 +48,8 @@ private slots:
         row("saved before it is removed", Remove, None, false, {save}, true, "Nora");
         row("removed and discarded", Remove, None, false, {discard}, true, "");
         row("not removed", Remove, Gone, false, {save, cancel}, false, "");
+        row("a deletion fails, and the user stays", Quit, NotDeleted, false, {save, cancel}, false, "");
+        row("removed before its lyrics are deleted", Remove, NotDeleted, false, {discard}, true, "");
         row("another song is removed", RemoveAnother, None, false, {}, true, "");
     }
 
@@ -72,13 +74,19 @@ private slots:
 
         QWidget window;
         UnsavedLyricsGuard guard(&model, &window);
-        const auto typeName = [&](const QVector<quint16> &ids) {
-            if (ids.isEmpty() || ids.contains(id))
-                model.itemAt(0)->setArtistTag("Nora"_s);
+        bool isTyped = true;
+        const auto typed = [&] {
+            return isTyped && model.item(id) ? QVector<quint16>{id} : QVector<quint16>();
         };
-        guard.setTakeTypedNames(typeName);
+        const auto take = [&](const QVector<quint16> &ids) {
+            if (!ids.contains(id) || !isTyped)
+                return;
+            model.item(id)->setArtistTag("Nora"_s);
+            isTyped = false;
+        };
+        guard.setTypedNames({typed, take});
         if (isSaved) {
-            typeName({});
+            take({id});
             QVERIFY(model.writeTags(id));
         }
         int done = 0;
@@ -86,16 +94,20 @@ private slots:
             if (action == Quit)
                 guard.beforeQuitting([&done] { ++done; });
             else
-                guard.beforeRemoving({removed}, [&] { done += model.removeRows(model.rowOf(removed), 1) ? 1 : 0; });
+                guard.beforeRemoving(
+                    [&] { return model.item(removed) ? QVector<quint16>{removed} : QVector<quint16>(); },
+                    [&] { done += model.removeRows(model.rowOf(removed), 1) ? 1 : 0; });
         }
         for (const int answer : answers) {
             QTRY_COMPARE(window.findChildren<QMessageBox *>().size(), 1);
             QCOMPARE(done, 0);
             auto *box = window.findChild<QMessageBox *>();
             const ModelItem *song = model.item(id);
-            QCOMPARE(box->text().count(QLatin1Char('\n')), model.hasUnsavedLyrics(id) ? 1 : 0); // a line a kind
+            QCOMPARE(box->text().count(QLatin1Char('\n')),
+                     trouble == Changed || trouble == NotDeleted); // a line a kind
+            QCOMPARE(box->text().contains("deleted"_s), trouble == NotDeleted);
             QVERIFY(box->informativeText().contains(song->writeError()));
-            QCOMPARE(box->informativeText().contains(song->filename()), song->unsaved());
+            QVERIFY(box->informativeText().contains(song->filename()));
             QCOMPARE(box->defaultButton(), box->button(song->unsaved() ? QMessageBox::Cancel : QMessageBox::Save));
             box->button(static_cast<QMessageBox::StandardButton>(answer))->click();
             QTRY_VERIFY(!window.findChild<QMessageBox *>());
@@ -103,11 +115,12 @@ private slots:
         QTRY_COMPARE(done, goesOn ? 1 : 0);
         QTRY_VERIFY(!model.isWriting(id));
         guard.giveUp();
-        QCOMPARE(model.unsavedIds().isEmpty(), goesOn);
+        QCOMPARE((typed() + model.unsavedIds()).isEmpty(), goesOn && action != RemoveAnother);
+        QVERIFY(isTyped || answers != QVector<int>{QMessageBox::Cancel}); // what was not confirmed still is not
         MediaFileTags tags;
         QCOMPARE(tags.read(file), trouble != Gone);
         QTEST(tags.value("artist"_s), "stored");
-        QCOMPARE(tags.value("lyrics"_s), trouble == Changed ? "theirs"_s : QString());
+        QCOMPARE(tags.value("lyrics"_s), trouble == Changed || trouble == NotDeleted ? "theirs"_s : QString());
     }
 
 private:
@@ -115,11 +128,16 @@ private:
     {
         ModelItem *song = model.itemAt(0);
         const QString file = song->url().toLocalFile();
+        if (trouble == NotDeleted) {
+            song->setEditedLyricsTag("old"_s);
+            QVERIFY(model.writeTags(song->id()));
+            QTRY_VERIFY(!model.isWriting(song->id()));
+        }
         if (trouble == Gone) {
             QVERIFY(QFile::remove(file));
-        } else if (trouble == Changed) {
+        } else if (trouble != None) {
             QCOMPARE(tags::updateTags(file, {{}, {}, "theirs"_s}, {}), tags::UpdateResult::Saved);
-            song->setEditedLyricsTag("mine"_s);
+            song->setEditedLyricsTag(trouble == Changed ? "mine"_s : QString());
             QVERIFY(model.writeTags(song->id())); // the user is told; another save of these would replace theirs
             QTRY_VERIFY(song->unsaved());
         }
