@@ -1821,13 +1821,13 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Los cambios de una canción no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde los detalles.</translation>
+        <translation>Los cambios de una canción no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde el panel de la derecha.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Los cambios de %n canción no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde los detalles.</numerusform>
-            <numerusform>Los cambios de %n canciones no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde los detalles.</numerusform>
+            <numerusform>Los cambios de %n canción no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde el panel de la derecha.</numerusform>
+            <numerusform>Los cambios de %n canciones no se pudieron conservar en ningún sitio: hay que copiarlos ahora desde el panel de la derecha.</numerusform>
         </translation>
     </message>
     <message>

@@ -1821,13 +1821,13 @@ Voulez-vous le supprimer quand même ?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Les modifications d’une chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</translation>
+        <translation>Les modifications d’une chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis le volet de droite.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Les modifications de %n chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
-            <numerusform>Les modifications de %n chansons n’ont pu être conservées nulle part : copiez-les maintenant depuis les détails.</numerusform>
+            <numerusform>Les modifications de %n chanson n’ont pu être conservées nulle part : copiez-les maintenant depuis le volet de droite.</numerusform>
+            <numerusform>Les modifications de %n chansons n’ont pu être conservées nulle part : copiez-les maintenant depuis le volet de droite.</numerusform>
         </translation>
     </message>
     <message>

@@ -716,12 +716,12 @@ Verificare che il nome della cartella sia corretto.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete &apos;%1&apos;?</source>
-        <translation>Eliminare davvero «%1»?</translation>
+        <translation>Eliminare davvero “%1”?</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is write protected.
 Do you want to delete it anyway?</source>
-        <translation>«%1» è protetto da scrittura.
+        <translation>“%1” è protetto da scrittura.
 Eliminarlo comunque?</translation>
     </message>
     <message>
@@ -1821,13 +1821,13 @@ Eliminarlo comunque?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Le modifiche a un brano non si sono potute conservare da nessuna parte: copiarle ora dai dettagli.</translation>
+        <translation>Le modifiche a un brano non si sono potute conservare da nessuna parte: copiarle ora dal pannello a destra.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Le modifiche a %n brano non si sono potute conservare da nessuna parte: copiarle ora dai dettagli.</numerusform>
-            <numerusform>Le modifiche a %n brani non si sono potute conservare da nessuna parte: copiarle ora dai dettagli.</numerusform>
+            <numerusform>Le modifiche a %n brano non si sono potute conservare da nessuna parte: copiarle ora dal pannello a destra.</numerusform>
+            <numerusform>Le modifiche a %n brani non si sono potute conservare da nessuna parte: copiarle ora dal pannello a destra.</numerusform>
         </translation>
     </message>
     <message>

@@ -1839,14 +1839,14 @@ Czy mimo to usunąć?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Zmian w jednym utworze nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</translation>
+        <translation>Zmian w jednym utworze nie można nigdzie zachować: należy je teraz skopiować z panelu po prawej.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Zmian w %n utworze nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
-            <numerusform>Zmian w %n utworach nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
-            <numerusform>Zmian w %n utworach nie można nigdzie zachować: należy je teraz skopiować ze szczegółów.</numerusform>
+            <numerusform>Zmian w %n utworze nie można nigdzie zachować: należy je teraz skopiować z panelu po prawej.</numerusform>
+            <numerusform>Zmian w %n utworach nie można nigdzie zachować: należy je teraz skopiować z panelu po prawej.</numerusform>
+            <numerusform>Zmian w %n utworach nie można nigdzie zachować: należy je teraz skopiować z panelu po prawej.</numerusform>
         </translation>
     </message>
     <message>

@@ -1821,13 +1821,13 @@ Deseja excluir mesmo assim?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>As alterações de uma música não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</translation>
+        <translation>As alterações de uma música não puderam ser guardadas em lugar nenhum: copie-as agora do painel à direita.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>As alterações de %n música não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</numerusform>
-            <numerusform>As alterações de %n músicas não puderam ser guardadas em lugar nenhum: copie-as agora dos detalhes.</numerusform>
+            <numerusform>As alterações de %n música não puderam ser guardadas em lugar nenhum: copie-as agora do painel à direita.</numerusform>
+            <numerusform>As alterações de %n músicas não puderam ser guardadas em lugar nenhum: copie-as agora do painel à direita.</numerusform>
         </translation>
     </message>
     <message>

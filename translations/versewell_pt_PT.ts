@@ -1821,13 +1821,13 @@ Eliminar mesmo assim?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>As alterações a uma música não puderam ser conservadas em lado nenhum: é preciso copiá-las agora dos detalhes.</translation>
+        <translation>As alterações a uma música não puderam ser conservadas em lado nenhum: é preciso copiá-las agora do painel à direita.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>As alterações a %n música não puderam ser conservadas em lado nenhum: é preciso copiá-las agora dos detalhes.</numerusform>
-            <numerusform>As alterações a %n músicas não puderam ser conservadas em lado nenhum: é preciso copiá-las agora dos detalhes.</numerusform>
+            <numerusform>As alterações a %n música não puderam ser conservadas em lado nenhum: é preciso copiá-las agora do painel à direita.</numerusform>
+            <numerusform>As alterações a %n músicas não puderam ser conservadas em lado nenhum: é preciso copiá-las agora do painel à direita.</numerusform>
         </translation>
     </message>
     <message>
