@@ -1821,13 +1821,13 @@ Möchten Sie es trotzdem löschen?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Die Änderungen an einem Song konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</translation>
+        <translation>Die Änderungen an einem Song konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus dem Bereich rechts.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>Die Änderungen an %n Song konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</numerusform>
-            <numerusform>Die Änderungen an %n Songs konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus den Details.</numerusform>
+            <numerusform>Die Änderungen an %n Song konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus dem Bereich rechts.</numerusform>
+            <numerusform>Die Änderungen an %n Songs konnten nirgends aufbewahrt werden: Kopieren Sie sie jetzt aus dem Bereich rechts.</numerusform>
         </translation>
     </message>
     <message>

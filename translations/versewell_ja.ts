@@ -1803,12 +1803,12 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>1 曲の変更をどこにも保管できませんでした。今すぐ詳細からコピーしてください。</translation>
+        <translation>1 曲の変更をどこにも保管できませんでした。今すぐ右側のパネルからコピーしてください。</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>%n 曲の変更をどこにも保管できませんでした。今すぐ詳細からコピーしてください。</numerusform>
+            <numerusform>%n 曲の変更をどこにも保管できませんでした。今すぐ右側のパネルからコピーしてください。</numerusform>
         </translation>
     </message>
     <message>

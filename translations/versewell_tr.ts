@@ -1803,12 +1803,12 @@ Yine de silinsin mi?</translation>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>Bir şarkıdaki değişiklikler hiçbir yere saklanamadı: Şimdi ayrıntılardan kopyalayın.</translation>
+        <translation>Bir şarkıdaki değişiklikler hiçbir yere saklanamadı: Şimdi sağdaki bölmeden kopyalayın.</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>%n şarkıdaki değişiklikler hiçbir yere saklanamadı: Şimdi ayrıntılardan kopyalayın.</numerusform>
+            <numerusform>%n şarkıdaki değişiklikler hiçbir yere saklanamadı: Şimdi sağdaki bölmeden kopyalayın.</numerusform>
         </translation>
     </message>
     <message>

@@ -1803,12 +1803,12 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>The changes to one song could be kept nowhere: copy them from the details now.</source>
-        <translation>1 首歌曲的更改无处保留：请立即从详细信息中复制。</translation>
+        <translation>1 首歌曲的更改无处保留：请立即从右侧面板中复制。</translation>
     </message>
     <message numerus="yes">
         <source>The changes to %n songs could be kept nowhere: copy them from the details now.</source>
         <translation>
-            <numerusform>%n 首歌曲的更改无处保留：请立即从详细信息中复制。</numerusform>
+            <numerusform>%n 首歌曲的更改无处保留：请立即从右侧面板中复制。</numerusform>
         </translation>
     </message>
     <message>
