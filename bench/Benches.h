@@ -12,15 +12,15 @@ void benchAdding();
 // Rows selected, hidden, shown and removed in the window, scattered and all at once, beside a pass over a vector of
 // flags.
 void benchSelecting();
-// The start of the program to its first frame, with an empty and with a long list, beside that of a program that shows
-// a bare window with a scene.
+// The start of the program to its first frame and to the first rows of its list, with an empty and with a long list,
+// beside that of a program that shows a bare window with a scene.
 void benchStarting();
 // A tree of folders scanned, beside `find` on the same tree.
 void benchScanning();
 // How long the event loop stands still while songs with large covers load and the list is scrolled.
 void benchScrolling();
 // Songs searched on six sites: slow ones, beside the bound that ten songs at a time and six connections to a host set,
-// and fast ones, beside a bare loop of the same requests.
+// and fast ones, beside a bare loop of the same requests; and how long it takes until what was found is stored too.
 void benchSearching();
 // Lyrics stored in songs as the list does it, on checked copies, beside a bare TagLib save in place and a sync.
 void benchSaving();

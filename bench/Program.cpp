@@ -24,18 +24,12 @@ void Program::showWindow()
 {
     window = std::make_unique<MainWindow>(MainWindow::Parts{&model, &proxy, &scanner, &settings, &palette, &app});
     paintOnce(window.get());
-    turnUntil([this] { return findSongList() != nullptr; }); // it is made after the first frame
-}
-
-QQuickItem *Program::findSongList() const
-{
-    const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
-    return scene->rootObject()->findChild<QQuickItem *>(QStringLiteral("songList"));
+    turnUntil([this] { return findSongList(window.get()) != nullptr; });
 }
 
 QQuickItem *Program::songList() const
 {
-    QQuickItem *list = findSongList();
+    QQuickItem *list = findSongList(window.get());
     if (!list)
         qFatal("the scene has no list");
     return list;
@@ -47,7 +41,18 @@ void Program::load(const QList<QUrl> &songs)
     turnUntil([&] { return model.rowCount() >= songs.size() && model.itemAt(songs.size() - 1)->tagsLoaded(); });
 }
 
+QQuickItem *findSongList(const QMainWindow *window)
+{
+    const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
+    return scene->rootObject()->findChild<QQuickItem *>(QStringLiteral("songList"));
+}
+
 void paintOnce(QMainWindow *window)
+{
+    paintOnce(window, [] { return true; });
+}
+
+void paintOnce(QMainWindow *window, const std::function<bool()> &isThere)
 {
     // A paint before the scene was rendered shows nothing of it.
     struct PaintWatch : QObject
@@ -63,7 +68,17 @@ void paintOnce(QMainWindow *window)
     auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
     scene->installEventFilter(&watch);
     QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch,
-                     [&watch] { watch.isRendered = true; });
+                     [&] { watch.isRendered = watch.isRendered || isThere(); });
     window->show();
     turnUntil([&watch] { return watch.isPainted; });
+}
+
+void renderOnce(const QMainWindow *window, const std::function<bool()> &isThere)
+{
+    const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
+    bool isRendered = false;
+    const QObject watch;
+    QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch,
+                     [&] { isRendered = isRendered || isThere(); });
+    turnUntil([&isRendered] { return isRendered; });
 }

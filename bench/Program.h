@@ -7,6 +7,7 @@
 #include "settings/Settings.h"
 #include "ui/AppPalette.h"
 
+#include <functional>
 #include <memory>
 
 class LyricsSearch;
@@ -33,11 +34,13 @@ struct Program
     AppPalette palette;
     QObject app;
     std::unique_ptr<MainWindow> window;
-
-private:
-    // Null before the first frame was painted.
-    [[nodiscard]] QQuickItem *findSongList() const;
 };
 
 // Shows a window whose central widget is a QQuickWidget, and returns when a frame of its scene was painted.
 void paintOnce(QMainWindow *window);
+// The same for a frame whose scene held what `isThere` asks for when it was rendered.
+void paintOnce(QMainWindow *window, const std::function<bool()> &isThere);
+// Returns when a frame was rendered whose scene held that: one that looks like the last one is not painted.
+void renderOnce(const QMainWindow *window, const std::function<bool()> &isThere);
+// The list in such a window; null before it was made, which is after the first frame.
+[[nodiscard]] QQuickItem *findSongList(const QMainWindow *window);
