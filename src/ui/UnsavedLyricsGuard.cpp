@@ -5,6 +5,8 @@
 #include "ui/QuestionBox.h"
 #include "ui/WritesWait.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 // A question names so many songs, and counts the others.
@@ -59,24 +61,28 @@ void UnsavedLyricsGuard::giveUp()
     m_model->giveUpUnsaved(m_givenUp);
 }
 
+UnsavedLyricsGuard::Songs UnsavedLyricsGuard::notGivenUp(const Action &action)
+{
+    const QSet<quint16> givenUp(action.givenUp.begin(), action.givenUp.end());
+    return those(action.songs(), [&givenUp](quint16 id) { return !givenUp.contains(id); });
+}
+
 // Songs that are being written are waited for, as that may store their texts. Those that are written only after that
 // are of searches that ended meanwhile: at the end of the program they are no more unsaved than others that are
 // searched for, but a song that is removed is waited for again.
 void UnsavedLyricsGuard::before(const Action &action)
 {
-    const Songs writtenFirst = those(action.songs(), [this](quint16 id) { return m_model->isWriting(id); });
-    std::function<Songs()> waitedFor = action.songs;
-    if (!action.removes)
-        waitedFor = [writtenFirst] {
-            return writtenFirst;
-        };
+    const Songs writtenFirst = those(notGivenUp(action), [this](quint16 id) { return m_model->isWriting(id); });
+    const auto waitedFor = [action, writtenFirst] {
+        return action.removes ? notGivenUp(action) : writtenFirst;
+    };
     afterWrites(waitedFor, [this, action, writtenFirst] {
-        const Losses losses = lossesOf(those(action.songs(), [this, &action, &writtenFirst](quint16 id) {
+        const Losses losses = lossesOf(those(notGivenUp(action), [this, &action, &writtenFirst](quint16 id) {
             const bool isWrittenSince = m_model->isWriting(id) && !writtenFirst.contains(id);
             return action.removes || !isWrittenSince || m_model->item(id)->unsaved();
         }));
         if (losses.songs.isEmpty())
-            action.run({});
+            action.run(action.givenUp);
         else
             askBefore(action, losses);
     });
@@ -91,7 +97,9 @@ void UnsavedLyricsGuard::askBefore(const Action &action, const Losses &losses)
                 m_model->writeTagsUnlessForeign(id);
             before(action);
         } else if (answer == QMessageBox::Discard) {
-            action.run(unsaved);
+            Action rest = action;
+            rest.givenUp += unsaved;
+            before(rest); // others may have been written behind the question
         }
     });
 }

@@ -56,6 +56,7 @@ private:
         std::function<Songs()> songs; // that it takes from the list, or the program's end does
         bool removes;
         std::function<void(const Songs &givenUp)> run;
+        Songs givenUp = {}; // so far
     };
     // How many songs lose what, and which ones they are.
     struct Losses
@@ -66,6 +67,7 @@ private:
         int deletions = 0;
     };
 
+    [[nodiscard]] static Songs notGivenUp(const Action &action);
     void before(const Action &action);
     void askBefore(const Action &action, const Losses &losses);
     void afterWrites(const std::function<Songs()> &songs, std::function<void()> action);

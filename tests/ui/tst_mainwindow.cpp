@@ -732,6 +732,22 @@ private slots:
         QVERIFY(!question());
     }
 
+    void aWriteThatBeginsBehindTheQuestionIsWaitedFor()
+    {
+        addCopies(2);
+        song(0)->setArtistTag("new"_s);
+        action("actionClearList")->trigger();
+        holdWrites();
+        QVERIFY(QFile::remove(song(1)->url().toLocalFile()));
+        song(1)->setArtistTag("found"_s);
+        QVERIFY(m_model->writeTags(song(1)->id()));
+        answer(QMessageBox::Discard);
+        QCOMPARE(m_model->rowCount(), 2);
+        m_disk.release();
+        answer(QMessageBox::Discard);
+        QCOMPARE(m_model->rowCount(), 0);
+    }
+
     void rowsAreSelectedHiddenAndRemovedByKey()
     {
         listSamples({"lyrics.mp3", "untagged.mp3", "plain.flac"});
@@ -837,7 +853,7 @@ private:
     // Answers the open question, after which the next one is there, or the window has the keyboard again.
     void answer(QMessageBox::StandardButton button)
     {
-        QTRY_VERIFY(question());
+        QTRY_VERIFY(question() && question()->button(button));
         const QPointer<QMessageBox> answered = question();
         answered->button(button)->click();
         QTRY_VERIFY(!answered);
