@@ -3,7 +3,6 @@
 
 #include "ui/AppPalette.h"
 #include "ui/LateIcon.h"
-#include "ui/Legibility.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -23,6 +22,10 @@ static constexpr int tones = 10;
 static constexpr double starkContrast = 20;
 static constexpr double starkOutlineStrength = 0.6;
 static constexpr double disabledStrength = 0.5;
+// Fusion's box to check, and the resolution that it draws for, in pixels and in dots per inch.
+static constexpr int drawnIndicator = 14;
+static constexpr int drawnResolution = 96;
+static constexpr double inchesInMeter = 1 / 0.0254;
 
 // Of what is disabled as well.
 static QColor lineColor(const QPalette &palette, double strength)
@@ -79,6 +82,36 @@ static bool isSeparator(const QStyleOption *option)
     return item && item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty();
 }
 
+// What Fusion measures an arrow by is the resolution of the text. Where that is large on a usual screen, it is made to
+// believe in a denser one; the text of these controls is not drawn with it.
+static void enlarge(QStyleOption &option, qreal textScale)
+{
+    const int resolution = qRound(drawnResolution * textScale);
+    if (textScale <= 1 || resolution <= option.fontMetrics.fontDpi())
+        return;
+    QImage page(1, 1, QImage::Format_Mono);
+    page.setDotsPerMeterX(qRound(resolution * inchesInMeter));
+    page.setDotsPerMeterY(qRound(resolution * inchesInMeter));
+    option.fontMetrics = QFontMetrics(QApplication::font(), &page);
+}
+
+// Calls with a copy of the option that is enlarged when it is a spin box's or a combo box's, else with the option.
+template<typename Option, typename Call>
+static auto withLargeArrows(const Option *option, qreal textScale, Call call)
+{
+    if (const auto *box = qstyleoption_cast<const QStyleOptionSpinBox *>(option)) {
+        QStyleOptionSpinBox large(*box);
+        enlarge(large, textScale);
+        return call(static_cast<const Option *>(&large));
+    }
+    if (const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option)) {
+        QStyleOptionComboBox large(*box);
+        enlarge(large, textScale);
+        return call(static_cast<const Option *>(&large));
+    }
+    return call(option);
+}
+
 MenuStyle::MenuStyle()
     : QProxyStyle(QStringLiteral("fusion"))
 {
@@ -99,6 +132,37 @@ void MenuStyle::polish(QPalette &palette)
         for (const auto role : {QPalette::Link, QPalette::LinkVisited})
             palette.setColor(group, role, readable(palette.color(group, role), palette));
     }
+}
+
+int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const qreal textScale = m_legibility.textScale();
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return textScale > 1 ? std::max(usual, qRound(drawnIndicator * textScale)) : usual;
+    default:
+        return usual;
+    }
+}
+
+QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                                  const QWidget *widget) const
+{
+    return withLargeArrows(option, m_legibility.textScale(), [&](const QStyleOption *large) {
+        return QProxyStyle::sizeFromContents(type, large, contents, widget);
+    });
+}
+
+QRect MenuStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                                const QWidget *widget) const
+{
+    return withLargeArrows(option, m_legibility.textScale(), [&](const QStyleOptionComplex *large) {
+        return QProxyStyle::subControlRect(control, large, part, widget);
+    });
 }
 
 void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -126,7 +190,9 @@ void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
 void MenuStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                    const QWidget *widget) const
 {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    withLargeArrows(option, m_legibility.textScale(), [&](const QStyleOptionComplex *large) {
+        QProxyStyle::drawComplexControl(control, large, painter, widget);
+    });
     const bool isField = control == CC_ComboBox || control == CC_SpinBox;
     if (isField && isStark(option->palette) && !(option->state & State_HasFocus))
         drawOutline(option, painter);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QStyleOption>
 #include <QTest>
 
@@ -21,6 +22,7 @@ private slots:
     void linksAreRead();
     void outlinesAreSeenInBlackAndWhite_data();
     void outlinesAreSeenInBlackAndWhite();
+    void boxesAndArrowsGrowWithTheText();
 };
 
 void tst_MenuStyle::initTestCase()
@@ -102,6 +104,43 @@ void tst_MenuStyle::outlinesAreSeenInBlackAndWhite()
             widget == &box ? box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box) : widget->rect();
         const QColor edge = widget->grab().toImage().pixelColor(area.left(), area.center().y());
         QVERIFY2(Legibility::contrast(edge, ground) >= 3, widget->metaObject()->className());
+    }
+}
+
+// The area that the arrow upwards of a spin box covers.
+static int arrowInk(QSpinBox &box)
+{
+    QStyleOptionSpinBox option;
+    option.initFrom(&box);
+    option.subControls = QStyle::SC_All;
+    const QRect up = box.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &box);
+    const QImage picture = box.grab(up.adjusted(2, 2, -2, -2)).toImage();
+    int ink = 0;
+    for (int place = 0; place < picture.width() * picture.height(); ++place)
+        ink += picture.pixelColor(place % picture.width(), place / picture.width()).lightness() < 130;
+    return ink;
+}
+
+// Fusion has them in one size.
+void tst_MenuStyle::boxesAndArrowsGrowWithTheText()
+{
+    QApplication::setAttribute(Qt::AA_Use96Dpi, false); // as in the program; tests have it
+    QApplication::setPalette(QPalette(QColor(0xef, 0xf0, 0xf1)));
+    QFont font = QApplication::font();
+    int usualInk = 0;
+    for (const int scale : {1, 2}) {
+        font.setPixelSize(12 * scale);
+        QApplication::setFont(font);
+        QSpinBox box;
+        box.setMaximum(200);
+        box.resize(box.sizeHint());
+        for (const auto metric : {QStyle::PM_IndicatorWidth, QStyle::PM_ExclusiveIndicatorHeight})
+            QCOMPARE(QApplication::style()->pixelMetric(metric), 14 * scale);
+        const int ink = arrowInk(box);
+        QVERIFY2(scale == 1 ? ink > 0 : ink > 3 * usualInk, qPrintable(QString::number(ink)));
+        usualInk = ink;
+        const auto *field = box.findChild<QLineEdit *>();
+        QVERIFY(field->width() >= field->fontMetrics().horizontalAdvance(QStringLiteral("200")));
     }
 }
 
