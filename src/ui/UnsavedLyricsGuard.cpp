@@ -41,9 +41,12 @@ void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
             const ModelItem *song = m_model->item(id);
             return song->namesEdited() || song->unsaved() || typed.contains(id);
         });
+        const auto byRow = [this](quint16 a, quint16 b) {
+            return m_model->rowOf(a) < m_model->rowOf(b);
+        };
         for (const quint16 id : typed) {
             if (m_model->item(id) && !found.contains(id))
-                found.append(id);
+                found.insert(std::lower_bound(found.begin(), found.end(), id, byRow), id);
         }
         return found;
     };

@@ -82,6 +82,7 @@ Item {
             field.subject = otherSong;
             gone.destroy();
             wait(0);
+            compare(field.typedIds(), [song.id]);
             field.confirmAmong([2, 3]);
             compare(song.title, "Old");
             keyClick(Qt.Key_O);
