@@ -15,10 +15,7 @@ public:
 
     [[nodiscard]] QString name() const override { return endpointKey(siteEndpoint); }
     [[nodiscard]] QString siteUrl() const override { return endpointBase(siteEndpoint).toString(); }
-    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override
-    {
-        return new Site(network(), parent);
-    }
+    [[nodiscard]] LyricsProvider *clone(QObject *parent) const override { return new Site(network(), parent); }
 
 protected:
     // The first request for artist() and title().
