@@ -65,7 +65,8 @@ void SongRemoval::removeWithLyrics()
         removeSongs(remaining(ids, hasLyrics), [] {});
     };
     const ModelItem *edited = m_edit->song();
-    edited &&hasLyrics(*edited) ? m_editGuard->before(remove) : remove();
+    const bool removesEdited = edited != nullptr && hasLyrics(*edited);
+    removesEdited ? m_editGuard->before(remove) : remove();
 }
 
 QVector<quint16> SongRemoval::idsWithLyrics() const
