@@ -59,16 +59,18 @@ double median(std::vector<double> values)
     return values.at(values.size() / 2);
 }
 
-Pair medianOfPairs(int rounds, const std::function<void()> &work, const std::function<void()> &reference,
-                   const Clock &clock)
+Pair medianRound(int rounds, const std::function<double()> &work, const std::function<double()> &reference)
 {
-    std::vector<double> ofWork;
-    std::vector<double> ofReference;
+    std::vector<Pair> pairs;
     for (int round = 0; round < rounds; ++round) {
-        ofReference.push_back(clock(reference));
-        ofWork.push_back(clock(work));
+        const double before = reference();
+        const double time = work();
+        pairs.push_back({time, (before + reference()) / 2});
     }
-    return {median(ofWork), median(ofReference)};
+    std::sort(pairs.begin(), pairs.end(), [](const Pair &first, const Pair &second) {
+        return first.work * second.reference < second.work * first.reference;
+    });
+    return pairs.at(pairs.size() / 2);
 }
 
 int benchSize(int size)

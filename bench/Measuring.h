@@ -16,16 +16,15 @@
 // has started and waited for: what else a busy machine does is not counted.
 [[nodiscard]] double processorSecondsOf(const std::function<void()> &work);
 
-// `work` and `reference` in turns, so that what else the machine does hits both: the medians of so many rounds, by the
-// time that `clock` measures.
+// `work` between two runs of `reference`, so many times: the round of the median ratio, with the mean of its two
+// references. A machine that grows slower or faster meanwhile hits both. Each is called for its time in seconds.
 struct Pair
 {
     double work = 0;
     double reference = 0;
 };
-using Clock = std::function<double(const std::function<void()> &)>;
-[[nodiscard]] Pair medianOfPairs(int rounds, const std::function<void()> &work, const std::function<void()> &reference,
-                                 const Clock &clock = processorSecondsOf);
+[[nodiscard]] Pair medianRound(int rounds, const std::function<double()> &work,
+                               const std::function<double()> &reference);
 
 [[nodiscard]] double median(std::vector<double> values);
 

@@ -161,14 +161,10 @@ void printPage(const LargePage &page, const std::function<double(const QString &
 {
     const QString large = page.text(largest);
     const QString smaller = page.text(largest / times);
-    std::vector<double> ofLarge;
-    std::vector<double> ofSmaller;
-    while (ofLarge.size() < 9) {
-        ofSmaller.push_back(secondsOfPage(smaller));
-        ofLarge.push_back(secondsOfPage(large));
-    }
-    BenchTable::printRow(QStringLiteral("%1 / 256 KiB of it").arg(QLatin1String(page.name)), largest, median(ofLarge),
-                         median(ofSmaller), 0, 0, {mostTimes, 0, mostMilliseconds});
+    const Pair pair = medianRound(
+        15, [&] { return secondsOfPage(large); }, [&] { return secondsOfPage(smaller); });
+    BenchTable::printRow(QStringLiteral("%1 / 256 KiB of it").arg(QLatin1String(page.name)), largest, pair.work,
+                         pair.reference, 0, 0, {mostTimes, 0, mostMilliseconds});
 }
 
 } // namespace

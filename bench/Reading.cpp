@@ -71,13 +71,14 @@ int readThroughModel(const QList<QUrl> &urls)
     return covers;
 }
 
-// One after the other: so many files even out what else the machine does.
+// Once: so many files even out what else the machine does.
 Pair readBoth(const QList<QUrl> &urls)
 {
     int throughModel = 0;
     int bare = 0;
-    const Pair times = medianOfPairs(
-        1, [&] { throughModel = readThroughModel(urls); }, [&] { bare = readBare(urls); });
+    const Pair times = medianRound(
+        1, [&] { return processorSecondsOf([&] { throughModel = readThroughModel(urls); }); },
+        [&] { return processorSecondsOf([&] { bare = readBare(urls); }); });
     if (throughModel != bare || bare == 0)
         qFatal("%d covers instead of %d", throughModel, bare);
     return times;

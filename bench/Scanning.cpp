@@ -78,8 +78,9 @@ void benchScanning()
         const QTemporaryDir root;
         makeTree(root.path(), files);
         findFiles(root.path()); // both then find the folders in the cache
-        const Pair times = medianOfPairs(
-            5, [&] { scan(root.path(), files / 5 * 4); }, [&] { findFiles(root.path()); });
+        const Pair times = medianRound(
+            5, [&] { return processorSecondsOf([&] { scan(root.path(), files / 5 * 4); }); },
+            [&] { return processorSecondsOf([&] { findFiles(root.path()); }); });
         BenchTable::printRow(name, files, times.work, times.reference, fewer, 4,
                              {2, fewer > 0 ? BenchTable::inStep : 0});
         fewer = times.work;
