@@ -20,24 +20,49 @@ constexpr qint64 stallMs = 500;
 struct DelayedFileCheck::Work
 {
     mutable QMutex mutex;
+    QStringList entries; // until urls are made of them
     QList<QUrl> urls;
     int next = 0; // index of the url that is being looked at
     int taken = 0;
     Found found;
     QElapsedTimer sinceLook;
+    bool isGone = false; // the check has
 
     void run(const Look &look)
     {
+        readEntries();
         QUrl url;
         while (begin(url))
             end(url, look(url));
     }
 
+    [[nodiscard]] static QList<QUrl> urlsOf(const QStringList &entries)
+    {
+        QList<QUrl> urls;
+        urls.reserve(entries.size());
+        for (const QString &entry : entries) {
+            const QUrl url = entry.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(entry) : QUrl(entry);
+            if (url.isValid())
+                urls.append(url);
+        }
+        return urls;
+    }
+
 private:
+    void readEntries()
+    {
+        QMutexLocker lock(&mutex);
+        const QStringList read = entries;
+        lock.unlock();
+        const QList<QUrl> made = urlsOf(read);
+        lock.relock();
+        entries.clear();
+        urls += made;
+    }
     bool begin(QUrl &url)
     {
         const QMutexLocker lock(&mutex);
-        if (next == urls.size())
+        if (isGone || next == urls.size())
             return false;
         url = urls.at(next);
         sinceLook.start();
@@ -46,8 +71,8 @@ private:
     void end(const QUrl &url, Kind kind)
     {
         const QMutexLocker lock(&mutex);
-        if (next == urls.size())
-            return; // the check has gone
+        if (isGone)
+            return;
         ++next;
         if (kind == Kind::File)
             found.files.append(url);
@@ -59,18 +84,31 @@ private:
 };
 
 DelayedFileCheck::DelayedFileCheck(const QList<QUrl> &urls, const Look &look)
-    : m_work(std::make_shared<Work>())
+    : m_look(look)
+    , m_work(std::make_shared<Work>())
 {
     m_work->urls = urls;
+}
+
+DelayedFileCheck::DelayedFileCheck(const QStringList &entries, const Look &look)
+    : m_look(look)
+    , m_work(std::make_shared<Work>())
+{
+    m_work->entries = entries;
+}
+
+void DelayedFileCheck::start()
+{
+    if (std::exchange(m_isStarted, true))
+        return;
     m_work->sinceLook.start();
-    std::thread([work = m_work, look] { work->run(look); }).detach();
+    std::thread([work = m_work, look = m_look] { work->run(look); }).detach();
 }
 
 DelayedFileCheck::~DelayedFileCheck()
 {
     const QMutexLocker lock(&m_work->mutex);
-    m_work->urls.clear();
-    m_work->next = 0;
+    m_work->isGone = true;
 }
 
 DelayedFileCheck::Found DelayedFileCheck::take()
@@ -83,13 +121,13 @@ DelayedFileCheck::Found DelayedFileCheck::take()
 QList<QUrl> DelayedFileCheck::untaken() const
 {
     const QMutexLocker lock(&m_work->mutex);
-    return m_work->urls.mid(m_work->taken);
+    return m_work->urls.mid(m_work->taken) + Work::urlsOf(m_work->entries);
 }
 
 bool DelayedFileCheck::isAllTaken() const
 {
     const QMutexLocker lock(&m_work->mutex);
-    return m_work->taken == m_work->urls.size();
+    return m_work->entries.isEmpty() && m_work->taken == m_work->urls.size();
 }
 
 bool DelayedFileCheck::isStalled() const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QStringList>
 #include <QUrl>
 
 #include <functional>
@@ -27,12 +28,15 @@ public:
         QList<QUrl> away;    // see isAway()
     };
 
-    // Begins.
     explicit DelayedFileCheck(const QList<QUrl> &urls, const Look &look = kindOf);
+    // Of texts, of which the thread makes urls: absolute paths and urls. Others are left out.
+    explicit DelayedFileCheck(const QStringList &entries, const Look &look = kindOf);
     ~DelayedFileCheck();
     DelayedFileCheck(const DelayedFileCheck &) = delete;
     DelayedFileCheck &operator=(const DelayedFileCheck &) = delete;
 
+    // Begins, once.
+    void start();
     // What was found since the last call.
     [[nodiscard]] Found take();
     // The urls of which nothing was taken yet.
@@ -57,5 +61,7 @@ public:
 private:
     struct Work;
 
+    const Look m_look;
     const std::shared_ptr<Work> m_work;
+    bool m_isStarted = false;
 };

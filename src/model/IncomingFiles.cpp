@@ -7,6 +7,8 @@
 
 // How many files come out in one go: some ten milliseconds of work for the list.
 constexpr int blockSize = 1000;
+// So long the rows of the first block have to reach the screen before others come.
+constexpr std::chrono::milliseconds paintTime(20);
 // How often what was found is fetched.
 constexpr std::chrono::milliseconds fetchInterval(20);
 // So many folders of one job may fail to answer before the others have to wait for them.
@@ -14,18 +16,6 @@ constexpr std::size_t mostChecks = 32;
 
 // Whoever waits for the kept list is told after so long that it may take a while.
 constexpr std::chrono::seconds restorePatience(1);
-
-static QList<QUrl> urlsOf(const QStringList &entries)
-{
-    QList<QUrl> urls;
-    urls.reserve(entries.size());
-    for (const QString &entry : entries) {
-        const QUrl url = entry.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(entry) : QUrl(entry);
-        if (url.isValid())
-            urls.append(url);
-    }
-    return urls;
-}
 
 // Folders side by side are mostly on one disk: when the one of an album does not answer, those of the same collection
 // are looked at last.
@@ -52,8 +42,16 @@ IncomingFiles::IncomingFiles(const DelayedFileCheck::Look &look, QObject *parent
 
 void IncomingFiles::keep(const QStringList &entries)
 {
-    m_kept = entries;
-    setRestoring(!entries.isEmpty());
+    if (entries.isEmpty())
+        return;
+    m_kept = std::make_unique<DelayedFileCheck>(entries, m_look);
+    setRestoring(true);
+}
+
+void IncomingFiles::lookAtKept()
+{
+    if (m_kept)
+        m_kept->start();
 }
 
 void IncomingFiles::restore()
@@ -65,9 +63,10 @@ void IncomingFiles::restore()
         add(found.files, isFirst);
         setRestoring(false);
     };
-    begin(urlsOf(std::exchange(m_kept, {})), use, true);
-    if (m_jobs.empty())
-        setRestoring(false);
+    if (!m_kept)
+        return;
+    begin(std::move(m_kept), use, true);
+    takeFound();
     QTimer::singleShot(restorePatience, this, [this] { setRestoring(false); });
 }
 
@@ -81,15 +80,15 @@ void IncomingFiles::setRestoring(bool restoring)
 
 void IncomingFiles::look(const QList<QUrl> &urls, const Use &use)
 {
-    begin(urls, use, false);
+    if (!urls.isEmpty())
+        begin(std::make_unique<DelayedFileCheck>(urls, m_look), use, false);
 }
 
-void IncomingFiles::begin(const QList<QUrl> &urls, const Use &use, bool isKept)
+void IncomingFiles::begin(std::unique_ptr<DelayedFileCheck> check, const Use &use, bool isKept)
 {
-    if (urls.isEmpty())
-        return;
+    check->start();
     Job job;
-    job.checks.push_back(std::make_unique<DelayedFileCheck>(urls, m_look));
+    job.checks.push_back(std::move(check));
     job.use = use;
     job.isKept = isKept;
     m_jobs.push_back(std::move(job));
@@ -122,7 +121,7 @@ void IncomingFiles::takeFound()
         m_nextLook.stop();
     for (const Report &report : reports)
         report.use(report.found, report.isFirst);
-    if (m_jobs.empty() && m_kept.isEmpty())
+    if (m_jobs.empty() && !m_kept)
         setRestoring(false); // nothing was left of the list
 }
 
@@ -132,7 +131,7 @@ bool IncomingFiles::isKeptComing() const
         return job.isKept &&
                std::any_of(job.checks.begin(), job.checks.end(), [](const auto &check) { return !check->isStalled(); });
     };
-    return !m_kept.isEmpty() || std::any_of(m_jobs.begin(), m_jobs.end(), isBusy);
+    return m_kept || std::any_of(m_jobs.begin(), m_jobs.end(), isBusy);
 }
 
 IncomingFiles::Found IncomingFiles::takeFrom(Job &job)
@@ -160,11 +159,12 @@ void IncomingFiles::passStalled(Job &job) const
         return;
     putNeighboursLast(others, check.untaken().constFirst());
     job.checks.push_back(std::make_unique<DelayedFileCheck>(others, m_look));
+    job.checks.back()->start();
 }
 
 QList<QUrl> IncomingFiles::waiting() const
 {
-    QList<QUrl> urls = m_known + urlsOf(m_kept);
+    QList<QUrl> urls = m_known + (m_kept ? m_kept->untaken() : QList<QUrl>());
     for (const Job &job : m_jobs) {
         for (const auto &check : job.checks)
             urls += job.isKept ? check->untaken() : QList<QUrl>();
@@ -174,7 +174,7 @@ QList<QUrl> IncomingFiles::waiting() const
 
 void IncomingFiles::clear()
 {
-    m_kept.clear();
+    m_kept.reset();
     setRestoring(false);
     m_jobs.clear();
     m_nextLook.stop();
@@ -194,8 +194,7 @@ void IncomingFiles::emitBlock(bool isFirst)
 {
     const QList<QUrl> files = m_known.mid(0, blockSize);
     m_known.erase(m_known.begin(), m_known.begin() + files.size());
-    const bool areMoreLeft = !m_known.isEmpty();
-    if (areMoreLeft != m_nextBlock.isActive())
-        areMoreLeft ? m_nextBlock.start() : m_nextBlock.stop();
+    const bool isAlone = !m_nextBlock.isActive();
+    m_known.isEmpty() ? m_nextBlock.stop() : m_nextBlock.start(isAlone ? paintTime : std::chrono::milliseconds(0));
     emit block(files, isFirst);
 }

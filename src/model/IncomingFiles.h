@@ -32,7 +32,9 @@ public:
     // Takes a list that was kept across runs, of urls and absolute paths, and waits with it for restore(). Entries that
     // are neither are left out.
     void keep(const QStringList &entries);
-    // Begins to look at the kept list.
+    // Begins to look at the kept list, elsewhere.
+    void lookAtKept();
+    // Lets the kept list come out; of what was found until now, the first block before this returns.
     void restore();
     // Whether files of the kept list may come out at any moment, and none has so far. Not longer than a second after
     // restore(), since a disk that does not answer may never do so.
@@ -68,7 +70,7 @@ private:
         bool hasReported = false;
     };
 
-    void begin(const QList<QUrl> &urls, const Use &use, bool isKept);
+    void begin(std::unique_ptr<DelayedFileCheck> check, const Use &use, bool isKept);
     void takeFound();
     [[nodiscard]] static Found takeFrom(Job &job);
     void passStalled(Job &job) const;
@@ -77,7 +79,7 @@ private:
     void emitBlock(bool isFirst);
 
     const DelayedFileCheck::Look m_look;
-    QStringList m_kept; // until restore()
+    std::unique_ptr<DelayedFileCheck> m_kept; // until restore()
     bool m_isRestoring = false;
     std::vector<Job> m_jobs;
     QTimer m_nextLook; // runs while there are jobs

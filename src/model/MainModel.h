@@ -116,8 +116,9 @@ public:
     // Takes a list that was kept across runs, of urls and absolute paths; once. It counts as part of the list from now
     // on, but becomes rows only after restore(). Entries that are neither are left out.
     void keep(const QStringList &entries) { m_incoming.keep(entries); }
-    // Begins to look at the files of the kept list, elsewhere; they become rows when that is done, so that a disk that
-    // does not answer holds up nothing but its own.
+    // Begins to look at the files of the kept list, elsewhere: a disk that does not answer holds up nothing but its own.
+    void lookAtKept() { m_incoming.lookAtKept(); }
+    // Lets them become rows, each when it was looked at; begins with that if need be.
     void restore() { m_incoming.restore(); }
     // Whether the first rows of the kept list are to be expected at any moment.
     [[nodiscard]] bool isRestoring() const { return m_incoming.isRestoring(); }

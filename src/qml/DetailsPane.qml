@@ -32,7 +32,7 @@ Rectangle {
     readonly property string stateLine: state.line
 
     function makeDetails() {
-        if (song !== null && details.item === null)
+        if (song !== null && details.status === Loader.Null)
             details.setSource("SongDetails.qml", { pane: pane });
     }
 
@@ -86,10 +86,11 @@ Rectangle {
         Accessible.name: text
     }
 
-    // Not before there is a song: a start with an empty list need not wait for it.
+    // Not before there is a song: a start with an empty list need not wait for it. Nor need the first rows of the list.
     Loader {
         id: details
 
+        asynchronous: true
         anchors { fill: parent; margins: Measures.margin }
         onStatusChanged: {
             if (status === Loader.Error)

@@ -134,6 +134,7 @@ void MainWindow::connectSceneSignals()
     connectSignal("leastWidthChanged()", "boundSize()");
     connectSignal("addFilesRequested()", "on_actionAddFile_triggered()");
     connectSignal("addFolderRequested()", "on_actionAddFolder_triggered()");
+    connect(m_scene.get(), &SceneWidget::firstFramePainted, m_parts.mainModel, &MainModel::lookAtKept);
     connect(m_scene.get(), &SceneWidget::firstFrameShown, this, &MainWindow::firstFrameShown);
     connect(m_scene.get(), &SceneWidget::partFailed, this, &MainWindow::scenePartFailed);
     connect(m_scene.get(), &QQuickWidget::sceneGraphError, this,

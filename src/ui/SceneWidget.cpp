@@ -194,6 +194,7 @@ void SceneWidget::endFirstFrame()
     if (!m_isFirstFrame)
         return;
     m_isFirstFrame = false;
+    emit firstFramePainted();
     if (rootObject())
         rootObject()->setProperty("complete", true);
     if (!m_isPartMissing)

@@ -49,6 +49,8 @@ public slots:
     void focusLyrics();
 
 signals:
+    // Right before the scene makes what its first frame did without: time for what can be done elsewhere meanwhile.
+    void firstFramePainted();
     // Once, from the event loop: the first frame is on the screen, or none has come for two seconds, as in a window
     // that starts minimized. The scene is told before this and makes what that frame could do without.
     void firstFrameShown();

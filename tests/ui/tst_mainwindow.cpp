@@ -785,9 +785,15 @@ private slots:
 
 private:
     QQuickWidget *scene() const { return m_window->findChild<QQuickWidget *>(); }
+    // The details of a song are made from the event loop.
     QQuickItem *part(const char *name) const
     {
-        return scene()->rootObject()->findChild<QQuickItem *>(QLatin1String(name));
+        QQuickItem *item = nullptr;
+        const auto isMade = [&] {
+            item = scene()->rootObject()->findChild<QQuickItem *>(QLatin1String(name));
+            return item != nullptr;
+        };
+        return QTest::qWaitFor(isMade) ? item : nullptr;
     }
     QQuickItem *focusItem() const { return scene()->quickWindow()->activeFocusItem(); }
     QString textOf(const char *name) const { return part(name)->property("text").toString(); }
