@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "lyrics/JunkCheck.h"
 
+#include "lyrics/LyricsText.h"
+#include "lyrics/NamedCharacters.h"
+
+#include <QRegularExpression>
 #include <QStringList>
 #include <QStringView>
 
@@ -11,8 +15,10 @@ namespace {
 
 constexpr int mostBytes = 100 * 1000;
 
-// Longer texts hold more than a notice.
-constexpr int longestNotice = 600;
+// A wall, or a page that has something else to say, says so at its beginning.
+constexpr int beginning = 600;
+// Hardly a song has so few characters.
+constexpr int mostOfShort = 250;
 
 // A closing tag alone is the end of a script whose beginning was cut off.
 const std::array<QLatin1String, 6> leftOvers{QLatin1String("<script"), QLatin1String("</script"),
@@ -41,6 +47,7 @@ const QStringList &sureNotices()
         QStringLiteral("lyrics are not available in your country"),
         QStringLiteral("по требованию правообладател"),
         QStringLiteral("по просьбе правообладател"),
+        QStringLiteral("по запросу правообладател"),
         // Nothing there yet
         QStringLiteral("lyrics for this song have yet to be released"),
         QStringLiteral("be the first to add the lyrics"),
@@ -52,14 +59,17 @@ const QStringList &sureNotices()
         // Blocked
         QStringLiteral("using a security service to protect itself"),
         QStringLiteral("cloudflare ray id"),
+        QStringLiteral("needs to review the security of your connection"),
+        QStringLiteral("because we believe you are using automation tools"),
+        QStringLiteral("have been blocked you are unable to access"),
     };
     return phrases;
 }
 
-// Wordings that hardly any song holds, folded: they tell a notice only where there is no song around them. Each is long
-// enough that a short song does not hold it by chance: "you have been blocked" and "I'm not a robot" are sung, so they
-// are not here.
-const QStringList &likelyNotices()
+// Wordings that hardly any song holds, folded: they tell a notice at the beginning of a text, since a song may come to
+// them later. Each is long enough that a song does not hold it by chance: "you have been blocked" and "I'm not a robot"
+// are sung, so they are not here.
+const QStringList &wallNotices()
 {
     static const QStringList phrases{
         // Not licensed, withdrawn
@@ -69,7 +79,10 @@ const QStringList &likelyNotices()
         // Nothing there yet
         QStringLiteral("we do not have the lyrics"),
         QStringLiteral("we don't have the lyrics for"),
+        QStringLiteral("we don't have the lyrics to this"),
+        QStringLiteral("lyrics for this song are currently unavailable"),
         QStringLiteral("текст песни отсутствует"),
+        QStringLiteral("текст песни пока не добавлен"),
         // An account is needed
         QStringLiteral("you must be logged in to"),
         QStringLiteral("you need to be logged in to"),
@@ -81,16 +94,31 @@ const QStringList &likelyNotices()
         QStringLiteral("unusual traffic from your"),
         QStringLiteral("unusual activity from your"),
         QStringLiteral("blocked by the site owner"),
+        QStringLiteral("access to this page has been denied"),
         QStringLiteral("you don't have permission to access this resource"),
+        // No such page, no page at all
         QStringLiteral("not found on this server"),
+        QStringLiteral("the page you requested"),
+        QStringLiteral("the page you are looking for"),
+        QStringLiteral("the page you're looking for"),
+        QStringLiteral("the page you were looking for"),
+        QStringLiteral("error establishing a database connection"),
+        // Consent
+        QStringLiteral("we use cookies to"),
+        QStringLiteral("we use cookies and"),
+        QStringLiteral("before you continue to google"),
+        QStringLiteral("before you continue to youtube"),
         // Prove to be human
         QStringLiteral("complete the captcha"),
         QStringLiteral("solve the captcha"),
         QStringLiteral("enter the characters you see"),
         QStringLiteral("complete the security check to access"),
         QStringLiteral("checking your browser before"),
+        QStringLiteral("checking if the site connection is secure"),
         QStringLiteral("verify you are human by completing"),
+        QStringLiteral("verifying you are human. this may take"),
         QStringLiteral("verify that you are not a robot"),
+        QStringLiteral("prove you are not a robot"),
         QStringLiteral("подтвердите, что вы не робот"),
         // Shells that a script was to fill
         QStringLiteral("enable javascript"),
@@ -101,18 +129,58 @@ const QStringList &likelyNotices()
     return phrases;
 }
 
-// Notices that are so short that only a text of nothing else is one.
+// Wordings that a song may well hold, folded, but hardly one of so few words.
+const QStringList &shortNotices()
+{
+    static const QStringList phrases{
+        // Not licensed, withdrawn
+        QStringLiteral("lyrics have been removed"),
+        // Nothing there yet
+        QStringLiteral("lyrics coming soon"),
+        QStringLiteral("song is instrumental"),
+        QStringLiteral("song is an instrumental"),
+        // An account is needed
+        QStringLiteral("log in to continue"),
+        QStringLiteral("sign in to continue"),
+        // No such page, no page at all
+        QStringLiteral("page does not exist"),
+        QStringLiteral("page could not be found"),
+        QStringLiteral("page was not found"),
+        QStringLiteral("down for maintenance"),
+        QStringLiteral("account has been suspended"),
+        QStringLiteral("domain is for sale"),
+        // Consent
+        QStringLiteral("we use cookies"),
+        QStringLiteral("before you continue,"),
+        // Prove to be human
+        QStringLiteral("verify you are human"),
+        QStringLiteral("verify you are a human"),
+        QStringLiteral("verifying you are human"),
+    };
+    return phrases;
+}
+
+// Notices that are so brief that only a text of nothing else is one, folded and without what stands around the words.
 const QStringList &wholeNotices()
 {
     static const QStringList notices{
-        QStringLiteral("access denied"),          QStringLiteral("403 forbidden"),
-        QStringLiteral("404 not found"),          QStringLiteral("429 too many requests"),
-        QStringLiteral("too many requests"),      QStringLiteral("503 service unavailable"),
-        QStringLiteral("page not found"),         QStringLiteral("loading lyrics"),
-        QStringLiteral("lyrics not found"),       QStringLiteral("lyrics not available"),
-        QStringLiteral("no lyrics available"),    QStringLiteral("no lyrics found"),
-        QStringLiteral("sorry, no lyrics found"), QStringLiteral("restricted lyrics"),
-        QStringLiteral("please log in"),          QStringLiteral("just a moment"),
+        QStringLiteral("access denied"),
+        QStringLiteral("403 forbidden"),
+        QStringLiteral("404 not found"),
+        QStringLiteral("429 too many requests"),
+        QStringLiteral("too many requests"),
+        QStringLiteral("503 service unavailable"),
+        QStringLiteral("page not found"),
+        QStringLiteral("loading lyrics"),
+        QStringLiteral("lyrics not found"),
+        QStringLiteral("lyrics not available"),
+        QStringLiteral("lyrics unavailable"),
+        QStringLiteral("no lyrics available"),
+        QStringLiteral("no lyrics found"),
+        QStringLiteral("restricted lyrics"),
+        QStringLiteral("please log in"),
+        QStringLiteral("just a moment"),
+        QStringLiteral("lyrics licensed & provided by lyricfind"),
     };
     return notices;
 }
@@ -131,34 +199,39 @@ int behindLayoutTag(const QString &text, int position)
     return known ? text.indexOf(QLatin1Char('>'), position) + 1 : -1;
 }
 
-// Something, but no words: the page was to be filled later.
-bool isShell(const QString &lyrics)
+// A letter or a digit in any script, apart from tags of layout: a page that is to be filled later has none.
+bool holdsWords(const QString &text)
 {
-    const QLatin1String blank("&nbsp;");
-    int at = 0;
-    while (at < lyrics.size()) {
-        if (lyrics.at(at).isSpace())
-            ++at;
-        else if (QStringView(lyrics).mid(at).startsWith(blank))
-            at += blank.size();
-        else if (const int end = behindLayoutTag(lyrics, at); end > 0)
-            at = end;
-        else
-            return false;
+    for (int at = 0; at < text.size();) {
+        const int end = behindLayoutTag(text, at);
+        const QChar c = text.at(at);
+        const bool pair = c.isHighSurrogate() && at + 1 < text.size();
+        const uint character = pair ? QChar::surrogateToUcs4(c, text.at(at + 1)) : c.unicode();
+        if (end <= 0 && QChar::isLetterOrNumber(character))
+            return true;
+        at = end > 0 ? end : at + (pair ? 2 : 1);
     }
-    return true;
+    return false;
 }
 
-QString folded(const QString &lyrics)
+// As it ends in the tag: whoever takes the lyrics decodes references once more.
+QString asStored(const QString &lyrics)
 {
-    return lyrics.simplified().toLower().replace(QChar(0x2019), QLatin1Char('\''));
+    const QString given = withoutBrokenCharacters(withNamedCharacters(lyrics));
+    return withoutBrokenCharacters(decodeHtmlEntities(given));
 }
 
-QString withoutFinalDots(QString text)
+QString folded(const QString &text)
 {
-    while (text.endsWith(QLatin1Char('.')) || text.endsWith(QLatin1Char('!')) || text.endsWith(QChar(0x2026)))
-        text.chop(1);
-    return text;
+    return text.simplified().toLower().replace(QChar(0x2019), QLatin1Char('\''));
+}
+
+// Without brackets, dots and a word of regret around it.
+QString bare(const QString &notice)
+{
+    static const QRegularExpression around(QStringLiteral("^\\W*(sorry\\W+)?|\\W+$"),
+                                           QRegularExpression::UseUnicodePropertiesOption);
+    return QString(notice).remove(around);
 }
 
 bool holdsOneOf(const QString &text, const QStringList &phrases)
@@ -170,8 +243,9 @@ bool holdsOneOf(const QString &text, const QStringList &phrases)
 bool isNotice(const QString &lyrics)
 {
     const QString text = folded(lyrics);
-    return wholeNotices().contains(withoutFinalDots(text)) || holdsOneOf(text, sureNotices()) ||
-           (text.size() <= longestNotice && holdsOneOf(text, likelyNotices()));
+    if (holdsOneOf(text, sureNotices()) || holdsOneOf(text.left(beginning), wallNotices()))
+        return true;
+    return text.size() <= mostOfShort && (holdsOneOf(text, shortNotices()) || wholeNotices().contains(bare(text)));
 }
 
 } // namespace
@@ -180,6 +254,8 @@ bool isJunk(const QString &lyrics, const QString &markup)
 {
     if (lyrics.isEmpty())
         return false;
-    return lyrics.toUtf8().size() > mostBytes || holdsLeftOvers(lyrics) || holdsLeftOvers(markup) || isShell(lyrics) ||
-           isNotice(lyrics);
+    if (lyrics.toUtf8().size() > mostBytes || holdsLeftOvers(markup))
+        return true;
+    const QString text = asStored(lyrics);
+    return !holdsWords(text) || text.contains(QChar::ReplacementCharacter) || holdsLeftOvers(text) || isNotice(text);
 }

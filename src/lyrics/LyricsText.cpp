@@ -6,11 +6,25 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 // "&#x" and five hexadecimal digits, without the ";".
 constexpr int longestReference = 8;
+
+// "%" and two hexadecimal digits.
+constexpr int escapeLength = 3;
+
+// What the bytes 0x80 to 0x9F are in windows-1252; 0 where they are nothing.
+constexpr std::array<ushort, 32> windows1252{
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178,
+};
+
+constexpr QChar byteOrderMark(0xFEFF);
+constexpr QChar zeroWidthSpace(0x200B);
 
 int hexDigitValue(char c)
 {
@@ -100,21 +114,65 @@ QString decodeReferences(const QString &text, TakeReference takeReference)
     return decoded;
 }
 
-// Whether a tag of this name stands at `position`, which is behind the "<" or "</".
-bool isTagName(const QString &html, int position, QLatin1String name)
+// The byte that an escape at `position` stands for; -1 when none stands there.
+int escapedByte(const QByteArray &bytes, int position)
 {
-    const QStringView rest = QStringView(html).mid(position);
+    if (position + 2 >= bytes.size() || bytes.at(position) != '%')
+        return -1;
+    const int high = hexDigitValue(bytes.at(position + 1));
+    const int low = hexDigitValue(bytes.at(position + 2));
+    return high < 0 || low < 0 ? -1 : high * 16 + low;
+}
+
+// How many bytes a character of UTF-8 has that begins with this one.
+int lengthOfCharacter(int byte)
+{
+    if (byte < 0xE0)
+        return byte < 0x80 ? 1 : 2;
+    return byte < 0xF0 ? 3 : 4;
+}
+
+// The UTF-8 of the character that the escapes from `position` on stand for; empty when they stand for none.
+QByteArray escapedCharacter(const QByteArray &bytes, int position)
+{
+    QByteArray character;
+    const int count = lengthOfCharacter(escapedByte(bytes, position));
+    for (int i = 0; i < count; ++i) {
+        const int byte = escapedByte(bytes, position + i * escapeLength);
+        if (byte < 0)
+            return {};
+        character.append(static_cast<char>(byte));
+    }
+    const bool plain = count == 1;
+    return plain || !QString::fromUtf8(character).contains(QChar::ReplacementCharacter) ? character : QByteArray();
+}
+
+// Whether a tag of this name stands at `position`, which is behind the "<" or "</".
+bool isTagName(QStringView html, qsizetype position, QLatin1String name)
+{
+    const QStringView rest = html.mid(position);
     const bool longer = rest.size() > name.size() && rest.at(name.size()).isLetterOrNumber();
     return rest.startsWith(name, Qt::CaseInsensitive) && !longer;
 }
 
 // The position behind the next closing tag of this name; -1 when there is none.
-int behindClosingTag(const QString &html, int from, QLatin1String name)
+int behindClosingTag(QStringView html, int from, QLatin1String name)
 {
-    int at = html.indexOf(QLatin1String("</"), from);
+    auto at = html.indexOf(QLatin1String("</"), from);
     while (at >= 0 && !isTagName(html, at + 2, name))
         at = html.indexOf(QLatin1String("</"), at + 2);
-    return at < 0 ? -1 : html.indexOf(QLatin1Char('>'), at) + 1;
+    const auto end = at < 0 ? -1 : html.indexOf(QLatin1Char('>'), at);
+    return end < 0 ? -1 : static_cast<int>(end) + 1;
+}
+
+// The name of the element that begins at a "<", when it is one whose content nobody sees; else empty.
+QLatin1String hiddenElementAt(QStringView html, int position)
+{
+    for (const QLatin1String name : {QLatin1String("script"), QLatin1String("style")}) {
+        if (isTagName(html, position + 1, name))
+            return name;
+    }
+    return {};
 }
 
 // The position behind a break tag that starts at `position` and behind one newline after it; -1 when none starts
@@ -150,6 +208,30 @@ QString withBreaksAsNewlines(const QString &html)
     return result.append(QStringView(html).mid(copied));
 }
 
+// What becomes of a character that is not one half of a pair; null when it goes.
+QChar keptCharacter(QChar c)
+{
+    const ushort code = c.unicode();
+    if (code >= 0x80 && code < 0xA0)
+        return QChar(windows1252[code - 0x80U]);
+    const bool controls =
+        (code < 0x20 && c != QLatin1Char('\t') && c != QLatin1Char('\n') && c != QLatin1Char('\r')) || code == 0x7F;
+    if (controls || c == byteOrderMark)
+        return {};
+    return c.isSurrogate() ? QChar(QChar::ReplacementCharacter) : c;
+}
+
+QString withoutZeroWidthEnds(const QString &text)
+{
+    int begin = 0;
+    int end = text.size();
+    while (begin < end && text.at(begin) == zeroWidthSpace)
+        ++begin;
+    while (end > begin && text.at(end - 1) == zeroWidthSpace)
+        --end;
+    return text.mid(begin, end - begin);
+}
+
 } // namespace
 
 QByteArray decodePercentEscapes(const QByteArray &bytes)
@@ -160,15 +242,14 @@ QByteArray decodePercentEscapes(const QByteArray &bytes)
     QByteArray decoded;
     decoded.reserve(bytes.size());
     int copied = 0;
-    for (; at >= 0 && at + 2 < bytes.size(); at = bytes.indexOf('%', at)) {
-        const int high = hexDigitValue(bytes.at(at + 1));
-        const int low = hexDigitValue(bytes.at(at + 2));
-        if (high < 0 || low < 0) {
+    for (; at >= 0; at = bytes.indexOf('%', at)) {
+        const QByteArray character = escapedCharacter(bytes, at);
+        if (character.isEmpty()) {
             ++at;
             continue;
         }
-        decoded.append(bytes.constData() + copied, at - copied).append(static_cast<char>(high * 16 + low));
-        at += 3;
+        decoded.append(bytes.constData() + copied, at - copied).append(character);
+        at += character.size() * escapeLength;
         copied = at;
     }
     return decoded.append(bytes.constData() + copied, bytes.size() - copied);
@@ -207,22 +288,32 @@ QString withoutComments(const QString &html)
 
 QString withoutScriptsAndStyles(const QString &html)
 {
+    const QStringView page(html);
+    const QLatin1String closing("-->");
+    const int lastClosing = html.lastIndexOf(closing);
     QString rest;
     int copied = 0;
-    int at = html.indexOf(QLatin1Char('<'));
-    while (at >= 0) {
-        const bool script = isTagName(html, at + 1, QLatin1String("script"));
-        if (script || isTagName(html, at + 1, QLatin1String("style"))) {
-            const int end = behindClosingTag(html, at, QLatin1String(script ? "script" : "style"));
-            if (end <= 0)
-                break;
-            rest.append(QStringView(html).mid(copied, at - copied));
+    int commentEnd = 0; // of the last comment that began
+    for (int at = html.indexOf(QLatin1Char('<')); at >= 0; at = html.indexOf(QLatin1Char('<'), at + 1)) {
+        const bool opens = at >= commentEnd && at + 4 <= lastClosing && page.mid(at).startsWith(QLatin1String("<!--"));
+        if (opens)
+            commentEnd = html.indexOf(closing, at + 4) + closing.size();
+        const QLatin1String hidden = hiddenElementAt(page, at);
+        if (hidden.isEmpty())
+            continue;
+        const bool inComment = at < commentEnd;
+        const int end = behindClosingTag(inComment ? page.left(commentEnd) : page, at, hidden);
+        if (end > 0) {
+            rest.append(page.mid(copied, at - copied));
             copied = end;
             at = end - 1;
+        } else if (inComment) {
+            at = commentEnd - 1;
+        } else {
+            break;
         }
-        at = html.indexOf(QLatin1Char('<'), at + 1);
     }
-    return rest.append(QStringView(html).mid(copied));
+    return rest.append(page.mid(copied));
 }
 
 // One pass is enough: a "<" that stays is followed by a ">" that stays too, or by no ">" at all, so no removal can make
@@ -264,8 +355,8 @@ QString withoutBrokenCharacters(const QString &text)
         const bool pair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
         if (pair)
             whole.append(c).append(text.at(++i));
-        else if (!c.isNull())
-            whole.append(c.isSurrogate() ? QChar(QChar::ReplacementCharacter) : c);
+        else if (const QChar kept = keptCharacter(c); !kept.isNull())
+            whole.append(kept);
     }
-    return whole;
+    return withoutZeroWidthEnds(whole);
 }

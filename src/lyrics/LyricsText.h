@@ -7,7 +7,8 @@
 // What turns pages and fragments of HTML into lyrics. Pure functions, safe in every thread; their time grows in step
 // with the length of the text, whatever it holds.
 
-// Undoes percent-encoding where it is well formed: "%" and two hexadecimal digits. Any other "%" stays.
+// Undoes percent-encoding where it is well formed, "%" and two hexadecimal digits, and stands for UTF-8. Any other "%"
+// stays: people sing of "100%baby".
 [[nodiscard]] QByteArray decodePercentEscapes(const QByteArray &bytes);
 
 // Decodes numeric references of two to six decimal or two to five hexadecimal digits, then "&amp;", "&gt;", "&lt;",
@@ -24,7 +25,7 @@
 [[nodiscard]] QString withoutComments(const QString &html);
 
 // Removes "<script" and "<style" elements with all that stands in them, in any letter case. One that is not closed
-// stays, and so does all that comes behind it.
+// stays, and so does all that comes behind it; when it begins in a comment, only the rest of that comment.
 [[nodiscard]] QString withoutScriptsAndStyles(const QString &html);
 
 // Removes everything from a "<" that is not directly followed by ">" up to the next ">".
@@ -34,5 +35,8 @@
 // break tags become newlines, tags go, blank space at both ends goes, entities are decoded.
 [[nodiscard]] QString cleanLyrics(const QString &html);
 
-// The text without NUL, and with U+FFFD for each half of a surrogate pair that stands alone: what no tag can hold.
+// The text as tags can hold it and people read it: without control characters but tabs and line ends, without byte
+// order marks, without zero width spaces at the ends, and with U+FFFD for each half of a surrogate pair that stands
+// alone. U+0080 to U+009F become what they are in windows-1252, since that is what "&#146;" is meant to be on old
+// pages.
 [[nodiscard]] QString withoutBrokenCharacters(const QString &text);

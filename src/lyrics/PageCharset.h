@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+// The bytes of a page in UTF-8. What is UTF-8 already stays as it is, whatever it says of itself, and so does what has
+// a broken character here and there: sites cut texts in the middle of one. Anything else is converted from the charset
+// that the value of its Content-Type header names or, when that names none or UTF-8, the page: by a byte order mark, or
+// by a <meta> in its first 1024 bytes. A page that names no other charset known here stays as it is, too.
+[[nodiscard]] QByteArray pageInUtf8(const QByteArray &page, const QByteArray &contentType);
