@@ -18,8 +18,6 @@ namespace {
 // The service is asked for two tracks and knows a correction or two. More than this is a lie that would cost a search
 // on every site for each entry, and reading an entry takes as long as there are entries before it.
 constexpr int mostEntries = 50;
-// What is longer is no name; it would go into the address of a request to every site.
-constexpr int longestName = 1000;
 
 QUrlQuery methodQuery(const QString &method, const QString &artist)
 {

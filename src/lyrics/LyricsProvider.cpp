@@ -4,6 +4,8 @@
 #include "lyrics/JunkCheck.h"
 #include "lyrics/LyricsLog.h"
 #include "lyrics/LyricsText.h"
+#include "lyrics/NamedCharacters.h"
+#include "lyrics/PageCharset.h"
 #include "network/AccessManager.h"
 #include "network/Redirects.h"
 
@@ -156,7 +158,7 @@ void LyricsProvider::follow(const QNetworkReply &reply)
 
 void LyricsProvider::readPage(QNetworkReply &reply)
 {
-    const Page page{decoded(reply.readAll()), reply.request().url()};
+    const Page page{decodedBody(reply), reply.request().url()};
     const ProviderStep::PageFunction read = std::exchange(m_readPage, {});
     carryOut(read(page));
 }
@@ -168,8 +170,8 @@ void LyricsProvider::finish(const ProviderStep &result, const QByteArray &failur
     m_readPage = {};
     m_errorString = result.errorString();
     m_busy = false;
-    QString text = withoutBrokenCharacters(result.lyrics());
-    const bool junk = isJunk(text, result.markup());
+    QString text = withoutBrokenCharacters(withNamedCharacters(result.lyrics()));
+    const bool junk = isJunk(result.lyrics(), result.markup());
     const QByteArray logged = junk ? QByteArrayLiteral("gave a page that holds no lyrics") : outcome(result, failure);
     qCInfo(lyricsLog, "%s %s", qUtf8Printable(name()), logged.constData());
     if (junk) {
@@ -179,8 +181,9 @@ void LyricsProvider::finish(const ProviderStep &result, const QByteArray &failur
     emit finished(text);
 }
 
-QString LyricsProvider::decoded(QByteArray body) const
+QString LyricsProvider::decodedBody(QNetworkReply &reply) const
 {
+    QByteArray body = pageInUtf8(reply.readAll(), reply.rawHeader("Content-Type"));
     if (hasPercentEncodedPages())
         body = decodePercentEscapes(body);
     const int nul = body.indexOf('\0');

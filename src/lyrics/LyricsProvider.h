@@ -43,8 +43,9 @@ public:
 
 signals:
     // Once for each search that was accepted, never from inside search(). Empty `lyrics`: nothing found, or failed
-    // with errorString(). They hold neither NUL nor halves of surrogate pairs.
-    // The provider is idle again, so another search may be started at once.
+    // with errorString(). Names of
+    // characters are decoded (withNamedCharacters), and what no tag can hold is gone (withoutBrokenCharacters). The
+    // provider is idle again, so another search may be started at once.
     void finished(const QString &lyrics);
 
 protected:
@@ -72,7 +73,7 @@ private:
     void readPage(QNetworkReply &reply);
     // `failure` is for the log, when the result is one.
     void finish(const ProviderStep &result, const QByteArray &failure = QByteArrayLiteral("failed"));
-    [[nodiscard]] QString decoded(QByteArray body) const;
+    [[nodiscard]] QString decodedBody(QNetworkReply &reply) const;
 
     NetworkSource m_network;
     QNetworkAccessManager *m_ownNetworkManager = nullptr;

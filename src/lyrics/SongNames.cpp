@@ -31,9 +31,12 @@ QString withoutGuests(QString name)
     return name;
 }
 
+constexpr QChar acuteAccent(0x00B4);
+
 bool isIgnoredWhenComparing(QChar c)
 {
     switch (c.unicode()) {
+    case 0x2018: // left single quotation mark
     case 0x2019: // right single quotation mark
     case '`':
     case '"':
@@ -49,7 +52,9 @@ bool isIgnoredWhenComparing(QChar c)
 
 QString folded(const QString &name)
 {
-    QString text = name.toLower();
+    QString text = name;
+    text.replace(acuteAccent, QLatin1Char('\'')); // of which NFKC would leave the accent, to stand on the next letter
+    text = text.normalized(QString::NormalizationForm_KC).toLower();
     const auto *const end = std::remove_if(text.begin(), text.end(), isIgnoredWhenComparing);
     text.truncate(static_cast<int>(end - text.cbegin()));
     return text;
@@ -82,5 +87,5 @@ bool looselyAgree(const QString &left, const QString &right)
 
 QString queryValue(const QString &name)
 {
-    return QString::fromLatin1(QUrl::toPercentEncoding(name));
+    return QString::fromLatin1(QUrl::toPercentEncoding(name.normalized(QString::NormalizationForm_C)));
 }

@@ -5,6 +5,10 @@
 
 // How the names of songs are put into queries and compared with what a site answers.
 
+// In UTF-16 units. What is longer is no name: it would go into the address of a request to every site, and be compared
+// with every row of a page.
+constexpr int longestName = 1000;
+
 // The artist as sites list it: the first of several names joined by two backslashes, without a guest that is announced
 // by " ft. ", " feat. " or " featuring ", trimmed.
 [[nodiscard]] QString normalisedArtist(const QString &artist);
@@ -13,8 +17,10 @@
 [[nodiscard]] QString normalisedTitle(const QString &title);
 
 // Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
-// spaces, commas and ampersands. A name of which nothing is left resembles every other.
+// spaces, commas and ampersands. Characters that Unicode takes for forms of others count as those: an accent of its
+// own, a wide letter (NFKC, https://unicode.org/reports/tr15). A name of which nothing is left resembles every other.
 [[nodiscard]] bool looselyAgree(const QString &left, const QString &right);
 
 // A name, or names, as the value of a query: percent-encoded wholly, so that "+", "&", "#" and "%" arrive as they are.
+// A letter and its accents are sent as one character where there is one (NFC), as sites store them.
 [[nodiscard]] QString queryValue(const QString &name);

@@ -27,7 +27,7 @@ protected:
     ProviderStep firstStep(const QString &artist, const QString &) override
     {
         if (artist == "nobody"_s)
-            return ProviderStep::nothing();
+            return ProviderStep::without(SongLink::Missing::NoSuchSong);
         return ProviderStep::ask(QNetworkRequest(m_url), [](const Page &page) {
             if (page.text.startsWith("rows "_s))
                 return ProviderStep::without(
@@ -85,7 +85,10 @@ private slots:
             addRow(name, response, "", error, logged);
         };
         page("a page, percent-decoded where well formed", "%D0%B4%d0%b0, 100% sure", "да, 100% sure#song");
-        page("text ends at NUL, and may be no UTF-8", QByteArray("l\xffx\0li", 6), "l\ufffdx#song");
+        page("text ends at NUL", QByteArray("lx\0li", 5), "lx#song");
+        page("a page that names its charset", "<meta charset=\"windows-1251\"> \xeb\xe0 %D0%B4",
+             "<meta charset=\"windows-1251\"> ла д#song");
+        page("characters by their names", "I&rsquo;m &amp;", "I’m &amp;#song");
         page("other songs", "rows <read <changed", "", "has no such song");
         page("an empty list", "rows ", "", "listed nothing");
         page("a song's page that gives nothing", "empty", "", "gave a page that was not understood");
@@ -98,6 +101,15 @@ private slots:
         failed("a redirect to a file", redirectPage(301, "file:///etc/passwd"), "not a web page",
                "redirects to something that is not a web page");
         failed("404", LoopbackResponse::error(404), "404", "answered with HTTP status 404");
+        LoopbackResponse latin;
+        latin.body = "D\xe9j\xe0 <meta charset=utf-8>";
+        const LoopbackResponse named = latin.with("Content-Type", "text/html; Charset=\"iso-8859-1\"; a=b");
+        addRow("a header that names the charset", named, "Déjà <meta charset=utf-8>#song", "", "has the lyrics");
+        LoopbackResponse oneBroken = named;
+        oneBroken.body = QByteArray("Déjà vu? ").repeated(9) + QByteArray("\0\xd0.", 3);
+        addRow("UTF-8 with one broken character", oneBroken, "Déjà vu? "_s.repeated(9) + "#song"_s, "",
+               "has the lyrics");
+        failed("a page that is not what it says", latin, "holds no lyrics", "gave a page that holds no lyrics");
         failed("a notice", LoopbackResponse::page("You must be logged in to read on."), "holds no lyrics",
                "gave a page that holds no lyrics");
         LoopbackResponse cut = LoopbackResponse::page(QByteArray(5000, 'x'));
