@@ -2,6 +2,8 @@
 #include "lyrics/LyricsSearch.h"
 
 #include "lyrics/LyricsProvider.h"
+#include "lyrics/LyricsText.h"
+#include "lyrics/SongNames.h"
 #include "lyrics/TagCorrector.h"
 
 #include <QSet>
@@ -43,7 +45,7 @@ QStringList withoutDuplicates(const QStringList &items)
 // A site's placeholder for lyrics that were withdrawn counts as no lyrics.
 bool isFound(const QString &lyrics)
 {
-    return !lyrics.isEmpty() && !lyrics.contains(QLatin1String("gracenote_takedown"));
+    return !lyrics.isEmpty() && !decodeHtmlEntities(lyrics).contains(QLatin1String("gracenote_takedown"));
 }
 
 } // namespace
@@ -123,7 +125,13 @@ bool LyricsSearch::search(quint16 id, const QString &artist, const QString &titl
     search.names = {artist, title};
     search.candidates.append(search.names);
     emit searchCountChanged(searchCount());
-    tryNext(id, search);
+    if (std::max(artist.size(), title.size()) <= longestName) {
+        tryNext(id, search);
+        return true;
+    }
+    search.lastError = tr("The artist or title is too long to search for.");
+    QMetaObject::invokeMethod(
+        this, [this, id] { finishNotFound(id); }, Qt::QueuedConnection);
     return true;
 }
 

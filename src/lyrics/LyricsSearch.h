@@ -44,7 +44,8 @@ public:
     [[nodiscard]] int searchCount() const { return static_cast<int>(m_searches.size()); }
     [[nodiscard]] bool isSearching(quint16 id) const { return m_searches.count(id) > 0; }
 
-    // Starts a search. False, and nothing is emitted, when `id` is being searched for or the names are no good.
+    // Starts a search. False, and nothing is emitted, when `id` is being searched for or the names are no good. Names
+    // that are too long (longestName) are accepted, but nobody is asked for them.
     bool search(quint16 id, const QString &artist, const QString &title);
 
 public slots:

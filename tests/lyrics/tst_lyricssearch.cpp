@@ -137,8 +137,8 @@ private slots:
         addRow("the first site has it", "A;;B", "", "A:a/t=la", "A:a/t", "a|t|la|");
         addRow("a disabled site is not asked", "A::0;;B", "", "A:a/t=la", "B:a/t", "a|t||");
         addRow("the last failure is told", "A;;B", "", "A:a/t=!one B:a/t=!two", "A:a/t B:a/t", "a|t||two");
-        addRow("withdrawn lyrics are none", "A;;B", "", "A:a/t=x_gracenote_takedown_x B:a/t=la", "A:a/t B:a/t",
-               "a|t|la|");
+        addRow("withdrawn lyrics are none", "A;;B", "", "A:a/t=x_gracenote_takedown_x B:a/t=gracenote&#95;takedown",
+               "A:a/t B:a/t", "a|t||");
         addRow("corrected names, every site", "A;;B", "c/u", "B:c/u=la", "A:a/t B:a/t correct:a/t A:c/u B:c/u",
                "c|u|la|");
         addRow("a second pair goes to the first site, then on", "A;;B", "c/u d/v", "",
@@ -214,6 +214,15 @@ private slots:
         QCOMPARE(m_finished->at(0).mid(0, 4), (QVariantList{quint16(1), "a"_s, "t"_s, QString()}));
         QCOMPARE(lyricsOf(1), "la"_s);
         QCOMPARE(counts, (QList<QVariantList>{{1}, {2}, {1}, {0}}));
+    }
+
+    void searchesForNoNameThatIsNone()
+    {
+        makeSites("A B"_s);
+        QVERIFY(m_search->search(1, "a"_s, QString(1001, QLatin1Char('t'))));
+        QVERIFY(m_finished->isEmpty());
+        QTRY_COMPARE(m_finished->size(), 1);
+        QVERIFY(m_script.asked.isEmpty() && !m_finished->first().at(4).toString().isEmpty());
     }
 
     void ignoresLateAnswers()
