@@ -13,6 +13,9 @@ namespace {
 // QXmlStreamReader compares every attribute of a tag with all others: 256 kB of them take 14 s.
 constexpr int mostAttributes = 64;
 
+// A megabyte of elements takes most of a second.
+constexpr int mostBytes = 64 * 1024;
+
 // An attribute value cannot hold "<", so this counts those of a tag, and the equals signs of the text behind it.
 bool hasTooManyAttributes(const QString &document)
 {
@@ -65,7 +68,8 @@ struct XmlPaths::Step
 
 XmlPaths::XmlPaths(const QByteArray &document)
 {
-    read(QString::fromUtf8(document));
+    if (document.size() <= mostBytes)
+        read(QString::fromUtf8(document));
 }
 
 // A namespace that is not declared is no reason to refuse a document, so they are not looked at.

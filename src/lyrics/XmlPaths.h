@@ -16,8 +16,9 @@ class QXmlStreamReader;
 //   track[a=b,c=d]  the first one whose attributes have these values; neither may hold ".", "," or "="
 // Names and values are compared as they stand, prefixes and letter case included.
 //
-// A document is UTF-8. One that is not well-formed, that has a document type (and so entities of its own), or that has
-// more than 64 attributes in a tag is as good as empty. Time and memory grow in step with the document.
+// A document is UTF-8. One that is not well-formed, that has a document type (and so entities of its own), that has
+// more than 64 attributes in a tag, or that is longer than 64 KiB, where those asked for have a few, is as good as
+// empty.
 class XmlPaths
 {
 public:

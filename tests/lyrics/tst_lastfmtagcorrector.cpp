@@ -59,7 +59,8 @@ private slots:
         addRow("an answer that is a page", "<html><body>Busy<br></body></html>", two, "A/1 B/2");
         const QString longName = QString(1001, QLatin1Char('x'));
         addRow("what is too long for a name, and more than was asked for", corrections(correction("A"_s, longName)),
-               found(track("A"_s, "1"_s).repeated(5000)), "A/1 "_s.repeated(50).trimmed());
+               found(track("A"_s, "1"_s).repeated(100)), "A/1 "_s.repeated(50).trimmed());
+        addRow("an answer of 400 kB", one, found(track("A"_s, "1"_s).repeated(5000)), "Tin & Lanterns/Огни 🎵");
     }
 
     void givesPairsInTheirOrder()
