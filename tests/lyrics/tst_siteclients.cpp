@@ -25,7 +25,7 @@ ProviderStep readMusixMatch(const Page &page)
 {
     const QString block = MusixMatchProvider::lyricsBlock(page.text);
     return block.isEmpty() ? ProviderStep::notUnderstood()
-                           : MusixMatchProvider::lyricsOfBlock(block).value_or(ProviderStep::nothing());
+                           : MusixMatchProvider::lyricsOfBlock(block).value_or(ProviderStep::notUnderstood());
 }
 
 // What a client reads, and the pages that the tests put around what matters, which stands at "@".
@@ -384,6 +384,8 @@ void tst_SiteClients::findTheSong_data()
     const QString az = R"(<tr><td class="x"><a href="/@"><b>s</b></a><b>b</b></td></tr>)"_s;
     listed("AZLyrics: a wrong song of the right artist", "Paper & Sons/", "@BASE@/lyrics/lanterns/bells.html");
     listed("AZLyrics: other tables do not count", "Second Table/", "");
+    row("AZLyrics: behind an artist, whose row does not take the names of the next",
+        R"(<tr><td class="x"><a href="/b"><b>b</b></a></td></tr>)"_s + at(az, "1"_s), "/1");
     row("AZLyrics: the first of two", at(az, "1"_s) + at(az, "2"_s), "/1");
     addRow("AZLyrics: a table at the very start does not count", "<table>"_s + az + "</table>"_s, "b/a", "");
     addRow("AZLyrics: a table without an end", " <table>"_s + az, "b/a", "");
@@ -395,7 +397,7 @@ void tst_SiteClients::findTheSong_data()
     listed("MusixMatch: only the first list counts", "Late Band/Late Song", "");
 }
 
-// A row of another song, and one that cannot be read.
+// A row of another song, and one that lacks a link or a name.
 void tst_SiteClients::tellWhyThereIsNoSong_data()
 {
     addTextColumns("row", "changed");
@@ -403,12 +405,14 @@ void tst_SiteClients::tellWhyThereIsNoSong_data()
            R"(<div data-sorting-artist="b" data-sorting-song="a"><a href="/1"></a></div>)");
     addRow("Genius", R"({"type":"song","result":{"_type":"song","title":"x","path":"/1"}})",
            R"({"type":"song","hit":{}})");
-    addRow("Megalyrics", "<tr><td></td><td><a href=\"/1\">x</a></td><td>x</td><td></td><td></td></tr>",
-           "<tr><td>x</td></tr>");
-    addRow("AZLyrics", R"(<tr><td class="x"><a href="/1"><b>x</b></a><b>x</b></td></tr>)", "<tr><td>x</td></tr>");
-    addRow("DarkLyrics", "<h2><a x href=\"1\" x>x - x</a></h2>", "<h2>x</h2>");
+    addRow("Megalyrics",
+           R"(<tr><td></td><td><a href="/1">a</a></td><td><a href="/b">x</a></td><td></td><td></td></tr>)",
+           R"(<tr><td></td><td><a href="/1">a</a></td><td><img src="/b"></td><td></td><td></td></tr>)");
+    addRow("AZLyrics", R"(<tr><td class="x"><a href="/1"><b>x</b></a><b>x</b></td></tr>)",
+           R"(<tr><td class="x"><a href="/1"><b>a</b></a><b></b></td></tr>)");
+    addRow("DarkLyrics", "<h2><a x href=\"1\" x>x - x</a></h2>", "<h2><a x href=\"1\" x> </a></h2>");
     addRow("MusixMatch", R"(<li x><a class="artist">x</a><a class="title" href="/1">x</a></li>)",
-           "<li x><a href=\"/1\">x</a></li>");
+           R"(<li x><a class="artist verified">x</a><a class="title" href="/1">a</a></li>)");
 }
 
 void tst_SiteClients::findTheLyrics_data()
@@ -424,6 +428,9 @@ void tst_SiteClients::findTheLyrics_data()
     newer("Genius: an empty older block hides the newer layout", "<div class=\"lyrics\"></div>@la</div>", {});
     newer("Genius: references of any length, through others too",
           "@&#0000000065;&#38;#66;&#9;&#x43;&amp;lt;&#1114112;</div>", "AB\tC<\ufffd"_s);
+    newer("Genius: a list of songs is no song",
+          "@1. <a href=\"/1-lyrics\">Harbour Bells</a> 2. <a href='/2-lyrics' x>Harbour Lights</a></div>", {});
+    newer("Genius: words with notes", "@<a href=\"/1/one/la\">la</a></div>", "la"_s);
     addRow("Megalyrics: the older layout", sitePage("megalyrics", "older-song.html"), harbourLights());
     addRow("Megalyrics: no switch behind the song text: the older layout counts",
            R"(<div id="song_text"><div class="text">la</div></div><div class="text_inner">li</div>)", "li");
@@ -431,10 +438,12 @@ void tst_SiteClients::findTheLyrics_data()
            R"(<div id="song_text">la</div><div class="switch-block"><div class="text_inner">li</div>)", "");
     addRow("Megalyrics: tags stay", at(siteOf("Megalyrics").song, "a<br>b"_s), "a<br>b");
     addRow("AZLyrics: the first bare block", "<div id=\"x\">a</div><div>b<div>c</div>d</div>", "bc");
+    addRow("AZLyrics: a list of links is no song", "<div><a href=\"/\">Home</a> by <a href=\"/a\">letters</a></div>",
+           "");
     addRow("AZLyrics: a block that is not closed", "<div>a", "");
     const QString span = "<span class=\"lyrics__content__ok\">%1</span>"_s;
-    addRow("MusixMatch: a part that comes again is taken once",
-           "<div class=\"mxm-lyrics\">%1%2%1</div>"_s.arg(span.arg("a"_s), span.arg("b"_s)), "ab");
+    addRow("MusixMatch: a part that comes again is taken once, but not for one that begins like it",
+           "<div class=\"mxm-lyrics\">%1%2%3%1</div>"_s.arg(span.arg("a"_s), span.arg(""_s), span.arg("ab"_s)), "aab");
 }
 
 void tst_SiteClients::tellJunkFromLyrics_data()
@@ -519,8 +528,8 @@ void tst_SiteClients::askForTheirPages_data()
         "/api/search/multi>307:/found /found=search.json /Tin-lanterns-harbour-lights-lyrics>301:/2 /2=newer.html",
         "/api/search/multi?per_page=5&q=@ /found /Tin-lanterns-harbour-lights-lyrics /2",
         "/api/search/multi?per_page=5&q=@ /found", "- - - - - -");
-    row("Megalyrics", "/search=search.html /song/tin-lanterns-harbour-lights>301:/2 /2=song.html",
-        "/search?utf8=%E2%9C%93&search=@ /song/tin-lanterns-harbour-lights?v=2 /2", "/search?utf8=%E2%9C%93&search=@",
+    row("Megalyrics", "/search=search.html /song/%231-harbour-lights>301:/2 /2=song.html",
+        "/search?utf8=%E2%9C%93&search=@ /song/%231-harbour-lights?v=2 /2", "/search?utf8=%E2%9C%93&search=@",
         "- - - -");
     row("AZLyrics", "/geo.js>307:/2 /2=geo.js /search.php=search.html /lyrics/tinlanterns/harbourlights.html=song.html",
         "/geo.js /2 /search.php?q=@&x%26y=7f3a%2B90%3Dc2 /lyrics/tinlanterns/harbourlights.html?a=1&b=2",
@@ -529,8 +538,8 @@ void tst_SiteClients::askForTheirPages_data()
         "/search?q=@ /lyrics/tinlanterns/tides.html /2", "/search?q=@", "U U U U");
     row("MusixMatch",
         "/search/Tin%20Lanterns%20Harbour%20Lights/tracks>301:/x/list /x/list=search.html "
-        "/lyrics/Tin-Lanterns/Harbour-Lights>307:/2 /2=track.html",
-        "/search/@/tracks /x/list /lyrics/Tin-Lanterns/Harbour-Lights /2", "/search/@/tracks", "U U U U U");
+        "/lyrics/Tin-Lanterns/100%25-Harbour%3F>307:/2 /2=track.html",
+        "/search/@/tracks /x/list /lyrics/Tin-Lanterns/100%25-Harbour%3F /2", "/search/@/tracks", "U U U U U");
 }
 
 QTEST_GUILESS_MAIN(tst_SiteClients)

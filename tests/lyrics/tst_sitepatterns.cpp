@@ -88,7 +88,7 @@ QString lyricsOfPage(const QString &page)
     for (int at = container.indexIn(page); at >= 0;) {
         const QString element = elementAt(page, at);
         if (element.isEmpty())
-            break;
+            return {};
         texts << lyricsOfContainer(element);
         at = container.indexIn(page, at + element.size());
     }

@@ -4,6 +4,8 @@
 #include "lyrics/ChainScan.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/SongNames.h"
+#include "lyrics/providers/LinkList.h"
+#include "lyrics/providers/TextSearch.h"
 #include "network/Endpoints.h"
 
 #include <QUrlQuery>
@@ -28,6 +30,26 @@ QString foundArtist(QString cell)
     cell.remove(QLatin1String("&middot;"));
     cell.replace(QLatin1String("&nbsp;"), QLatin1String(" "));
     return decodeHtmlEntities(cell).trimmed();
+}
+
+// What a match of the row pattern names. It runs on into the next rows where a row has one name only.
+struct Row
+{
+    QString link;
+    QString artist;
+    // Where the row of the artist begins in the match, and whether the link stands in it too.
+    int begin;
+    bool isWhole;
+};
+
+Row rowOf(const ChainMatch &match, const QString &table)
+{
+    const QString text = table.mid(match.position, match.length);
+    const QString link = match.captures.at(0);
+    const QString artist = match.captures.at(2);
+    const int begin = text.lastIndexOf(QLatin1String("<tr"), text.lastIndexOf(QStringLiteral("<b>%1</b>").arg(artist)));
+    const bool isWhole = holdsText(text.mid(begin), QStringLiteral("href=\"%1\"").arg(link));
+    return {link, foundArtist(artist), begin, isWhole};
 }
 
 } // namespace
@@ -69,7 +91,9 @@ ProviderStep AZLyricsProvider::infoRequestFinished(const Page &page) const
 ProviderStep AZLyricsProvider::lyricsRequestFinished(const Page &page)
 {
     static const ChainPattern block(QStringLiteral("<div>(.*)</div>"));
-    return ProviderStep::cleanedLyrics(firstCapture(block, page.text));
+    static const ChainPattern link(QStringLiteral("<a[ \n>].*</a>"));
+    const ProviderStep step = ProviderStep::cleanedLyrics(firstCapture(block, page.text));
+    return isLinkList(step.markup(), link) ? ProviderStep::notUnderstood() : step;
 }
 
 QPair<QString, QString> AZLyricsProvider::searchParameter(const QString &script)
@@ -97,10 +121,14 @@ SongLink AZLyricsProvider::songLink(const QString &searchPage, const QString &ar
         return SongLink::notUnderstood();
     const ChainScan rows(rowPattern, table);
     int read = 0;
-    for (auto row = rows.next(); row; row = rows.next(row->end())) {
-        if (looselyAgree(artist, foundArtist(row->captures.at(2))))
-            return SongLink(row->captures.at(0));
-        ++read;
+    for (auto match = rows.next(); match;) {
+        const Row row = rowOf(*match, table);
+        if (row.isWhole && !row.artist.isEmpty()) {
+            if (looselyAgree(artist, row.artist))
+                return SongLink(row.link);
+            ++read;
+        }
+        match = rows.next(row.isWhole ? match->end() : match->position + row.begin);
     }
     return SongLink::none(read, table.contains(QLatin1String("<tr")));
 }

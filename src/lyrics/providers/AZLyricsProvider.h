@@ -17,7 +17,8 @@ public:
     // The name and the value of the parameter that the script hands out; each empty when it does not name it.
     [[nodiscard]] static QPair<QString, QString> searchParameter(const QString &script);
     // The link, as it stands in the page, of the first song of a search page whose artist resembles this normalised
-    // one; nothing when there is none. The site's ranking is trusted for the title, which is deliberate.
+    // one; nothing when there is none. Rows that do not name their artist do not count. The site's ranking is trusted
+    // for the title, which is deliberate.
     [[nodiscard]] static SongLink songLink(const QString &searchPage, const QString &artist);
     // Reads a song's page.
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);

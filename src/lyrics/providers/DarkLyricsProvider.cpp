@@ -144,7 +144,10 @@ SongLink DarkLyricsProvider::songLink(const QString &searchPage, const QString &
     const ChainScan links(linkPattern, songs);
     int read = 0;
     for (auto link = links.next(); link; link = links.next(link->end())) {
-        if (looselyAgree(wanted, decodeHtmlEntities(link->captures.at(1))))
+        const QString found = decodeHtmlEntities(link->captures.at(1)).trimmed();
+        if (found.isEmpty())
+            continue;
+        if (looselyAgree(wanted, found))
             return SongLink(link->captures.at(0));
         ++read;
     }

@@ -23,7 +23,7 @@ public:
     // stands before the first heading has an empty key. Of several parts with one key the last one stays.
     [[nodiscard]] static QMap<QString, QString> sections(const QString &page);
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
-    // nothing when there is none.
+    // nothing when there is none. Links without a text do not count.
     [[nodiscard]] static SongLink songLink(const QString &searchPage, const QString &artist, const QString &title);
     // The HTML of the song under the anchor of this name, in any letter case; nothing when there is none.
     [[nodiscard]] static std::optional<QString> songUnderAnchor(const QString &albumPage, const QString &anchor);

@@ -131,8 +131,8 @@ ProviderStep readGeniusContainers(const QString &songPage)
     int searched = 0;
     while (const auto container = containers.next(searched)) {
         const QString element = elementAt(songPage, container->position);
-        if (element.isEmpty())
-            break;
+        if (element.isEmpty()) // the page was cut off, and half a song is none
+            return ProviderStep::notUnderstood();
         const QString fragment = withoutBlocksOnOneLine(withPlainBreaksAsNewlines(withoutScriptsAndStyles(element)));
         const QString text = lyricsOfContainer(fragment);
         if (!text.isEmpty() && !lyrics.isEmpty())
@@ -141,5 +141,5 @@ ProviderStep readGeniusContainers(const QString &songPage)
         markup += fragment;
         searched = container->position + element.size();
     }
-    return searched > 0 ? ProviderStep::lyrics(lyrics, markup) : ProviderStep::notUnderstood();
+    return ProviderStep::lyrics(lyrics, markup);
 }

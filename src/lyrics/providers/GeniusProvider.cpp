@@ -5,6 +5,7 @@
 #include "lyrics/LyricsText.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/GeniusContainers.h"
+#include "lyrics/providers/LinkList.h"
 #include "network/Endpoints.h"
 
 #include <QJsonArray>
@@ -60,10 +61,12 @@ SongLink songPathInSection(const QJsonObject &section, const QString &artist, co
 }
 
 // Line breaks are those of the break tags alone. Entities stay: whoever shows or stores the lyrics decodes them.
-QString olderLyrics(QString block)
+ProviderStep readOlderBlock(const QString &block)
 {
-    block.remove(QLatin1Char('\n')).remove(QLatin1Char('\r'));
-    return stripTags(withPlainBreaksAsNewlines(block)).trimmed();
+    const QString markup = withoutScriptsAndStyles(block);
+    QString text = markup;
+    text.remove(QLatin1Char('\n')).remove(QLatin1Char('\r'));
+    return ProviderStep::lyrics(stripTags(withPlainBreaksAsNewlines(text)).trimmed(), markup);
 }
 
 } // namespace
@@ -97,11 +100,11 @@ ProviderStep GeniusProvider::lyricsRequestFinished(const Page &page)
 {
     // The "*" makes the quotation mark optional and repeatable; it is meant.
     static const ChainPattern olderBlock(QStringLiteral("<div class=\"lyrics\"*>(.*)</div>"));
+    // The pages of albums are listed among the songs. Links of other kinds are notes on the words.
+    static const ChainPattern songLink(QStringLiteral("<a[^>]*-lyrics[\"'][^>]*>.*</a>"));
     const std::optional<QString> block = firstCapture(olderBlock, page.text);
-    if (!block)
-        return readGeniusContainers(page.text);
-    const QString markup = withoutScriptsAndStyles(*block);
-    return ProviderStep::lyrics(olderLyrics(markup), markup);
+    const ProviderStep step = block ? readOlderBlock(*block) : readGeniusContainers(page.text);
+    return isLinkList(step.markup(), songLink) ? ProviderStep::notUnderstood() : step;
 }
 
 SongLink GeniusProvider::songPath(const QString &searchAnswer, const QString &artist, const QString &title)

@@ -4,6 +4,7 @@
 #include "lyrics/ChainScan.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/SongNames.h"
+#include "lyrics/providers/LinkEscapes.h"
 #include "lyrics/providers/MegaLyricsText.h"
 #include "network/Endpoints.h"
 
@@ -11,9 +12,9 @@
 
 namespace {
 
-QString foundName(const QString &encoded)
+QString foundName(const QString &cell)
 {
-    return decodeHtmlEntities(decodeMegaLyricsText(encoded)).trimmed();
+    return decodeHtmlEntities(decodeMegaLyricsText(stripTags(cell))).trimmed();
 }
 
 // The newer layout: a block of text for each part of the song.
@@ -53,7 +54,7 @@ ProviderStep MegaLyricsProvider::infoRequestFinished(const Page &page) const
     const SongLink link = songLink(page.text, artist(), title());
     if (!link)
         return ProviderStep::without(link.missing());
-    return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, *link)),
+    return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, withLinkEscapes(*link))),
                              &MegaLyricsProvider::lyricsRequestFinished);
 }
 
@@ -70,7 +71,11 @@ SongLink MegaLyricsProvider::songLink(const QString &searchPage, const QString &
     const ChainScan rows(rowPattern, *body);
     int read = 0;
     for (auto row = rows.next(); row; row = rows.next(row->end())) {
-        if (looselyAgree(artist, foundName(row->captures.at(2))) && looselyAgree(title, foundName(row->captures.at(1))))
+        const QString foundTitle = foundName(row->captures.at(1));
+        const QString foundArtist = foundName(row->captures.at(2));
+        if (foundTitle.isEmpty() || foundArtist.isEmpty())
+            continue;
+        if (looselyAgree(artist, foundArtist) && looselyAgree(title, foundTitle))
             return SongLink(row->captures.at(0));
         ++read;
     }

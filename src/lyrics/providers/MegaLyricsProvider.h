@@ -13,7 +13,7 @@ public:
     using SiteClient::SiteClient;
 
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
-    // nothing when there is none.
+    // nothing when there is none. Rows that lack a name do not count.
     [[nodiscard]] static SongLink songLink(const QString &searchPage, const QString &artist, const QString &title);
     // Reads a song's page.
     [[nodiscard]] static ProviderStep lyricsRequestFinished(const Page &page);

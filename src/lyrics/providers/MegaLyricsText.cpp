@@ -102,7 +102,7 @@ private:
     void logMistake(const char *mistake, const QByteArray &digits)
     {
         if (++m_mistakes <= mostLoggedMistakes)
-            qCCritical(lyricsLog).noquote() << mistake << QString::fromUtf8(digits);
+            qCCritical(lyricsLog) << mistake << QString::fromUtf8(digits);
     }
 
     void flush()

@@ -5,6 +5,7 @@
 #include "lyrics/LyricsText.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/ElementFinder.h"
+#include "lyrics/providers/LinkEscapes.h"
 #include "lyrics/providers/TextSearch.h"
 #include "network/Endpoints.h"
 
@@ -29,14 +30,15 @@ QString linkOf(const QString &titleElement)
     return (first && (!second || first->position < second->position) ? first : second)->captures.at(0);
 }
 
-bool nameAgrees(const QString &wanted, const QString &element)
+// The name that an element shows; empty when there is no such element, or only a picture in it.
+QString nameIn(const QString &element)
 {
-    return looselyAgree(wanted, decodeHtmlEntities(stripTags(element)));
+    return decodeHtmlEntities(stripTags(element)).trimmed();
 }
 
 struct Track
 {
-    QString link; // empty when it has none: then it is not wanted
+    QString link; // empty when it lacks this or a name: then it is not wanted
     bool wanted = false;
 };
 
@@ -46,10 +48,12 @@ Track trackOfItem(const QString &item, const QString &artist, const QString &tit
         return {};
     const QString anchor = QStringLiteral("a");
     const QString titleElement = findElement(item, anchor, {QStringLiteral("title")}, true);
+    const QString foundTitle = nameIn(titleElement);
+    const QString foundArtist = nameIn(findElement(item, anchor, {QStringLiteral("artist")}, false));
     const QString link = linkOf(titleElement);
-    const bool wanted = !link.isEmpty() && nameAgrees(title, titleElement) &&
-                        nameAgrees(artist, findElement(item, anchor, {QStringLiteral("artist")}, false));
-    return {link, wanted};
+    if (link.isEmpty() || foundTitle.isEmpty() || foundArtist.isEmpty())
+        return {};
+    return {link, looselyAgree(title, foundTitle) && looselyAgree(artist, foundArtist)};
 }
 
 } // namespace
@@ -85,7 +89,7 @@ ProviderStep MusixMatchProvider::requestFinished(const Page &page)
         return lyricsOfBlock(block).value_or(ProviderStep::notUnderstood(tooIntricate));
     }
     const SongLink link = trackLink(page.text, artist(), title());
-    return link ? askFor(page.url.resolved(QUrl(*link))) : ProviderStep::without(link.missing());
+    return link ? askFor(page.url.resolved(QUrl(withLinkEscapes(*link)))) : ProviderStep::without(link.missing());
 }
 
 QString MusixMatchProvider::lyricsBlock(const QString &page)
@@ -106,7 +110,8 @@ std::optional<ProviderStep> MusixMatchProvider::lyricsOfBlock(const QString &blo
         lyrics += stripTags(part);
         markup += part;
         // Wherever it stands: a part that comes again, word for word, is taken once. This is deliberate.
-        rest = withoutText(rest, span);
+        // One that only begins with the same words is another part, so the end has to follow.
+        rest = withoutText(rest, span, QStringLiteral("</span"));
     }
     return std::nullopt;
 }

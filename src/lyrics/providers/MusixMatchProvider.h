@@ -20,7 +20,7 @@ public:
     // is too intricate to be one.
     [[nodiscard]] static std::optional<ProviderStep> lyricsOfBlock(const QString &block);
     // The link, as it stands in the page, of the first track in a list that resembles these normalised names; nothing
-    // when there is none. Tracks without a link do not count.
+    // when there is none. Tracks without a link or a name do not count.
     [[nodiscard]] static SongLink trackLink(const QString &searchPage, const QString &artist, const QString &title);
 
 protected:

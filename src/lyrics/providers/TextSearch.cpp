@@ -56,9 +56,10 @@ bool holdsText(const QString &text, const QString &part)
     return part.isEmpty() || (part.size() <= text.size() && Searcher(part).indexIn(text, 0) >= 0);
 }
 
-QString withoutText(const QString &text, const QString &part)
+QString withoutText(const QString &text, const QString &part, const QString &follower)
 {
-    const Searcher searcher(part);
+    const QString sought = part + follower;
+    const Searcher searcher(sought);
     QString rest;
     rest.reserve(text.size());
     int from = 0;

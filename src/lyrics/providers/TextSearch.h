@@ -9,6 +9,6 @@
 // Whether `text` holds `part`, in the same case.
 [[nodiscard]] bool holdsText(const QString &text, const QString &part);
 
-// `text` without every occurrence of `part`, which is not empty. What comes together behind a removal is not looked at
-// again.
-[[nodiscard]] QString withoutText(const QString &text, const QString &part);
+// `text` without every occurrence of `part`, which is not empty, that `follower` stands behind. What comes together
+// behind a removal is not looked at again.
+[[nodiscard]] QString withoutText(const QString &text, const QString &part, const QString &follower = {});
