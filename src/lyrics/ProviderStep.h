@@ -36,11 +36,9 @@ public:
     // Ends the search with what cleanLyrics() makes of a fragment of HTML without its scripts and style sheets; without
     // a fragment, as notUnderstood().
     static ProviderStep cleanedLyrics(const std::optional<QString> &markup);
-    // Ends the search: the site does not have the song.
-    static ProviderStep nothing() { return without(SongLink::Missing::NoSuchSong); }
     // Ends the search on a list of songs without the wanted one.
     static ProviderStep without(SongLink::Missing why);
-    // Ends the search like nothing(), or like failure() when people are told a reason.
+    // Ends the search without words, or like failure() when people are told a reason.
     static ProviderStep notUnderstood(const QString &reason = {});
     // Ends the search for a reason that people are told.
     static ProviderStep failure(const QString &reason);
