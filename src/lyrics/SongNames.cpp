@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -60,6 +61,31 @@ QString folded(const QString &name)
     return text;
 }
 
+// The wanted artist and title are the same for all rows of a page. So the two names that were folded last are kept: a
+// page of a megabyte would have a long name folded twenty thousand times.
+class WantedNames
+{
+public:
+    const QString &fold(const QString &name)
+    {
+        if (m_last.name == name)
+            return m_last.key;
+        std::swap(m_last, m_other);
+        if (m_last.name != name)
+            m_last = {name, folded(name)};
+        return m_last.key;
+    }
+
+private:
+    struct Entry
+    {
+        QString name;
+        QString key;
+    };
+    Entry m_last;
+    Entry m_other;
+};
+
 } // namespace
 
 QString normalisedArtist(const QString &artist)
@@ -78,10 +104,11 @@ QString normalisedTitle(const QString &title)
     return name.trimmed();
 }
 
-bool looselyAgree(const QString &left, const QString &right)
+bool looselyAgree(const QString &wanted, const QString &found)
 {
-    const QString a = folded(left);
-    const QString b = folded(right);
+    thread_local WantedNames wantedNames;
+    const QString a = wantedNames.fold(wanted);
+    const QString b = folded(found);
     return a.contains(b) || b.contains(a);
 }
 

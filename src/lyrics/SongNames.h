@@ -19,7 +19,7 @@ constexpr int longestName = 1000;
 // Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
 // spaces, commas and ampersands. Characters that Unicode takes for forms of others count as those: an accent of its
 // own, a wide letter (NFKC, https://unicode.org/reports/tr15). A name of which nothing is left resembles every other.
-[[nodiscard]] bool looselyAgree(const QString &left, const QString &right);
+[[nodiscard]] bool looselyAgree(const QString &wanted, const QString &found);
 
 // A name, or names, as the value of a query: percent-encoded wholly, so that "+", "&", "#" and "%" arrive as they are.
 // A letter and its accents are sent as one character where there is one (NFC), as sites store them.
