@@ -136,6 +136,7 @@ QNetworkReply *AccessManager::createRequest(Operation operation, const QNetworkR
     const auto kind = isDownload ? RequestKind::Download : RequestKind::Page;
     auto *reply = new LimitedReply(operation, request, kind, m_limits, this);
     connect(reply, &QNetworkReply::metaDataChanged, this, [this, reply] { noteWish(*reply); });
+    connect(reply, &QNetworkReply::finished, this, [this, reply] { noteSilence(*reply); });
     enqueue(reply, outgoingData);
     return reply;
 }
@@ -171,6 +172,8 @@ std::optional<AccessManager::Hindrance> AccessManager::hindrance(const QUrl &url
     const qint64 seconds = m_restingHosts.remaining(url).count();
     if (seconds == 0)
         return {};
+    if (const QString silence = m_restingHosts.silence(url); !silence.isEmpty())
+        return Hindrance{QNetworkReply::TimeoutError, silence};
     const QString text = tr("%1 asked for a pause and can be asked again in %2 s.", "%1 is a host name");
     return Hindrance{QNetworkReply::ServiceUnavailableError, text.arg(url.host()).arg(seconds)};
 }
@@ -306,6 +309,15 @@ void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &
     if (error == loginRefused && proxy == this->proxy())
         refuse(proxy);
     reply->fail(error, proxyErrorText(error));
+}
+
+void AccessManager::noteSilence(const QNetworkReply &reply)
+{
+    const bool answered = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    if (reply.error() == QNetworkReply::TimeoutError)
+        m_restingHosts.noteTimeout(reply.url(), reply.errorString());
+    else if (answered)
+        m_restingHosts.noteAnswer(reply.url());
 }
 
 void AccessManager::noteWish(const QNetworkReply &reply)

@@ -23,7 +23,7 @@
 // - Nobody is given a user name and a password but the proxy.
 // - Redirects are not followed: whoever sent the request does that by hand (Redirects.h).
 // - A server that answers 429 or 503 with "Retry-After" gets no request for that time; they fail instead, at once or,
-//   when they wait already, as soon as it would be their turn.
+//   when they wait already, as soon as it would be their turn. So do those to a server that let several time out.
 // - A server gets a few requests at a time; the others wait here and cost no time of their limits (RequestQueue).
 // - An HTTP proxy gets the user name and the password only after it asked for them, and is asked first for an address
 //   that does not exist, so that no site sees a log-in and a wrong one is tried once. What is asked for meanwhile
@@ -91,6 +91,7 @@ private:
     // Sends what the reply stands for, or ends it. Null when there was nothing to send.
     QNetworkReply *send(LimitedReply *reply, QIODevice *outgoingData);
     void noteWish(const QNetworkReply &reply);
+    void noteSilence(const QNetworkReply &reply);
     QNetworkReply *sendNow(LimitedReply *reply, QIODevice *outgoingData);
     // After an answer that asks for the log-in, the reply is taken back and waits to be sent again.
     void repeatWithLogin(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply,

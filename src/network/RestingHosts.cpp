@@ -3,7 +3,6 @@
 
 #include "network/Server.h"
 
-#include <algorithm>
 #include <utility>
 
 RestingHosts::RestingHosts(Clock clock)
@@ -13,14 +12,47 @@ RestingHosts::RestingHosts(Clock clock)
 
 std::chrono::seconds RestingHosts::remaining(const QUrl &url) const
 {
-    const auto found = m_until.constFind(serverOf(url));
-    if (found == m_until.constEnd())
+    const auto found = m_servers.constFind(serverOf(url));
+    const auto now = m_clock();
+    if (found == m_servers.constEnd() || found->until <= now)
         return std::chrono::seconds(0);
-    return std::max(std::chrono::seconds(0), std::chrono::ceil<std::chrono::seconds>(*found - m_clock()));
+    return std::chrono::ceil<std::chrono::seconds>(found->until - now);
+}
+
+QString RestingHosts::silence(const QUrl &url) const
+{
+    return m_servers.value(serverOf(url)).silence;
 }
 
 void RestingHosts::rest(const QUrl &url, std::chrono::seconds pause)
 {
-    auto &until = m_until[serverOf(url)];
-    until = std::max(until, m_clock() + pause);
+    restFor(m_servers[serverOf(url)], pause, {});
+}
+
+void RestingHosts::noteTimeout(const QUrl &url, const QString &text)
+{
+    Server &server = m_servers[serverOf(url)];
+    if (++server.timeouts >= mostTimeouts)
+        restFor(server, pauseOfSilence, text);
+}
+
+void RestingHosts::noteAnswer(const QUrl &url)
+{
+    const auto found = m_servers.find(serverOf(url));
+    if (found == m_servers.end())
+        return;
+    found->timeouts = 0;
+    if (found->silence.isEmpty())
+        return;
+    found->silence.clear();
+    found->until = Server().until;
+}
+
+void RestingHosts::restFor(Server &server, std::chrono::seconds pause, const QString &silence)
+{
+    const auto until = m_clock() + pause;
+    if (until <= server.until)
+        return;
+    server.until = until;
+    server.silence = silence;
 }

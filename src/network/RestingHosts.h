@@ -8,25 +8,45 @@
 #include <chrono>
 #include <functional>
 
-// Remembers which servers asked to be left alone, and until when (Server.h).
+// Remembers which servers are to be left alone, and until when (Server.h): those that asked for it, and those that do
+// not answer. Each request to a silent server would take its whole time, and every song that is searched for with it.
 class RestingHosts
 {
 public:
     // The clock is monotonic, so that a changed wall clock neither ends nor stretches a pause.
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
+    // A server that let so many requests in a row time out rests for so long, and again after each further one.
+    static constexpr int mostTimeouts = 3;
+    static constexpr std::chrono::seconds pauseOfSilence = std::chrono::minutes(3);
+
     explicit RestingHosts(Clock clock = &std::chrono::steady_clock::now);
 
     // Rounded up to whole seconds; 0 when the server of this address may be asked.
     [[nodiscard]] std::chrono::seconds remaining(const QUrl &url) const;
+    // What the last request met, for users, when the server rests for its silence; empty when it asked for the pause.
+    [[nodiscard]] QString silence(const QUrl &url) const;
 
-    // A pause that ends earlier than the one that holds already changes nothing.
+    // The server asked for a pause. One that ends earlier than the one that holds already changes nothing.
     void rest(const QUrl &url, std::chrono::seconds pause);
+    // A request timed out; `text` says so to users.
+    void noteTimeout(const QUrl &url, const QString &text);
+    // A request was answered, however: a rest for silence is over.
+    void noteAnswer(const QUrl &url);
 
     // No server rests any more.
-    void clear() { m_until.clear(); }
+    void clear() { m_servers.clear(); }
 
 private:
+    struct Server
+    {
+        std::chrono::steady_clock::time_point until = std::chrono::steady_clock::time_point::min();
+        QString silence;
+        int timeouts = 0; // in a row
+    };
+
+    void restFor(Server &server, std::chrono::seconds pause, const QString &silence);
+
     Clock m_clock;
-    QHash<QString, std::chrono::steady_clock::time_point> m_until;
+    QHash<QString, Server> m_servers;
 };

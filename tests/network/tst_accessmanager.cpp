@@ -294,6 +294,22 @@ private slots:
         QVERIFY2(replies[6]->errorString().contains("again in 30 s"_s), qPrintable(replies[6]->errorString()));
     }
 
+    void aServerThatTimesOutAgainAndAgainIsLeftAlone()
+    {
+        m_manager->setLimits({50ms, 1s, limitBytes});
+        m_server->route("/silent"_s, LoopbackResponse::hanging());
+        m_server->route("/page"_s, LoopbackResponse::page("song"));
+        for (const char *target : {"/silent", "/silent", "/page", "/silent", "/silent", "/page", "/silent", "/silent"})
+            QCOMPARE(get(target)->error() == QNetworkReply::NoError, qstrcmp(target, "/page") == 0);
+        get("/silent");
+        const auto refused = get("/page");
+        QCOMPARE(refused->error(), QNetworkReply::TimeoutError);
+        QVERIFY2(refused->errorString().contains("silent"_s), qPrintable(refused->errorString()));
+        QCOMPARE(m_server->requestCount("/page"_s), 2);
+        m_now += RestingHosts::pauseOfSilence;
+        QCOMPARE(get("/page")->error(), QNetworkReply::NoError);
+    }
+
     void aPauseHoldsForTheStartOfItsChainToo()
     {
         LoopbackServer another;
