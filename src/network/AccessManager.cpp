@@ -8,13 +8,19 @@
 #include "network/RefusedReply.h"
 #include "network/RetryAfter.h"
 
+#include <QTimer>
+
 #include <algorithm>
 #include <utility>
 
 namespace {
 
+using Login = ProxyLogin::State;
+
 constexpr auto loginRefused = QNetworkReply::ProxyAuthenticationRequiredError;
 constexpr int shownAddressCharacters = 120; // a data: address can be as long as a page
+// Proxies take a few seconds to refuse a log-in; more than that is the site's time.
+constexpr std::chrono::seconds socksLoginPatience(10);
 
 // A name that is reserved for never existing (RFC 2606): whatever comes of it was said by the proxy.
 const QUrl nowhere(QStringLiteral("http://login.invalid/"));
@@ -31,6 +37,11 @@ QNetworkProxy withLoginInUtf8(QNetworkProxy proxy)
 bool hasHttpLogin(const QNetworkProxy &proxy)
 {
     return proxy.type() == QNetworkProxy::HttpProxy && !proxy.user().isEmpty();
+}
+
+bool hasSocksLogin(const QNetworkProxy &proxy)
+{
+    return proxy.type() == QNetworkProxy::Socks5Proxy && !proxy.user().isEmpty();
 }
 
 bool isPlain(const QUrl &url)
@@ -103,11 +114,20 @@ AccessManager::AccessManager(QObject *parent, RestingHosts::Clock clock)
     : QNetworkAccessManager(parent)
     , m_restingHosts(std::move(clock))
 {
+    shareLogin(std::make_shared<ProxyLogin>());
 }
 
 void AccessManager::setLimits(const RequestLimits &limits)
 {
     m_limits = limits;
+}
+
+void AccessManager::shareLogin(const std::shared_ptr<ProxyLogin> &login)
+{
+    if (m_login)
+        m_login->disconnect(this);
+    m_login = login;
+    connect(m_login.get(), &ProxyLogin::checkEnded, this, &AccessManager::release);
 }
 
 void AccessManager::useProxy(const QNetworkProxy &proxy)
@@ -116,10 +136,7 @@ void AccessManager::useProxy(const QNetworkProxy &proxy)
     if (used != this->proxy())
         forgetPauses();
     setProxy(used);
-    m_refusingProxy.reset();
-    m_login = Login::Unknown;
-    if (m_check)
-        m_check->abort(); // which releases what is held, for the new proxy
+    m_login->setProxy(used);
 }
 
 void AccessManager::forgetPauses()
@@ -167,7 +184,7 @@ QNetworkReply *AccessManager::refusal(Operation operation, const QNetworkRequest
 
 std::optional<AccessManager::Hindrance> AccessManager::hindrance(const QUrl &url) const
 {
-    if (m_refusingProxy == proxy())
+    if (m_login->isRefusedBy(proxy()))
         return Hindrance{loginRefused, proxyErrorText(loginRefused)};
     const qint64 seconds = m_restingHosts.remaining(url).count();
     if (seconds == 0)
@@ -186,18 +203,20 @@ QNetworkReply *AccessManager::send(LimitedReply *reply, QIODevice *outgoingData)
         reply->fail(hindered->error, hindered->text);
         return nullptr;
     }
-    const bool maybeRefused = hasHttpLogin(proxy()) && m_login == Login::Unknown && !isPlain(reply->url());
-    if (m_check || maybeRefused) {
+    const bool isUnknown = m_login->state() == Login::Unknown;
+    if (m_login->isBeingChecked() || (isUnknown && hasHttpLogin(proxy()) && !isPlain(reply->url()))) {
         hold(reply, outgoingData);
         return nullptr;
     }
+    if (isUnknown && hasSocksLogin(proxy()))
+        checkLoginBy(reply);
     return sendNow(reply, outgoingData);
 }
 
 QNetworkReply *AccessManager::sendNow(LimitedReply *reply, QIODevice *outgoingData)
 {
     const QNetworkProxy used = proxy();
-    const bool withLogin = m_login == Login::Works && hasHttpLogin(used) && isPlain(reply->url());
+    const bool withLogin = m_login->state() == Login::Works && hasHttpLogin(used) && isPlain(reply->url());
     QNetworkReply *source =
         QNetworkAccessManager::createRequest(reply->operation(), asSent(*reply, used, withLogin), outgoingData);
     const QPointer<LimitedReply> waiting(reply);
@@ -208,6 +227,8 @@ QNetworkReply *AccessManager::sendNow(LimitedReply *reply, QIODevice *outgoingDa
                     if (waiting && (data || !uploads))
                         repeatWithLogin(*source, used, waiting, data);
                 });
+    connect(source, &QNetworkReply::metaDataChanged, this,
+            [this, source, waiting] { noteLoginOf(waiting, *source, QNetworkReply::NoError); });
     // Here and not where the outcome is handed out, so that it is known before the next one in the queue is sent.
     connect(source, &QNetworkReply::finished, this,
             [this, source, used, waiting, withLogin] { noteProxy(*source, used, waiting, withLogin); });
@@ -218,11 +239,11 @@ QNetworkReply *AccessManager::sendNow(LimitedReply *reply, QIODevice *outgoingDa
 void AccessManager::repeatWithLogin(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply,
                                     QIODevice *outgoingData)
 {
-    const bool wanted = proxy == this->proxy() && m_login != Login::NotWanted && !m_refusingProxy;
+    const bool wanted = proxy == this->proxy() && m_login->state() != Login::NotWanted && !m_login->isRefusedBy(proxy);
     if (!wanted || !asksForBasicLogin(source) || !canBeSentAgain(outgoingData))
         return;
     reply->takeBack();
-    if (m_login == Login::Works)
+    if (m_login->state() == Login::Works)
         enqueue(reply, outgoingData);
     else
         hold(reply, outgoingData);
@@ -232,52 +253,86 @@ void AccessManager::repeatWithLogin(const QNetworkReply &source, const QNetworkP
 
 void AccessManager::hold(LimitedReply *reply, QIODevice *outgoingData)
 {
-    m_held.append({reply, outgoingData, outgoingData != nullptr});
-    if (!m_check)
+    m_held.append({reply, outgoingData, outgoingData != nullptr, false});
+    if (!m_login->isBeingChecked())
         checkLogin(false);
 }
 
 void AccessManager::checkLogin(bool withLogin)
 {
     const QNetworkProxy used = proxy();
-    m_check = new LimitedReply(GetOperation, QNetworkRequest(nowhere), RequestKind::Page, m_limits, this);
-    connect(m_check, &QNetworkReply::finished, this,
-            [this, used, withLogin, check = m_check.data()] { loginChecked(check, used, withLogin); });
+    auto *check = new LimitedReply(GetOperation, QNetworkRequest(nowhere), RequestKind::Page, m_limits, this);
+    m_login->beginCheck(check);
+    connect(check, &QNetworkReply::finished, this, [this, check, withLogin] { loginChecked(check, withLogin); });
     QNetworkReply *source =
-        QNetworkAccessManager::createRequest(GetOperation, asSent(*m_check, used, withLogin), nullptr);
-    connect(source, &QNetworkReply::finished, m_check, [source, used, check = m_check.data()] {
+        QNetworkAccessManager::createRequest(GetOperation, asSent(*check, used, withLogin), nullptr);
+    connect(source, &QNetworkReply::finished, check, [source, used, check] {
         const QNetworkReply::NetworkError error = proxyError(*source, used);
         if (error != QNetworkReply::NoError)
             check->fail(error, proxyErrorText(error));
     });
-    m_check->start(source);
+    check->start(source);
 }
 
-void AccessManager::loginChecked(LimitedReply *check, const QNetworkProxy &proxy, bool withLogin)
+void AccessManager::loginChecked(LimitedReply *check, bool withLogin)
 {
     check->deleteLater();
-    m_check = nullptr;
+    if (!m_login->isCheck(check))
+        return; // of a proxy that is not used any more
     const int status = check->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    const bool current = proxy == this->proxy() && check->error() != QNetworkReply::OperationCanceledError;
-    if (current && !withLogin && asksForBasicLogin(*check)) {
+    const bool hasLogin = hasHttpLogin(proxy());
+    if (!withLogin && hasLogin && asksForBasicLogin(*check))
         checkLogin(true);
-        return;
-    }
     // There are proxies that answer a wrong password as if a site had been asked for one.
-    if (current && withLogin && (status == 401 || status == 407))
-        refuse(proxy);
-    else if (current && status != 0)
-        m_login = withLogin ? Login::Works : Login::NotWanted;
-    release(current && status == 0 ? check : nullptr);
+    else if ((withLogin && (status == 401 || status == 407)) || (!hasLogin && status == 407))
+        m_login->endCheck(Login::Refused);
+    else if (status != 0)
+        m_login->endCheck(withLogin ? Login::Works : Login::NotWanted);
+    else
+        m_login->endCheck(Login::Unknown, check->error());
 }
 
-void AccessManager::release(const QNetworkReply *failedCheck)
+void AccessManager::checkLoginBy(LimitedReply *reply)
+{
+    m_login->beginCheck(reply);
+    QTimer::singleShot(socksLoginPatience, this, [this, check = static_cast<const QObject *>(reply)] {
+        if (m_login->isCheck(check))
+            m_login->endCheck(Login::Works);
+    });
+}
+
+void AccessManager::noteLoginOf(const LimitedReply *reply, const QNetworkReply &source,
+                                QNetworkReply::NetworkError ofProxy)
+{
+    if (!m_login->isCheck(reply))
+        return;
+    if (ofProxy == loginRefused)
+        m_login->endCheck(Login::Refused);
+    else if (ofProxy != QNetworkReply::NoError)
+        m_login->endCheck(Login::Unknown, ofProxy);
+    else
+        m_login->endCheck(source.error() == QNetworkReply::OperationCanceledError ? Login::Unknown : Login::Works);
+}
+
+void AccessManager::doubt(LimitedReply *reply, bool withLogin)
+{
+    reply->takeBack();
+    m_held.append({reply, {}, false, true});
+    if (!m_login->isBeingChecked())
+        checkLogin(withLogin);
+}
+
+void AccessManager::release(QNetworkReply::NetworkError error)
 {
     for (const Held &held : std::exchange(m_held, {})) {
         if (!held.reply)
             continue;
-        if (failedCheck)
-            held.reply->fail(failedCheck->error(), proxyErrorText(failedCheck->error()));
+        if (error != QNetworkReply::NoError)
+            held.reply->fail(error, proxyErrorText(error));
+        else if (held.isAnswered && m_login->isRefusedBy(proxy()))
+            held.reply->fail(loginRefused, proxyErrorText(loginRefused));
+        else if (held.isAnswered)
+            held.reply->failByStatus(loginRefused);
         else if (held.uploads && !held.data)
             held.reply->abort(); // rather than send half of it
         else
@@ -285,29 +340,28 @@ void AccessManager::release(const QNetworkReply *failedCheck)
     }
 }
 
-void AccessManager::refuse(const QNetworkProxy &proxy)
-{
-    if (!m_refusingProxy)
-        qCWarning(networkLog, "The proxy refuses the log-in.");
-    m_refusingProxy = proxy;
-}
-
 void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply,
                               bool withLogin)
 {
     const QNetworkReply::NetworkError error = proxyError(source, proxy);
+    noteLoginOf(reply, source, error);
     if (error == QNetworkReply::NoError || !reply || reply->isSettled())
         return;
+    const bool isAnswered = source.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    const bool isRefused = m_login->isRefusedBy(proxy);
     // What a proxy says about a log-in that it was never given is no refusal, and a site may say so as well.
-    const bool unasked = hasHttpLogin(proxy) && isPlain(source.url()) && !withLogin;
-    if (error == loginRefused && unasked && m_refusingProxy != proxy) {
+    if (error == loginRefused && isAnswered && hasHttpLogin(proxy) && !withLogin && !isRefused) {
         reply->fail(error, asksForBasicLogin(source)
                                ? tr("The proxy asks for a log-in for some pages only, which is not supported.")
                                : tr("The proxy wants a log-in of a kind that is not known here."));
         return;
     }
-    if (error == loginRefused && proxy == this->proxy())
-        refuse(proxy);
+    if (error == loginRefused && isAnswered && !isRefused && proxy == this->proxy()) {
+        doubt(reply, withLogin);
+        return;
+    }
+    if (error == loginRefused)
+        m_login->refuse(proxy);
     reply->fail(error, proxyErrorText(error));
 }
 

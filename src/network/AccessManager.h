@@ -2,6 +2,7 @@
 #pragma once
 
 #include "network/LimitedReply.h"
+#include "network/ProxyLogin.h"
 #include "network/RequestLimits.h"
 #include "network/RequestQueue.h"
 #include "network/RestingHosts.h"
@@ -14,6 +15,7 @@
 #include <QPointer>
 #include <QVector>
 
+#include <memory>
 #include <optional>
 
 // The access manager of every connection that the program opens. It keeps hostile and broken servers from doing harm:
@@ -28,8 +30,10 @@
 // - An HTTP proxy gets the user name and the password only after it asked for them, and is asked first for an address
 //   that does not exist, so that no site sees a log-in and a wrong one is tried once. What is asked for meanwhile
 //   waits.
+// - A SOCKS5 proxy gets it with one request first; what is asked for until that one is through waits.
 // - After a proxy refused a log-in, requests fail with that error and are not sent, until the proxy changes: somebody
-//   who tries over and over gets the account locked.
+//   who tries over and over gets the account locked. Managers that share a ProxyLogin try it once for all of them.
+// - A site that speaks of a log-in at the proxy is not believed: an HTTP proxy is asked first for that address.
 //
 // Replies, cookies and proxies are used as with any QNetworkAccessManager; see LimitedReply for what a reply promises.
 // A request that waited goes out with the cookies and the proxy of the moment in which it is sent. Data that is
@@ -56,9 +60,14 @@ public:
     // For the requests that are made from now on.
     void setLimits(const RequestLimits &limits);
 
-    // Sets the proxy for what is sent from now on, and forgets that one refused a log-in. With another proxy, the
-    // pauses that were asked for are forgotten too.
+    // Before anything is sent. Whoever shares one is to be given the same proxy.
+    void shareLogin(const std::shared_ptr<ProxyLogin> &login);
+
+    // Sets the proxy for what is sent from now on. With another one, or another log-in, it is forgotten that a log-in
+    // was refused, and the pauses that were asked for too.
     void useProxy(const QNetworkProxy &proxy);
+    // A log-in that was refused may be tried again.
+    void forgetLogin() { m_login->forget(); }
 
     // Every server may be asked again.
     void forgetPauses();
@@ -78,10 +87,8 @@ private:
         QPointer<LimitedReply> reply;
         QPointer<QIODevice> data;
         bool uploads;
+        bool isAnswered; // by somebody who asks for a log-in at the proxy: it fails, whoever that was
     };
-    // What is known of the log-in at an HTTP proxy that is in use. NotWanted: it asks for none, or for none of the kind
-    // that is made up here.
-    enum class Login { Unknown, NotWanted, Works };
 
     // An error reply when this request must not even wait, else null.
     QNetworkReply *refusal(Operation operation, const QNetworkRequest &request);
@@ -99,18 +106,20 @@ private:
     // Keeps what is to be sent until the log-in is checked, and sees to that.
     void hold(LimitedReply *reply, QIODevice *outgoingData);
     void checkLogin(bool withLogin);
-    void loginChecked(LimitedReply *check, const QNetworkProxy &proxy, bool withLogin);
+    void loginChecked(LimitedReply *check, bool withLogin);
+    // The request with which a SOCKS5 proxy is given the log-in first.
+    void checkLoginBy(LimitedReply *reply);
+    void noteLoginOf(const LimitedReply *reply, const QNetworkReply &source, QNetworkReply::NetworkError ofProxy);
+    // Keeps a reply that asks for a log-in until it is clear whether the proxy does.
+    void doubt(LimitedReply *reply, bool withLogin);
     // Sends what was held, or lets it fail as the check did.
-    void release(const QNetworkReply *failedCheck);
-    void refuse(const QNetworkProxy &proxy);
+    void release(QNetworkReply::NetworkError error);
     // Looks at an answer that came through `proxy`; the reply that stands before it fails when the proxy did.
     void noteProxy(const QNetworkReply &source, const QNetworkProxy &proxy, LimitedReply *reply, bool withLogin);
 
     RequestLimits m_limits;
     RestingHosts m_restingHosts;
     RequestQueue m_queue;
-    std::optional<QNetworkProxy> m_refusingProxy; // with the user name and the password that it refused
-    Login m_login = Login::Unknown;
-    QPointer<LimitedReply> m_check; // while the log-in is checked
+    std::shared_ptr<ProxyLogin> m_login;
     QVector<Held> m_held;
 };

@@ -3,8 +3,7 @@
 
 #include "network/NetworkLog.h"
 #include "network/Redirects.h"
-
-#include <QSettings>
+#include "network/SettingsStore.h"
 
 #include <array>
 #include <optional>
@@ -79,7 +78,7 @@ QUrl readBase(const QSettings &settings, const EndpointRow &row)
 
 Bases readBases()
 {
-    QSettings settings;
+    SettingsStore settings;
     settings.beginGroup(endpointGroup());
     Bases bases;
     for (const EndpointRow &row : endpointTable)

@@ -8,7 +8,7 @@
 // The one table of addresses that the program talks to. Each has a default and can be overridden in the settings group
 // "endpoints" under its key; an override is a plain http or https address, anything else is ignored with a warning.
 //
-// The overrides are read from QSettings in its default scope on the first use of endpointBase(), endpointUrl() or
+// The overrides are read from the settings file (SettingsStore) on the first use of endpointBase(), endpointUrl() or
 // endpointExists(), so the application's and the organisation's name must be set before. Main thread only.
 enum class Endpoint {
     LyricsFreak,

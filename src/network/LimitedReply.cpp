@@ -328,6 +328,11 @@ void LimitedReply::fail(NetworkError error, const QString &text)
     settle();
 }
 
+void LimitedReply::failByStatus(NetworkError error)
+{
+    fail(error, statusText(httpStatus()));
+}
+
 void LimitedReply::settle()
 {
     if (m_settled)

@@ -48,6 +48,8 @@ public:
     void takeBack();
     // Ends the request, sent or not, with this error. Does nothing once it has finished.
     void fail(NetworkError error, const QString &text);
+    // The same, in the words for the status that has arrived.
+    void failByStatus(NetworkError error);
 
     void abort() override;
     // Holds back a download that is not read; a page is limited anyway.

@@ -62,12 +62,15 @@ QNetworkReply::NetworkError proxyError(const QNetworkReply &reply, const QNetwor
     if (!isSet(proxy))
         return QNetworkReply::NoError;
     const bool answered = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    const bool mayAnswerItself =
+        proxy.type() == QNetworkProxy::HttpProxy && reply.url().scheme() == QLatin1String("http");
+    if (answered && !mayAnswerItself)
+        return QNetworkReply::NoError;
     if (error == QNetworkReply::UnknownNetworkError && !answered)
         return fromWords(reply.errorString());
     if (error >= QNetworkReply::ProxyConnectionRefusedError && error <= QNetworkReply::ProxyAuthenticationRequiredError)
         return error;
-    const bool plain = reply.url().scheme() == QLatin1String("http");
-    return plain && proxy.type() == QNetworkProxy::HttpProxy ? asProxyError(error) : QNetworkReply::NoError;
+    return mayAnswerItself ? asProxyError(error) : QNetworkReply::NoError;
 }
 
 QString proxyErrorText(QNetworkReply::NetworkError error)

@@ -27,7 +27,9 @@ bool ProxyTester::start(const QNetworkProxy &proxy)
     m_proxy = proxy;
     m_ranOutOfTime = false;
     m_manager->useProxy(m_proxy);
-    m_manager->forgetPauses(); // nobody tests often enough to do harm, and an old answer says nothing of this proxy
+    // Nobody tests often enough to do harm, and an old answer says nothing of this proxy.
+    m_manager->forgetLogin();
+    m_manager->forgetPauses();
     m_reply = m_manager->get(QNetworkRequest(m_url));
     connect(m_reply, &QNetworkReply::finished, this, &ProxyTester::finished);
     m_timer->start(std::chrono::seconds(m_timeoutSeconds));

@@ -9,7 +9,7 @@ Q_DECLARE_METATYPE(ProxyTester::State)
 
 namespace {
 
-const QUrl page(QStringLiteral("http://page.example/"));
+const QUrl page(QStringLiteral("http://page.example/hello"));
 
 QNetworkProxy proxyAt(const LoopbackServer &server)
 {
@@ -55,7 +55,7 @@ private slots:
             QVERIFY(!tester.start(proxyAt(server)));
             QTRY_VERIFY(tester.state() != ProxyTester::Working);
             QTEST(tester.state(), "outcome");
-            QCOMPARE(server.requests().size(), round);
+            QCOMPARE(server.requestCount(page.path()), round);
         }
         QFETCH(ProxyTester::State, outcome);
         QCOMPARE(states, (QVector<ProxyTester::State>{ProxyTester::Working, outcome, ProxyTester::Working, outcome}));
