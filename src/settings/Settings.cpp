@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
 #include "settings/SettingsCipher.h"
 #include "settings/SettingsKeys.h"
-
-#include <QSettings>
 
 #include <limits>
 
@@ -17,6 +16,8 @@ constexpr int largestPort = std::numeric_limits<quint16>::max();
 
 // Part of the file format: with another one, no stored secret can be read any more.
 constexpr quint64 cipherKey = 0x3d81c5a27e90b46f;
+// That of an empty secret. What is shorter deciphers to nothing as well, and may be anything.
+constexpr int shortestCipherText = 8;
 
 // Stores the value and tells whether it was a new one.
 template<typename T>
@@ -31,6 +32,15 @@ bool assign(T &field, const T &value)
 QString enciphered(const QString &secret)
 {
     return SettingsCipher(cipherKey).encryptToString(secret);
+}
+
+// What is to be stored for a secret: the text that is there when it stands for the same one, since a new one would be
+// another text each time, and a change of the file that changes nothing.
+QString storedOrEnciphered(const QString &stored, const QString &secret)
+{
+    SettingsCipher cipher(cipherKey);
+    const bool isSame = cipher.decryptToString(stored) == secret && cipher.lastError() == SettingsCipher::ErrorNoError;
+    return isSame && stored.size() >= shortestCipherText ? stored : enciphered(secret);
 }
 
 // The stored values, each with a fallback for an absent key.
@@ -57,7 +67,7 @@ private:
         return m_store.value(keyName(key), current);
     }
 
-    QSettings m_store;
+    SettingsStore m_store;
 };
 
 ProxyConfiguration defaultProxy()
@@ -117,14 +127,18 @@ bool Settings::save() const
 
 void Settings::addTo(SettingsChange *change) const
 {
+    const SettingsStore store;
+    const auto secret = [&store](SettingsKey key, const QString &value) {
+        return storedOrEnciphered(storedValue(store, key).toString(), value);
+    };
     change->set(SettingsKey::LyricsFontSize, m_lyricsFontSize);
     change->set(SettingsKey::Language, m_language);
     change->set(SettingsKey::ProxyType, m_proxy.type);
     change->set(SettingsKey::ProxyAddress, m_proxy.address);
     change->set(SettingsKey::ProxyPort, static_cast<int>(m_proxy.port));
     change->set(SettingsKey::ProxyAuthentication, m_proxy.authentication);
-    change->set(SettingsKey::ProxyUsername, enciphered(m_proxy.username));
-    change->set(SettingsKey::ProxyPassword, enciphered(m_proxy.password));
+    change->set(SettingsKey::ProxyUsername, secret(SettingsKey::ProxyUsername, m_proxy.username));
+    change->set(SettingsKey::ProxyPassword, secret(SettingsKey::ProxyPassword, m_proxy.password));
     change->set(SettingsKey::SaveFilesList, m_saveFilesList);
     change->set(SettingsKey::SearchProvider, m_searchProvider);
     change->set(SettingsKey::GenerateLyricsFileAuto, m_generateLyricsFileAuto);

@@ -1,46 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsChange.h"
 
+#include "network/SettingsStore.h"
+#include "settings/SettingsCopy.h"
 #include "settings/SettingsFile.h"
 #include "settings/SettingsLog.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
-#include <QTemporaryFile>
 
 #include <algorithm>
-#include <cstdio>
-
-#include <unistd.h>
 
 namespace {
 
-// The file itself where the settings lie behind a symbolic link.
-QString storePath()
+SettingsChange::Listener &listener()
 {
-    const QString path = QSettings().fileName();
-    const QString target = QFileInfo(path).canonicalFilePath();
-    return target.isEmpty() ? path : target;
+    static SettingsChange::Listener onlyOne;
+    return onlyOne;
 }
 
 // By its permissions, which count for root as well.
 bool isWritable(const QFileInfo &file)
 {
     return !file.exists() || (file.isFile() && file.isWritable() && file.permission(QFile::WriteOwner));
-}
-
-// Makes a copy of the old file, for its entries that do not change; nothing when there is none.
-bool copyInto(QTemporaryFile *copy, const QString &path)
-{
-    QFile old(path);
-    if (!old.exists())
-        return copy->open();
-    if (!old.open(QIODevice::ReadOnly) || !copy->open())
-        return false;
-    const QByteArray content = old.readAll();
-    return copy->setPermissions(old.permissions()) && copy->write(content) == content.size() && copy->flush();
 }
 
 // Whether the store says that already; it gives numbers and flags back as texts.
@@ -74,61 +57,71 @@ void clearAllBut(const QVector<SettingsKey> &keys, QSettings *store)
         store->setValue(name, value);
 }
 
-bool syncAndRename(QFile *file, const QString &path)
+// Nothing when it cannot be read; empty when there is no such file.
+std::optional<QByteArray> contentOf(const QString &path)
 {
-    return fsync(file->handle()) == 0 &&
-           std::rename(QFile::encodeName(file->fileName()).constData(), QFile::encodeName(path).constData()) == 0;
+    QFile file(path);
+    if (!file.exists())
+        return QByteArray();
+    return file.open(QIODevice::ReadOnly) ? wholeContent(&file) : std::nullopt;
 }
 
 } // namespace
 
+void SettingsChange::setListener(const Listener &told)
+{
+    listener() = told;
+}
+
 bool SettingsChange::commit() const
 {
-    const QString path = storePath();
+    const QString path = SettingsStore::path();
     QDir().mkpath(QFileInfo(path).absolutePath());
-    if (isWritable(QFileInfo(path)) && (changesNothing() || writeNewFile(path)))
-        return true;
-    qCWarning(settingsLog, "The settings cannot be stored: their file cannot be written.");
-    return false;
+    SettingsMending mended;
+    const bool succeeded = isWritable(QFileInfo(path)) && (changesNothing() || writeNewFile(path, &mended));
+    if (!succeeded)
+        qCWarning(settingsLog, "The settings cannot be stored: their file cannot be written.");
+    if (listener())
+        listener()(succeeded, mended);
+    return succeeded;
 }
 
 bool SettingsChange::changesNothing() const
 {
-    const QSettings store;
+    const SettingsStore store;
     return !m_kept && std::all_of(m_values.begin(), m_values.end(), [&store](const auto &entry) {
         return isStored(store.value(keyName(entry.first)), entry.second);
     });
 }
 
-bool SettingsChange::writeNewFile(const QString &path) const
+bool SettingsChange::writeNewFile(const QString &path, SettingsMending *mended) const
 {
     // Somebody else may have written there since the start.
-    if (mendSettingsFile(path, SettingsFileAccess::Mend).standIn)
+    *mended = mendSettingsFile(path, SettingsFileAccess::Mend);
+    if (mended->standIn)
         return false;
-    // A name that was never used: the store remembers what it could not write under a name, and would add it later.
-    QTemporaryFile copy(path + QLatin1String(".XXXXXX"));
-    if (!copyInto(&copy, path))
+    const std::optional<QByteArray> old = contentOf(path);
+    SettingsCopy copy(path);
+    if (!old || !copy.write(*old))
         return false;
-    copy.close();
-    int entries = 0;
-    {
-        QSettings store(copy.fileName(), QSettings::NativeFormat);
-        if (m_kept)
-            clearAllBut(*m_kept, &store);
-        for (const auto &[key, value] : m_values) {
-            if (value.isValid())
-                store.setValue(keyName(key), value);
-            else
-                store.remove(keyName(key));
-        }
-        store.sync();
-        entries = store.allKeys().size();
-        if (store.status() != QSettings::NoError)
-            return false;
+    const std::optional<int> entries = edit(copy.fileName());
+    const std::optional<QByteArray> edited = contentOf(copy.fileName());
+    return entries && edited && isWhole(*edited, *entries) && copy.write(markedAsWhole(*edited)) && copy.takePlace();
+}
+
+std::optional<int> SettingsChange::edit(const QString &file) const
+{
+    QSettings store(file, QSettings::NativeFormat);
+    if (m_kept)
+        clearAllBut(*m_kept, &store);
+    for (const auto &[key, value] : m_values) {
+        if (value.isValid())
+            store.setValue(keyName(key), value);
+        else
+            store.remove(keyName(key));
     }
-    QFile written(copy.fileName());
-    if (!written.open(QIODevice::ReadOnly) || !isWhole(written.readAll(), entries) || !syncAndRename(&written, path))
-        return false;
-    copy.setAutoRemove(false);
-    return true;
+    store.sync();
+    if (store.status() != QSettings::NoError)
+        return {};
+    return store.allKeys().size();
 }

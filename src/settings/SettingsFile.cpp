@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsFile.h"
 
+#include "settings/SettingsCopy.h"
 #include "settings/SettingsLog.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cctype>
@@ -15,6 +15,10 @@
 namespace {
 
 constexpr int mostCopies = 99;
+
+// Comments, which the store skips. Files of earlier versions have neither, and those that others wrote.
+const QByteArray firstLine("; A whole file ends with a line that says so.\n");
+const QByteArray lastLine("; This is the end.\n");
 
 enum class LineKind { Skipped, Dropped, Group, Entry, Damaged };
 
@@ -130,7 +134,8 @@ bool isEntry(const QByteArray &line)
 bool isRiskyWhenCut(const QByteArray &group, const QByteArray &line)
 {
     const QByteArray key = line.left(line.indexOf('=')).trimmed();
-    return group == "endpoints" || (group == "proxy" && (key == "address" || key == "port"));
+    static const QByteArrayList ofProxy{"type", "address", "port", "authentication"};
+    return group == "endpoints" || (group == "proxy" && ofProxy.contains(key));
 }
 
 LineKind kindOf(const QByteArray &rawLine)
@@ -148,12 +153,12 @@ LineKind kindOf(const QByteArray &rawLine)
 }
 
 // Writes the whole content into a file that did not exist, readable for the same people as the other one.
-bool writeNewFile(const QString &path, const QByteArray &content, QFile::Permissions permissions)
+bool writeNewFile(const QString &path, const QByteArray &content, const QString &other)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return false;
-    const bool written = file.setPermissions(permissions) && file.write(content) == content.size() && file.flush() &&
+    const bool written = giveSameOwner(&file, other) && file.write(content) == content.size() && file.flush() &&
                          fsync(file.handle()) == 0;
     if (!written)
         file.remove();
@@ -163,7 +168,7 @@ bool writeNewFile(const QString &path, const QByteArray &content, QFile::Permiss
 bool holds(const QString &path, const QByteArray &content)
 {
     QFile file(path);
-    return file.size() == content.size() && file.open(QIODevice::ReadOnly) && file.readAll() == content;
+    return file.size() == content.size() && file.open(QIODevice::ReadOnly) && wholeContent(&file) == content;
 }
 
 QString copyName(const QString &path, int number)
@@ -177,7 +182,7 @@ QString keepCopy(const QString &path, const QByteArray &content)
 {
     for (int number = 1; number <= mostCopies; ++number) {
         const QString copy = copyName(path, number);
-        if (writeNewFile(copy, content, QFile::permissions(path)) || holds(copy, content))
+        if (writeNewFile(copy, content, path) || holds(copy, content))
             return copy;
     }
     return {};
@@ -195,17 +200,25 @@ QString moveAside(const QString &path)
 
 bool replaceContent(const QString &path, const QByteArray &content)
 {
-    QSaveFile file(path);
-    // commit() alone overlooks that the end could not be written any more.
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
+    SettingsCopy copy(path);
+    return copy.write(content) && copy.takePlace();
+}
+
+SettingsMending withoutFile()
+{
+    qCWarning(settingsLog, "The settings file cannot be read.");
+    SettingsMending mending;
+    mending.unreadable = true;
+    mending.standIn = QByteArray();
+    return mending;
 }
 
 void mendContent(SettingsMending *mending, const QString &path, const QByteArray &content, SettingsFileAccess access)
 {
     const SettingsFileCheck check = checkSettingsFile(content);
+    mending->damaged = check.damaged;
     if (check.clean)
         return;
-    mending->damaged = check.damaged;
     const bool mayMend = access == SettingsFileAccess::Mend;
     if (check.damaged && mayMend)
         mending->copy = keepCopy(path, content);
@@ -219,13 +232,22 @@ void mendContent(SettingsMending *mending, const QString &path, const QByteArray
 
 } // namespace
 
+QByteArray markedAsWhole(const QByteArray &content)
+{
+    return firstLine + content + lastLine;
+}
+
 SettingsFileCheck checkSettingsFile(const QByteArray &content)
 {
     static const QByteArray byteOrderMark("\xef\xbb\xbf");
     SettingsFileCheck check;
+    const bool hasLostItsEnd = content.startsWith(firstLine) && !content.contains('\n' + lastLine);
+    check.damaged = hasLostItsEnd || content.isEmpty();
     bool isGroupReadable = true;
     QByteArray group;
     int start = content.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
+    if (hasLostItsEnd)
+        start = firstLine.size(); // what is left makes no such promise
     while (start < content.size()) {
         const int lineFeed = content.indexOf('\n', start);
         const int end = lineFeed < 0 ? content.size() : lineFeed;
@@ -255,21 +277,27 @@ SettingsMending mendSettingsFile(const QString &path, SettingsFileAccess access)
     const QFileInfo info(path);
     if (!info.exists())
         return {};
-    SettingsMending mending;
     QFile file(path);
     // Only a regular file is opened: a FIFO would never answer.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-        qCWarning(settingsLog, "The settings file cannot be read.");
-        mending.unreadable = true;
-        mending.standIn = QByteArray();
-    } else if (file.size() > largestSettingsFileBytes) {
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+        return withoutFile();
+    SettingsMending mending;
+    if (file.size() > largestSettingsFileBytes) {
         qCWarning(settingsLog, "The settings file is too large to be one.");
         mending.damaged = true;
         mending.copy = access == SettingsFileAccess::Mend ? moveAside(path) : QString();
         if (mending.copy.isEmpty())
             mending.standIn = QByteArray();
+    } else if (const auto content = wholeContent(&file)) {
+        mendContent(&mending, path, *content, access);
     } else {
-        mendContent(&mending, path, file.readAll(), access);
+        return withoutFile();
     }
     return mending;
+}
+
+void removeDamagedCopies(const QString &path)
+{
+    for (int number = 1; number <= mostCopies; ++number)
+        QFile::remove(copyName(path, number));
 }

@@ -27,8 +27,12 @@ struct SettingsFileCheck
 // that does not end; entries under a broken group line; and values of types that the program never stores, as Qt builds
 // some of them ("@Variant") without bounds: a few bytes are enough to end the program. A byte order mark, a comment
 // after "#" and a last line without its end are no damage, but the store cannot do with them: they are not clean. Only
-// an address or a port without its line end counts as lost, since it may be a piece of another one.
+// a base address, and what says where a proxy is, counts as lost without its line end, since it may be a piece of
+// another one. An empty file has lost everything, and one that was marked as whole and has no end any more its end.
 [[nodiscard]] SettingsFileCheck checkSettingsFile(const QByteArray &content);
+
+// With two comments around it, by which it is seen later when the end was lost. For what the store has written.
+[[nodiscard]] QByteArray markedAsWhole(const QByteArray &content);
 
 enum class SettingsFileAccess {
     Mend, // for the only instance of the program
@@ -49,3 +53,6 @@ struct SettingsMending
 // leaves only what can be read in the file. Without a copy the file stays as it is. A file that is larger than any
 // settings can be is moved aside unread; what is no regular file is never opened. Before anything is read or written.
 [[nodiscard]] SettingsMending mendSettingsFile(const QString &path, SettingsFileAccess access);
+
+// Removes the copies of damaged files, for a user who wants nothing of all that to be left.
+void removeDamagedCopies(const QString &path);

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
+#include "settings/SettingsCopy.h"
+#include "settings/SettingsFile.h"
 #include "settings/SettingsKeys.h"
+#include "support/AsOrdinaryUser.h"
 #include "support/FullDisk.h"
 #include "support/TestFolder.h"
 #include "support/TestTable.h"
@@ -15,6 +19,8 @@
 #include <QTest>
 
 #include <optional>
+
+#include <unistd.h>
 
 namespace {
 
@@ -220,13 +226,17 @@ private slots:
     {
         SettingsChange change;
         change.set(SettingsKey::FirstStart, "1.5.6"_s);
-        change.set(SettingsKey::PrependNewLine, true);
         change.set(SettingsKey::ListWidth, 300);
         change.set(SettingsKey::FilesList, QStringList{"file:///a"_s, "file:///b"_s});
+        Settings settings;
+        settings.setProxyPassword("swordfish"_s);
+        settings.setPrependNewLine(true);
+        settings.addTo(&change);
         QVERIFY(change.commit());
         // A comment, which no write would keep, tells whether there was one.
         const QByteArray padded = m_folder.read(m_path) + "; a note\n";
         m_folder.write(m_path, padded);
+        settings.addTo(&change); // the secrets anew
         QVERIFY(change.commit());
         QCOMPARE(m_folder.read(m_path), padded);
         change.set(SettingsKey::PrependNewLine, false);
@@ -234,14 +244,48 @@ private slots:
         QVERIFY(m_folder.read(m_path).contains("prependNewLine=false"));
     }
 
-    // Settings of people who keep them elsewhere stay there, with their permissions.
+    void aStoredFileThatLostItsEndIsDamaged()
+    {
+        QVERIFY(Settings().save());
+        const QByteArray content = m_folder.read(m_path);
+        QVERIFY(!checkSettingsFile(content).damaged);
+        for (int length = content.indexOf('\n') + 1; length > 0 && length < content.size();
+             length = content.indexOf('\n', length) + 1)
+            QVERIFY2(checkSettingsFile(content.left(length)).damaged, content.left(length).constData());
+    }
+
+    void noOtherFileCounts()
+    {
+        m_folder.write("Quillmarsh.conf"_s, "usageStatistics=true\n");
+        QVERIFY(QSettings().value("usageStatistics"_s).toBool());
+        QVERIFY(!storedValue(SettingsStore(), SettingsKey::UsageStatistics).isValid());
+        QVERIFY(QFile::remove(m_folder.path("Quillmarsh.conf"_s)));
+    }
+
+    void onlyOwnLeftoversAreRemoved()
+    {
+        for (const char *end : {".AbCdEf.part", ".AbCdEf.part.lock", ".backup", ".bad"})
+            m_folder.write(m_path + QLatin1String(end));
+        SettingsCopy::removeLeft(m_path);
+        QStringList names = m_folder.names(QFileInfo(m_path).path());
+        names.removeOne("Versewell.conf"_s);
+        QCOMPARE(names, (QStringList{"Versewell.conf.backup"_s, "Versewell.conf.bad"_s}));
+        for (const QString &name : names)
+            QVERIFY(QFile::remove(QFileInfo(m_path).path() + QLatin1Char('/') + name));
+    }
+
+    // Settings of people who keep them elsewhere stay there, with their permissions and their owner.
     void aLinkedFileStaysLinked()
     {
         QVERIFY(QFile::remove(m_path) || !QFile::exists(m_path));
         QFile file(m_folder.write("elsewhere.conf"_s));
         QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) && file.link(m_path));
+        const bool isRoot = getuid() == 0; // who may write for others
+        QVERIFY(!isRoot || chown(QFile::encodeName(file.fileName()).constData(), AsOrdinaryUser::nobody, 0) == 0);
+        const uint owner = QFileInfo(file).ownerId();
         QVERIFY(Settings().save());
         QVERIFY(QFileInfo(m_path).isSymLink() && QFileInfo(file).size() > 0);
+        QCOMPARE(QFileInfo(file.fileName()).ownerId(), owner);
         QCOMPARE(file.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
         QVERIFY(QFile::remove(m_path));
     }
