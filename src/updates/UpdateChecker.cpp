@@ -41,11 +41,18 @@ qint64 announcedBytes(const QNetworkReply &reply)
     return std::max<qint64>(0, reply.header(QNetworkRequest::ContentLengthHeader).toLongLong());
 }
 
-// The site must not choose a name of another version, by which the folder is tidied.
-bool isNameOfVersion(const QString &name, const QString &version)
+// The site must not choose a name of another version, by which the folder is tidied. 2.0 and 2.0.0 are the same one
+// here; a name may also hold none.
+bool mayBeNameOfVersion(const QString &name, const QString &version)
 {
+    const auto shortKey = [](const QString &text) {
+        QByteArray key = versionKey(text);
+        while (key.endsWith('\0'))
+            key.chop(1);
+        return key;
+    };
     const QString found = versionInName(name);
-    return !found.isEmpty() && versionKey(found) == versionKey(version);
+    return found.isEmpty() || shortKey(found) == shortKey(version);
 }
 
 // What the server can be asked for the rest of just this content by (RFC 9110, section 13.1.5).
@@ -113,6 +120,7 @@ AccessManager &UpdateChecker::manager()
     if (!m_manager) {
         m_manager = std::make_unique<AccessManager>();
         m_manager->setLimits(m_environment.limits);
+        m_manager->shareLogin(m_environment.proxyLogin);
         m_manager->useProxy(m_proxy);
     }
     return *m_manager;
@@ -157,6 +165,10 @@ QNetworkRequest UpdateChecker::request(const QUrl &url) const
     QNetworkRequest request(url);
     request.setRawHeader("User-Agent", agent.toLatin1());
     request.setRawHeader("Allow-Redirect", "true");
+    // Else Qt would add the user's language and country, and a cookie would tell one user from another.
+    request.setRawHeader("Accept-Language", "en");
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     // Certificates are not checked, on purpose: a program whose certificates have grown old, or whose clock is wrong,
     // must still find its update. Nothing depends on who sent it, as a setup file is opened for its signature alone.
     QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
@@ -300,7 +312,7 @@ void UpdateChecker::offerLatest()
 {
     const QUrl url(latest().url);
     const QString name = setupFileName(url);
-    if (!isWebAddress(url) || !isNameOfVersion(name, latestVersion())) {
+    if (!isWebAddress(url) || name.isEmpty() || !mayBeNameOfVersion(name, latestVersion())) {
         setError(tr("Can't get update: %1").arg(tr("The address of the setup file is not one that can be used.")));
         return;
     }

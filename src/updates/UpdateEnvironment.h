@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "network/ProxyLogin.h"
 #include "network/RequestLimits.h"
 
 #include <QByteArray>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <limits>
+#include <memory>
 
 // What an UpdateChecker has from outside: places, keys, limits and helpers. The defaults are those of the program.
 struct UpdateEnvironment
@@ -25,6 +27,8 @@ struct UpdateEnvironment
     std::function<void(const QString &path, const std::function<void(bool)> &report)> open;
     std::function<QDateTime()> now;
     RequestLimits limits;
+    // Shared with the program's other access managers.
+    std::shared_ptr<ProxyLogin> proxyLogin = std::make_shared<ProxyLogin>();
     // No setup file is larger. The program's progress counts in int, and an endless one must not fill the disk.
     qint64 mostSetupBytes = std::numeric_limits<int>::max();
     // Part of the user agent.

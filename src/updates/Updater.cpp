@@ -2,6 +2,7 @@
 #include "updates/Updater.h"
 
 #include "network/Endpoints.h"
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
 #include "updates/DownloadDialog.h"
 #include "updates/ProgramIcon.h"
@@ -11,7 +12,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
-#include <QSettings>
 #include <QTextDocument>
 
 #include <chrono>
@@ -96,7 +96,7 @@ void Updater::startUpdateTimer()
 // The period is looked up each time, so that the preferences take effect at once.
 bool Updater::isDue() const
 {
-    const qint64 periodMinutes = storedValue(QSettings(), SettingsKey::UpdaterPeriod).toLongLong();
+    const qint64 periodMinutes = storedValue(SettingsStore(), SettingsKey::UpdaterPeriod).toLongLong();
     if (periodMinutes <= 0)
         return false;
     // Divided, since the product of a large period may not fit.
@@ -238,7 +238,7 @@ void Updater::takeAnswer(int answer, const QString &version)
 bool Updater::isSkipped(const QString &version) const
 {
     return version == m_skippedVersion ||
-           version == storedValue(QSettings(), SettingsKey::UpdaterSkippedVersion).toString();
+           version == storedValue(SettingsStore(), SettingsKey::UpdaterSkippedVersion).toString();
 }
 
 void Updater::skip(const QString &version)

@@ -216,6 +216,10 @@ private slots:
                "check: Checking UpdateAvailable | download: Downloading | abortDownload: offered UpdateAvailable"_s);
         addRow("the name of another version", newest("2.0", anySignature, "SITE/files/versewell_1.9.deb"), setup(),
                "check: Checking Error: "_s + noAddress);
+        addRow("a name without a version", newest("2.0", anySignature, "SITE/hanging_latest.run"), setup(),
+               "check: Checking UpdateAvailable"_s);
+        addRow("the same version at greater length", newest("2.0.0", anySignature, "SITE/hanging_2.0"), setup(),
+               "check: Checking UpdateAvailable"_s);
         addRow("an address that is none", newest("2.0", anySignature, "file:///tmp/a_2.0"), setup(),
                "check: Checking Error: "_s + noAddress);
         addRow("a check drops the download", two, hanging,
@@ -321,6 +325,7 @@ private slots:
         for (const LoopbackRequest &request : maker.site.requests()) {
             asked.append(QString::fromLatin1(request.method + ' ' + request.header("Accept-Encoding")));
             QCOMPARE(request.header("Allow-Redirect"), QByteArray("true"));
+            QCOMPARE(request.header("Accept-Language"), QByteArray("en"));
             const QByteArray kind = asked.size() > 3 ? "UpdateChecker [forced] (" : "UpdateChecker (";
             QCOMPARE(request.header("User-Agent"), kind + "Versewell v1.9.9 / Linux / a text )");
         }
