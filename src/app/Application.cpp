@@ -5,7 +5,9 @@
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/providers/ProviderCatalogue.h"
 #include "network/Endpoints.h"
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
+#include "settings/SettingsCopy.h"
 #include "settings/SettingsKeys.h"
 #include "ui/MenuStyle.h"
 
@@ -13,7 +15,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -54,7 +55,9 @@ Application::Application(int &argc, char **argv, const QString &readerProgram)
     m_mainModel.setSupportedExtensions(supportedExtensions());
     m_folderScanner.setTypes(supportedExtensions());
     setNames();
-    m_updater = std::make_unique<Updater>();
+    UpdateEnvironment updates;
+    updates.proxyLogin = m_proxyLogin;
+    m_updater = std::make_unique<Updater>(updates);
     m_settings.load();
     m_settings.setHolder(m_instance.isHolder());
     setUpTracker();
@@ -74,17 +77,30 @@ Application::~Application()
 {
     // The coordinator goes before the model, which would be left with a pointer to it.
     m_mainModel.setSearch(nullptr);
+    SettingsChange::setListener({});
 }
 
 void Application::readSettings()
 {
     const QFileInfo file(settingsFile());
     const SettingsFileAccess access = m_instance.isHolder() ? SettingsFileAccess::Mend : SettingsFileAccess::Look;
+    if (m_instance.isHolder())
+        SettingsCopy::removeLeft(file.filePath());
+    SettingsChange::setListener([this](bool isStored, const SettingsMending &mended) { noteCommit(isStored, mended); });
     m_settingsMending = mendSettingsFile(file.filePath(), access);
     if (!m_settingsMending.standIn)
         return;
     m_standIn = std::make_unique<SettingsStandIn>(file.dir().dirName(), file.fileName(), *m_settingsMending.standIn);
     m_settingsStored = false;
+}
+
+void Application::noteCommit(bool isStored, const SettingsMending &mended)
+{
+    m_settingsStored = isStored;
+    if (mended.damaged)
+        emit settingsDamaged(mended.copy);
+    if (!isStored)
+        emit settingsNotStored();
 }
 
 void Application::setNames()
@@ -98,10 +114,7 @@ void Application::setNames()
 
 QString Application::settingsFile()
 {
-    // By the name of a neighbour that is never there: QSettings reads its file as soon as it is made, and the settings
-    // may be damaged, or a FIFO that never answers.
-    const QFileInfo neighbour(QSettings(organisation, program + QLatin1String(" place")).fileName());
-    return neighbour.path() + QLatin1Char('/') + program + QLatin1Char('.') + neighbour.suffix();
+    return SettingsStore::path(organisation, program);
 }
 
 void Application::setUpTracker()
@@ -175,7 +188,7 @@ void Application::restoreFilesList()
     if (!m_settings.keepsFilesList())
         return;
     // A list of one comes back from the store as a plain string, which toList() would lose.
-    m_mainModel.keep(storedValue(QSettings(), SettingsKey::FilesList).toStringList());
+    m_mainModel.keep(storedValue(SettingsStore(), SettingsKey::FilesList).toStringList());
 }
 
 Application::OSType Application::osType()
@@ -197,6 +210,7 @@ AccessManager *Application::made(std::unique_ptr<AccessManager> &manager) const
 {
     if (!manager) {
         manager = std::make_unique<AccessManager>();
+        manager->shareLogin(m_proxyLogin);
         manager->useProxy(m_settings.proxy());
     }
     return manager.get();
@@ -227,11 +241,11 @@ void Application::reportOpenGLError()
 
 void Application::noteStart()
 {
-    const QString lastVersion = storedValue(QSettings(), SettingsKey::FirstStart).toString();
+    const QString lastVersion = storedValue(SettingsStore(), SettingsKey::FirstStart).toString();
     SettingsChange change;
     change.set(SettingsKey::FirstStart, applicationVersion());
-    m_settingsStored = change.commit();
-    if (flagOf(storedValue(QSettings(), SettingsKey::OpenQuillmarshSite)) && lastVersion != applicationVersion())
+    change.commit();
+    if (flagOf(storedValue(SettingsStore(), SettingsKey::OpenQuillmarshSite)) && lastVersion != applicationVersion())
         openStartPage(lastVersion);
     m_tracker.trackStart();
 }

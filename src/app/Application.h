@@ -107,6 +107,10 @@ public:
 signals:
     // More is known of saves that were cut off: all are undone that can be, or some take long.
     void savesMended();
+    // Something could not be stored since the start.
+    void settingsNotStored();
+    // The settings file was damaged since the start; as SettingsMending::copy.
+    void settingsDamaged(const QString &copy);
 
 public slots:
     // Installs the translators of the language that the settings name, or else of the system's.
@@ -118,6 +122,7 @@ public slots:
 private:
     static void setNames();
     void readSettings();
+    void noteCommit(bool isStored, const SettingsMending &mended);
     AccessManager *made(std::unique_ptr<AccessManager> &manager) const;
     void setUpTracker();
     void createSearch();
@@ -139,6 +144,7 @@ private:
     MainModel m_mainModel;
     ProxyModel m_proxyModel;
     FolderScanner m_folderScanner;
+    const std::shared_ptr<ProxyLogin> m_proxyLogin = std::make_shared<ProxyLogin>(); // of all access managers
     std::unique_ptr<AccessManager> m_networkManager; // null until it is needed, as is the other (NetworkSource)
     std::unique_ptr<AccessManager> m_trackerManager;
     AppTracker m_tracker;

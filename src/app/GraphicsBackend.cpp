@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/GraphicsBackend.h"
 
+#include "network/SettingsStore.h"
 #include "settings/SettingsKeys.h"
 
-#include <QSettings>
 #include <QSurfaceFormat>
 
 namespace {
@@ -23,8 +23,8 @@ void chooseGraphicsBackend()
 {
     if (!qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE"))
         return;
-    switch (
-        numberOf(storedValue(QSettings(), SettingsKey::OpenGlMethod), Automatic, DesktopOpenGl).value_or(Software)) {
+    switch (numberOf(storedValue(SettingsStore(), SettingsKey::OpenGlMethod), Automatic, DesktopOpenGl)
+                .value_or(Software)) {
     case Automatic:
         break;
     case OpenGlEs:

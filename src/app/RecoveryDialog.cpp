@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/RecoveryDialog.h"
 
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
+#include "settings/SettingsFile.h"
 #include "ui/QuestionBox.h"
 #include "ui_RecoveryDialog.h"
 
@@ -62,6 +64,7 @@ void RecoveryDialog::clearSettings()
     SettingsChange change;
     change.keepOnly(keptKeys());
     if (change.commit()) {
+        removeDamagedCopies(SettingsStore::path());
         m_restartNeeded = true;
         m_form->btnClearSettings->setEnabled(false);
         m_form->buttonBox->button(QDialogButtonBox::Ok)->setFocus();

@@ -5,8 +5,8 @@
 
 // Sees to it that only one Versewell works on a set of settings: holds a lock file as long as it lives.
 //
-// A lock left behind by a process that is gone does not count, and a lock that cannot be made at all (no space, no
-// permission) keeps nobody from starting. No message is passed to the instance that holds the lock.
+// A lock left behind by a process that is gone does not count, wherever it ran, and a lock that cannot be made at all
+// (no space, no permission) keeps nobody from starting. No message is passed to the instance that holds the lock.
 class SingleInstance
 {
 public:
@@ -23,6 +23,9 @@ public:
     void release() { m_lock.unlock(); }
 
 private:
+    // Whether the file was one that nobody held any more, and the lock is ours now.
+    bool takeLeftLock(const QString &lockFile);
+
     QLockFile m_lock;
     bool m_otherRunning = false;
 };

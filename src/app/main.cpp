@@ -42,6 +42,52 @@ int showSceneError(Application &app, const QString &reason)
     return SceneNotLoaded;
 }
 
+QMessageBox *makeWarning(const QString &text, QWidget *parent)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Versewell"), text, QMessageBox::Close, parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    return box;
+}
+
+// The words are those of the status line, where damage is told of that is found later.
+QString damageText(const QString &copy)
+{
+    if (copy.isEmpty())
+        return QApplication::translate(
+            "StatusLine", "The settings file is damaged. What could be read is used, but no copy could be made.");
+    return QApplication::translate(
+               "StatusLine", "The settings file was damaged. What could be read is kept; the damaged file is now %1",
+               "%1 is the path of a file")
+        .arg(QDir::toNativeSeparators(copy));
+}
+
+// Brings the songs into the list, which is searched for then. After damage not before the user has seen that: the proxy
+// may be among what was lost, and the sites would be asked without it.
+void beginWithSongs(Application &app, MainWindow *window, const QList<QUrl> &songs)
+{
+    const auto begin = [&app, songs] {
+        app.mainModel()->restore();
+        app.mainModel()->addUrlsFromDrop(songs);
+    };
+    if (!app.settingsMending().damaged) {
+        begin();
+        return;
+    }
+    QMessageBox *box = makeWarning(damageText(app.settingsMending().copy), window);
+    QObject::connect(box, &QDialog::finished, window, begin);
+    box->open();
+}
+
+void tellOfSettings(const Application &app, MainWindow *window)
+{
+    const bool isTold = app.settingsMending().damaged; // in a box
+    if (!isTold && (app.settingsMending().unreadable || !app.areSettingsStored()))
+        window->showSettingsUnreadable();
+    QObject::connect(&app, &Application::settingsNotStored, window, &MainWindow::showSettingsUnreadable);
+    QObject::connect(&app, &Application::settingsDamaged, window, &MainWindow::showSettingsDamaged);
+}
+
 // `songs` are those of the command line.
 int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSignals &signalsToEnd)
 {
@@ -61,8 +107,7 @@ int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSigna
         QCoreApplication::exit(showSceneError(app, reason));
     });
     QObject::connect(&window, &MainWindow::firstFrameShown, &app, [&app, &window, songs] {
-        app.mainModel()->restore();
-        app.mainModel()->addUrlsFromDrop(songs);
+        beginWithSongs(app, &window, songs);
         app.tracker()->release();
         app.updater()->setParentWindow(&window);
         // The way of the window's own "Quit", so that the end of the session is reported. It ends in the application's
@@ -73,10 +118,7 @@ int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSigna
         });
     });
     window.show();
-    if (const SettingsMending mending = app.settingsMending(); mending.damaged)
-        window.showSettingsDamaged(mending.copy);
-    else if (mending.unreadable || !app.areSettingsStored())
-        window.showSettingsUnreadable();
+    tellOfSettings(app, &window);
     const auto tellOfSaves = [&app, &window] {
         window.showSavesMended(app.mendedSaves());
     };
@@ -210,10 +252,16 @@ int main(int argc, char **argv)
     app.restoreFilesList();
     app.setUpLanguages();
     app.noteStart();
+    const bool wereSettingsStored = app.areSettingsStored();
     status = runWindow(app, line.songs, signalsToEnd);
     app.folderScanner()->cancel();
     finishWrites();
     keepTexts(app, isTerminated);
+    if (wereSettingsStored && !app.areSettingsStored() && !isTerminated)
+        makeWarning(QApplication::translate("StatusLine",
+                                            "The settings cannot be read or stored; changes last for this run only."),
+                    nullptr)
+            ->exec();
     app.mainModel()->stopReading();
     // The application object would wait for a scan without end. All is saved, and the lock ends with the process.
     if (!QThreadPool::globalInstance()->waitForDone(static_cast<int>(scanPatience.count())))

@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QNetworkProxy>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <functional>
@@ -158,6 +159,37 @@ private slots:
         QVERIFY(app->settingsMending().unreadable && !app->areSettingsStored());
         QCOMPARE(app->settings()->lyricsFontSize(), 12);
         QVERIFY(!app->settings()->save());
+    }
+
+    void whatCannotBeStoredIsTold()
+    {
+        Stage app;
+        QSignalSpy told(&*app, &Application::settingsNotStored);
+        QVERIFY(app->settings()->save() && told.isEmpty());
+        app->settings()->setLanguage("fr"_s);
+        m_disk = std::make_unique<FullDisk>();
+        QVERIFY(!app->settings()->save());
+        m_disk.reset();
+        QVERIFY(told.size() == 1 && !app->areSettingsStored());
+    }
+
+    void onlyALockThatSomebodyHoldsCounts_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        addRow("of another machine", QByteArray("1\nversewell\nelsewhere\n0123456789abcdef\nfedcba\n"));
+        addRow("empty", QByteArray());
+        addRow("NULs", QByteArray(50, '\0'));
+    }
+
+    void onlyALockThatSomebodyHoldsCounts()
+    {
+        QFETCH(QByteArray, content);
+        const TestFolder folder;
+        const QString path = folder.write("a.lock"_s, content);
+        const SingleInstance first(path);
+        QVERIFY(first.isHolder() && !first.isOtherRunning());
+        folder.write(path, content); // as another machine sees it
+        QVERIFY(SingleInstance(path).isOtherRunning());
     }
 
     // The lock cannot be made, so that somebody else may be using the list.

@@ -40,8 +40,11 @@ public:
                 "<div class=\"list-row\" data-sorting-artist=\"Nora Vale\" data-sorting-song=\"" + title +
                 "\">\n<a href=\"/song.html\" class=\"song\">x</a>\n</div>");
         });
-        route("/song.html"_s,
-              LoopbackResponse::page("<div class=\"lyrics\" id=\"content\">" + words.toUtf8() + "</div>"));
+        route("/song.html"_s, songPage());
+    }
+    static LoopbackResponse songPage()
+    {
+        return LoopbackResponse::page("<div class=\"lyrics\" id=\"content\">" + words.toUtf8() + "</div>");
     }
     static quint16 portOf(const LoopbackServer &server) { return static_cast<quint16>(QUrl(server.base()).port()); }
 
@@ -163,7 +166,6 @@ private slots:
     void aRefusedLoginIsNotTriedAgain()
     {
         constexpr int songs = 30;
-        constexpr int inFlight = 6; // connections to one site
         QFETCH(QNetworkProxy::ProxyType, type);
         QFETCH(QString, scheme);
         const Site site(scheme);
@@ -174,13 +176,14 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(model()->activeCount(), 0, 20000);
         for (int row = 0; row < songs; ++row)
             QCOMPARE(song(row)->errorString(), "The proxy refuses the user name or the password."_s);
-        const int attempts = proxy.logins("nora", "wrong");
-        QVERIFY2(attempts >= 1 && attempts <= inFlight, QByteArray::number(attempts).constData());
+        (*m_app)->updater()->check(); // which has an access manager of its own
+        QTRY_VERIFY((*m_app)->updater()->checker()->state() != UpdateChecker::Checking);
+        QCOMPARE(proxy.logins("nora", "wrong"), 1);
         QCOMPARE(site.requests().size(), 0);
         settings()->setProxyPassword(password);
         model()->startSearch(song()->id());
         QTRY_COMPARE(song()->lyricsTag(), words);
-        QCOMPARE(proxy.logins("nora", "wrong"), attempts);
+        QCOMPARE(proxy.logins("nora", "wrong"), 1);
     }
 
     void anOpenProxyIsGivenNoLogin()
@@ -198,6 +201,38 @@ private slots:
         QTRY_COMPARE(model()->activeCount(), 0);
         QVERIFY(site.requests().size() > 2);
         QVERIFY(!proxy.received().join().contains("Authorization"));
+    }
+
+    void aSiteThatTakesTheProxysPartStopsNoOtherSearch_data()
+    {
+        QTest::addColumn<QNetworkProxy::ProxyType>("type");
+        addTextColumns("scheme", "login");
+        addRow("SOCKS5", socks, "http", "");
+        addRow("HTTP", http, "http", "");
+        addRow("HTTP with a log-in", http, "http", password);
+        addRow("HTTP, for https", http, "https", "");
+    }
+
+    void aSiteThatTakesTheProxysPartStopsNoOtherSearch()
+    {
+        QFETCH(QNetworkProxy::ProxyType, type);
+        QFETCH(QString, scheme);
+        QFETCH(QString, login);
+        Site site(scheme);
+        ProxyServer proxy(type, login.isEmpty() ? QString() : m_user, login);
+        QVERIFY(proxy.isReady());
+        useProxy(type, proxy.port(), login);
+        bool isLying = true;
+        site.route("/song.html"_s, [&isLying](const LoopbackRequest &) {
+            return isLying ? LoopbackResponse::error(407).with("Proxy-Authenticate", "Basic realm=\"Tinyproxy\"")
+                           : Site::songPage();
+        });
+        addSongs(1);
+        QTRY_COMPARE(model()->activeCount(), 0);
+        QVERIFY2(!song()->errorString().contains("proxy"_s), qPrintable(song()->errorString()));
+        isLying = false;
+        model()->startSearch(song()->id());
+        QTRY_COMPARE(song()->lyricsTag(), words);
     }
 
     // A site that asks for a log-in, under the name under which the proxy does.
