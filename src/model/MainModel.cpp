@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/MainModel.h"
 
-#include "lyrics/LyricsSearch.h"
 #include "lyrics/LyricsText.h"
 #include "model/DelayedFileCheck.h"
 #include "model/FileManager.h"
@@ -14,8 +13,6 @@
 
 namespace {
 
-// How many searches the coordinator may hold at once.
-constexpr int searchLimit = 10;
 // Above this many ranges a removal is one reset: each range costs every view a pass of its own.
 constexpr int mostRangesRemoved = 64;
 // How many identifiers of 16 bits there are.
@@ -30,6 +27,9 @@ MainModel::MainModel(QObject *parent)
     qmlRegisterUncreatableType<ModelItem>("com.quillmarsh", 1, 0, "ModelItem", QStringLiteral("nope"));
     connect(&m_reads, &ReadQueue::infoExtracted, this, &MainModel::fileInfoExtracted);
     connect(&m_reads, &ReadQueue::tagsRead, this, &MainModel::useTags);
+    connect(&m_searches, &SearchFeed::started, this, &MainModel::searchStarted);
+    connect(&m_searches, &SearchFeed::finished, this, &MainModel::lyricsSearchFinished);
+    connect(&m_searches, &SearchFeed::searchCountChanged, this, &MainModel::searchCountChanged);
     connect(&m_writes, &SongWrites::written, this, &MainModel::tagsWritten);
     connect(&m_failedWrites, &FailedWrites::counted, this, &MainModel::writesFailed);
     connect(&m_failedWrites, &FailedWrites::left, this, &MainModel::failedWritesLeft);
@@ -43,17 +43,6 @@ MainModel::MainModel(QObject *parent)
 }
 
 MainModel::~MainModel() = default;
-
-void MainModel::setSearch(LyricsSearch *search)
-{
-    if (m_search)
-        disconnect(m_search, nullptr, this, nullptr);
-    m_search = search;
-    if (!m_search)
-        return;
-    connect(m_search, &LyricsSearch::searchFinished, this, &MainModel::lyricsSearchFinished);
-    connect(m_search, &LyricsSearch::searchCountChanged, this, &MainModel::searchCountChanged);
-}
 
 int MainModel::rowCount(const QModelIndex &parent) const
 {
@@ -119,11 +108,6 @@ QHash<int, QByteArray> MainModel::roleNames() const
         {processStateRole, "processStateRole"},
         {selectedRole, "selectedRole"},
     };
-}
-
-int MainModel::searchCount() const
-{
-    return m_search ? m_search->searchCount() : 0;
 }
 
 QList<QUrl> MainModel::urls() const
@@ -199,7 +183,7 @@ void MainModel::insertFiles(const QList<QUrl> &files, bool requestRead)
         if (requestRead)
             extractNextFileInfo();
         if (m_autoStart)
-            feedSearches();
+            m_searches.feed();
     }
     if (leftOut > 0)
         emit filesLeftOut(leftOut);
@@ -242,8 +226,7 @@ std::vector<std::unique_ptr<ModelItem>> MainModel::makeItems(const QList<QUrl> &
 
 bool MainModel::isIdInUse(quint16 id) const
 {
-    return m_items.find(id) || m_writes.isWriting(id) || m_reads.isInFlight(id) ||
-           (m_search && m_search->isSearching(id));
+    return m_items.find(id) || m_writes.isWriting(id) || m_reads.isInFlight(id) || m_searches.isSearching(id);
 }
 
 void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
@@ -271,8 +254,8 @@ void MainModel::connectItem(ModelItem *item)
     // The item comes along with each connection: sender() would walk the connections of all items at every change.
     connect(item, &ModelItem::changed, this, [this, item] { itemChanged(item); });
     connect(item, &ModelItem::activeChanged, this, [this, item] { countActive(item); });
-    connect(item, &ModelItem::processStateChanged, this, [this, item] { queueForSearch(item); });
-    connect(item, &ModelItem::tagsLoadedChanged, this, [this, item] { queueForSearch(item); });
+    connect(item, &ModelItem::processStateChanged, this, [this, item] { followSearch(item); });
+    connect(item, &ModelItem::tagsLoadedChanged, this, [this, item] { followSearch(item); });
 }
 
 // Those that were removed live on for a while (RemovedItems), and are disconnected when they go: for tens of thousands
@@ -290,16 +273,10 @@ void MainModel::countActive(const ModelItem *item)
     emit activeCountChanged();
 }
 
-// Keeps the queue of searchable items in step with an item's state.
-void MainModel::queueForSearch(const ModelItem *item)
+void MainModel::followSearch(const ModelItem *item)
 {
-    if (!isListed(item))
-        return;
-    const quint64 sequence = m_items.sequenceOf(item->id());
-    if (item->processState() == ModelItem::ProcessWaiting && item->tagsLoaded())
-        m_searchable.emplace(sequence, item->id());
-    else
-        m_searchable.erase(sequence);
+    if (isListed(item))
+        m_searches.follow(*item);
 }
 
 void MainModel::itemChanged(const ModelItem *item)
@@ -324,6 +301,7 @@ bool MainModel::removeRows(int row, int count, const QModelIndex &parent)
         return false;
     beginRemoveRows({}, row, row + count - 1);
     std::vector<ItemStore::Taken> removed = m_items.take(row, row + count - 1);
+    dequeue(removed);
     endRemoveRows();
     forgetItems(std::move(removed));
     return true;
@@ -346,6 +324,7 @@ void MainModel::removeScattered(const QVector<int> &rows)
     if (ranges.size() > mostRangesRemoved) {
         beginResetModel();
         std::vector<ItemStore::Taken> removed = m_items.takeScattered(rows);
+        dequeue(removed);
         endResetModel();
         forgetItems(std::move(removed));
         return;
@@ -355,28 +334,33 @@ void MainModel::removeScattered(const QVector<int> &rows)
                   [this](const Range &range) { removeRows(range.first, range.last - range.first + 1); });
 }
 
-// Takes removed items out of every queue.
+// Takes removed items out of every queue, before anybody hears that they are gone.
+void MainModel::dequeue(const std::vector<ItemStore::Taken> &removed)
+{
+    for (const ItemStore::Taken &taken : removed) {
+        m_activeCount -= taken.item->active() ? 1 : 0;
+        m_searches.forget(taken.sequence);
+        m_reads.remove(taken.item->id(), taken.sequence);
+    }
+}
+
 void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
 {
-    const int activeBefore = m_activeCount;
+    bool haveSomeBeenActive = false;
     QVector<quint16> ids;
     ids.reserve(static_cast<int>(removed.size()));
     RemovedItems::Items items;
     items.reserve(removed.size());
-    bool readAbandoned = false;
     for (ItemStore::Taken &taken : removed) {
-        const ModelItem *item = taken.item.get();
-        m_activeCount -= item->active() ? 1 : 0;
-        m_searchable.erase(taken.sequence);
-        ids.append(item->id());
-        readAbandoned = m_reads.remove(item->id(), taken.sequence) || readAbandoned;
+        haveSomeBeenActive = haveSomeBeenActive || taken.item->active();
+        ids.append(taken.item->id());
         items.push_back(std::move(taken.item));
     }
     m_removed.add(std::move(items));
     m_failedWrites.forget(ids);
-    if (m_activeCount != activeBefore)
+    if (haveSomeBeenActive)
         emit activeCountChanged();
-    if (readAbandoned)
+    if (!m_reads.isReading())
         extractNextFileInfo();
 }
 
@@ -418,15 +402,10 @@ void MainModel::useTags(quint16 id, const MediaFileTags &tags)
         return;
     }
     item->setTags(tags);
-    const SearchNames names = item->searchArtistTitle();
-    if (!item->lyricsTag().isEmpty()) {
+    if (!item->lyricsTag().isEmpty())
         item->setProcessState(ModelItem::ProcessComplete);
-    } else if (m_search && m_search->canSearch(names.artist, names.title)) {
-        if (item->processState() == ModelItem::ProcessWaiting)
-            feedSearches();
-    } else {
-        setNotSuitable(item);
-    }
+    else if (m_searches.admit(item) && item->processState() == ModelItem::ProcessWaiting)
+        m_searches.feed();
 }
 
 // Searching
@@ -445,49 +424,19 @@ bool MainModel::startSearch(quint16 id)
     }
     if (item->processState() == ModelItem::ProcessWaiting)
         return true;
-    const SearchNames names = item->searchArtistTitle();
-    if (!m_search || !m_search->canSearch(names.artist, names.title)) {
-        setNotSuitable(item);
+    if (!m_searches.admit(item))
         return false;
-    }
     item->setProcessState(ModelItem::ProcessWaiting);
-    feedSearches();
+    m_searches.feed();
     return true;
-}
-
-// Hands waiting items to the coordinator, in row order, until it holds its fill.
-void MainModel::feedSearches()
-{
-    while (m_search && m_search->searchCount() < searchLimit && !m_searchable.empty()) {
-        const quint16 id = m_searchable.begin()->second;
-        ModelItem *item = m_items.find(id);
-        const SearchNames names = item->searchArtistTitle();
-        if (m_search->search(id, names.artist, names.title)) {
-            emit searchStarted(names.artist, names.title);
-            item->setProcessState(ModelItem::ProcessWorking);
-        } else if (m_search->isSearching(id)) {
-            return; // an earlier search of it is still under way; its end feeds again
-        } else {
-            setNotSuitable(item);
-        }
-    }
-}
-
-// What an earlier search met says nothing of names that cannot be searched for.
-void MainModel::setNotSuitable(ModelItem *item)
-{
-    item->setErrorString(QString());
-    item->setProcessState(ModelItem::ProcessNotSuitable);
 }
 
 void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QString &title, const QString &lyrics,
                                      const QString &errorString)
 {
     ModelItem *item = m_items.find(id);
-    if (m_overruled.remove(id) || !item) {
-        feedSearches();
+    if (!item)
         return;
-    }
     const QString text = withoutBrokenCharacters(decodeHtmlEntities(lyrics));
     item->setFoundNothing(text.isEmpty());
     if (!text.isEmpty()) {
@@ -501,7 +450,6 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
         item->setErrorString(errorString);
         item->setProcessState(ModelItem::ProcessComplete);
     }
-    feedSearches();
 }
 
 // Writing
@@ -555,8 +503,6 @@ bool MainModel::writeTags(quint16 id)
     ModelItem *item = writableItem(id);
     if (!item)
         return false;
-    if (item->processState() == ModelItem::ProcessWorking)
-        m_overruled.insert(id);
     // Who saves once more, after being told of another program's change, means it.
     startWriting(item, m_failedWrites.isForeignChangeTold(id));
     return true;

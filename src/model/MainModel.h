@@ -8,18 +8,16 @@
 #include "model/LyricsExports.h"
 #include "model/ReadQueue.h"
 #include "model/RemovedItems.h"
+#include "model/SearchFeed.h"
 #include "model/SongWrites.h"
 #include "tags/MediaFileTags.h"
 
 #include <QAbstractListModel>
-#include <QSet>
 #include <QStringList>
 #include <QVector>
 
-#include <map>
 #include <memory>
 
-class LyricsSearch;
 class Settings;
 
 // The list of audio files, and the conductor of the work on them: tags are read one file at a time, songs without
@@ -75,7 +73,7 @@ public:
     // were among them before are read now.
     void setSongsInMending(const QStringList &paths);
     // Not owned. Without a coordinator nothing is searched for.
-    void setSearch(LyricsSearch *search);
+    void setSearch(LyricsSearch *search) { m_searches.setSearch(search); }
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
@@ -87,7 +85,7 @@ public:
 
     [[nodiscard]] bool autoStart() const { return m_autoStart; }
     // How many searches the coordinator holds.
-    [[nodiscard]] int searchCount() const;
+    [[nodiscard]] int searchCount() const { return m_searches.searchCount(); }
     // How many items are queued for a search or being searched for.
     [[nodiscard]] int activeCount() const { return m_activeCount; }
     // Null when no item has this id.
@@ -116,7 +114,8 @@ public:
     // Takes a list that was kept across runs, of urls and absolute paths; once. It counts as part of the list from now
     // on, but becomes rows only after restore(). Entries that are neither are left out.
     void keep(const QStringList &entries) { m_incoming.keep(entries); }
-    // Begins to look at the files of the kept list, elsewhere: a disk that does not answer holds up nothing but its own.
+    // Begins to look at the files of the kept list, elsewhere: a disk that does not answer holds up nothing but its
+    // own.
     void lookAtKept() { m_incoming.lookAtKept(); }
     // Lets them become rows, each when it was looked at; begins with that if need be.
     void restore() { m_incoming.restore(); }
@@ -163,6 +162,8 @@ public slots:
     void extractNextFileInfo();
     void lyricsSearchFinished(quint16 id, const QString &artist, const QString &title, const QString &lyrics,
                               const QString &errorString);
+
+private slots:
     void tagsWritten(quint16 id);
 
 signals:
@@ -187,9 +188,6 @@ signals:
     void filesLeftOut(int count);
 
 private:
-    // Ids in row order: from sequence number to id.
-    using WorkQueue = std::map<quint64, quint16>;
-
     void insertFiles(const QList<QUrl> &files, bool requestRead);
     [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
     [[nodiscard]] std::vector<std::unique_ptr<ModelItem>> makeItems(const QList<QUrl> &files);
@@ -198,15 +196,14 @@ private:
     void connectItem(ModelItem *item);
     [[nodiscard]] bool isListed(const ModelItem *item) const;
     void countActive(const ModelItem *item);
-    void queueForSearch(const ModelItem *item);
+    void followSearch(const ModelItem *item);
+    void dequeue(const std::vector<ItemStore::Taken> &removed);
     void forgetItems(std::vector<ItemStore::Taken> removed);
-    void feedSearches();
     void useTags(quint16 id, const MediaFileTags &tags);
     [[nodiscard]] bool areLyricsUnsaved(const ModelItem &item) const;
     [[nodiscard]] ModelItem *writableItem(quint16 id) const;
     void startWriting(ModelItem *item, bool insists);
     void readNow(const QUrl &file);
-    static void setNotSuitable(ModelItem *item);
 
     ItemStore m_items;
     RemovedItems m_removed;
@@ -214,13 +211,10 @@ private:
     IncomingFiles m_incoming;
     QStringList m_extensions;
     const Settings *m_settings = nullptr;
-    LyricsSearch *m_search = nullptr;
     bool m_autoStart = true;
     int m_activeCount = 0;
     ReadQueue m_reads{&m_items};
-    WorkQueue m_searchable; // waiting, with tags loaded
-    // Searched for while the user's own lyrics were written: what the search finds must not replace those.
-    QSet<quint16> m_overruled;
+    SearchFeed m_searches{&m_items};
     SongWrites m_writes;
     FailedWrites m_failedWrites{&m_items};
     HeldBackReads m_heldBack{&m_writes};

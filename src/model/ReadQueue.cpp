@@ -20,15 +20,13 @@ void ReadQueue::add(quint16 id)
     m_unread.emplace(m_items->sequenceOf(id), id);
 }
 
-bool ReadQueue::remove(quint16 id, quint64 sequence)
+void ReadQueue::remove(quint16 id, quint64 sequence)
 {
     m_unread.erase(sequence);
     m_slow.erase(sequence);
     m_inFlight.removeOne(id);
-    if (m_current != id)
-        return false;
-    m_current = none;
-    return true;
+    if (m_current == id)
+        m_current = none;
 }
 
 void ReadQueue::readAgain(quint16 id)

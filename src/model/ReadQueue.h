@@ -28,8 +28,8 @@ public:
 
     // Of an item of the store.
     void add(quint16 id);
-    // Of one that has left the store; true when it was being read, so that requestNext() is needed.
-    [[nodiscard]] bool remove(quint16 id, quint64 sequence);
+    // Of one that has left the store. When it was being read, nothing is until requestNext() is called.
+    void remove(quint16 id, quint64 sequence);
     // Puts an overtaken or unreadable item back among the unread ones. While a read is under way it waits for its turn,
     // lest that read be overtaken as well.
     void readAgain(quint16 id);
