@@ -23,6 +23,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int blockBytes = 64 * 1024;
+// A start may fail since the machine is short of memory for a while, which is no song's fault.
+constexpr int startsInARow = 5;
 constexpr std::chrono::milliseconds longestRetryStart = 60s;
 
 // How long to wait before a new process when so many in a row were lost on files. A few hostile files cost nothing; a
@@ -112,21 +114,21 @@ bool TagReader::isReady()
 {
     if (isStopped())
         return false;
-    if (m_process)
-        return true;
-    if (Clock::now() < m_nextStart)
-        return false; // the last start failed; for a while no other one is tried
-    if (sleepUntil(Clock::now() + pauseAfter(m_endsInARow)) == Wake::Stopped)
-        return false;
-    if (startProcess()) {
-        m_retryStart = m_limits.retryStart;
-        return true;
+    while (!m_process) {
+        if (sleepUntil(std::max(m_nextStart, Clock::now() + pauseAfter(m_endsInARow))) == Wake::Stopped)
+            return false;
+        if (startProcess())
+            break;
+        if (isStopped())
+            endProcess();
+        else
+            noteStartFailure();
+        if (m_startsFailed >= startsInARow)
+            return false;
     }
-    if (isStopped())
-        endProcess();
-    else
-        noteStartFailure();
-    return false;
+    m_startsFailed = 0;
+    m_retryStart = m_limits.retryStart;
+    return true;
 }
 
 bool TagReader::startProcess()
@@ -140,7 +142,7 @@ bool TagReader::startProcess()
 
 void TagReader::noteStartFailure()
 {
-    if (m_retryStart == m_limits.retryStart) {
+    if (m_startsFailed++ == 0) {
         const int error = m_process->startError();
         qCWarning(lcTags) << "the reader of tags could not be started:"
                           << (error != 0 ? std::strerror(error) : "it ended or said nothing");

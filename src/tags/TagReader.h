@@ -37,8 +37,10 @@ public:
     ~TagReader();
     Q_DISABLE_COPY(TagReader)
 
-    // Waits for the answer. A failure with a process that has read other files before is tried once more with a new
-    // one, so that no file stands for what others have left.
+    // Waits for the answer, and before for a process: that there is none is answered after the fifth start in a row
+    // that failed, and from then on after each further one, with pauses of up to a minute. A failure with a process
+    // that has read other files before is tried once more with a new one, so that no file stands for what others have
+    // left.
     [[nodiscard]] TagSummary read(const QString &path, bool decodeCover, ReadPatience patience = ReadPatience::Usual);
 
     // Gives up the read under way, which answers that it stalled. Without effect on reads that begin later.
@@ -70,6 +72,7 @@ private:
     int m_filesRead = 0; // by this process
     int m_endsInARow = 0;
     bool m_mayBeSkipped = false; // a file is read, and not the process started
+    int m_startsFailed = 0;      // in a row
     Clock::time_point m_nextStart;
     std::chrono::milliseconds m_retryStart;
     std::vector<char> m_block; // what is received at once
