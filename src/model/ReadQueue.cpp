@@ -4,6 +4,7 @@
 #include "model/ItemStore.h"
 
 #include <algorithm>
+#include <iterator>
 
 // Compared with the number of reads in flight; see requestNext().
 constexpr int readLimit = 1;
@@ -23,6 +24,7 @@ void ReadQueue::add(quint16 id)
 void ReadQueue::remove(quint16 id, quint64 sequence)
 {
     m_unread.erase(sequence);
+    m_behind.erase(sequence);
     m_slow.erase(sequence);
     m_inFlight.removeOne(id);
     if (m_current == id)
@@ -39,6 +41,10 @@ void ReadQueue::readAgain(quint16 id)
 
 void ReadQueue::requestNext()
 {
+    if (m_unread.empty() && !isReading()) {
+        m_unread.swap(m_behind);
+        m_stallsInARow = 0;
+    }
     if (!m_unread.empty())
         putSlowReadBack();
     // "Greater than", not "at least", is meant: while one read is in flight a second one is still asked for. The tag
@@ -66,6 +72,23 @@ void ReadQueue::putSlowReadBack()
     m_current = none;
 }
 
+// Their disk may have gone, or sleep, and nobody should wait for it once a song. With each song that stalls right after
+// another one a higher folder counts: the albums of one disk lie in many.
+void ReadQueue::putNeighboursBehind(const QString &file)
+{
+    QString folder = file;
+    for (int level = 0; level <= m_stallsInARow; ++level)
+        folder.truncate(std::max(folder.lastIndexOf(QLatin1Char('/')), 0));
+    ++m_stallsInARow;
+    folder += QLatin1Char('/');
+    for (auto unread = m_unread.begin(); unread != m_unread.end();) {
+        const auto next = std::next(unread);
+        if (m_items->pathOf(unread->second).startsWith(folder))
+            m_behind.insert(m_unread.extract(unread));
+        unread = next;
+    }
+}
+
 void ReadQueue::take(const QString &file, const MediaFileTags &tags)
 {
     const auto found = std::find_if(m_inFlight.begin(), m_inFlight.end(),
@@ -74,10 +97,15 @@ void ReadQueue::take(const QString &file, const MediaFileTags &tags)
         return;
     const quint16 id = *found;
     const bool isCurrent = m_current == id;
-    if (tags.readFailure() == tags::ReadFailure::Stalled && !(isCurrent && m_isCurrentSlow))
+    const bool isStalled = tags.readFailure() == tags::ReadFailure::Stalled;
+    if (!isStalled)
+        m_stallsInARow = 0;
+    if (isStalled && !(isCurrent && m_isCurrentSlow)) {
         m_slow.emplace(m_items->sequenceOf(id), id);
-    else
+        putNeighboursBehind(file);
+    } else {
         emit tagsRead(id, tags);
+    }
     m_inFlight.removeOne(id);
     if (isCurrent)
         m_current = none;

@@ -12,7 +12,7 @@ class ItemStore;
 
 // Which songs of the list are still to be read, and the one that is: they are read one at a time, from top to bottom.
 // Songs that took too long, on a disk that sleeps perhaps, are tried once more, with more patience, when nothing else
-// is left to read. Main thread only.
+// is left to read; the songs beside them have their turn before that, behind all others. Main thread only.
 class ReadQueue : public QObject
 {
     Q_OBJECT
@@ -55,11 +55,14 @@ private:
     static constexpr int none = -1;
 
     void putSlowReadBack();
+    void putNeighboursBehind(const QString &file);
 
     const ItemStore *const m_items;
     MediaInfoExtractor m_reader;
     Queue m_unread; // no read in flight
+    Queue m_behind; // likewise, beside songs that took too long
     Queue m_slow;   // took too long once
+    int m_stallsInARow = 0;
     QVector<quint16> m_inFlight;
     int m_current = none; // id of the newest request while it is unanswered
     bool m_isCurrentSlow = false;
