@@ -346,14 +346,15 @@ void MainModel::dequeue(const std::vector<ItemStore::Taken> &removed)
 
 void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
 {
-    bool haveSomeBeenActive = false;
+    const bool haveSomeBeenActive =
+        std::any_of(removed.begin(), removed.end(), [](const auto &taken) { return taken.item->active(); });
     QVector<quint16> ids;
     ids.reserve(static_cast<int>(removed.size()));
     RemovedItems::Items items;
     items.reserve(removed.size());
     for (ItemStore::Taken &taken : removed) {
-        haveSomeBeenActive = haveSomeBeenActive || taken.item->active();
         ids.append(taken.item->id());
+        m_renamed.remove(ids.last());
         items.push_back(std::move(taken.item));
     }
     m_removed.add(std::move(items));
@@ -402,6 +403,8 @@ void MainModel::useTags(quint16 id, const MediaFileTags &tags)
         return;
     }
     item->setTags(tags);
+    if (m_renamed.contains(id))
+        item->setProcessState(ModelItem::ProcessWaiting);
     if (!item->lyricsTag().isEmpty())
         item->setProcessState(ModelItem::ProcessComplete);
     else if (m_searches.admit(item) && item->processState() == ModelItem::ProcessWaiting)
@@ -415,6 +418,7 @@ bool MainModel::startSearch(quint16 id)
     ModelItem *item = m_items.find(id);
     if (!item)
         return false;
+    m_renamed.remove(id);
     const bool isUnreadable = item->unreadable() && item->processState() != ModelItem::ProcessWaiting;
     if (m_reads.isOvertaken(id) || isUnreadable) {
         // Its names are not known yet; whether they are suitable shows when the tags are there.
@@ -445,7 +449,7 @@ void MainModel::lyricsSearchFinished(quint16 id, const QString &artist, const QS
     }
     // Lyrics that were there before the search are not written again.
     if (errorString.isEmpty() && !text.isEmpty() && !item->lyricsTag().isEmpty()) {
-        startWriting(item, false);
+        startWriting(item, SongWrites::Kind::Found);
     } else {
         item->setErrorString(errorString);
         item->setProcessState(ModelItem::ProcessComplete);
@@ -504,7 +508,7 @@ bool MainModel::writeTags(quint16 id)
     if (!item)
         return false;
     // Who saves once more, after being told of another program's change, means it.
-    startWriting(item, m_failedWrites.isForeignChangeTold(id));
+    startWriting(item, m_failedWrites.isForeignChangeTold(id) ? SongWrites::Kind::Insisting : SongWrites::Kind::Typed);
     return true;
 }
 
@@ -514,13 +518,13 @@ bool MainModel::writeTagsUnlessForeign(quint16 id)
     if (!item)
         return false;
     if (item->active())
-        m_writes.start(*item, false);
+        m_writes.start(*item, SongWrites::Kind::Typed);
     else
-        startWriting(item, false);
+        startWriting(item, SongWrites::Kind::Typed);
     return true;
 }
 
-void MainModel::startWriting(ModelItem *item, bool insists)
+void MainModel::startWriting(ModelItem *item, SongWrites::Kind kind)
 {
     // The export comes first.
     if (m_settings && m_settings->generateLyricsFileAuto())
@@ -528,31 +532,52 @@ void MainModel::startWriting(ModelItem *item, bool insists)
     item->setErrorString(QString());
     item->setFoundNothing(false);
     item->setProcessState(ModelItem::ProcessWritingTags);
-    m_writes.start(*item, insists);
+    m_writes.start(*item, kind);
 }
 
 void MainModel::tagsWritten(quint16 id)
 {
-    const SongWrites::Outcome outcome = m_writes.takeOutcome(id);
-    if (m_heldBack.release(outcome.file))
-        readNow(outcome.file);
+    const std::optional<SongWrites::Outcome> outcome = m_writes.takeOutcome(id);
+    if (!outcome)
+        return;
+    if (m_heldBack.release(outcome->file))
+        readNow(outcome->file);
     ModelItem *item = m_items.find(id);
     if (!item)
         return;
-    if (outcome.fileKind)
-        item->setFileKind(*outcome.fileKind);
-    if (outcome.reason.isEmpty()) {
-        item->setStoredTexts(outcome.texts);
+    if (outcome->fileKind)
+        item->setFileKind(*outcome->fileKind);
+    if (outcome->reason.isEmpty()) {
+        item->setStoredTexts(outcome->texts);
         m_failedWrites.forget({id});
+        m_renamed.remove(id);
+    } else if (outcome->isRenamed && searchAnew(item, outcome->reason)) {
+        return;
     } else {
-        m_failedWrites.note(item, outcome.reason, outcome.isForeignChange);
+        m_failedWrites.note(item, outcome->reason, outcome->isForeignChange);
     }
     if (item->processState() != ModelItem::ProcessWritingTags)
         return;
-    if (outcome.reason.isEmpty())
+    if (outcome->reason.isEmpty())
         item->setErrorString(QString()); // of an earlier write of this song that failed
     if (!m_writes.isWriting(id))
         item->setProcessState(ModelItem::ProcessComplete);
+}
+
+// Reads the names that another program has given to a song, and lets it be searched for under these: once, and only as
+// long as no edit of the user would be lost. What was found under the old names is dropped.
+bool MainModel::searchAnew(ModelItem *item, const QString &reason)
+{
+    const quint16 id = item->id();
+    const bool isLeftAlone = item->processState() == ModelItem::ProcessWritingTags && !m_writes.isWriting(id);
+    if (!isLeftAlone || item->namesEdited() || m_renamed.contains(id))
+        return false;
+    m_renamed.insert(id);
+    item->setEditedLyricsTag(item->storedTexts().lyrics);
+    item->setErrorString(reason);
+    item->setProcessState(ModelItem::ProcessIdle);
+    m_reads.readAgain(id);
+    return true;
 }
 
 void MainModel::setSongsInMending(const QStringList &paths)

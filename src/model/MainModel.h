@@ -13,6 +13,7 @@
 #include "tags/MediaFileTags.h"
 
 #include <QAbstractListModel>
+#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -202,7 +203,8 @@ private:
     void useTags(quint16 id, const MediaFileTags &tags);
     [[nodiscard]] bool areLyricsUnsaved(const ModelItem &item) const;
     [[nodiscard]] ModelItem *writableItem(quint16 id) const;
-    void startWriting(ModelItem *item, bool insists);
+    void startWriting(ModelItem *item, SongWrites::Kind kind);
+    [[nodiscard]] bool searchAnew(ModelItem *item, const QString &reason);
     void readNow(const QUrl &file);
 
     ItemStore m_items;
@@ -216,6 +218,7 @@ private:
     ReadQueue m_reads{&m_items};
     SearchFeed m_searches{&m_items};
     SongWrites m_writes;
+    QSet<quint16> m_renamed; // another program has changed their names while they were searched for
     FailedWrites m_failedWrites{&m_items};
     HeldBackReads m_heldBack{&m_writes};
     LyricsExports m_exports;

@@ -31,23 +31,19 @@ SongWrites::SongWrites(QObject *parent)
 {
 }
 
-void SongWrites::start(const ModelItem &item, bool insists)
+void SongWrites::start(const ModelItem &item, Kind kind)
 {
     const quint16 id = item.id();
     const tags::SongTexts texts = item.texts();
-    tags::ShownTexts shown{item.storedTexts(), insists, {}};
+    tags::ShownTexts shown{item.storedTexts(), kind == Kind::Insisting, {}, kind == Kind::Found};
     QQueue<Write> &writes = m_writes[id];
     for (const Write &write : qAsConst(writes))
         shown.underWay.append(write.texts);
     writes.enqueue({texts, item.url()});
     ++m_files[item.url()];
     auto *writer = new TagWriter(m_dataFolder);
-    connect(writer, &TagWriter::updated, this, [this](quint16 updatedId, tags::UpdateResult result) {
-        if (const auto kind = fileKindAfter(result))
-            m_fileKinds.insert(updatedId, *kind);
-        if (result == tags::UpdateResult::ChangedMeanwhile)
-            m_refused.insert(updatedId);
-    });
+    connect(writer, &TagWriter::updated, this,
+            [this](quint16 updatedId, tags::UpdateResult result) { m_results.insert(updatedId, result); });
     connect(writer, &TagWriter::failed, this,
             [this](quint16 failedId, const QString &reason) { m_failures.insert(failedId, reason); });
     connect(writer, &TagWriter::written, this, &SongWrites::written);
@@ -62,17 +58,19 @@ bool SongWrites::isWritingOther(quint16 id, const QString &lyrics) const
                        [&lyrics](const Write &write) { return write.texts.lyrics != lyrics; });
 }
 
-SongWrites::Outcome SongWrites::takeOutcome(quint16 id)
+std::optional<SongWrites::Outcome> SongWrites::takeOutcome(quint16 id)
 {
-    Outcome outcome{m_failures.take(id), {}, {}, m_refused.remove(id), {}};
-    if (m_fileKinds.contains(id))
-        outcome.fileKind = m_fileKinds.take(id);
     const auto writes = m_writes.find(id);
     if (writes == m_writes.end())
-        return outcome;
+        return std::nullopt;
     const Write write = writes->dequeue();
-    outcome.texts = write.texts;
-    outcome.file = write.file;
+    Outcome outcome{m_failures.take(id), write.texts, write.file};
+    if (m_results.contains(id)) {
+        const tags::UpdateResult result = m_results.take(id);
+        outcome.isRenamed = result == tags::UpdateResult::RenamedMeanwhile;
+        outcome.isForeignChange = outcome.isRenamed || result == tags::UpdateResult::ChangedMeanwhile;
+        outcome.fileKind = fileKindAfter(result);
+    }
     if (--m_files[write.file] == 0)
         m_files.remove(write.file);
     if (writes->isEmpty())

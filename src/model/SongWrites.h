@@ -6,7 +6,6 @@
 #include <QHash>
 #include <QObject>
 #include <QQueue>
-#include <QSet>
 #include <QUrl>
 #include <QVector>
 
@@ -18,6 +17,10 @@ class SongWrites : public QObject
     Q_OBJECT
 
 public:
+    // Whose texts are written. Lyrics that another program has stored since are replaced only by a user who insists;
+    // found ones are not stored either where it has changed the names that they were found for.
+    enum class Kind { Found, Typed, Insisting };
+
     // How the first of the writes of a song that are under way ended.
     struct Outcome
     {
@@ -25,8 +28,9 @@ public:
         tags::SongTexts texts; // that were to be stored
         QUrl file;
         bool isForeignChange = false; // it failed since another program has changed the file
+        bool isRenamed = false;       // in particular its names
         // What the write met there; empty when it has not seen.
-        std::optional<ModelItem::FileKind> fileKind;
+        std::optional<ModelItem::FileKind> fileKind = {};
     };
 
     explicit SongWrites(QObject *parent = nullptr);
@@ -34,14 +38,14 @@ public:
     // The program's own folder for saves (tags/TagUpdate.h).
     void setDataFolder(const QString &folder) { m_dataFolder = folder; }
 
-    // Queues a write of the item's texts. Without `insists` it fails when another program has stored lyrics since.
-    void start(const ModelItem &item, bool insists);
+    // Queues a write of the item's texts.
+    void start(const ModelItem &item, Kind kind);
     [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.contains(id); }
     [[nodiscard]] bool isWriting(const QUrl &file) const { return m_files.contains(file); }
     // Whether a write of this song is under way that stores other lyrics than these.
     [[nodiscard]] bool isWritingOther(quint16 id, const QString &lyrics) const;
-    // To be called once for each written().
-    [[nodiscard]] Outcome takeOutcome(quint16 id);
+    // To be called once for each written(); empty when no write of the song is under way.
+    [[nodiscard]] std::optional<Outcome> takeOutcome(quint16 id);
 
 signals:
     void written(quint16 id);
@@ -54,9 +58,8 @@ private:
         QUrl file;
     };
 
-    QHash<quint16, QQueue<Write>> m_writes;          // under way, in their order
-    QHash<QUrl, int> m_files;                        // how many writes of each are under way
-    QHash<quint16, QString> m_failures;              // id to reason, until their end is told
-    QHash<quint16, ModelItem::FileKind> m_fileKinds; // likewise
-    QSet<quint16> m_refused;                         // since another program has changed the file; likewise
+    QHash<quint16, QQueue<Write>> m_writes;       // under way, in their order
+    QHash<QUrl, int> m_files;                     // how many writes of each are under way
+    QHash<quint16, QString> m_failures;           // id to reason, until their end is told
+    QHash<quint16, tags::UpdateResult> m_results; // likewise
 };

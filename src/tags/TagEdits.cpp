@@ -180,6 +180,18 @@ bool isEdited(const SongTexts &texts, TextOf text, const QString &stored, const 
     return !shown || comparable(texts.*text) != comparable(shown->texts.*text) || isUnderWay(*shown, text, stored);
 }
 
+// Whether another program has stored it since the user was shown the text.
+bool isForeign(TextOf text, const QString &stored, const std::optional<ShownTexts> &shown)
+{
+    return shown && comparable(stored) != comparable(shown->texts.*text) && !isUnderWay(*shown, text, stored);
+}
+
+// What the name is to become; empty when it stays.
+QString editOf(const SongTexts &texts, TextOf name, const QString &stored, const std::optional<ShownTexts> &shown)
+{
+    return texts.*name != stored && isEdited(texts, name, stored, shown) ? texts.*name : QString();
+}
+
 } // namespace
 
 TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional<ShownTexts> &shown)
@@ -188,16 +200,18 @@ TagEdits editsOf(TagLib::File &file, const SongTexts &texts, const std::optional
     TagEdits edits;
     const QString artist = read.value(keys::artist);
     const QString title = read.value(keys::title);
-    if (texts.artist != artist && isEdited(texts, &SongTexts::artist, artist, shown))
-        edits.artist = texts.artist;
-    if (texts.title != title && isEdited(texts, &SongTexts::title, title, shown))
-        edits.title = texts.title;
+    edits.artist = editOf(texts, &SongTexts::artist, artist, shown);
+    edits.title = editOf(texts, &SongTexts::title, title, shown);
+    const auto staysForeign = [&](TextOf name, const QString &edit, const QString &storedName) {
+        return edit.isEmpty() && storedName != texts.*name && isForeign(name, storedName, shown);
+    };
+    edits.isRenamed =
+        staysForeign(&SongTexts::artist, edits.artist, artist) || staysForeign(&SongTexts::title, edits.title, title);
     const QString stored = comparable(read.value(keys::lyrics));
     if (comparable(texts.lyrics) == stored || !isEdited(texts, &SongTexts::lyrics, stored, shown))
         return edits;
     edits.lyrics = texts.lyrics;
-    edits.conflict = shown && !shown->replacesForeignLyrics && !stored.isEmpty() &&
-                     stored != comparable(shown->texts.lyrics) && !isUnderWay(*shown, &SongTexts::lyrics, stored);
+    edits.conflict = isForeign(&SongTexts::lyrics, stored, shown) && !shown->replacesForeignLyrics && !stored.isEmpty();
     return edits;
 }
 

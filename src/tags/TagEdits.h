@@ -23,7 +23,8 @@ struct TagEdits
     QString artist; // empty: leave it
     QString title;  // empty: leave it
     std::optional<QString> lyrics;
-    bool conflict = false; // there are lyrics in the file that the user was not shown
+    bool conflict = false;  // there are lyrics in the file that the user was not shown
+    bool isRenamed = false; // there is an artist or a title that the user was not shown, and that will stay
 };
 
 // What equals the texts that the user was shown was not edited, and is left; the texts of an update under way are no

@@ -117,6 +117,8 @@ UpdateResult Update::run(const QString &dataFolder)
     m_edits = editsOf(song.file(), m_texts, m_shown);
     if (m_edits.conflict)
         return UpdateResult::ChangedMeanwhile;
+    if (m_shown && m_shown->lyricsAreOfNames && m_edits.isRenamed)
+        return UpdateResult::RenamedMeanwhile;
     m_applied = apply(m_edits, song.file());
     if (!m_applied.isPossible)
         return UpdateResult::NoLyricsPlace;

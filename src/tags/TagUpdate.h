@@ -27,6 +27,9 @@ struct ShownTexts
     bool replacesForeignLyrics = false;
     // Of earlier updates of the file whose end the user was not told yet: it may hold these as well.
     QVector<SongTexts> underWay = {};
+    // The lyrics were found under the song's names: where another program has stored other ones since, the update ends
+    // as RenamedMeanwhile.
+    bool lyricsAreOfNames = false;
 };
 
 // Changes what differs in the tags of a file, and saves the file when something did. Names and lyrics count as

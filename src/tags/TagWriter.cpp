@@ -39,6 +39,7 @@ QString reasonText(tags::UpdateResult result)
     case tags::UpdateResult::AudioNotKept:
         return TagWriter::tr("the audio would not stay as it is");
     case tags::UpdateResult::ChangedMeanwhile:
+    case tags::UpdateResult::RenamedMeanwhile:
         return TagWriter::tr("another program has changed the file");
     case tags::UpdateResult::AwaitsRestoring:
         return TagWriter::tr("an earlier save of the file was cut off and is not undone yet");

@@ -20,6 +20,7 @@ enum class UpdateResult {
     TagsNotKept,      // something that its tags hold would be lost
     AudioNotKept,     // the audio would not stay as it is
     ChangedMeanwhile, // by another program
+    RenamedMeanwhile, // likewise: the artist or the title, so that the lyrics were found for another song
     AwaitsRestoring,  // an earlier save in place was cut off or failed, and is not undone yet
     RestoredLater,    // this save in place failed and could not be undone; the next start tries again
     SaveFailed,
