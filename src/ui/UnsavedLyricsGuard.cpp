@@ -33,6 +33,17 @@ void UnsavedLyricsGuard::beforeRemoving(std::function<Songs()> songs, std::funct
             }});
 }
 
+void UnsavedLyricsGuard::beforeSearching(const Songs &ids, std::function<void()> action)
+{
+    const auto songs = [this, ids] {
+        return those(ids, [this](quint16 id) {
+            const ModelItem *song = m_model->item(id);
+            return song && song->lyricsArtist().isNull() && m_model->hasUnsavedLyrics(id);
+        });
+    };
+    beforeRemoving(songs, std::move(action));
+}
+
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
 {
     const auto songs = [this] {

@@ -13,11 +13,11 @@ class MainModel;
 class QWidget;
 class WritesWait;
 
-// Sees to it that what stands in the list only is never given up unasked, when songs are removed or the program ends:
-// lyrics whose write failed, a deletion of lyrics that failed, and new names that nobody has saved or whose write
-// failed, or that were typed and not even confirmed. One question is about all of these; it names the songs and tells
-// why earlier writes have failed. The user may have all of it saved, and is asked again when that fails. Songs that are
-// being written are waited for before (ui/WritesWait.h). Main thread only.
+// Sees to it that what stands in the list only is never given up unasked, when songs are removed, searches replace what
+// was typed, or the program ends: lyrics whose write failed, a deletion of lyrics that failed, and new names that
+// nobody has saved or whose write failed, or that were typed and not even confirmed. One question is about all of
+// these; it names the songs and tells why earlier writes have failed. The user may have all of it saved, and is asked
+// again when that fails. Songs that are being written are waited for before (ui/WritesWait.h). Main thread only.
 class UnsavedLyricsGuard
 {
     Q_DECLARE_TR_FUNCTIONS(UnsavedLyricsGuard)
@@ -43,6 +43,9 @@ public:
     // texts, not before the user has saved them or given them up, and never when the user cancels, or while another
     // action waits or is asked about. Which songs they are is asked again after each wait and question.
     void beforeRemoving(std::function<Songs()> songs, std::function<void()> action);
+    // In the same way an action that searches for these songs, as far as they have lyrics that the user has typed: what
+    // was found can be found again.
+    void beforeSearching(const Songs &ids, std::function<void()> action);
     // In the same way an action that ends the program. First writes of lyrics that are under way are left to the end of
     // the program, which waits for them without a window and keeps the lyrics that they could not store. Who gives up
     // something here may still stay: giveUp() is to be called when the program ends indeed.
@@ -53,8 +56,8 @@ public:
 private:
     struct Action
     {
-        std::function<Songs()> songs; // that it takes from the list, or the program's end does
-        bool removes;
+        std::function<Songs()> songs; // whose texts it would lose
+        bool removes;                 // these or their lyrics, and not all that there is
         std::function<void(const Songs &givenUp)> run;
         Songs givenUp = {}; // so far
     };

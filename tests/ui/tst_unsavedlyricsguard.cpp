@@ -12,7 +12,7 @@
 
 namespace {
 
-enum Action { Quit, Remove, RemoveAnother };
+enum Action { Quit, Remove, RemoveAnother, Search };
 // What another program has done to the song.
 enum Trouble { None, Gone, Changed, NotDeleted };
 
@@ -50,6 +50,7 @@ private slots:
         row("not removed", Remove, Gone, false, {save, cancel}, false, "");
         row("a deletion fails, and the user stays", Quit, NotDeleted, false, {save, cancel}, false, "");
         row("removed before its lyrics are deleted", Remove, NotDeleted, false, {discard}, true, "");
+        row("not searched for before words are saved that could not be", Search, Changed, false, {cancel}, false, "");
         row("another song is removed", RemoveAnother, None, false, {}, true, "");
     }
 
@@ -93,6 +94,8 @@ private slots:
         for (int attempt = 0; attempt < 2; ++attempt) { // the second one changes nothing
             if (action == Quit)
                 guard.beforeQuitting([&done] { ++done; });
+            else if (action == Search)
+                guard.beforeSearching({id}, [&done] { ++done; });
             else
                 guard.beforeRemoving(
                     [&] { return model.item(removed) ? QVector<quint16>{removed} : QVector<quint16>(); },
