@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QMutex>
 
+#include <algorithm>
 #include <cerrno>
 #include <thread>
 #include <utility>
@@ -16,13 +17,36 @@
 // A disk that wakes up may take longer; then others are looked at meanwhile, which does no harm.
 constexpr qint64 stallMs = 500;
 
+static bool isEmpty(const QByteArray &folder)
+{
+    return QDir(QFile::decodeName(folder))
+        .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+// Whether a disk may be mounted in this folder at other times. Where disks come and go they do so with the folders they
+// are mounted at, which then are missing beside others; shares of a desktop stand below /run/user as parts of one
+// mount.
+static bool mayHoldMounts(const QByteArray &folder, dev_t device)
+{
+    if (folder == "/" || folder.startsWith("/run/user/") || isEmpty(folder))
+        return true;
+    for (const char *root : {"/media", "/mnt", "/run", "/net"}) {
+        struct stat status = {};
+        const bool isBelow = folder == root || folder.startsWith(QByteArray(root) + '/');
+        if (isBelow && (::stat(root, &status) != 0 || status.st_dev == device))
+            return true;
+    }
+    return false;
+}
+
 // Shared with the thread.
 struct DelayedFileCheck::Work
 {
     mutable QMutex mutex;
     QStringList entries; // until urls are made of them
     QList<QUrl> urls;
-    int next = 0; // index of the url that is being looked at
+    std::optional<Places> places; // when the entries are read, until they are taken
+    int next = 0;                 // index of the url that is being looked at
     int taken = 0;
     Found found;
     QElapsedTimer sinceLook;
@@ -55,9 +79,14 @@ private:
         const QStringList read = entries;
         lock.unlock();
         const QList<QUrl> made = urlsOf(read);
+        Places madePlaces;
+        madePlaces.reserve(made.size());
+        for (int place = made.size() - 1; place >= 0; --place)
+            madePlaces.insert(made.at(place), place);
         lock.relock();
         entries.clear();
         urls += made;
+        places = std::move(madePlaces);
     }
     bool begin(QUrl &url)
     {
@@ -80,8 +109,19 @@ private:
             found.folders.append(url);
         else if (kind == Kind::Away)
             found.away.append(url);
+        else
+            ++found.others;
     }
 };
+
+DelayedFileCheck::Found &DelayedFileCheck::Found::operator+=(const Found &more)
+{
+    files += more.files;
+    folders += more.folders;
+    away += more.away;
+    others += more.others;
+    return *this;
+}
 
 DelayedFileCheck::DelayedFileCheck(const QList<QUrl> &urls, const Look &look)
     : m_look(look)
@@ -116,6 +156,12 @@ DelayedFileCheck::Found DelayedFileCheck::take()
     const QMutexLocker lock(&m_work->mutex);
     m_work->taken = m_work->next;
     return std::exchange(m_work->found, Found());
+}
+
+std::optional<DelayedFileCheck::Places> DelayedFileCheck::takePlaces()
+{
+    const QMutexLocker lock(&m_work->mutex);
+    return std::exchange(m_work->places, std::nullopt);
 }
 
 QList<QUrl> DelayedFileCheck::untaken() const
@@ -174,12 +220,17 @@ bool DelayedFileCheck::isAway(const QUrl &url)
 {
     if (!url.isLocalFile())
         return false;
-    const QString path = url.toLocalFile();
+    QByteArray path = QFile::encodeName(url.toLocalFile());
     struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) == 0)
+    if (!path.startsWith('/') || ::stat(path.constData(), &status) == 0)
         return false; // something else than a file
-    if (errno != ENOENT && errno != ENOTDIR)
-        return true;
-    const QDir folder = QFileInfo(path).dir();
-    return !folder.exists() || folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    // Up to the nearest folder that is there.
+    do {
+        if (errno != ENOENT && errno != ENOTDIR)
+            return true;
+        if (::lstat(path.constData(), &status) == 0)
+            return true; // a link to nothing
+        path.truncate(std::max(path.lastIndexOf('/'), 1));
+    } while (::stat(path.constData(), &status) != 0);
+    return S_ISDIR(status.st_mode) && mayHoldMounts(path, status.st_dev);
 }

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QStringList>
 #include <QUrl>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 // Looks at urls in a thread of its own, one after another: a look at a disk that does not answer takes as long as it
 // takes. What was found is fetched when its owner likes.
@@ -26,7 +28,16 @@ public:
         QList<QUrl> files;   // regular local files, or links to them
         QList<QUrl> folders; // local ones, or links to them
         QList<QUrl> away;    // see isAway()
+        int others = 0;      // how many are none of these
+
+        [[nodiscard]] bool isEmpty() const
+        {
+            return files.isEmpty() && folders.isEmpty() && away.isEmpty() && others == 0;
+        }
+        Found &operator+=(const Found &more);
     };
+    // From a url to its first place among the entries.
+    using Places = QHash<QUrl, int>;
 
     explicit DelayedFileCheck(const QList<QUrl> &urls, const Look &look = kindOf);
     // Of texts, of which the thread makes urls: absolute paths and urls. Others are left out.
@@ -39,6 +50,8 @@ public:
     void start();
     // What was found since the last call.
     [[nodiscard]] Found take();
+    // Where the urls of the entries stand, once; nothing until they are read.
+    [[nodiscard]] std::optional<Places> takePlaces();
     // The urls of which nothing was taken yet.
     [[nodiscard]] QList<QUrl> untaken() const;
     // Whether all urls were looked at and taken.
@@ -54,8 +67,9 @@ public:
     [[nodiscard]] static bool isFile(const QUrl &url);
     // Whether the url names a local folder, or a link to one.
     [[nodiscard]] static bool isFolder(const QUrl &url);
-    // Whether a url that names no file may name one again: its folder is not there, or an empty place to mount at, or
-    // cannot be asked. What was deleted from a folder that is there does not come back.
+    // Whether a url that names no file may name one again, when its disk is mounted: the path leads to an empty folder,
+    // to the places where disks are mounted, or along a link to nothing, or the disk cannot be asked. Anything else was
+    // deleted or renamed, and does not come back.
     [[nodiscard]] static bool isAway(const QUrl &url);
 
 private:

@@ -45,6 +45,7 @@ void IncomingFiles::keep(const QStringList &entries)
     if (entries.isEmpty())
         return;
     m_kept = std::make_unique<DelayedFileCheck>(entries, m_look);
+    m_places.reset();
     setRestoring(true);
 }
 
@@ -56,18 +57,25 @@ void IncomingFiles::lookAtKept()
 
 void IncomingFiles::restore()
 {
-    const auto use = [this](const Found &found, bool isFirst) {
-        m_away += found.away;
-        if (found.files.isEmpty()) // an empty block would come out
-            return;
-        add(found.files, isFirst);
-        setRestoring(false);
-    };
     if (!m_kept)
         return;
-    begin(std::move(m_kept), use, true);
+    begin(
+        std::move(m_kept), [this](const Found &found, bool isFirst) { useKept(found, isFirst); }, true);
     takeFound();
     QTimer::singleShot(restorePatience, this, [this] { setRestoring(false); });
+}
+
+void IncomingFiles::useKept(Found found, bool isFirst)
+{
+    m_away += found.away;
+    // What was dropped meanwhile has become a row, which may be gone again.
+    found.files.erase(std::remove_if(found.files.begin(), found.files.end(),
+                                     [this](const QUrl &url) { return placeOf(url) == noPlace; }),
+                      found.files.end());
+    if (found.files.isEmpty()) // an empty block would come out
+        return;
+    add(found.files, isFirst);
+    setRestoring(false);
 }
 
 void IncomingFiles::setRestoring(bool restoring)
@@ -91,7 +99,7 @@ void IncomingFiles::begin(std::unique_ptr<DelayedFileCheck> check, const Use &us
     job.checks.push_back(std::move(check));
     job.use = use;
     job.isKept = isKept;
-    m_jobs.push_back(std::move(job));
+    m_jobs.insert(isKept ? m_jobs.begin() : m_jobs.end(), std::move(job));
     m_nextLook.start();
 }
 
@@ -105,15 +113,16 @@ void IncomingFiles::takeFound()
     };
     std::vector<Report> reports; // used at the end, since a use may begin or clear jobs
     const bool isKeptBusy = isKeptComing();
+    fetchPlaces();
     for (Job &job : m_jobs) {
         passStalled(job);
-        if (isKeptBusy && !job.isKept) {
-            job.hasReported = true; // its files become a later part of the kept list's, whose reads go on with them
+        if (!m_places && !job.isKept)
             continue;
-        }
         Found found = takeFrom(job);
-        if (!found.files.isEmpty() || !found.folders.isEmpty() || !found.away.isEmpty())
-            reports.push_back({job.use, std::move(found), !std::exchange(job.hasReported, true)});
+        const bool isFirst = !job.hasReported && (job.isKept || !isKeptBusy);
+        job.hasReported = !isFirst || !found.files.isEmpty();
+        if (!found.isEmpty())
+            reports.push_back({job.use, std::move(found), isFirst});
     }
     m_jobs.erase(std::remove_if(m_jobs.begin(), m_jobs.end(), [](const Job &job) { return job.checks.empty(); }),
                  m_jobs.end());
@@ -123,6 +132,14 @@ void IncomingFiles::takeFound()
         report.use(report.found, report.isFirst);
     if (m_jobs.empty() && !m_kept)
         setRestoring(false); // nothing was left of the list
+}
+
+void IncomingFiles::fetchPlaces()
+{
+    for (const Job &job : m_jobs) {
+        if (job.isKept && !m_places)
+            m_places = job.checks.front()->takePlaces();
+    }
 }
 
 bool IncomingFiles::isKeptComing() const
@@ -137,12 +154,8 @@ bool IncomingFiles::isKeptComing() const
 IncomingFiles::Found IncomingFiles::takeFrom(Job &job)
 {
     Found all;
-    for (const auto &check : job.checks) {
-        const Found found = check->take();
-        all.files += found.files;
-        all.folders += found.folders;
-        all.away += found.away;
-    }
+    for (const auto &check : job.checks)
+        all += check->take();
     job.checks.erase(
         std::remove_if(job.checks.begin(), job.checks.end(), [](const auto &check) { return check->isAllTaken(); }),
         job.checks.end());
@@ -162,14 +175,39 @@ void IncomingFiles::passStalled(Job &job) const
     job.checks.back()->start();
 }
 
-QList<QUrl> IncomingFiles::waiting() const
+quint64 IncomingFiles::placeOf(const QUrl &url) const
 {
-    QList<QUrl> urls = m_known + (m_kept ? m_kept->untaken() : QList<QUrl>());
+    const auto place = m_places->constFind(url);
+    return place == m_places->constEnd() ? noPlace : static_cast<quint64>(*place);
+}
+
+quint64 IncomingFiles::takePlace(const QUrl &url)
+{
+    const quint64 place = m_places ? placeOf(url) : noPlace;
+    if (place != noPlace)
+        m_places->remove(url);
+    return place;
+}
+
+QVector<IncomingFiles::Waiting> IncomingFiles::waiting() const
+{
+    QVector<Waiting> all;
+    const auto add = [this, &all](const QList<QUrl> &urls, bool isKept) {
+        for (const QUrl &url : urls) {
+            const quint64 place = m_places ? placeOf(url) : isKept ? 0 : noPlace;
+            if (!isKept || place != noPlace) // otherwise it has become a row
+                all.append({url, place});
+        }
+    };
+    add(m_away, true);
+    if (m_kept)
+        add(m_kept->untaken(), true);
+    add(m_known, false);
     for (const Job &job : m_jobs) {
         for (const auto &check : job.checks)
-            urls += job.isKept ? check->untaken() : QList<QUrl>();
+            add(check->untaken(), job.isKept);
     }
-    return urls;
+    return all;
 }
 
 void IncomingFiles::clear()
@@ -180,6 +218,7 @@ void IncomingFiles::clear()
     m_nextLook.stop();
     m_known.clear();
     m_nextBlock.stop();
+    m_places = DelayedFileCheck::Places();
     m_away.clear();
 }
 

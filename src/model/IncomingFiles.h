@@ -8,9 +8,12 @@
 #include <QStringList>
 #include <QTimer>
 #include <QUrl>
+#include <QVector>
 
 #include <functional>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // Files on their way into the list: those that nobody knows yet are looked at first, elsewhere, and all of them come
@@ -22,8 +25,16 @@ class IncomingFiles : public QObject
 
 public:
     using Found = DelayedFileCheck::Found;
-    // `isFirst`: nothing was handed over before of the same urls.
+    // `isFirst`: no files were handed over before of the same urls.
     using Use = std::function<void(const Found &found, bool isFirst)>;
+
+    // What is still to come out, or is kept for a disk that is away.
+    struct Waiting
+    {
+        QUrl url;
+        quint64 place; // in the kept list, or noPlace
+    };
+    static constexpr quint64 noPlace = std::numeric_limits<quint64>::max();
 
     explicit IncomingFiles(QObject *parent = nullptr);
     // Looks at urls in this way.
@@ -40,8 +51,8 @@ public:
     // restore(), since a disk that does not answer may never do so.
     [[nodiscard]] bool isRestoring() const { return m_isRestoring; }
     // Looks at urls and hands over what they are, in parts, from the event loop. They are in the order in which they
-    // were given, but for those that have to wait for a disk. What is on its way of the kept list comes before, but for
-    // what waits for a disk, so that the order of the list lasts.
+    // were given, but for those that have to wait for a disk. None is handed over before the places of the kept list
+    // are known; what comes while that is on its way is not the first, since the reads of the list go on with it.
     void look(const QList<QUrl> &urls, const Use &use);
     // Takes files that are known to be regular; the first block of them comes out before this returns. Later parts of
     // what was handed over in parts are not the first ones.
@@ -49,14 +60,16 @@ public:
     // Forgets all, also what is away.
     void clear();
 
-    // What is still to come out, of the kept list and of what was added.
-    [[nodiscard]] QList<QUrl> waiting() const;
-    // Files of the kept list whose disk is away: they do not come out, and are to be kept on.
-    [[nodiscard]] QList<QUrl> away() const { return m_away; }
+    // Each place is given once, for the row that the file becomes: noPlace for one that does not come from the kept
+    // list, and for one that has become a row before.
+    [[nodiscard]] quint64 takePlace(const QUrl &url);
+    // What may become rows, now or in a later run: of the kept list, of what was added, and of what is looked at,
+    // whatever it is.
+    [[nodiscard]] QVector<Waiting> waiting() const;
 
 signals:
-    // In the order in which they were taken. `isFirst` says that no block came right before this one, and that its
-    // files are not a later part.
+    // In the order in which they were taken; those of the kept list as their disks answer. `isFirst` says that no block
+    // came right before this one, and that its files are not a later part.
     void block(const QList<QUrl> &files, bool isFirst);
     void restoringChanged();
 
@@ -72,6 +85,9 @@ private:
 
     void begin(std::unique_ptr<DelayedFileCheck> check, const Use &use, bool isKept);
     void takeFound();
+    void fetchPlaces();
+    void useKept(Found found, bool isFirst);
+    [[nodiscard]] quint64 placeOf(const QUrl &url) const;
     [[nodiscard]] static Found takeFrom(Job &job);
     void passStalled(Job &job) const;
     [[nodiscard]] bool isKeptComing() const;
@@ -84,6 +100,8 @@ private:
     std::vector<Job> m_jobs;
     QTimer m_nextLook; // runs while there are jobs
     QList<QUrl> m_known;
-    QList<QUrl> m_away;
+    // Of the files of the kept list that have not become rows; nothing until that list is read.
+    std::optional<DelayedFileCheck::Places> m_places = DelayedFileCheck::Places();
+    QList<QUrl> m_away; // of the kept list; they do not come out in this run
     QTimer m_nextBlock; // runs while there are known files
 };

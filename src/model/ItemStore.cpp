@@ -12,10 +12,13 @@ ModelItem *ItemStore::find(quint16 id) const
 int ItemStore::rowOf(quint16 id) const
 {
     const auto entry = m_entries.find(id);
-    if (entry == m_entries.end())
-        return -1;
-    const auto row = std::lower_bound(m_rows.begin(), m_rows.end(), entry->second.sequence,
-                                      [](const Row &r, quint64 sequence) { return r.sequence < sequence; });
+    return entry == m_entries.end() ? -1 : rowFor(entry->second.sequence);
+}
+
+int ItemStore::rowFor(quint64 sequence) const
+{
+    const auto row = std::lower_bound(m_rows.begin(), m_rows.end(), sequence,
+                                      [](const Row &r, quint64 wanted) { return r.sequence < wanted; });
     return static_cast<int>(row - m_rows.begin());
 }
 
@@ -32,27 +35,31 @@ quint64 ItemStore::sequenceOf(quint16 id) const
     return entry->second.sequence;
 }
 
-void ItemStore::append(std::unique_ptr<ModelItem> item)
+void ItemStore::insert(std::vector<LooseItem> items)
 {
-    const quint16 id = item->id();
-    const QUrl url = item->url();
-    Q_ASSERT(!find(id) && !contains(url));
-    m_rows.append({m_nextSequence, id});
-    m_ids.insert(url, id);
-    m_entries.emplace(id, Entry{std::move(item), m_nextSequence, url, url.toLocalFile()});
-    ++m_nextSequence;
+    const int countBefore = count();
+    for (LooseItem &loose : items) {
+        const quint16 id = loose.item->id();
+        const QUrl url = loose.item->url();
+        Q_ASSERT(!find(id) && !contains(url));
+        m_rows.append({loose.sequence, id});
+        m_ids.insert(url, id);
+        m_entries.emplace(id, Entry{std::move(loose.item), loose.sequence, url, url.toLocalFile()});
+    }
+    std::inplace_merge(m_rows.begin(), m_rows.begin() + countBefore, m_rows.end(),
+                       [](const Row &a, const Row &b) { return a.sequence < b.sequence; });
 }
 
-ItemStore::Taken ItemStore::takeEntry(quint16 id)
+ItemStore::LooseItem ItemStore::takeEntry(quint16 id)
 {
     auto node = m_entries.extract(id);
     m_ids.remove(node.mapped().url);
     return {std::move(node.mapped().item), node.mapped().sequence};
 }
 
-std::vector<ItemStore::Taken> ItemStore::take(int first, int last)
+std::vector<ItemStore::LooseItem> ItemStore::take(int first, int last)
 {
-    std::vector<ItemStore::Taken> taken;
+    std::vector<ItemStore::LooseItem> taken;
     taken.reserve(static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1);
     for (int row = first; row <= last; ++row)
         taken.push_back(takeEntry(idAt(row)));
@@ -60,9 +67,9 @@ std::vector<ItemStore::Taken> ItemStore::take(int first, int last)
     return taken;
 }
 
-std::vector<ItemStore::Taken> ItemStore::takeScattered(const QVector<int> &rows)
+std::vector<ItemStore::LooseItem> ItemStore::takeScattered(const QVector<int> &rows)
 {
-    std::vector<ItemStore::Taken> taken;
+    std::vector<ItemStore::LooseItem> taken;
     taken.reserve(static_cast<std::size_t>(rows.size()));
     QVector<Row> kept;
     kept.reserve(count() - rows.size());

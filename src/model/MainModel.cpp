@@ -9,12 +9,13 @@
 #include <QQmlEngine>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace {
 
-// Above this many ranges a removal is one reset: each range costs every view a pass of its own.
-constexpr int mostRangesRemoved = 64;
+// Above this many ranges an insertion or a removal is one reset: each range costs every view a pass of its own.
+constexpr int mostRangesAtOnce = 64;
 // How many identifiers of 16 bits there are.
 constexpr int idCount = std::numeric_limits<quint16>::max() + 1;
 
@@ -112,15 +113,34 @@ QHash<int, QByteArray> MainModel::roleNames() const
 
 QList<QUrl> MainModel::urls() const
 {
-    QList<QUrl> urls;
-    urls.reserve(m_items.count());
+    using PlacedUrl = std::pair<quint64, QUrl>;
+    std::vector<PlacedUrl> placed;
+    placed.reserve(static_cast<std::size_t>(m_items.count()));
     for (int row = 0; row < m_items.count(); ++row)
-        urls.append(m_items.itemAt(row)->url());
-    urls += m_incoming.waiting();
-    const QList<QUrl> away = m_incoming.away();
-    std::copy_if(away.begin(), away.end(), std::back_inserter(urls),
-                 [this](const QUrl &url) { return !m_items.contains(url); });
+        placed.emplace_back(m_items.sequenceAt(row), m_items.itemAt(row)->url());
+    for (const IncomingFiles::Waiting &file : m_incoming.waiting()) {
+        const bool mayBecomeRow = file.place != IncomingFiles::noPlace || isSupported(file.url);
+        if (mayBecomeRow && !m_items.contains(file.url))
+            placed.emplace_back(file.place, file.url);
+    }
+    std::stable_sort(placed.begin(), placed.end(),
+                     [](const PlacedUrl &a, const PlacedUrl &b) { return a.first < b.first; });
+    QList<QUrl> urls;
+    urls.reserve(static_cast<int>(placed.size()));
+    for (const PlacedUrl &url : placed)
+        urls.append(url.second);
     return urls;
+}
+
+QStringList MainModel::entries() const
+{
+    QStringList entries;
+    for (const QUrl &url : urls()) {
+        const QString text = url.toString(QUrl::FullyEncoded);
+        // Some characters of file names, as U+FFFF, cannot be read back from a url.
+        entries.append(QUrl(text) == url ? text : url.toLocalFile());
+    }
+    return entries;
 }
 
 // Adding
@@ -158,6 +178,9 @@ void MainModel::addUrlsFromDrop(const QList<QUrl> &urls)
         m_incoming.add(supported, isFirst);
         if (!found.folders.isEmpty())
             emit scanFolders(found.folders);
+        const int unsupported = found.files.size() - supported.size() + found.away.size() + found.others;
+        if (unsupported > 0)
+            emit filesUnsupported(unsupported);
     });
 }
 
@@ -229,24 +252,65 @@ bool MainModel::isIdInUse(quint16 id) const
     return m_items.find(id) || m_writes.isWriting(id) || m_reads.isInFlight(id) || m_searches.isSearching(id);
 }
 
+// Those of the kept list go to their places among its songs, all others behind all.
 void MainModel::insertItems(std::vector<std::unique_ptr<ModelItem>> items)
 {
-    const int first = m_items.count();
-    beginInsertRows({}, first, first + static_cast<int>(items.size()) - 1);
+    LooseItems loose;
     for (std::unique_ptr<ModelItem> &item : items) {
+        const quint64 place = m_incoming.takePlace(item->url());
+        loose.push_back({std::move(item), place == IncomingFiles::noPlace ? m_items.nextSequence() : place});
+    }
+    std::sort(loose.begin(), loose.end(), [](const auto &a, const auto &b) { return a.sequence < b.sequence; });
+    if (gapsFor(loose) > mostRangesAtOnce) {
+        beginResetModel();
+        takeIn(std::move(loose));
+        endResetModel();
+    } else {
+        insertIntoGaps(std::move(loose));
+    }
+    if (m_autoStart)
+        emit activeCountChanged();
+}
+
+// Between how many rows of the list these items go.
+int MainModel::gapsFor(const LooseItems &items) const
+{
+    int gaps = 0;
+    int lastRow = -1;
+    for (const ItemStore::LooseItem &item : items)
+        gaps += m_items.rowFor(item.sequence) == std::exchange(lastRow, m_items.rowFor(item.sequence)) ? 0 : 1;
+    return gaps;
+}
+
+void MainModel::insertIntoGaps(LooseItems items)
+{
+    for (auto first = items.begin(); first != items.end();) {
+        const int row = m_items.rowFor(first->sequence);
+        const auto last =
+            std::find_if(first, items.end(), [&](const auto &item) { return m_items.rowFor(item.sequence) != row; });
+        beginInsertRows({}, row, row + static_cast<int>(last - first) - 1);
+        takeIn({std::make_move_iterator(first), std::make_move_iterator(last)});
+        endInsertRows();
+        first = last;
+    }
+}
+
+void MainModel::takeIn(LooseItems items)
+{
+    QVector<ModelItem *> taken;
+    for (const ItemStore::LooseItem &loose : items) {
+        ModelItem *item = loose.item.get();
         if (m_autoStart)
             item->setProcessState(ModelItem::ProcessWaiting);
         m_activeCount += item->active() ? 1 : 0;
-        connectItem(item.get());
-        const quint16 id = item->id();
-        const QUrl file = item->url();
-        m_items.append(std::move(item));
-        if (!m_heldBack.hold(file))
-            m_reads.add(id);
+        connectItem(item);
+        taken.append(item);
     }
-    endInsertRows();
-    if (m_autoStart)
-        emit activeCountChanged();
+    m_items.insert(std::move(items));
+    for (const ModelItem *item : qAsConst(taken)) {
+        if (!m_heldBack.hold(item->url()))
+            m_reads.add(item->id());
+    }
 }
 
 void MainModel::connectItem(ModelItem *item)
@@ -300,7 +364,7 @@ bool MainModel::removeRows(int row, int count, const QModelIndex &parent)
     if (parent.isValid() || row < 0 || count <= 0 || row + count > m_items.count())
         return false;
     beginRemoveRows({}, row, row + count - 1);
-    std::vector<ItemStore::Taken> removed = m_items.take(row, row + count - 1);
+    std::vector<ItemStore::LooseItem> removed = m_items.take(row, row + count - 1);
     dequeue(removed);
     endRemoveRows();
     forgetItems(std::move(removed));
@@ -321,9 +385,9 @@ void MainModel::removeScattered(const QVector<int> &rows)
         else
             ranges.push_back({row, row});
     }
-    if (ranges.size() > mostRangesRemoved) {
+    if (ranges.size() > mostRangesAtOnce) {
         beginResetModel();
-        std::vector<ItemStore::Taken> removed = m_items.takeScattered(rows);
+        std::vector<ItemStore::LooseItem> removed = m_items.takeScattered(rows);
         dequeue(removed);
         endResetModel();
         forgetItems(std::move(removed));
@@ -335,16 +399,16 @@ void MainModel::removeScattered(const QVector<int> &rows)
 }
 
 // Takes removed items out of every queue, before anybody hears that they are gone.
-void MainModel::dequeue(const std::vector<ItemStore::Taken> &removed)
+void MainModel::dequeue(const std::vector<ItemStore::LooseItem> &removed)
 {
-    for (const ItemStore::Taken &taken : removed) {
+    for (const ItemStore::LooseItem &taken : removed) {
         m_activeCount -= taken.item->active() ? 1 : 0;
         m_searches.forget(taken.sequence);
         m_reads.remove(taken.item->id(), taken.sequence);
     }
 }
 
-void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
+void MainModel::forgetItems(std::vector<ItemStore::LooseItem> removed)
 {
     const bool haveSomeBeenActive =
         std::any_of(removed.begin(), removed.end(), [](const auto &taken) { return taken.item->active(); });
@@ -352,7 +416,7 @@ void MainModel::forgetItems(std::vector<ItemStore::Taken> removed)
     ids.reserve(static_cast<int>(removed.size()));
     RemovedItems::Items items;
     items.reserve(removed.size());
-    for (ItemStore::Taken &taken : removed) {
+    for (ItemStore::LooseItem &taken : removed) {
         ids.append(taken.item->id());
         m_renamed.remove(ids.last());
         items.push_back(std::move(taken.item));

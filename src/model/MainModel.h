@@ -91,6 +91,8 @@ public:
     [[nodiscard]] int activeCount() const { return m_activeCount; }
     // Null when no item has this id.
     [[nodiscard]] ModelItem *item(quint16 id) const { return m_items.find(id); }
+    // Null when no item has this url.
+    [[nodiscard]] ModelItem *item(const QUrl &url) const { return m_items.find(url); }
     [[nodiscard]] ModelItem *itemAt(int row) const { return m_items.itemAt(row); }
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
@@ -108,9 +110,12 @@ public:
     [[nodiscard]] QVector<quint16> unsavedIds() const;
     // What these songs have in the list only is forgotten: their texts are those of the files.
     void giveUpUnsaved(const QVector<quint16> &ids);
-    // The urls of all rows, in row order, then of the files that are still to become rows, and of those that were in
-    // the restored list and whose disk is away, until the list is emptied: what is to be kept across runs.
+    // What is to be kept across runs: the urls of all rows, in row order, and of the files that may still become rows.
+    // Among them are those of the kept list whose disk is away, each at its place in that list, until the list is
+    // emptied.
     [[nodiscard]] QList<QUrl> urls() const;
+    // The same as texts that keep() reads.
+    [[nodiscard]] QStringList entries() const;
 
     // Takes a list that was kept across runs, of urls and absolute paths; once. It counts as part of the list from now
     // on, but becomes rows only after restore(). Entries that are neither are left out.
@@ -127,7 +132,7 @@ public:
     Q_INVOKABLE QString supportedTypesMask(const QString &separator) const;
     // These two look at the disk elsewhere, and add when it has answered. Adds the regular files.
     Q_INVOKABLE void addUrls(const QList<QUrl> &urls);
-    // Adds the supported files and asks for a scan of the folders.
+    // Adds the supported files, asks for a scan of the folders, and tells how many others there are.
     Q_INVOKABLE void addUrlsFromDrop(const QList<QUrl> &urls);
     // Does nothing by itself: feeding the coordinator is the model's own business. Kept for the scene.
     Q_INVOKABLE void startSearching() const {}
@@ -187,19 +192,26 @@ signals:
     void automaticExportFailed(const QString &textFile);
     // So many files could not be added, because no identifier was free.
     void filesLeftOut(int count);
+    // So many of what was given to addUrlsFromDrop() is left out: files of other types, and what is not there.
+    void filesUnsupported(int count);
 
 private:
+    using LooseItems = std::vector<ItemStore::LooseItem>;
+
     void insertFiles(const QList<QUrl> &files, bool requestRead);
     [[nodiscard]] QList<QUrl> newUrls(const QList<QUrl> &urls) const;
     [[nodiscard]] std::vector<std::unique_ptr<ModelItem>> makeItems(const QList<QUrl> &files);
     [[nodiscard]] bool isIdInUse(quint16 id) const;
     void insertItems(std::vector<std::unique_ptr<ModelItem>> items);
+    [[nodiscard]] int gapsFor(const LooseItems &items) const;
+    void insertIntoGaps(LooseItems items);
+    void takeIn(LooseItems items);
     void connectItem(ModelItem *item);
     [[nodiscard]] bool isListed(const ModelItem *item) const;
     void countActive(const ModelItem *item);
     void followSearch(const ModelItem *item);
-    void dequeue(const std::vector<ItemStore::Taken> &removed);
-    void forgetItems(std::vector<ItemStore::Taken> removed);
+    void dequeue(const std::vector<ItemStore::LooseItem> &removed);
+    void forgetItems(std::vector<ItemStore::LooseItem> removed);
     void useTags(quint16 id, const MediaFileTags &tags);
     [[nodiscard]] bool areLyricsUnsaved(const ModelItem &item) const;
     [[nodiscard]] ModelItem *writableItem(quint16 id) const;
