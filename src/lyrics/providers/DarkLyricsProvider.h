@@ -20,7 +20,9 @@ public:
     using SiteClient::SiteClient;
 
     // The parts of the content of a page by their headings: the HTML in each heading up to a colon, in lower case. What
-    // stands before the first heading has an empty key. Of several parts with one key the last one stays.
+    // stands before the first heading has an empty key. Of several parts with one key the last one stays. The part
+    // under the last heading goes on to the end of the content, so an album's last song takes the page's credits with
+    // it; this is deliberate.
     [[nodiscard]] static QMap<QString, QString> sections(const QString &page);
     // The link, as it stands in the page, of the first song of a search page that resembles these normalised names;
     // nothing when there is none. Links without a text do not count.
