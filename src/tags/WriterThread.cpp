@@ -97,7 +97,7 @@ int WriterThread::pendingWrites() const
 
 bool WriterThread::Progress::isSince(const Progress &earlier) const
 {
-    return m_ended != earlier.m_ended || m_steps != earlier.m_steps || m_moved != earlier.m_moved || m_moved.isEmpty();
+    return m_ended != earlier.m_ended || m_steps != earlier.m_steps || m_moved != earlier.m_moved;
 }
 
 WriterThread::Progress WriterThread::progress() const

@@ -30,12 +30,12 @@ public:
 
     [[nodiscard]] int pendingWrites() const;
 
-    // A step was done that moves no bytes the system counts for a thread, such as waiting until a part of a file is on
+    // A step was done whose bytes the system may not count for a thread, such as waiting until a part of a file is on
     // the disk.
     void noteProgress() { ++m_steps; }
 
     // How far the writes are: what has changed between two looks is progress. Where the system does not count a
-    // thread's bytes nobody can tell a slow write from a dead one, and each look is taken for progress.
+    // thread's bytes, ends and steps alone tell a slow write from a dead one.
     class Progress
     {
     public:
@@ -45,7 +45,7 @@ public:
         friend class WriterThread;
         quint64 m_ended = 0;
         quint64 m_steps = 0;
-        QByteArray m_moved; // what the thread has read and written
+        QByteArray m_moved; // what the thread has read and written; empty where that is not counted
     };
     [[nodiscard]] Progress progress() const;
 
