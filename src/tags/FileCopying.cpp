@@ -9,7 +9,10 @@
 
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <linux/magic.h>
 #include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/statfs.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
@@ -37,11 +40,13 @@ int writeAll(int descriptor, const QByteArray &bytes, qint64 offset)
 // Through the memory of the program, from an offset on, over what is there.
 int copyBytes(const FileBytes &source, int to, qint64 offset)
 {
+    const FileBytes target(to);
     while (offset < source.size()) {
         const QByteArray piece = source.read(offset, std::min(pieceBytes, source.size() - offset));
         if (piece.isEmpty())
             return EIO;
-        if (const int error = writeAll(to, piece, offset))
+        const int error = target.read(offset, piece.size()) == piece ? 0 : writeAll(to, piece, offset);
+        if (error != 0)
             return error;
         offset += piece.size();
         WriterThread::instance().noteProgress();
@@ -102,6 +107,18 @@ int syncContent(int descriptor)
 void startSync(int descriptor)
 {
     ::sync_file_range(descriptor, 0, 0, SYNC_FILE_RANGE_WRITE);
+}
+
+bool overwritesWithoutRoom(int descriptor)
+{
+    constexpr qint64 blockBytes = 512; // of what stat(2) counts
+    struct statfs system = {};
+    struct stat file = {};
+    if (::fstatfs(descriptor, &system) != 0 || ::fstat(descriptor, &file) != 0)
+        return false;
+    const bool isInPlace = system.f_type == EXT4_SUPER_MAGIC /* and 2 and 3 */ || system.f_type == MSDOS_SUPER_MAGIC ||
+                           system.f_type == EXFAT_SUPER_MAGIC;
+    return isInPlace && file.st_blocks * blockBytes >= file.st_size; // a gap takes room when it is filled
 }
 
 qint64 freeBytes(int descriptor)

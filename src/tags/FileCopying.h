@@ -10,7 +10,7 @@ namespace tags {
 [[nodiscard]] int copyContent(int from, int to);
 
 // Over what is there, in place; the length becomes that of the source. Room for growth is asked for before a byte is
-// overwritten. Synced when it returns 0.
+// overwritten, and what is there already is not written again. Synced when it returns 0.
 [[nodiscard]] int overwriteContent(int from, int to);
 
 // Blocks until all is on the disk. Goes forward in pieces, so that a slow disk is seen to move.
@@ -18,6 +18,10 @@ namespace tags {
 
 // Starts writing to the disk without waiting for it.
 void startSync(int descriptor);
+
+// True when bytes that an open file has can be overwritten without any new room, so far as its file system is known.
+// Where a write goes to another place on the disk, as on Btrfs, a full disk would cut it off, and its undoing as well.
+[[nodiscard]] bool overwritesWithoutRoom(int descriptor);
 
 // Bytes that may still be written on the file system of an open file or directory; -1 when nobody knows.
 [[nodiscard]] qint64 freeBytes(int descriptor);

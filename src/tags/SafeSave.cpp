@@ -20,8 +20,12 @@ namespace {
 // What a directory, or the file's place in it, answers when no other file may come there.
 bool meansInPlace(int error)
 {
-    return error == EACCES || error == EPERM || error == EROFS || error == EXDEV || error == EBUSY || error == ENOSPC ||
-           error == EDQUOT;
+    return error == EACCES || error == EPERM || error == EROFS || error == EXDEV || error == EBUSY;
+}
+
+bool meansNoRoom(int error)
+{
+    return error == ENOSPC || error == EDQUOT;
 }
 
 } // namespace
@@ -81,8 +85,8 @@ UpdateResult SafeSave::replaceFile(const Change &change, qint64 growthBytes, boo
 {
     const int nameStart = m_path.lastIndexOf('/') + 1;
     WorkingCopy copy(m_journal);
-    const auto failed = [&inPlaceInstead](int error) {
-        inPlaceInstead = meansInPlace(error);
+    const auto failed = [this, &inPlaceInstead](int error) {
+        inPlaceInstead = meansInPlace(error) || (meansNoRoom(error) && overwritesWithoutRoom(m_original));
         return resultOfError(error);
     };
     if (const int error = copy.make(m_path.left(nameStart), m_original, growthBytes))
@@ -103,7 +107,7 @@ UpdateResult SafeSave::replaceFile(const Change &change, qint64 growthBytes, boo
 UpdateResult SafeSave::writeInPlace(const Change &change, qint64 growthBytes)
 {
     if (m_journal.rescueFolder().isEmpty())
-        return UpdateResult::NoRoom;
+        return UpdateResult::SaveFailed;
     const int song = openRegularFile(m_path, O_RDWR | O_NOFOLLOW);
     if (song < 0)
         return resultOfError(errno);
@@ -111,21 +115,29 @@ UpdateResult SafeSave::writeInPlace(const Change &change, qint64 growthBytes)
     const int error = copy.make(m_journal.rescueFolder(), m_original, 2 * growthBytes + m_identity.size);
     UpdateResult result = error == 0 ? change(copy.descriptor()) : resultOfError(error);
     if (result == UpdateResult::Saved)
-        result = overwrite(copy.descriptor(), song);
+        result = overwrite(copy.descriptor(), song, growthBytes);
     ::close(song);
     return result;
 }
 
+// Where new content takes new room it must suffice for going there and back.
+bool SafeSave::hasRoomToOverwrite(qint64 growthBytes) const
+{
+    const qint64 room = freeBytes(m_original);
+    return overwritesWithoutRoom(m_original) || room < 0 || room >= 2 * (m_identity.size + growthBytes);
+}
+
 // Whether another program was there is asked last, since the rescue copy of a large song takes its time. Once the first
 // byte is written nothing may end without either the new content or the old.
-UpdateResult SafeSave::overwrite(int copy, int song)
+UpdateResult SafeSave::overwrite(int copy, int song, qint64 growthBytes)
 {
     const FileBytes wanted(copy);
     if (const int error = m_journal.rescue(m_path, song, copy))
         return resultOfError(error);
-    if (FileIdentity::of(song) != m_identity || !isUnchanged()) {
+    const bool hasRoom = hasRoomToOverwrite(growthBytes);
+    if (!hasRoom || FileIdentity::of(song) != m_identity || !isUnchanged()) {
         (void)m_journal.forgetRescue(); // the song was not touched
-        return UpdateResult::ChangedMeanwhile;
+        return hasRoom ? UpdateResult::ChangedMeanwhile : UpdateResult::NoRoom;
     }
     int error = overwriteContent(copy, song);
     if (error == 0 && !areBytesEqual(wanted, {0, wanted.size()}, FileBytes(song), 0))

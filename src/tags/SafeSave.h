@@ -15,7 +15,8 @@ namespace tags {
 // a stick that is pulled. The change is made and checked on a copy, the copy takes the file's place. Where that cannot
 // be (hard links, a directory that takes no files, an owner that cannot be given, no room beside the file), the
 // checked copy is made in the program's own folder and written over the file, after a rescue copy was noted in the
-// journal. When there is no room for that either, nothing is begun. Blocks.
+// journal. When there is no room for that either, nothing is begun; nor where overwriting a file may itself take room
+// that is not there. Blocks.
 class SafeSave
 {
 public:
@@ -31,8 +32,9 @@ public:
 private:
     UpdateResult replaceFile(const Change &change, qint64 growthBytes, bool &inPlaceInstead);
     UpdateResult writeInPlace(const Change &change, qint64 growthBytes);
-    UpdateResult overwrite(int copy, int song);
+    UpdateResult overwrite(int copy, int song, qint64 growthBytes);
     [[nodiscard]] bool isUnchanged() const;
+    [[nodiscard]] bool hasRoomToOverwrite(qint64 growthBytes) const;
 
     QByteArray m_path;
     int m_original;

@@ -5,6 +5,7 @@
 #include "tags/SaveJournal.h"
 #include "tags/SavesMending.h"
 #include "tags/SongFiles.h"
+#include "tags/WriterThread.h"
 
 #include <QDir>
 #include <QFile>
@@ -148,7 +149,7 @@ private slots:
             return tags::updateTags(place.song, newLyrics, withFolder ? place.data : QString());
         }();
         ::chmod(place.folder.constData(), 0777);
-        QCOMPARE(result, withFolder ? UpdateResult::Saved : UpdateResult::NoRoom);
+        QCOMPARE(result, withFolder ? UpdateResult::Saved : UpdateResult::SaveFailed);
         QCOMPARE(place.hasNewLyrics(), withFolder);
         QCOMPARE(place.files.read(place.song) == before, !withFolder);
         QCOMPARE(statusOf(place.native).st_ino, inode);
@@ -191,6 +192,16 @@ private slots:
             QVERIFY(place.files.read(place.song).startsWith(starts[static_cast<std::size_t>(fault)]));
             QVERIFY(place.files.names(place.data + "/copies"_s).isEmpty());
         }
+    }
+
+    // The writer thread does not run here, so nobody counts its bytes.
+    void aStillThreadIsNoProgress()
+    {
+        tags::WriterThread &writer = tags::WriterThread::instance();
+        const auto before = writer.progress();
+        QVERIFY(!writer.progress().isSince(before));
+        writer.noteProgress();
+        QVERIFY(writer.progress().isSince(before));
     }
 
     void mendingRemovesOnlyOwnCopies()
