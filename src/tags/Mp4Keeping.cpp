@@ -46,7 +46,18 @@ QVector<ListItem> lostItems(const SongLayout &before, const SongLayout &after, c
     return lost;
 }
 
-// TagLib makes the room: a text of the same length under the same name.
+// What TagLib stores as an item of so many bytes.
+TagLib::MP4::Item stuffing(const QByteArray &name, qint64 bytes)
+{
+    const std::string text(static_cast<std::size_t>(bytes - dataHeaderBytes), 'x');
+    if (name != "covr")
+        return TagLib::StringList(TagLib::String(text));
+    TagLib::MP4::CoverArtList covers;
+    covers.append({TagLib::MP4::CoverArt::Unknown, {text.data(), static_cast<unsigned int>(text.size())}});
+    return covers;
+}
+
+// TagLib makes the room: an item of the same length under the same name.
 bool makeRoom(CheckedFileStream &stream, const QVector<ListItem> &items)
 {
     TagLib::MP4::File file(stream.stream());
@@ -55,9 +66,8 @@ bool makeRoom(CheckedFileStream &stream, const QVector<ListItem> &items)
     for (const ListItem &item : items) {
         if (item.content.length < dataHeaderBytes)
             return false;
-        const std::string text(static_cast<std::size_t>(item.content.length - dataHeaderBytes), 'x');
         file.tag()->setItem(TagLib::String(item.name.toStdString(), TagLib::String::Latin1),
-                            TagLib::MP4::Item(TagLib::StringList(TagLib::String(text))));
+                            stuffing(item.name, item.content.length));
     }
     return file.save();
 }
