@@ -68,7 +68,7 @@ bool readContentDescription(const QByteArray &object, SongLayout &layout)
     for (int i = 0; i < 5; ++i) {
         const QByteArray text = nameOf(taker.bytes(lengths[i]));
         if (!text.isEmpty())
-            layout.items.append({QByteArray("ASF/") + names[i], text});
+            layout.items.append({QByteArray("ASF/description/") + names[i], text}); // no attribute, if named alike
     }
     return !taker.isDamaged();
 }
@@ -111,6 +111,7 @@ bool readMetadata(const QByteArray &object, SongLayout &layout)
 
 bool readObjects(const FileBytes &file, qint64 place, qint64 end, SongLayout &layout)
 {
+    bool isDescriptionSeen = false;
     while (place + objectHeaderBytes <= end) {
         const QByteArray kind = file.read(place, guidBytes);
         const quint64 size = file.littleEndian64(place + guidBytes);
@@ -119,6 +120,8 @@ bool readObjects(const FileBytes &file, qint64 place, qint64 end, SongLayout &la
         const QByteArray object = file.read(place + objectHeaderBytes, static_cast<qint64>(size) - objectHeaderBytes);
         constexpr int extensionFieldBytes = 22; // reserved fields and the size before the objects of the extension
         bool read = true;
+        isDescriptionSeen = isDescriptionSeen || kind == extendedContentDescription;
+        layout.isExtensionFirst = layout.isExtensionFirst || (kind == headerExtension && !isDescriptionSeen);
         if (kind == contentDescription)
             read = readContentDescription(object, layout);
         else if (kind == extendedContentDescription)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tags/CheckedFileStream.h"
 
+#include "tags/WriterThread.h"
+
 #include <taglib/tiostream.h>
 
 #include <algorithm>
@@ -26,6 +28,16 @@ constexpr qint64 pageBytes = 4096;
 constexpr qint64 windowBytes = 2 * pageBytes;
 
 } // namespace
+
+ReadBudget ReadBudget::forSize(qint64 fileBytes)
+{
+    constexpr qint64 mostOperations = 200'000;
+    constexpr qint64 bytesEach = 512;
+    constexpr qint64 mostBytes = qint64{192} * 1024 * 1024;
+    const ReadBudget least;
+    return {std::min(least.operations + fileBytes / bytesEach, mostOperations),
+            std::min(least.bytes + fileBytes, mostBytes)};
+}
 
 const char *ReadBudgetSpent::what() const noexcept
 {
@@ -267,6 +279,7 @@ void CheckedFileStream::Stream::moveBytes(qint64 from, qint64 to, std::vector<ch
         noteError(EIO); // cut by somebody else meanwhile
     if (m_error == 0)
         writeAt(to, buffer.data(), bytes);
+    WriterThread::instance().noteProgress();
 }
 
 // What TagLib is given

@@ -18,6 +18,9 @@ struct ReadBudget
 {
     qint64 operations = 20'000; // reads, seeks and questions for the length
     qint64 bytes = qint64{64} * 1024 * 1024;
+
+    // Large files may take more, with their fragments and pictures, but not without end.
+    static ReadBudget forSize(qint64 fileBytes);
 };
 
 // Thrown out of TagLib by a stream whose budget is used up. TagLib leaks a little then.
@@ -30,7 +33,7 @@ public:
 // A file as TagLib reads and writes it, on a descriptor, which it owns and closes:
 //
 //     CheckedFileStream file(descriptor, name, CheckedFileStream::Access::Read);
-//     file.setReadBudget(ReadBudget());
+//     file.setReadBudget(ReadBudget::forSize(size));
 //     const TagLib::FileRef reference(file.stream(), true, TagLib::AudioProperties::Average);
 //
 // TagLib's own stream drops every error; this one keeps the first and writes nothing after it. What follows an

@@ -4,6 +4,7 @@
 #include "tags/CheckedFileStream.h"
 #include "tags/CoverImage.h"
 #include "tags/FileAccess.h"
+#include "tags/FileBytes.h"
 #include "tags/NumberPair.h"
 #include "tags/TagKeys.h"
 #include "tags/TagSaving.h"
@@ -70,7 +71,7 @@ bool MediaFileTags::readFrom(const QString &fileName)
         return false;
     }
     tags::CheckedFileStream file(descriptor, path, tags::CheckedFileStream::Access::Read);
-    file.setReadBudget(tags::ReadBudget());
+    file.setReadBudget(tags::ReadBudget::forSize(tags::FileBytes(descriptor).size()));
     tags::acceptLatin1InRiffInfo();
     const TagLib::FileRef reference(file.stream(), true, TagLib::AudioProperties::Average);
     if (!reference.isNull()) {

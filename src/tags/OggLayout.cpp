@@ -7,7 +7,6 @@ namespace tags {
 // The tag is the second packet of the first stream: a Vorbis comment behind the name that its codec gives it.
 bool readOggLayout(const FileBytes &file, SongLayout &layout)
 {
-    constexpr int id3v1Bytes = 128;
     if (file.read(file.size() - id3v1Bytes, 3) == "TAG")
         return false; // no page: what a save would do to it nobody can say
     layout.audio.append({0, file.size()});

@@ -2,13 +2,13 @@
 #include "tags/SongComparison.h"
 
 #include "tags/OggPackets.h"
+#include "tags/WriterThread.h"
 
-#include <QList>
+#include <QHash>
 
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <tuple>
 
 namespace tags {
 
@@ -16,17 +16,20 @@ namespace {
 
 constexpr qint64 blockBytes = qint64{256} * 1024;
 
-bool isEarlier(const TagItem &one, const TagItem &other)
-{
-    return std::tie(one.key, one.value) < std::tie(other.key, other.value);
-}
+using ValuesByKey = QHash<QByteArray, QVector<QByteArray>>;
 
-// Of items in order: those of the first that the second does not have.
-QVector<TagItem> missing(const QVector<TagItem> &in, const QVector<TagItem> &of)
+// In the order of the file, since the first of several covers is the one that is shown. The entries of an MP4 list
+// TagLib sorts; there it means nothing.
+ValuesByKey valuesByKey(const QVector<TagItem> &items)
 {
-    QVector<TagItem> left;
-    std::set_difference(of.begin(), of.end(), in.begin(), in.end(), std::back_inserter(left), isEarlier);
-    return left;
+    ValuesByKey values;
+    for (const TagItem &item : items)
+        values[item.key].append(item.value);
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        if (it.key().startsWith("MP4/"))
+            std::sort(it->begin(), it->end());
+    }
+    return values;
 }
 
 QByteArray kindOf(const QByteArray &key)
@@ -34,29 +37,27 @@ QByteArray kindOf(const QByteArray &key)
     return key.split('/').first();
 }
 
-bool areTagsKept(QVector<TagItem> before, QVector<TagItem> after, const QSet<QByteArray> &editedKeys)
+bool hasKind(const ValuesByKey &values, const QByteArray &kind)
 {
-    std::sort(before.begin(), before.end(), isEarlier);
-    std::sort(after.begin(), after.end(), isEarlier);
-    const QVector<TagItem> lost = missing(after, before);
-    const QVector<TagItem> added = missing(before, after);
-    QSet<QByteArray> kinds;
-    for (const TagItem &item : qAsConst(before))
-        kinds.insert(kindOf(item.key));
-    const auto isEdited = [&editedKeys](const TagItem &item) {
-        return editedKeys.contains(item.key);
-    };
+    return std::any_of(values.keyBegin(), values.keyEnd(),
+                       [&kind](const QByteArray &key) { return kindOf(key) == kind; });
+}
+
+bool areTagsKept(const ValuesByKey &before, const ValuesByKey &after, const QSet<QByteArray> &editedKeys)
+{
     // MP4 without tags has items, those of the film; what a new list of tags needs lies beside it.
-    const auto isNew = [&kinds](const TagItem &item) {
-        return !kinds.contains(kindOf(item.key)) || item.key.startsWith("MP4/moov/udta/meta/");
+    const auto isNew = [&before](const QByteArray &key) {
+        return !before.contains(key) && (!hasKind(before, kindOf(key)) || key.startsWith("MP4/moov/udta/meta/"));
     };
     // With its last frame an ID3v2 tag goes.
-    const auto isGone = [&after](const TagItem &item) {
-        return item.key == "ID3v2" && std::none_of(after.begin(), after.end(),
-                                                   [](const TagItem &left) { return kindOf(left.key) == "ID3v2"; });
+    const auto isGone = [&after](const QByteArray &key) {
+        return key == "ID3v2" && !hasKind(after, key);
     };
-    return std::all_of(lost.begin(), lost.end(), [&](const TagItem &item) { return isEdited(item) || isGone(item); }) &&
-           std::all_of(added.begin(), added.end(), [&](const TagItem &item) { return isEdited(item) || isNew(item); });
+    const auto isKept = [&](const QByteArray &key) {
+        return editedKeys.contains(key) || before.value(key) == after.value(key) || isNew(key) || isGone(key);
+    };
+    return std::all_of(before.keyBegin(), before.keyEnd(), isKept) &&
+           std::all_of(after.keyBegin(), after.keyEnd(), isKept);
 }
 
 bool areRangesEqual(const FileBytes &before, const SongLayout &layoutBefore, const FileBytes &after,
@@ -135,6 +136,7 @@ bool areBytesEqual(const FileBytes &before, const ByteRange &part, const FileByt
             after.readInto(other.get(), placeAfter + done, block) != block ||
             std::memcmp(one.get(), other.get(), static_cast<std::size_t>(block)) != 0)
             return false;
+        WriterThread::instance().noteProgress();
     }
     return true;
 }
@@ -148,7 +150,9 @@ SongDifference compareSongs(const FileBytes &before, const SongLayout &layoutBef
             : areRangesEqual(before, layoutBefore, after, layoutAfter) && isIndexKept(layoutBefore, layoutAfter);
     if (!isAudioKept)
         return SongDifference::Audio;
-    return areTagsKept(layoutBefore.items, layoutAfter.items, editedKeys) ? SongDifference::None : SongDifference::Tags;
+    return areTagsKept(valuesByKey(layoutBefore.items), valuesByKey(layoutAfter.items), editedKeys)
+               ? SongDifference::None
+               : SongDifference::Tags;
 }
 
 } // namespace tags

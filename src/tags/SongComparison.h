@@ -10,8 +10,8 @@ namespace tags {
 enum class SongDifference { None, Audio, Tags };
 
 // Compares a song with what a save made of it: the audio must be the same, byte for byte, or packet for packet where a
-// container numbers its pages; every tag item must be there as it was, except those of the keys that were edited.
-// Only a tag of a kind that the song had none of may bring items of its own.
+// container numbers its pages; every tag item must be there as it was, and those of one key in their order, except
+// those of the keys that were edited. Only a tag of a kind that the song had none of may bring items of its own.
 SongDifference compareSongs(const FileBytes &before, const SongLayout &layoutBefore, const FileBytes &after,
                             const SongLayout &layoutAfter, const QSet<QByteArray> &editedKeys);
 

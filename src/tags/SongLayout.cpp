@@ -17,6 +17,7 @@
 #include <taglib/wavfile.h>
 #include <taglib/wavpackfile.h>
 
+#include <QByteArrayList>
 #include <QtEndian>
 
 #include <algorithm>
@@ -25,8 +26,8 @@ namespace tags {
 
 namespace {
 
-constexpr int id3v1Bytes = 128;
-constexpr int apeHeaderBytes = 32; // header and footer alike; https://wiki.hydrogenaud.io/index.php?title=APEv2
+constexpr int longestStartBytes = 16; // by which a format is told
+constexpr int apeHeaderBytes = 32;    // header and footer alike; https://wiki.hydrogenaud.io/index.php?title=APEv2
 
 template<typename... Files>
 bool isOneOf(const TagLib::File &file)
@@ -56,12 +57,20 @@ bool readApeItems(const QByteArray &tag, SongLayout &layout)
     return true;
 }
 
+void readId3v1Items(const QByteArray &tag, SongLayout &layout)
+{
+    for (const Id3v1Field &field : {id3v1Title, id3v1Artist})
+        layout.items.append({field.key, tag.mid(field.offset, id3v1FieldBytes)});
+    layout.items.append({"ID3v1", tag.mid(id3v1Artist.offset + id3v1FieldBytes)});
+}
+
 // Where the audio ends and tags begin, which lie one before the other at the end of the file.
 bool readTagsAtEnd(const FileBytes &file, SongLayout &layout, qint64 &end)
 {
     if (end >= id3v1Bytes && file.read(end - id3v1Bytes, 3) == "TAG") {
         end -= id3v1Bytes;
-        layout.items.append({"ID3v1", file.read(end, id3v1Bytes)});
+        layout.id3v1 = {end, id3v1Bytes};
+        readId3v1Items(file.read(end, id3v1Bytes), layout);
     }
     const QByteArray footer = file.read(end - apeHeaderBytes, apeHeaderBytes);
     if (!footer.startsWith("APETAGEX"))
@@ -121,11 +130,29 @@ bool readFramesByLibrary(const QByteArray &bytes, const Id3v2Frames &stored, Son
     layout.items.append({"ID3v2", QByteArray()});
     for (const TagLib::ID3v2::Frame *frame : tag.frameList()) {
         const TagLib::ByteVector id = frame->frameID();
-        const TagLib::ByteVector content = frame->render();
+        // Its header says what version the frame was read from, and nothing else that could be lost.
+        const TagLib::ByteVector content = frame->render().mid(id3v2HeaderBytes);
         layout.items.append({"ID3v2/" + QByteArray(id.data(), static_cast<int>(id.size())),
                              QByteArray(content.data(), static_cast<int>(content.size()))});
     }
     return true;
+}
+
+// Players look for audio anywhere, and so find it in files of other formats that bear the wrong name. What such a file
+// says of places in itself would be wrong behind a tag, or its players would not know it any more.
+bool beginsAnotherFormat(const QByteArray &bytes)
+{
+    static const QByteArrayList starts{"RIFF",
+                                       "FORM",
+                                       "OggS",
+                                       "fLaC",
+                                       "FLV\1",
+                                       QByteArray::fromHex("3026b2758e66cf11a6d900aa0062ce6c"), // ASF
+                                       QByteArray::fromHex("1a45dfa3"),                         // Matroska
+                                       QByteArray::fromHex("000001ba")};                        // MPEG program stream
+    static const QByteArrayList atoms{"ftyp", "moov", "mdat", "free", "wide", "skip"};
+    return atoms.contains(bytes.mid(4, 4)) ||
+           std::any_of(starts.begin(), starts.end(), [&](const QByteArray &start) { return bytes.startsWith(start); });
 }
 
 bool readFramedLayout(const FileBytes &file, SongLayout &layout)
@@ -136,7 +163,8 @@ bool readFramedLayout(const FileBytes &file, SongLayout &layout)
         return false; // two tags: libraries differ in which of them they read
     if (start > 0 && !readId3v2Items(file, layout))
         return false;
-    if (layout.format == SongFormat::Flac && !readFlacBlocks(file, layout, start))
+    if (layout.format == SongFormat::Flac ? !readFlacBlocks(file, layout, start)
+                                          : beginsAnotherFormat(file.read(start, longestStartBytes)))
         return false;
     qint64 end = file.size();
     if (!readTagsAtEnd(file, layout, end) || end < start)

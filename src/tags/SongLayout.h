@@ -28,8 +28,8 @@ enum class SongFormat {
 SongFormat formatOf(const TagLib::File &file);
 
 // One entry of a tag, or a part beside the tags that is neither audio nor padding. The key begins with the kind:
-// "ID3v2/TPE1", "APE/ARTIST", "ID3v1", "Xiph/ARTIST", "MP4/©ART", "ASF/Author"; letters without regard to case are
-// capitals. The value is what is stored, byte for byte.
+// "ID3v2/TPE1", "APE/ARTIST", "ID3v1/ARTIST", "Xiph/ARTIST", "MP4/©ART", "ASF/WM/Genre"; letters without regard to case
+// are capitals. The value is what is stored, byte for byte.
 struct TagItem
 {
     QByteArray key;
@@ -39,6 +39,17 @@ struct TagItem
 // ID3v2 of version 2 is always stored as another version, with other names; such a tag is compared as a library
 // reads it.
 enum class Id3v2View { Stored, AsRead };
+
+// A text of the ID3v1 tag that can be edited (https://id3.org/ID3v1), as an item; "ID3v1" is all that follows them.
+struct Id3v1Field
+{
+    const char *key;
+    int offset; // in the tag
+};
+constexpr int id3v1Bytes = 128;
+constexpr int id3v1FieldBytes = 30;
+constexpr Id3v1Field id3v1Title{"ID3v1/TITLE", 3};
+constexpr Id3v1Field id3v1Artist{"ID3v1/ARTIST", 33};
 
 // A place in the audio that an index of the file names.
 struct AudioOffset
@@ -65,6 +76,9 @@ struct SongLayout
     QVector<ByteRange> audio;
     Id3v2View id3v2View = Id3v2View::Stored;
     ByteRange id3v2; // the tag with its header, in the chunk where it has one; of length 0 when there is none
+    ByteRange id3v1; // of length 0 when there is none
+    // Of ASF only: the extension of the header comes before the extended content description.
+    bool isExtensionFirst = false;
     // Of MP4 only:
     QVector<AudioOffset> audioOffsets;
     bool hasFragmentIndex = false; // some of the offsets are of an index of fragments

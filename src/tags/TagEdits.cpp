@@ -11,6 +11,7 @@
 #include <taglib/aifffile.h>
 #include <taglib/apefile.h>
 #include <taglib/apetag.h>
+#include <taglib/asffile.h>
 #include <taglib/id3v1tag.h>
 #include <taglib/id3v2header.h>
 #include <taglib/id3v2tag.h>
@@ -18,6 +19,7 @@
 #include <taglib/mpcfile.h>
 #include <taglib/mpegfile.h>
 #include <taglib/trueaudiofile.h>
+#include <taglib/unknownframe.h>
 #include <taglib/wavfile.h>
 #include <taglib/wavpackfile.h>
 #include <taglib/xiphcomment.h>
@@ -39,9 +41,10 @@ QString comparable(const QString &lyrics)
 const QByteArray mp4Artist = QByteArray::fromHex("a9") + "ART";
 const QByteArray mp4Title = QByteArray::fromHex("a9") + "nam";
 const QByteArray mp4Lyrics = QByteArray::fromHex("a9") + "lyr";
-const QSet<QByteArray> artistItems{"ID3v2/TPE1",       "ID3v1",     "APE/ARTIST", "Xiph/ARTIST",
-                                   "MP4/" + mp4Artist, "ASF/Author"};
-const QSet<QByteArray> titleItems{"ID3v2/TIT2", "ID3v1", "APE/TITLE", "Xiph/TITLE", "MP4/" + mp4Title, "ASF/Title"};
+const QSet<QByteArray> artistItems{"ID3v2/TPE1",  id3v1Artist.key,    "APE/ARTIST",
+                                   "Xiph/ARTIST", "MP4/" + mp4Artist, "ASF/description/Author"};
+const QSet<QByteArray> titleItems{"ID3v2/TIT2", id3v1Title.key,    "APE/TITLE",
+                                  "Xiph/TITLE", "MP4/" + mp4Title, "ASF/description/Title"};
 const QSet<QByteArray> lyricsItems{"ID3v2/USLT", "APE/LYRICS", "Xiph/LYRICS", "MP4/" + mp4Lyrics, "ASF/WM/Lyrics"};
 
 void noteChange(AppliedEdits &applied, const TagLib::Tag &tag, const QSet<QByteArray> &items, const char *frame)
@@ -52,14 +55,26 @@ void noteChange(AppliedEdits &applied, const TagLib::Tag &tag, const QSet<QByteA
         applied.frames.insert(frame);
 }
 
+void noteId3v1Field(AppliedEdits &applied, const TagLib::Tag &tag, const Id3v1Field &field)
+{
+    if (kindOf(&tag) != TagKind::Id3v1)
+        return;
+    const TagLib::ByteVector stored = static_cast<const TagLib::ID3v1::Tag &>(tag).render();
+    applied.id3v1[field.offset] = QByteArray(stored.data() + field.offset, id3v1FieldBytes);
+}
+
 bool applyNames(const TagEdits &edits, TagLib::Tag &tag, AppliedEdits &applied)
 {
     const bool newArtist = !edits.artist.isEmpty() && setName(tag, keys::artist, edits.artist);
     const bool newTitle = !edits.title.isEmpty() && setName(tag, keys::title, edits.title);
-    if (newArtist)
+    if (newArtist) {
         noteChange(applied, tag, artistItems, "TPE1");
-    if (newTitle)
+        noteId3v1Field(applied, tag, id3v1Artist);
+    }
+    if (newTitle) {
         noteChange(applied, tag, titleItems, "TIT2");
+        noteId3v1Field(applied, tag, id3v1Title);
+    }
     return newArtist || newTitle;
 }
 
@@ -111,6 +126,18 @@ NewTag newTagOf(TagLib::File &file)
     return {};
 }
 
+// What ID3v1 had to cut.
+void fillCutTexts(TagLib::Tag &tag, const TagLib::Tag *source)
+{
+    for (const QLatin1String key : {keys::title, keys::artist, keys::album, keys::comment}) {
+        const QString whole = source ? value(*source, key) : QString();
+        const QString cut = value(tag, key);
+        const int mostBytes = key == keys::comment ? id3v1FieldBytes - 2 : id3v1FieldBytes; // of version 1.1
+        if (cut.size() >= mostBytes && whole.startsWith(cut))
+            setValue(tag, key, whole);
+    }
+}
+
 // The ID3v2 version is kept, 3 for a new tag. ID3v1 and APE are never made, and not a byte of them is touched unless a
 // name changed in them.
 AppliedEdits applyToMpeg(const TagEdits &edits, TagLib::MPEG::File &file)
@@ -121,11 +148,13 @@ AppliedEdits applyToMpeg(const TagEdits &edits, TagLib::MPEG::File &file)
     applyNames(edits, tag, applied);
     applyLyrics(edits, tag, applied);
     applied.newApe = file.hasAPETag() && applyNames(edits, *file.APETag(), applied);
-    applied.newId3v1 = file.hasID3v1Tag() && applyNames(edits, *file.ID3v1Tag(), applied);
-    // A new ID3v2 tag hides the other two from players; APE is asked first, since ID3v1 cuts its texts.
+    if (file.hasID3v1Tag())
+        applyNames(edits, *file.ID3v1Tag(), applied);
+    // A new ID3v2 tag hides the other two from players, and is to say what is read from them now.
     if (applied.isChanged && !applied.hadId3v2) {
-        fill(tag, file.APETag());
         fill(tag, file.ID3v1Tag());
+        fillCutTexts(tag, file.APETag());
+        fill(tag, file.APETag());
     }
     return applied;
 }
@@ -148,6 +177,14 @@ AppliedEdits applyToOther(const TagEdits &edits, TagLib::File &file)
     if (applied.isChanged && made.tag)
         fill(*made.tag, made.hidden);
     return applied;
+}
+
+// What TagLib stores of an attribute in the extended content description.
+bool fitsDescription(const TagLib::ASF::Attribute &attribute)
+{
+    constexpr int largestBytes = 65535;
+    return attribute.type() != TagLib::ASF::Attribute::GuidType && attribute.dataSize() <= largestBytes &&
+           attribute.language() == 0 && attribute.stream() == 0;
 }
 
 void keepOldCover(TagLib::Ogg::XiphComment &comment, const QByteArray &text)
@@ -220,8 +257,10 @@ QHash<QByteArray, int> editableFrames(TagLib::File &file)
     QHash<QByteArray, int> frames;
     for (const TagLib::Tag *member : tagsOf(file).members) {
         const auto *tag = dynamic_cast<const TagLib::ID3v2::Tag *>(member);
-        for (const char *id : {"TPE1", "TIT2", "USLT"})
-            frames[id] += tag ? static_cast<int>(tag->frameList(id).size()) : 0;
+        for (const char *id : {"TPE1", "TIT2", "USLT"}) {
+            for (const TagLib::ID3v2::Frame *frame : tag ? tag->frameList(id) : TagLib::ID3v2::FrameList())
+                frames[id] += dynamic_cast<const TagLib::ID3v2::UnknownFrame *>(frame) ? 0 : 1; // encrypted, mostly
+        }
     }
     return frames;
 }
@@ -234,6 +273,21 @@ void keepOldCovers(TagLib::File &file, const QVector<TagItem> &items)
             if (comment && item.key == "Xiph/COVERART")
                 keepOldCover(*comment, item.value);
         }
+    }
+}
+
+void keepOrder(TagLib::File &file, const SongLayout &layout)
+{
+    auto *asf = dynamic_cast<TagLib::ASF::File *>(&file);
+    if (!asf || !layout.isExtensionFirst)
+        return;
+    for (auto &[name, values] : asf->tag()->attributeListMap()) {
+        const TagLib::ASF::Attribute last = values.isEmpty() ? TagLib::ASF::Attribute() : values.back();
+        if (values.size() < 2 || !fitsDescription(last))
+            continue;
+        auto end = values.end();
+        values.erase(--end);
+        values.prepend(last);
     }
 }
 
@@ -250,7 +304,7 @@ bool save(const AppliedEdits &applied, TagLib::File &file)
     constexpr auto stripNone = TagLib::File::StripNone;
     if (auto *mpeg = dynamic_cast<TagLib::MPEG::File *>(&file)) {
         using TagLib::MPEG::File;
-        const int kinds = File::ID3v2 | (applied.newApe ? File::APE : 0) | (applied.newId3v1 ? File::ID3v1 : 0);
+        const int kinds = File::ID3v2 | (applied.newApe ? File::APE : 0);
         return mpeg->save(kinds, stripNone, versionToSave(applied.hadId3v2, *mpeg->ID3v2Tag()), File::DoNotDuplicate);
     }
     if (auto *wav = dynamic_cast<TagLib::RIFF::WAV::File *>(&file))

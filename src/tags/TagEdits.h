@@ -39,11 +39,11 @@ struct AppliedEdits
 {
     bool isPossible = true; // false: no tag of the file can hold lyrics
     bool isChanged = false;
-    QSet<QByteArray> keys;   // of the items that changed, as SongLayout names them
-    QSet<QByteArray> frames; // of the ID3v2 tag
-    bool hadId3v2 = false;   // these three of MPEG files only
+    QSet<QByteArray> keys;        // of the items that changed, as SongLayout names them
+    QSet<QByteArray> frames;      // of the ID3v2 tag
+    QHash<int, QByteArray> id3v1; // the fields of that tag that changed, by their places in it
+    bool hadId3v2 = false;        // these two of MPEG files only
     bool newApe = false;
-    bool newId3v1 = false;
 };
 
 AppliedEdits apply(const TagEdits &edits, TagLib::File &file);
@@ -55,7 +55,11 @@ QHash<QByteArray, int> editableFrames(TagLib::File &file);
 // one, which leaves programs that know the old one alone without it. `items`: what is stored in the file.
 void keepOldCovers(TagLib::File &file, const QVector<TagItem> &items);
 
-// Saves what was applied, as the format asks; false when TagLib says that it failed.
+// To be called before a file is saved: TagLib stores the first of several values of an ASF attribute in one object of
+// the header and the others in another, which would turn them round where that one comes first.
+void keepOrder(TagLib::File &file, const SongLayout &layout);
+
+// Saves what was applied, as the format asks, but for ID3v1 beside MPEG; false when TagLib says that it failed.
 bool save(const AppliedEdits &applied, TagLib::File &file);
 
 // A whole ID3v2 tag of the version with nothing but the edited frames; empty when none was edited.

@@ -16,6 +16,8 @@
 #include <taglib/mp4tag.h>
 #include <taglib/xiphcomment.h>
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace tags {
@@ -94,23 +96,26 @@ void setExtendedValue(TagLib::Tag &tag, const QString &key, const QString &value
 bool setId3v1Name(TagLib::Tag &tag, const QString &key, const QString &name)
 {
     constexpr int fieldLength = 30; // bytes; https://id3.org/ID3v1
-    const QString single = key == keys::artist ? name.section(artistSeparator, 0, 0) : name;
-    if (single.isEmpty() || !toTagText(single).isLatin1() || value(tag, key) == single.left(fieldLength).trimmed())
+    const QString single = key == keys::artist ? name.section(artistSeparator, 0, 0, QString::SectionSkipEmpty) : name;
+    const TagLib::String stored = toTagText(single.left(fieldLength)).stripWhiteSpace(); // as the library reads it
+    if (single.isEmpty() || !toTagText(single).isLatin1() || value(tag, key) == fromTagText(stored))
         return false;
     setBasicValue(tag, key, single);
     return true;
 }
 
 // A name is told from the stored one by the text as it is read, so that two artists whose names are read as one text
-// stay two.
+// stay two. Between the artists there may be nothing; nothing but that is no name.
 bool setId3v2Name(TagLib::ID3v2::Tag &tag, const QString &key, const QString &name)
 {
-    if (key != keys::artist)
+    if (key != keys::artist) {
         setBasicValue(tag, key, name);
-    else if (name != id3v2::value(tag, key))
-        id3v2::setValue(tag, key, name);
-    else
+        return true;
+    }
+    const QString artists = name.split(artistSeparator, Qt::SkipEmptyParts).join(artistSeparator);
+    if (artists.isEmpty() || artists == id3v2::value(tag, key))
         return false;
+    id3v2::setValue(tag, key, artists);
     return true;
 }
 

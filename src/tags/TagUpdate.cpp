@@ -47,7 +47,7 @@ public:
     OpenSong(int descriptor, const QByteArray &path, CheckedFileStream::Access access)
         : m_stream(descriptor, path, access)
     {
-        m_stream.setReadBudget(ReadBudget());
+        m_stream.setReadBudget(ReadBudget::forSize(FileBytes(descriptor).size()));
         m_reference = TagLib::FileRef(m_stream.stream(), true, TagLib::AudioProperties::Average);
         m_stream.liftReadBudget();
     }
@@ -72,6 +72,12 @@ QByteArray resolvedPath(const QByteArray &path)
     return resolved ? QByteArray(resolved.get()) : QByteArray();
 }
 
+// As it would be read from a tag that holds it.
+QString readable(const QString &name)
+{
+    return cleanedText(fromTagText(toTagText(name)), maximumFieldLength);
+}
+
 // One update of one file: what is there, what is to change, and the change on a copy.
 class Update
 {
@@ -88,6 +94,7 @@ private:
     UpdateResult change(int copy);
     UpdateResult writeTags(int copy);
     UpdateResult keepFrames(CheckedFileStream &stream);
+    void keepId3v1(CheckedFileStream &stream) const;
     [[nodiscard]] bool growChunk(TagLib::IOStream &stream, const ByteRange &room, int newLength) const;
     UpdateResult check(int copy);
     [[nodiscard]] bool areEditedFramesSeen(const QHash<QByteArray, int> &seen) const;
@@ -173,8 +180,10 @@ UpdateResult Update::writeTags(int copy)
         return UpdateResult::DiskError; // it was readable where it came from
     const AppliedEdits applied = apply(m_edits, song.file());
     keepOldCovers(song.file(), m_layout.items);
+    keepOrder(song.file(), m_layout);
     const bool saved = save(applied, song.file());
     const UpdateResult kept = song.stream().error() == 0 ? keepFrames(song.stream()) : UpdateResult::Saved;
+    keepId3v1(song.stream());
     if (song.stream().error() != 0)
         return resultOfError(song.stream().error());
     return saved ? kept : UpdateResult::SaveFailed;
@@ -206,6 +215,20 @@ UpdateResult Update::keepFrames(CheckedFileStream &stream)
     stream.stream()->insert(data, static_cast<unsigned long>(room.offset), static_cast<unsigned long>(room.length));
     return bytes.size() == room.length || growChunk(*stream.stream(), room, bytes.size()) ? UpdateResult::Saved
                                                                                           : UpdateResult::TagsNotKept;
+}
+
+// TagLib writes ID3v1 in version 1.1, which cuts a longer comment of version 1.0, and drops what lies behind the end of
+// a text. So all but the edited fields are put back.
+void Update::keepId3v1(CheckedFileStream &stream) const
+{
+    const qint64 place = stream.stream()->length() - id3v1Bytes;
+    if (m_layout.id3v1.length == 0 || FileBytes(stream.descriptor()).read(place, 3) != "TAG")
+        return;
+    QByteArray tag = FileBytes(m_original).read(m_layout.id3v1.offset, id3v1Bytes);
+    for (auto field = m_applied.id3v1.begin(); field != m_applied.id3v1.end(); ++field)
+        tag.replace(field.key(), field->size(), *field);
+    stream.stream()->seek(place, TagLib::IOStream::Beginning);
+    stream.stream()->writeBlock({tag.constData(), static_cast<unsigned int>(tag.size())});
 }
 
 // Where the tag is a chunk, the chunk and the file say how long they are.
@@ -266,7 +289,8 @@ UpdateResult updateTags(const QString &path, const SongTexts &texts, const QStri
         return UpdateResult::AwaitsRestoring;
     acceptLatin1InRiffInfo();
     try {
-        return Update(resolved, texts, shown).run(dataFolder);
+        const SongTexts stored{readable(texts.artist), readable(texts.title), texts.lyrics};
+        return Update(resolved, stored, shown).run(dataFolder);
     } catch (const std::exception &error) {
         qCWarning(lcTags) << "a file could not be written:" << error.what();
         return UpdateResult::Unreadable;

@@ -35,7 +35,8 @@ struct ShownTexts
 // Changes what differs in the tags of a file, and saves the file when something did. Names and lyrics count as
 // different when they are not the text that MediaFileTags reads there (line breaks of any kind are alike), so what
 // nobody edited stays as it is stored. A name that was edited goes into each tag that does not read as that name
-// already. Opens nothing but regular files that may be written.
+// already. What no tag can hold or nobody reads of a name, such as control characters, is left out. Opens nothing but
+// regular files that may be written.
 //
 // With `shown`, what equals those texts was not edited and is left as it is, whatever another program has stored since,
 // unless an update under way has changed it; without, each text counts as edited.

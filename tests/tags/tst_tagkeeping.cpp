@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/TestTable.h"
+#include "tags/MediaFileTags.h"
 #include "tags/SongFiles.h"
 
 #include <QTest>
@@ -57,10 +58,34 @@ QByteArray mp4Item(const QByteArray &name, char type, const QByteArray &content)
     return bigEndian(data.size() + 12) + name + bigEndian(data.size() + 4) + data;
 }
 
+QByteArray utf16(const char *text)
+{
+    QByteArray bytes;
+    for (; *text != '\0'; ++text)
+        bytes += QByteArray(1, *text) + '\0';
+    return bytes;
+}
+
+// Of a page of sound each.
+QByteArray mp4Fragments(int count)
+{
+    const auto atom = [](const char *name, const QByteArray &content) {
+        return bigEndian(content.size() + 8) + name + content;
+    };
+    const QByteArray track = atom("traf", atom("tfhd", QByteArray(8, '\0')) + atom("trun", QByteArray(8, '\0')));
+    return (atom("moof", track) + atom("mdat", QByteArray(4096, 's'))).repeated(count);
+}
+
 // Fills the place of other items up.
 QByteArray mp4Remark(int size)
 {
     return mp4Item(QByteArray::fromHex("a9") + "cmt", 1, QByteArray(size - 24, 'x'));
+}
+
+QString trackOf(const QString &path)
+{
+    MediaFileTags tags;
+    return tags.read(path) ? tags.value("track"_s) : QString();
 }
 
 UpdateResult storeLyrics(const QString &path, const SongFiles &files)
@@ -175,13 +200,24 @@ private slots:
         row("MP4 disc of eight bytes", "plain.m4a", trackAndDisc,
             mp4Item("disk", 0, "\0\0\0\1\0\2\0\0"_b) + mp4Remark(30), saved);
         row("MP4 genre by number", "plain.m4a", genreAndTrack, mp4Item("gnre", 0, "\0\x12"_b) + mp4Remark(34), saved);
+        row("MP4 cover with a name", "plain.m4a", trackAndDisc,
+            bigEndian(62) + "covr" + bigEndian(22) + "data" + bigEndian(13) + bigEndian(0) + "\xff\xd8\xff\xe0.." +
+                bigEndian(32) + "name" + QByteArray(24, 'n'),
+            saved);
+        row("MP4 in many fragments", "plain.m4a", {}, mp4Fragments(2500), saved);
+        row("WMA attribute of two values", "plain.wma", utf16("WM/AlbumArtist"), utf16("WM/TrackNumber"), saved);
         row("MP4 number of no type", "plain.m4a", mp4Item("tmpo", 0x15, "\0x"_b), mp4Item("tmpo", 0, "\0x"_b), saved);
         const QByteArray title = frame("TIT2", "\0Song"_b);
         const QByteArray hidden = frame("TS2 ", "\0Sort"_b) + frame("USLT", "\0eng\0old"_b);
         row("two ID3v2 tags", "untagged.mp3", {}, tag(3, title) + tag(3, title), unusual);
         row("lyrics that no library sees", "untagged.mp3", {}, tag(3, title + hidden), notKept);
+        row("encrypted lyrics", "untagged.mp3", {}, tag(3, title + frame("USLT", "Mno one reads this", 0x0040)),
+            notKept);
+        row("MP4 under the name of MP3", "untagged.mp3", {}, bigEndian(16) + "ftypM4A \0\0\0\0"_b, unusual);
         row("ID3v1 behind Ogg", "plain.ogg", {}, "TAG" + QByteArray(125, ' '), unusual);
         row("version 2, all known", "untagged.mp3", {}, tag(2, "TT2\0\0\x05\0Song"_b), saved);
+        row("version 2, of more than 127 bytes", "untagged.mp3", {},
+            tag(2, "TAL\0\0\xc8\0"_b + QByteArray(199, 'a') + "PIC\0\0\xc8\0PNG\3\0"_b + QByteArray(194, 'p')), saved);
         row("version 2 with a frame that version 3 has not", "untagged.mp3", {},
             tag(2, "TT2\0\0\x05\0SongCRM\0\0\3abc"_b), notKept);
     }
@@ -195,12 +231,14 @@ private slots:
         QByteArray content = files.bytesOf(name);
         QVERIFY(from.isEmpty() || content.contains(from));
         if (from.isEmpty())
-            content = to.startsWith("TAG") ? content + to : to + content;
+            content = to.startsWith("TAG") || to.contains("moof") ? content + to : to + content;
         else
             content.replace(from, to);
         const QString path = files.write(name, content);
+        const QString track = trackOf(path);
         const UpdateResult result = storeLyrics(path, files);
         QTEST(result, "result");
+        QCOMPARE(trackOf(path), track);
         QCOMPARE(files.read(path) == content, result != UpdateResult::Saved);
         for (const char *odd : {"itnu", "zzzz"})
             QVERIFY(!to.contains(odd) || files.read(path).contains(to.left(25)));
