@@ -8,7 +8,9 @@
 #include "tags/TagReaderService.h"
 #include "tags/TagWriter.h"
 #include "ui/MainWindow.h"
+#include "ui/QuestionBox.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QMessageBox>
 #include <QPointer>
@@ -47,6 +49,7 @@ QMessageBox *makeWarning(const QString &text, QWidget *parent)
     auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Versewell"), text, QMessageBox::Close, parent);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    removeIcons(box->findChild<QDialogButtonBox *>());
     return box;
 }
 
