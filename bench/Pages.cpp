@@ -8,7 +8,7 @@
 #include "lyrics/LyricsProvider.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/NamedCharacters.h"
-#include "lyrics/PageCharset.h"
+#include "lyrics/PageBytes.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/ProviderCatalogue.h"
 #include "soak/LyricsSites.h"

@@ -5,7 +5,7 @@
 #include "lyrics/LyricsLog.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/NamedCharacters.h"
-#include "lyrics/PageCharset.h"
+#include "lyrics/PageBytes.h"
 #include "network/AccessManager.h"
 #include "network/Redirects.h"
 

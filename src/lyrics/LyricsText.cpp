@@ -13,9 +13,6 @@ namespace {
 // "&#x" and five hexadecimal digits, without the ";".
 constexpr int longestReference = 8;
 
-// "%" and two hexadecimal digits.
-constexpr int escapeLength = 3;
-
 // What the bytes 0x80 to 0x9F are in windows-1252; 0 where they are nothing.
 constexpr std::array<ushort, 32> windows1252{
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
@@ -26,22 +23,15 @@ constexpr std::array<ushort, 32> windows1252{
 constexpr QChar byteOrderMark(0xFEFF);
 constexpr QChar zeroWidthSpace(0x200B);
 
-int hexDigitValue(char c)
+bool isDecimalDigit(QChar c)
 {
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
 bool isHexDigit(QChar c)
 {
-    return c.unicode() < 0x80 && hexDigitValue(static_cast<char>(c.unicode())) >= 0;
-}
-
-bool isDecimalDigit(QChar c)
-{
-    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+    const QChar lower = c.toLower();
+    return isDecimalDigit(c) || (lower >= QLatin1Char('a') && lower <= QLatin1Char('f'));
 }
 
 // The code point that "x41" or "65" stands for, -1 when it is none of the references we decode.
@@ -112,39 +102,6 @@ QString decodeReferences(const QString &text, TakeReference takeReference)
         appendCodePoint(decoded, next);
     }
     return decoded;
-}
-
-// The byte that an escape at `position` stands for; -1 when none stands there.
-int escapedByte(const QByteArray &bytes, int position)
-{
-    if (position + 2 >= bytes.size() || bytes.at(position) != '%')
-        return -1;
-    const int high = hexDigitValue(bytes.at(position + 1));
-    const int low = hexDigitValue(bytes.at(position + 2));
-    return high < 0 || low < 0 ? -1 : high * 16 + low;
-}
-
-// How many bytes a character of UTF-8 has that begins with this one.
-int lengthOfCharacter(int byte)
-{
-    if (byte < 0xE0)
-        return byte < 0x80 ? 1 : 2;
-    return byte < 0xF0 ? 3 : 4;
-}
-
-// The UTF-8 of the character that the escapes from `position` on stand for; empty when they stand for none.
-QByteArray escapedCharacter(const QByteArray &bytes, int position)
-{
-    QByteArray character;
-    const int count = lengthOfCharacter(escapedByte(bytes, position));
-    for (int i = 0; i < count; ++i) {
-        const int byte = escapedByte(bytes, position + i * escapeLength);
-        if (byte < 0)
-            return {};
-        character.append(static_cast<char>(byte));
-    }
-    const bool plain = count == 1;
-    return plain || !QString::fromUtf8(character).contains(QChar::ReplacementCharacter) ? character : QByteArray();
 }
 
 // Whether a tag of this name stands at `position`, which is behind the "<" or "</".
@@ -233,27 +190,6 @@ QString withoutZeroWidthEnds(const QString &text)
 }
 
 } // namespace
-
-QByteArray decodePercentEscapes(const QByteArray &bytes)
-{
-    int at = bytes.indexOf('%');
-    if (at < 0) // as most pages
-        return bytes;
-    QByteArray decoded;
-    decoded.reserve(bytes.size());
-    int copied = 0;
-    for (; at >= 0; at = bytes.indexOf('%', at)) {
-        const QByteArray character = escapedCharacter(bytes, at);
-        if (character.isEmpty()) {
-            ++at;
-            continue;
-        }
-        decoded.append(bytes.constData() + copied, at - copied).append(character);
-        at += character.size() * escapeLength;
-        copied = at;
-    }
-    return decoded.append(bytes.constData() + copied, bytes.size() - copied);
-}
 
 QString decodeDecimalReferences(const QString &text)
 {

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
-// What turns pages and fragments of HTML into lyrics. Pure functions, safe in every thread; their time grows in step
-// with the length of the text, whatever it holds.
-
-// Undoes percent-encoding where it is well formed, "%" and two hexadecimal digits, and stands for UTF-8. Any other "%"
-// stays: people sing of "100%baby".
-[[nodiscard]] QByteArray decodePercentEscapes(const QByteArray &bytes);
+// What turns fragments of HTML into lyrics. Pure functions, safe in every thread; their time grows in step with the
+// length of the text, whatever it holds.
 
 // Decodes numeric references of two to six decimal or two to five hexadecimal digits, then "&amp;", "&gt;", "&lt;",
 // "&quot;", "&#39;" and "&#039;", in this order. A reference that comes into being through a decoded one is decoded as
@@ -31,8 +26,8 @@
 // Removes everything from a "<" that is not directly followed by ">" up to the next ">".
 [[nodiscard]] QString stripTags(const QString &html);
 
-// The plain text of a fragment of HTML: comments go (withoutComments), lower-case
-// break tags become newlines, tags go, blank space at both ends goes, entities are decoded.
+// The plain text of a fragment of HTML: comments go (withoutComments), lower-case break tags become newlines, tags go,
+// blank space at both ends goes, entities are decoded.
 [[nodiscard]] QString cleanLyrics(const QString &html);
 
 // The text as tags can hold it and people read it: without control characters but tabs and line ends, without byte

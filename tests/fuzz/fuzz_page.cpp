@@ -5,6 +5,7 @@
 #include "lyrics/JunkCheck.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/NestedElements.h"
+#include "lyrics/PageBytes.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

@@ -3,6 +3,7 @@
 #include "SitePages.h"
 #include "lyrics/LyricsText.h"
 #include "lyrics/NamedCharacters.h"
+#include "lyrics/PageBytes.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/MegaLyricsText.h"
 #include "lyrics/providers/TextSearch.h"
