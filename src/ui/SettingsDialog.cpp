@@ -21,6 +21,7 @@
 #include <QIntValidator>
 #include <QLocale>
 #include <QSettings>
+#include <QShowEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -31,6 +32,7 @@ namespace {
 constexpr std::chrono::seconds proxyTestDelay(3); // after the last change
 constexpr int proxyTypeCount = 3;
 constexpr int portWidth = 80; // for five digits of usual text
+constexpr QSize signSize(16, 16);
 // How much of the text's colour goes into the outlines of the sites, which the style then darkens.
 constexpr double outlineOnDark = 0.6;
 constexpr double outlineOnLight = 0.3;
@@ -51,6 +53,13 @@ void select(QComboBox *box, int index)
     box->setCurrentIndex(std::max(index, 0));
 }
 
+// In the size that goes with the desktop's text.
+void showSign(QLabel *label, const QString &name)
+{
+    const QIcon sign = pictureIcon(QStringLiteral(":/img/%1.png").arg(name));
+    label->setPixmap(sign.pixmap(label->window()->windowHandle(), signSize * Legibility().textScale()));
+}
+
 bool isChecked(const QListWidgetItem &item)
 {
     return item.checkState() == Qt::Checked;
@@ -68,6 +77,8 @@ SettingsDialog::SettingsDialog(Settings *settings, UsageConsent *consent, QWidge
     m_form->setupUi(this);
     restrictPort();
     removeIcons(m_form->buttonBox);
+    showSign(m_form->icoExclamation, QStringLiteral("exclamation"));
+    showSign(m_form->icoOrderWarning, QStringLiteral("exclamation"));
     m_form->icoExclamation->hide();
     alignProxyLabels();
     setUpProxyTest();
@@ -156,6 +167,14 @@ void SettingsDialog::changeEvent(QEvent *event)
     if (event->type() == QEvent::PaletteChange)
         outlineOrderChecks();
     QDialog::changeEvent(event);
+}
+
+// Before it is placed; what it holds has its whole size only now.
+void SettingsDialog::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous())
+        adjustSize();
+    QDialog::showEvent(event);
 }
 
 // Changes
@@ -344,7 +363,7 @@ void SettingsDialog::updateProxyTestStatus()
         }
     }();
     const QString words = proxyTestWords();
-    m_form->proxyTestStatusLabel->setPixmap(QPixmap(QStringLiteral(":/img/proxy_%1.png").arg(picture)));
+    showSign(m_form->proxyTestStatusLabel, QStringLiteral("proxy_") + picture);
     m_form->proxyTestStatusLabel->setAccessibleName(words);
     m_form->proxyTestTextLabel->setText(words);
 }
