@@ -373,6 +373,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>Interpret oder Titel sind zu lang, um danach zu suchen.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1447,6 +1454,13 @@ Möchten Sie es trotzdem löschen?</translation>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Songtext in eine Textdatei exportiert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Ausgelassen, da sie fehlt oder ihre Art nicht unterstützt wird: %n Datei</numerusform>
+            <numerusform>Ausgelassen, da sie fehlen oder ihre Art nicht unterstützt wird: %n Dateien</numerusform>
+        </translation>
     </message>
 </context>
 <context>

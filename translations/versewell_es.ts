@@ -373,6 +373,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>El artista o el título son demasiado largos para buscarlos.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1447,6 +1454,13 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Letra exportada a un archivo de texto</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Archivos omitidos porque no existen o su tipo no es compatible: %n</numerusform>
+            <numerusform>Archivos omitidos porque no existen o su tipo no es compatible: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

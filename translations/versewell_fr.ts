@@ -373,6 +373,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>L’artiste ou le titre est trop long pour une recherche.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1447,6 +1454,13 @@ Voulez-vous le supprimer quand même ?</translation>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Paroles exportées dans un fichier texte</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Ignoré, car introuvable ou d’un type non pris en charge : %n fichier</numerusform>
+            <numerusform>Ignorés, car introuvables ou d’un type non pris en charge : %n fichiers</numerusform>
+        </translation>
     </message>
 </context>
 <context>

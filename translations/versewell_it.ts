@@ -373,6 +373,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>L’artista o il titolo è troppo lungo per la ricerca.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1447,6 +1454,13 @@ Eliminarlo comunque?</translation>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Testo esportato in un file TXT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Escluso perché mancante o di un tipo non supportato: %n file</numerusform>
+            <numerusform>Esclusi perché mancanti o di un tipo non supportato: %n file</numerusform>
+        </translation>
     </message>
 </context>
 <context>

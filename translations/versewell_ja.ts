@@ -369,6 +369,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>アーティストまたはタイトルが長すぎるため検索できません。</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1437,6 +1444,12 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>歌詞を 1 個のテキストファイルにエクスポートしました</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>見つからないか対応していない種類のため追加されなかったファイル: %n 個</numerusform>
+        </translation>
     </message>
 </context>
 <context>

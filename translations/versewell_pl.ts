@@ -377,6 +377,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>Wykonawca lub tytuł są zbyt długie, aby ich szukać.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1457,6 +1464,14 @@ Czy mimo to usunąć?</translation>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Wyeksportowano tekst do jednego pliku tekstowego</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Pliki pominięte, ponieważ nie istnieją lub ich typ nie jest obsługiwany: %n</numerusform>
+            <numerusform>Pliki pominięte, ponieważ nie istnieją lub ich typ nie jest obsługiwany: %n</numerusform>
+            <numerusform>Pliki pominięte, ponieważ nie istnieją lub ich typ nie jest obsługiwany: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -373,6 +373,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>O artista ou o título é longo demais para ser pesquisado.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1447,6 +1454,13 @@ Deseja excluir mesmo assim?</translation>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Letra exportada para um arquivo de texto</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Arquivos ignorados por não existirem ou serem de um tipo não suportado: %n</numerusform>
+            <numerusform>Arquivos ignorados por não existirem ou serem de um tipo não suportado: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

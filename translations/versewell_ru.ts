@@ -377,6 +377,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>Исполнитель или название слишком длинные для поиска.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1457,6 +1464,14 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Текст экспортирован в один файл TXT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Файлы, пропущенные, так как их нет или их тип не поддерживается: %n</numerusform>
+            <numerusform>Файлы, пропущенные, так как их нет или их тип не поддерживается: %n</numerusform>
+            <numerusform>Файлы, пропущенные, так как их нет или их тип не поддерживается: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>Sanatçı ya da başlık, aranamayacak kadar uzun.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1437,6 +1444,12 @@ Yine de silinsin mi?</translation>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Sözler bir metin dosyasına aktarıldı</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Bulunamadığı ya da türü desteklenmediği için eklenmeyen dosya sayısı: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -377,6 +377,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>Виконавець або назва задовгі для пошуку.</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1457,6 +1464,14 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>Текст експортовано до одного файлу TXT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>Файли, пропущені, бо їх немає або їхній тип не підтримується: %n</numerusform>
+            <numerusform>Файли, пропущені, бо їх немає або їхній тип не підтримується: %n</numerusform>
+            <numerusform>Файли, пропущені, бо їх немає або їхній тип не підтримується: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

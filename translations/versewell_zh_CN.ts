@@ -369,6 +369,13 @@
     </message>
 </context>
 <context>
+    <name>LyricsSearch</name>
+    <message>
+        <source>The artist or title is too long to search for.</source>
+        <translation>艺术家或标题过长，无法搜索。</translation>
+    </message>
+</context>
+<context>
     <name>LyricsText</name>
     <message>
         <source>Lyrics</source>
@@ -1437,6 +1444,12 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Lyrics exported to one text file</source>
         <translation>已将歌词导出到 1 个文本文件</translation>
+    </message>
+    <message numerus="yes">
+        <source>Files left out, since they are missing or of a kind that is not supported: %n</source>
+        <translation>
+            <numerusform>因不存在或类型不受支持而未添加的文件：%n 个</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -3,11 +3,16 @@
 
 #include <QPainter>
 
-ElidedLabel::ElidedLabel(const QString &text, QWidget *parent)
-    : QLabel(text, parent)
+ElidedLabel::ElidedLabel(QWidget *parent)
+    : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    setToolTip(QLatin1String("<qt>") + text.toHtmlEscaped() + QLatin1String("</qt>")); // so that it is wrapped
+}
+
+void ElidedLabel::setWords(const QString &words)
+{
+    setText(words);
+    setToolTip(QLatin1String("<qt>") + words.toHtmlEscaped() + QLatin1String("</qt>")); // so that it is wrapped
 }
 
 QSize ElidedLabel::minimumSizeHint() const

@@ -9,7 +9,9 @@ class ElidedLabel : public QLabel
     Q_OBJECT
 
 public:
-    explicit ElidedLabel(const QString &text, QWidget *parent = nullptr);
+    explicit ElidedLabel(QWidget *parent = nullptr);
+
+    void setWords(const QString &words);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 

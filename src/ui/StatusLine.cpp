@@ -2,6 +2,7 @@
 #include "ui/StatusLine.h"
 
 #include "ui/ElidedLabel.h"
+#include "ui/Legibility.h"
 #include "ui/SlimProgressBar.h"
 
 #include <QAction>
@@ -16,6 +17,7 @@
 #include <numeric>
 
 static constexpr int progressWidth = 160;
+static constexpr QSize linkIconSize(16, 16);
 static constexpr std::chrono::seconds briefly(6);
 
 StatusLine::StatusLine(QStatusBar *bar)
@@ -54,51 +56,71 @@ void StatusLine::setSearchesLeft(int left)
 
 void StatusLine::showSettingsDamaged(const QString &copy)
 {
-    const QString text =
-        copy.isEmpty() ? tr("The settings file is damaged. What could be read is used, but no copy could be made.")
-                       : tr("The settings file was damaged. What could be read is kept; the damaged file is now %1",
-                            "%1 is the path of a file")
-                             .arg(QDir::toNativeSeparators(copy));
-    showNotice(SettingsDamaged, text);
+    showNotice(SettingsDamaged, [copy] {
+        return copy.isEmpty()
+                   ? tr("The settings file is damaged. What could be read is used, but no copy could be made.")
+                   : tr("The settings file was damaged. What could be read is kept; the damaged file is now %1",
+                        "%1 is the path of a file")
+                         .arg(QDir::toNativeSeparators(copy));
+    });
 }
 
 void StatusLine::showSettingsUnreadable()
 {
-    showNotice(SettingsUnreadable, tr("The settings cannot be read or stored; changes last for this run only."));
+    showNotice(SettingsUnreadable,
+               [] { return tr("The settings cannot be read or stored; changes last for this run only."); });
 }
 
 void StatusLine::addUnusableNames(int count)
 {
     m_unusableNames += count;
-    showNotice(UnusableNames,
-               tr("Files left out, since their names are damaged or too long: %n", nullptr, m_unusableNames));
+    showNotice(UnusableNames, [this] {
+        return tr("Files left out, since their names are damaged or too long: %n", nullptr, m_unusableNames);
+    });
+}
+
+void StatusLine::addUnsupportedFiles(int count)
+{
+    m_unsupportedFiles += count;
+    showNotice(UnsupportedFiles, [this] {
+        return tr("Files left out, since they are missing or of a kind that is not supported: %n", nullptr,
+                  m_unsupportedFiles);
+    });
 }
 
 void StatusLine::addFilesLeftOut(int count)
 {
     m_filesLeftOut += count;
-    showNotice(FilesLeftOut, tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut));
+    showNotice(FilesLeftOut, [this] { return tr("The list is full. Files left out: %n", nullptr, m_filesLeftOut); });
 }
 
-void StatusLine::showSavesMended(const tags::MendedSaves &mended)
+static QString savesMendedWords(const tags::MendedSaves &mended)
 {
     QStringList sentences;
     const auto say = [&sentences](const QString &sentence, const QStringList &paths) {
         if (!paths.isEmpty())
             sentences.append(sentence.arg(paths.join(QLatin1String(", "))));
     };
-    say(tr("The last save was cut off. Songs that are again as they were before it: %1", "%1 is the paths of files"),
+    say(StatusLine::tr("The last save was cut off. Songs that are again as they were before it: %1",
+                       "%1 is the paths of files"),
         mended.restored);
-    say(tr("Copies from before a save that was cut off: %1", "%1 is the paths of files"), mended.kept);
-    say(tr("A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1",
-           "%1 is the paths of files"),
+    say(StatusLine::tr("Copies from before a save that was cut off: %1", "%1 is the paths of files"), mended.kept);
+    say(StatusLine::tr(
+            "A save was cut off, and these songs cannot be reached to undo it; it is tried again at each start: %1",
+            "%1 is the paths of files"),
         mended.waiting);
-    say(tr("Whole copies of these songs: %1", "%1 is the paths of files"), mended.whole);
-    say(tr("A save was cut off. Songs that are still being restored: %1", "%1 is the paths of files"), mended.underWay);
-    if (sentences.isEmpty())
+    say(StatusLine::tr("Whole copies of these songs: %1", "%1 is the paths of files"), mended.whole);
+    say(StatusLine::tr("A save was cut off. Songs that are still being restored: %1", "%1 is the paths of files"),
+        mended.underWay);
+    return sentences.join(QLatin1String(". "));
+}
+
+void StatusLine::showSavesMended(const tags::MendedSaves &mended)
+{
+    if (savesMendedWords(mended).isEmpty())
         remove(SavesMended);
     else
-        showNotice(SavesMended, sentences.join(QLatin1String(". ")));
+        showNotice(SavesMended, [mended] { return savesMendedWords(mended); });
 }
 
 void StatusLine::showWritesFailed(const QString &reason, int count)
@@ -115,58 +137,87 @@ void StatusLine::updateWritesFailed(const QString &reason, int count)
         m_writesFailed.insert(reason, count);
     else
         m_writesFailed.remove(reason);
-    if (m_writesFailed.isEmpty()) {
+    if (m_writesFailed.isEmpty())
         remove(WritesFailed);
-        return;
-    }
+    else
+        showNotice(WritesFailed, [this] { return writesFailedWords(); });
+}
+
+QString StatusLine::writesFailedWords() const
+{
     const int songs = std::accumulate(m_writesFailed.cbegin(), m_writesFailed.cend(), 0);
     const QString reasons = QStringList(m_writesFailed.keys()).join(QLatin1String("; "));
-    showNotice(WritesFailed, tr("Songs that could not be written: %n (%1)", "%1 is the reason", songs).arg(reasons));
+    return tr("Songs that could not be written: %n (%1)", "%1 is the reason", songs).arg(reasons);
+}
+
+static QString exportWords(const LyricsExport::Result &result)
+{
+    if (result.failed > 1)
+        return StatusLine::tr("The lyrics of %n songs could not be exported", nullptr, result.failed);
+    if (result.failed == 1)
+        return StatusLine::tr("The lyrics could not be written to %1", "%1 is the path of a file")
+            .arg(QDir::toNativeSeparators(result.failedFile));
+    if (result.written > 1)
+        return StatusLine::tr("Lyrics exported to %n text files", nullptr, result.written);
+    if (result.written == 1)
+        return StatusLine::tr("Lyrics exported to one text file");
+    return StatusLine::tr("There are no lyrics to export");
 }
 
 void StatusLine::showExported(const LyricsExport::Result &result)
 {
-    if (result.failed > 1)
-        showNotice(LyricsExported, tr("The lyrics of %n songs could not be exported", nullptr, result.failed));
-    else if (result.failed == 1)
-        showNotice(LyricsExported, tr("The lyrics could not be written to %1", "%1 is the path of a file")
-                                       .arg(QDir::toNativeSeparators(result.failedFile)));
-    else if (result.written > 1)
-        showNoticeBriefly(LyricsExported, tr("Lyrics exported to %n text files", nullptr, result.written));
-    else if (result.written == 1)
-        showNoticeBriefly(LyricsExported, tr("Lyrics exported to one text file"));
+    const auto words = [result] {
+        return exportWords(result);
+    };
+    if (result.failed > 0)
+        showNotice(LyricsExported, words);
     else
-        showNoticeBriefly(LyricsExported, tr("There are no lyrics to export"));
+        showNoticeBriefly(LyricsExported, words);
 }
 
-void StatusLine::showNotice(Notice notice, const QString &text)
+void StatusLine::showNotice(Notice notice, const Words &words)
 {
     remove(notice);
-    m_notices.insert(notice, makeNotice(notice, text));
-    m_bar->addWidget(m_notices.value(notice), 1);
+    const Shown shown{makeNotice(notice), words};
+    m_notices.insert(notice, shown);
+    write(shown);
+    m_bar->addWidget(shown.widget, 1);
     if (m_firstButton) // which stands to the right of all notices
-        QWidget::setTabOrder(m_firstButton->previousInFocusChain(),
-                             m_notices.value(notice)->findChild<QToolButton *>());
-    m_notices.value(notice)->show();
+        QWidget::setTabOrder(m_firstButton->previousInFocusChain(), shown.widget->findChild<QToolButton *>());
+    shown.widget->show();
 }
 
-void StatusLine::showNoticeBriefly(Notice notice, const QString &text)
+void StatusLine::showNoticeBriefly(Notice notice, const Words &words)
 {
-    showNotice(notice, text);
-    QTimer::singleShot(briefly, m_notices.value(notice), [this, notice] { dismiss(notice); });
+    showNotice(notice, words);
+    QTimer::singleShot(briefly, m_notices.value(notice).widget, [this, notice] { dismiss(notice); });
 }
 
-QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
+void StatusLine::write(const Shown &shown)
+{
+    const QString text = shown.words();
+    shown.widget->findChild<ElidedLabel *>()->setWords(text);
+    auto *button = shown.widget->findChild<QToolButton *>();
+    button->setToolTip(tr("Dismiss"));
+    button->setAccessibleName(tr("Dismiss"));
+    button->setAccessibleDescription(text);
+}
+
+void StatusLine::retranslate()
+{
+    setSearchesLeft(m_left);
+    for (const Shown &shown : qAsConst(m_notices))
+        write(shown);
+}
+
+QWidget *StatusLine::makeNotice(Notice notice)
 {
     auto *widget = new QWidget(m_bar);
-    auto *label = new ElidedLabel(text, widget);
+    auto *label = new ElidedLabel(widget);
     auto *button = new QToolButton(widget);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     button->setText(QStringLiteral("×")); // unlike the style's picture it is seen on a dark window
-    button->setToolTip(tr("Dismiss"));
-    button->setAccessibleName(tr("Dismiss"));
-    button->setAccessibleDescription(text);
     connect(button, &QToolButton::clicked, this, [this, notice] { dismiss(notice); });
     auto *layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -179,7 +230,7 @@ QWidget *StatusLine::makeNotice(Notice notice, const QString &text)
 
 void StatusLine::remove(Notice notice)
 {
-    QWidget *widget = m_notices.take(notice);
+    QWidget *widget = m_notices.take(notice).widget;
     if (!widget)
         return;
     widget->hide();
@@ -193,6 +244,8 @@ void StatusLine::dismiss(Notice notice)
         m_filesLeftOut = 0;
     else if (notice == UnusableNames)
         m_unusableNames = 0;
+    else if (notice == UnsupportedFiles)
+        m_unsupportedFiles = 0;
     else if (notice == WritesFailed)
         m_writesFailed.clear();
 }
@@ -204,6 +257,12 @@ void StatusLine::addButton(QAction *action)
     button->setFocusPolicy(Qt::TabFocus);
     button->setDefaultAction(action);
     button->setVisible(action->isVisible());
+    const auto *legibility = new Legibility(button);
+    const auto scale = [button, legibility] {
+        button->setIconSize(linkIconSize * legibility->textScale());
+    };
+    connect(legibility, &Legibility::textScaleChanged, button, scale);
+    scale();
     connect(action, &QAction::changed, button, [button, action] { button->setVisible(action->isVisible()); });
     m_bar->addPermanentWidget(button);
     if (!m_firstButton)

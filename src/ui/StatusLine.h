@@ -7,6 +7,8 @@
 #include <QMap>
 #include <QObject>
 
+#include <functional>
+
 class QAction;
 class QLabel;
 class QProgressBar;
@@ -31,6 +33,9 @@ public:
     // A button for an action, at the right end; hidden while the action is.
     void addButton(QAction *action);
 
+    // Puts all texts in the language of the moment.
+    void retranslate();
+
 public slots:
     // `copy` is the path of the damaged file as it was; empty when no copy could be made.
     void showSettingsDamaged(const QString &copy);
@@ -45,6 +50,8 @@ public slots:
     void updateWritesFailed(const QString &reason, int count);
     // The list is full. Counts on until the notice is dismissed.
     void addFilesLeftOut(int count);
+    // Files that were handed over and are none that can be listed. Counts on until the notice is dismissed.
+    void addUnsupportedFiles(int count);
     // Success is shown for some seconds only.
     void showExported(const LyricsExport::Result &result);
 
@@ -55,14 +62,26 @@ private:
         SettingsUnreadable,
         FilesLeftOut,
         UnusableNames,
+        UnsupportedFiles,
         SavesMended,
         WritesFailed,
         LyricsExported
     };
 
-    void showNotice(Notice notice, const QString &text);
-    void showNoticeBriefly(Notice notice, const QString &text);
-    [[nodiscard]] QWidget *makeNotice(Notice notice, const QString &text);
+    // Says in the language of the moment what is to be told.
+    using Words = std::function<QString()>;
+
+    struct Shown
+    {
+        QWidget *widget = nullptr;
+        Words words;
+    };
+
+    void showNotice(Notice notice, const Words &words);
+    void showNoticeBriefly(Notice notice, const Words &words);
+    [[nodiscard]] QWidget *makeNotice(Notice notice);
+    static void write(const Shown &shown);
+    [[nodiscard]] QString writesFailedWords() const;
     void remove(Notice notice);
     void dismiss(Notice notice);
 
@@ -74,7 +93,8 @@ private:
     int m_done = 0; // since no search was left
     int m_filesLeftOut = 0;
     int m_unusableNames = 0;
+    int m_unsupportedFiles = 0;
     QMap<QString, int> m_writesFailed; // reason to number, as shown
-    QMap<Notice, QWidget *> m_notices;
+    QMap<Notice, Shown> m_notices;
     QToolButton *m_firstButton = nullptr; // of those at the right
 };

@@ -9,6 +9,19 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QToolButton>
+#include <QTranslator>
+
+// A language that shouts.
+class Shouting : public QTranslator
+{
+public:
+    using QTranslator::QTranslator;
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QString::fromUtf8(source).toUpper();
+    }
+};
 
 // What the status bar tells of work that was done elsewhere.
 class tst_StatusNotices : public QObject
@@ -53,6 +66,20 @@ private slots:
         window.findChildren<QToolButton *>().last()->click();
         line.updateWritesFailed("no room"_s, 1); // dismissed is dismissed
         QCOMPARE(text(), QString());
+    }
+
+    void noticesFollowTheLanguage()
+    {
+        QMainWindow window;
+        StatusLine line(window.statusBar());
+        line.addUnsupportedFiles(2);
+        line.addUnsupportedFiles(1);
+        const auto *dismiss = window.findChildren<QToolButton *>().last();
+        QVERIFY(dismiss->accessibleDescription().endsWith("supported: 3"_s));
+        Shouting language;
+        QCoreApplication::installTranslator(&language);
+        line.retranslate();
+        QVERIFY(dismiss->accessibleDescription().startsWith("FILES LEFT OUT"_s));
     }
 
     void automaticExportsThatFailAreCountedUntilTheNextExport()
