@@ -26,25 +26,51 @@ ScrollView {
         list.currentIndex = proxyModel.currentIndex;
     }
 
-    // Nothing without a current row.
-    function moveTo(row) {
-        if (list.currentIndex >= 0)
-            proxyModel.currentIndex = Math.max(0, Math.min(list.count - 1, row));
+    // With the modifiers that are held.
+    function click(row) {
+        if (proxyModel.itemClicked(row))
+            select(row);
     }
 
-    // Where a key moves to; -1 for other keys.
-    function targetOf(key) {
+    // Selects this row alone; one that is current but not selected as well, which the model takes for no change.
+    function select(row) {
+        if (row === proxyModel.currentIndex && !proxyModel.isSelected(row))
+            proxyModel.currentIndex = -1;
+        proxyModel.currentIndex = row;
+    }
+
+    // By how many rows a key moves; 0 for other keys.
+    function stepOf(key) {
         switch (key) {
         case Qt.Key_Up:
-            return list.currentIndex - 1;
+            return -1;
         case Qt.Key_Down:
-            return list.currentIndex + 1;
-        case Qt.Key_Home:
-            return 0;
-        case Qt.Key_End:
-            return list.count - 1;
+            return 1;
+        case Qt.Key_PageUp:
+            return -list.rowsInView;
+        case Qt.Key_PageDown:
+            return list.rowsInView;
         }
-        return -1;
+        return 0;
+    }
+
+    // Where a key moves to; -1 for other keys, and for a step without a current row.
+    function targetOf(key) {
+        var last = list.count - 1;
+        if (key === Qt.Key_Home)
+            return Math.min(0, last);
+        if (key === Qt.Key_End)
+            return last;
+        var step = stepOf(key);
+        return step === 0 || list.currentIndex < 0 ? -1 : Math.max(0, Math.min(last, list.currentIndex + step));
+    }
+
+    // Keys without a modifier. Whether the key was one of them.
+    function moveByKey(key) {
+        var target = key === Qt.Key_Space ? list.currentIndex : targetOf(key);
+        if (target >= 0)
+            select(target);
+        return target >= 0 || stepOf(key) !== 0;
     }
 
     // Keys with a modifier, which select several songs. Whether the key was one of them.
@@ -76,12 +102,44 @@ ScrollView {
         id: list
 
         readonly property int rowsInView: Math.max(1, Math.floor(height / Measures.rowHeight))
+        // Before a reset: how far the view was scrolled, and where in it the current row was.
         property real keptY: 0
+        property real keptTop: 0
         property var shownSong: null
+        property int shownId: -1
         property int countBefore: 0
 
+        function keepPlace() {
+            keptY = contentY;
+            keptTop = currentIndex * Measures.rowHeight - contentY;
+        }
+
+        // The current row stays where it was seen; where it was not, the view does.
         function restorePlace() {
-            contentY = Math.max(0, Math.min(keptY, count * Measures.rowHeight - height));
+            var seen = currentIndex >= 0 && keptTop > -Measures.rowHeight && keptTop < height;
+            var wanted = seen ? currentIndex * Measures.rowHeight - keptTop : keptY;
+            contentY = Math.max(0, Math.min(wanted, count * Measures.rowHeight - height));
+            if (seen)
+                positionViewAtIndex(currentIndex, ListView.Contain);
+        }
+
+        // The song that takes the place of one that is hidden or removed: where none is selected, keys and clicks
+        // would have nothing to work on.
+        function selectSuccessor() {
+            if (proxyModel.selectedCount === 0 && proxyModel.currentIndex >= 0)
+                songList.select(proxyModel.currentIndex);
+        }
+
+        function showCurrent() {
+            songList.follow();
+            // Rows that come and go around the current song move its row, which is no reason to take the keyboard away.
+            var song = proxyModel.currentItem();
+            if (song !== shownSong && song !== null)
+                songList.takeFocus();
+            if (song !== null && shownId >= 0 && proxyModel.rowOf(shownId) < 0)
+                Qt.callLater(selectSuccessor); // the selection is told of after the current row
+            shownSong = song;
+            shownId = song ? song.id : -1;
         }
 
         objectName: "songList"
@@ -98,6 +156,7 @@ ScrollView {
         Component.onCompleted: {
             songList.follow();
             shownSong = proxyModel.currentItem();
+            shownId = shownSong ? shownSong.id : -1;
         }
         // The first songs of an empty list make the first of them current.
         onCountChanged: {
@@ -118,20 +177,8 @@ ScrollView {
                 event.accepted = songList.selectByKey(event.key, modifiers);
             else if (event.key === Qt.Key_Backspace)
                 songList.removeSelectedRequested();
-            else if (event.key === Qt.Key_Up)
-                songList.moveTo(currentIndex - 1);
-            else if (event.key === Qt.Key_Down)
-                songList.moveTo(currentIndex + 1);
-            else if (event.key === Qt.Key_PageUp)
-                songList.moveTo(currentIndex - rowsInView);
-            else if (event.key === Qt.Key_PageDown)
-                songList.moveTo(currentIndex + rowsInView);
-            else if (event.key === Qt.Key_Home && count > 0)
-                proxyModel.currentIndex = 0;
-            else if (event.key === Qt.Key_End && count > 0)
-                proxyModel.currentIndex = count - 1;
             else
-                event.accepted = false;
+                event.accepted = songList.moveByKey(event.key);
         }
 
         Accessible.role: Accessible.List
@@ -142,7 +189,7 @@ ScrollView {
             width: list.width
             onClicked: {
                 songList.takeFocus();
-                proxyModel.itemClicked(index);
+                songList.click(index);
             }
         }
 
@@ -160,7 +207,7 @@ ScrollView {
                 var row = list.indexAt(mouse.x + list.contentX, mouse.y + list.contentY);
                 songList.takeFocus();
                 if (row < 0 || !proxyModel.isSelected(row))
-                    proxyModel.itemClicked(row);
+                    songList.click(row);
                 var place = mapToItem(null, mouse.x, mouse.y);
                 songList.menuRequested(row, place.x, place.y, false);
             }
@@ -176,16 +223,11 @@ ScrollView {
             target: proxyModel
 
             function onCurrentIndexChanged() {
-                songList.follow();
-                // Rows that come and go around the current song move its row, which is no reason to take the keyboard away.
-                var song = proxyModel.currentItem();
-                if (song !== list.shownSong && song !== null)
-                    songList.takeFocus();
-                list.shownSong = song;
+                list.showCurrent();
             }
 
             function onModelAboutToBeReset() {
-                list.keptY = list.contentY;
+                list.keepPlace();
             }
 
             function onModelReset() {
