@@ -28,6 +28,7 @@ Rectangle {
     signal failed(url source)
 
     readonly property bool lyricsFocused: details.item !== null && details.item.lyricsFocused
+    readonly property bool lyricsHoldKeyboard: details.item !== null && details.item.lyricsHoldKeyboard
     readonly property bool tagsLoaded: state.tagsLoaded
     readonly property string stateLine: state.line
 

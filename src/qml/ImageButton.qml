@@ -23,6 +23,7 @@ Item {
     opacity: enabled ? 1 : Measures.disabled
 
     onActiveFocusChanged: Tooltip.hideText()
+    onVisibleChanged: Tooltip.hideText()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Keys.onSpacePressed: clicked()

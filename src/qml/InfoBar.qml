@@ -2,8 +2,8 @@
 import QtQuick 2.2
 import "."
 
-// A quiet line above or below the list: words at the left and, as its children, links at the right. It takes no room
-// while it is not shown.
+// A quiet line above or below the list: words at the left and, as its children, links at the right, or below them where
+// the line is too short for both. It takes no room while it is not shown.
 Rectangle {
     id: bar
 
@@ -12,8 +12,9 @@ Rectangle {
     property color textColor: appPalette.hiddenInfoText
     property bool hairlineAtTop: true
     default property alias links: links.data
+    readonly property bool inOneLine: words.implicitWidth + links.width + 3 * Measures.rowMargin <= width
 
-    implicitHeight: shown ? Measures.barHeight : 0
+    implicitHeight: !shown ? 0 : inOneLine ? Measures.barHeight : words.height + links.height + 3 * Measures.grid
     visible: shown
     color: appPalette.hiddenInfoBackground
 
@@ -29,10 +30,14 @@ Rectangle {
     }
 
     Text {
-        anchors { left: parent.left; right: links.left; verticalCenter: parent.verticalCenter; margins: Measures.rowMargin }
+        id: words
+
+        x: Measures.rowMargin
+        y: bar.inOneLine ? (bar.height - height) / 2 : Measures.grid
+        width: (bar.inOneLine ? links.x : bar.width) - x - Measures.rowMargin
         text: bar.text
         textFormat: Text.PlainText
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
         font.pixelSize: Measures.textFont
         color: bar.textColor
 
@@ -43,7 +48,8 @@ Rectangle {
     Row {
         id: links
 
-        anchors { right: parent.right; rightMargin: Measures.rowMargin; verticalCenter: parent.verticalCenter }
+        x: bar.width - width - Measures.rowMargin
+        y: bar.inOneLine ? (bar.height - height) / 2 : bar.height - height - Measures.grid
         spacing: Measures.margin
     }
 }

@@ -3,7 +3,7 @@ import QtQuick 2.2
 import "."
 
 // The sheet with the lyrics of a song: whose they are, the buttons for them, the words, and how the song stands.
-Item {
+FocusScope {
     id: sheet
 
     property var song: null

@@ -101,6 +101,11 @@ ScrollView {
             if (view.editing && activeFocus)
                 view.showCursor();
         }
+        // What can only be read is scrolled, and its cursor moves only when something is selected, by key or by mouse.
+        onCursorPositionChanged: {
+            if (activeFocus && !replacing)
+                view.showCursor();
+        }
         // Tab goes on to the next control; lyrics hold no tabs.
         Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus()
         Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus()

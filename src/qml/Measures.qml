@@ -36,7 +36,10 @@ QtObject {
     readonly property int listWidth: scaled(400)
     readonly property int listMinimumWidth: scaled(200)
     readonly property int detailsMinimumWidth: scaled(300)
-    readonly property int minimumHeight: scaled(230)
+    // The preview, two fields, a header of two lines, some lines of lyrics and what is said below them.
+    readonly property int minimumHeight: 6 * margin + playButton + 2 * fieldHeight + grid + toolbarHeight + leastWords + barHeight
+    // Three lines of usual lyrics.
+    readonly property int leastWords: scaled(88)
     // What a key moves the border between list and details by.
     readonly property int splitterStep: 16
 

@@ -10,6 +10,8 @@ ColumnLayout {
     // The DetailsPane that this lies in.
     property var pane
     readonly property bool lyricsFocused: lyrics.focused
+    // They or their buttons have it.
+    readonly property bool lyricsHoldKeyboard: lyrics.visible && lyrics.activeFocus
 
     function focusLyrics() {
         lyrics.takeFocus();

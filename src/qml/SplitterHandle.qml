@@ -31,7 +31,8 @@ Item {
     MouseArea {
         property real grabbedAt: 0
 
-        anchors { fill: parent; margins: -Measures.hairline }
+        // Further on the side of the details, whose margin has nothing to click.
+        anchors { fill: parent; leftMargin: -Measures.hairline; rightMargin: -Measures.hairline - Measures.halfGrid }
         cursorShape: Qt.SplitHCursor
         preventStealing: true
         onPressed: grabbedAt = mouse.x

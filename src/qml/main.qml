@@ -24,7 +24,7 @@ Rectangle {
     property var shownSong: null
     // In pixels; below them something is cut.
     readonly property int leastWidth: Measures.listMinimumWidth + Measures.detailsMinimumWidth + Measures.hairline
-    readonly property int leastHeight: Measures.minimumHeight
+    readonly property int leastHeight: Measures.minimumHeight + consentBar.height
 
     signal listForceSearchSelected()
     signal listExportLyricsSelected()
@@ -74,9 +74,12 @@ Rectangle {
     // Discards the draft of an edit: whoever searches anew wants other words.
     function forceSearch() {
         edit.cancel();
-        if (shownSong !== null)
-            details.confirmNames(shownSong.id);
         listForceSearchSelected();
+    }
+
+    // Called by the window when what had the keyboard is hidden or switched off.
+    function rescueKeyboard() {
+        details.lyricsHoldKeyboard ? details.focusLyrics() : list.takeFocus();
     }
 
     function boundedListWidth(wanted) {
@@ -225,6 +228,7 @@ Rectangle {
         id: dropArea
 
         anchors.fill: parent
+        onEntered: drag.accepted = drag.hasUrls
         onDropped: {
             if (drop.hasUrls) {
                 mainModel.addUrlsFromDrop(drop.urls);

@@ -69,6 +69,13 @@ Item {
             compare(searches.count, 1);
         }
 
+        function test_a_selection_goes_on_beyond_the_view() {
+            song.setFoundLyricsTag("A", "B", new Array(200).join("la\n"));
+            words().forceActiveFocus();
+            keyClick(Qt.Key_End, Qt.ControlModifier | Qt.ShiftModifier);
+            verify(words().mapToItem(sheet, 0, 0).y < -100);
+        }
+
         function test_looking_at_lyrics_never_changes_them() {
             song.setEditedLyricsTag("a\u00a0b\r\nc\u2028d");
             press("editButton");
