@@ -6,14 +6,12 @@
 #include "model/ProxyModel.h"
 #include "network/Endpoints.h"
 #include "settings/Settings.h"
-#include "settings/SettingsChange.h"
 #include "tracking/AppTracker.h"
 #include "ui/AboutDialog.h"
 #include "ui/AddDialogs.h"
 #include "ui/AppPalette.h"
-#include "ui/ExitWidget.h"
 #include "ui/ForcedSearches.h"
-#include "ui/Legibility.h"
+#include "ui/Leaving.h"
 #include "ui/LyricsEdit.h"
 #include "ui/LyricsEditGuard.h"
 #include "ui/LyricsExport.h"
@@ -30,24 +28,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QScreen>
-#include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 #include <QWindow>
 
-#include <algorithm>
-#include <chrono>
 #include <limits>
-#include <optional>
-
-// How long the end of the program waits for the report of it.
-static constexpr std::chrono::seconds reportPatience(1);
-
-static constexpr QSize leastSize(480, 320);
-static constexpr QSize usualSize(1040, 680);
-// Of the screen at most, unless the text is of the usual size.
-static constexpr double screenShare = 0.9;
 
 static bool isId(int number)
 {
@@ -70,9 +55,11 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_removal(parts.mainModel, parts.proxyModel, m_lyricsEdit, m_editGuard, &m_unsavedGuard)
     , m_forcedSearches(new ForcedSearches(parts.mainModel, &m_unsavedGuard, this))
     , m_export(new LyricsExport(parts.mainModel, this))
+    , m_leaving(new Leaving(this, parts.mainModel, m_editGuard, &m_unsavedGuard, parts.tracker))
     , m_actions(std::make_unique<WindowActions>(this))
     , m_status(new StatusLine(statusBar()))
     , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
+    , m_state(this, m_scene.get(), parts.mainModel, parts.settings)
 {
     setWindowTitle(QStringLiteral("Versewell"));
     connectTypedNames();
@@ -80,7 +67,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     setUpUpdates();
     setCentralWidget(m_scene.get());
     boundSize();
-    resizeToText();
+    m_state.resizeToText();
     m_scene->setFocus();
     connectSceneSignals();
     connectModels();
@@ -100,7 +87,7 @@ MainWindow::~MainWindow()
     emit typedNamesWanted({});
     m_lyricsEdit->handOver();
     m_export->queueRest();
-    saveState();
+    m_state.store();
 }
 
 // Making the window
@@ -132,6 +119,7 @@ void MainWindow::connectSceneSignals()
     connectSignal("listRemoveWithLyrics()", "on_actionRemoveWithLyrics_triggered()");
     connectSignal("leaveEditRequested()", "leaveEdit()");
     connectSignal("leastWidthChanged()", "boundSize()");
+    connectSignal("leastHeightChanged()", "boundSize()");
     connectSignal("addFilesRequested()", "on_actionAddFile_triggered()");
     connectSignal("addFolderRequested()", "on_actionAddFolder_triggered()");
     connect(m_scene.get(), &SceneWidget::firstFramePainted, m_parts.mainModel, &MainModel::lookAtKept);
@@ -148,13 +136,18 @@ void MainWindow::connectTypedNames()
         emit typedNamesAsked();
         return m_typedNames;
     };
-    const auto take = [this](const QVector<quint16> &owners) {
-        QVariantList ids;
-        for (const quint16 id : owners)
-            ids.append(id);
+    m_unsavedGuard.setTypedNames({songs, [this](const QVector<quint16> &owners) {
+                                      takeTypedNames(owners);
+                                  }});
+}
+
+void MainWindow::takeTypedNames(const QVector<quint16> &owners)
+{
+    QVariantList ids;
+    for (const quint16 id : owners)
+        ids.append(id);
+    if (!ids.isEmpty()) // none would stand for all
         emit typedNamesWanted(ids);
-    };
-    m_unsavedGuard.setTypedNames({songs, take});
 }
 
 void MainWindow::noteTypedNames(const QVariantList &ids)
@@ -172,15 +165,7 @@ QString MainWindow::sceneErrors() const
 
 void MainWindow::boundSize()
 {
-    m_scene->setMinimumSize(m_scene->leastSize());
-    setMinimumSize(minimumSizeHint().expandedTo(leastSize));
-}
-
-// Larger text takes a larger window, as far as the screen has room.
-void MainWindow::resizeToText()
-{
-    const QSize wanted = usualSize * Legibility().textScale();
-    resize(wanted.boundedTo(screen()->availableSize() * screenShare).expandedTo(usualSize));
+    m_state.bound();
 }
 
 void MainWindow::connectModels()
@@ -193,6 +178,7 @@ void MainWindow::connectModels()
     connect(m_parts.mainModel, &MainModel::activeCountChanged, &m_statusUpdate, qOverload<>(&QTimer::start));
     connect(m_editGuard, &LyricsEditGuard::draftKept, m_scene.get(), &SceneWidget::focusLyrics);
     connect(m_parts.mainModel, &MainModel::filesLeftOut, m_status, &StatusLine::addFilesLeftOut);
+    connect(m_parts.mainModel, &MainModel::filesUnsupported, m_status, &StatusLine::addUnsupportedFiles);
     connect(m_parts.folderScanner, &FolderScanner::filesLeftOut, m_status, &StatusLine::addUnusableNames);
     connect(m_parts.mainModel, &MainModel::writesFailed, m_status, &StatusLine::showWritesFailed);
     connect(m_parts.mainModel, &MainModel::failedWritesLeft, m_status, &StatusLine::updateWritesFailed);
@@ -217,7 +203,7 @@ void MainWindow::setUpUpdates()
     m_actions->checkForUpdates->setVisible(m_parts.updater && endpointExists(Endpoint::Maker));
     if (!m_parts.updater)
         return;
-    m_parts.updater->setBeforeInstall([this](const std::function<void()> &install) { beforeLeaving(install); });
+    m_parts.updater->setBeforeInstall([this](const std::function<void()> &install) { m_leaving->before(install); });
     connect(m_actions->checkForUpdates, &QAction::triggered, m_parts.updater, &Updater::checkByUser);
 }
 
@@ -250,7 +236,7 @@ void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         m_actions->retranslate();
-        updateStatusLabel();
+        m_status->retranslate();
     }
     QMainWindow::changeEvent(event);
 }
@@ -363,7 +349,9 @@ const ModelItem *MainWindow::itemAtRow(int row) const
 
 void MainWindow::forceSearchSelected()
 {
-    m_forcedSearches->add(m_parts.proxyModel->selectedIds());
+    const QVector<quint16> ids = m_parts.proxyModel->selectedIds();
+    takeTypedNames(ids);
+    m_forcedSearches->add(ids);
 }
 
 void MainWindow::leaveEdit()
@@ -391,15 +379,14 @@ void MainWindow::searchLyricsInBrowser(int itemIndex)
 
 void MainWindow::searchLyricsInBrowser(const QUrl &itemUrl)
 {
-    const int row = m_parts.mainModel->urls().indexOf(itemUrl);
-    if (row >= 0 && row < m_parts.mainModel->rowCount()) // behind the rows stand files that are no rows yet
-        searchInBrowser(m_parts.mainModel->itemAt(row));
+    searchInBrowser(m_parts.mainModel->item(itemUrl));
 }
 
 void MainWindow::searchInBrowser(const ModelItem *item)
 {
     if (!item)
         return;
+    takeTypedNames({item->id()});
     const SearchNames names = item->searchArtistTitle();
     const QString query = (names.artist + QLatin1Char(' ') + names.title).trimmed();
     const QString engine = m_parts.settings->searchProvider();
@@ -451,87 +438,26 @@ void MainWindow::on_actionSettings_triggered()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(m_quitting);
-    if (!m_quitting)
-        quit_app();
+    event->setAccepted(m_leaving->isDecided());
+    m_leaving->quit();
 }
 
 void MainWindow::quit_app()
 {
-    if (!m_quitting)
-        beforeLeaving([this] { quit_app_accepted(); });
-}
-
-void MainWindow::beforeLeaving(const std::function<void()> &leave)
-{
-    m_editGuard->before([this, leave] { askToQuit([this, leave] { m_unsavedGuard.beforeQuitting(leave); }); });
-}
-
-void MainWindow::askToQuit(const std::function<void()> &quit)
-{
-    if (m_parts.mainModel->activeCount() == 0) {
-        quit();
-        return;
-    }
-    if (!m_exitWidget) {
-        m_exitWidget = new ExitWidget(m_parts.mainModel, this);
-        // Queued: the last search may end it, in the middle of the step that starts the write of what was found.
-        connect(m_exitWidget, &QDialog::accepted, this, quit, Qt::QueuedConnection);
-        connect(m_exitWidget, &QDialog::finished, this, [this] { m_exitWidget.clear(); });
-    }
-    m_exitWidget->open();
-    m_exitWidget->raise();
-    m_exitWidget->activateWindow();
+    m_leaving->quit();
 }
 
 void MainWindow::quit_app_accepted()
 {
-    if (m_quitting)
-        return;
-    m_quitting = true;
-    m_unsavedGuard.giveUp();
-    hide();
-    if (!m_parts.tracker) {
-        QTimer::singleShot(0, this, &MainWindow::quit_app_force);
-        return;
-    }
-    connect(m_parts.tracker, &AppTracker::quitTracked, this, &MainWindow::quit_app_force);
-    m_parts.tracker->trackQuit();
-    QTimer::singleShot(reportPatience, this, &MainWindow::quit_app_force);
+    m_leaving->accept();
 }
 
 void MainWindow::quit_app_force()
 {
-    m_quitting = true;
-    close();
+    m_leaving->force();
 }
-
-// What is kept
 
 void MainWindow::onRestoreGeometry()
 {
-    const QSettings store;
-    restoreGeometry(storedValue(store, SettingsKey::Geometry).toByteArray());
-    if (const std::optional<int> width = storedListWidth(store))
-        m_scene->setListWidth(*width);
-}
-
-QStringList MainWindow::fileUrls() const
-{
-    QStringList files;
-    for (const QUrl &url : m_parts.mainModel->urls())
-        files.append(url.toString(QUrl::FullyEncoded));
-    return files;
-}
-
-void MainWindow::saveState() const
-{
-    SettingsChange change;
-    m_parts.settings->addTo(&change);
-    change.set(SettingsKey::Geometry, saveGeometry());
-    if (m_scene->listWidth() > 0)
-        change.set(SettingsKey::ListWidth, m_scene->listWidth());
-    if (m_parts.settings->keepsFilesList())
-        change.set(SettingsKey::FilesList, fileUrls());
-    change.commit();
+    m_state.restore();
 }

@@ -8,21 +8,20 @@
 #include "ui/SongRemoval.h"
 #include "ui/UnsavedLyricsGuard.h"
 #include "ui/UsageConsent.h"
+#include "ui/WindowState.h"
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 #include <QVariantList>
 
-#include <functional>
 #include <memory>
 
 class AppPalette;
 class AppTracker;
-class ExitWidget;
 class ForcedSearches;
 class FolderScanner;
+class Leaving;
 class LyricsEditGuard;
 class LyricsExport;
 class MainModel;
@@ -81,7 +80,7 @@ public slots:
     // Removing asks first when a modified draft of lyrics would be lost. `clearList` leaves hidden songs in the list.
     void clearList();
     void removeSelected();
-    // Many songs are queued in slices, from the event loop.
+    // With the names that were typed for them. Many songs are queued in slices, from the event loop.
     void forceSearchSelected();
     // Ends the edit of lyrics; a modified draft is asked about first.
     void leaveEdit();
@@ -153,17 +152,13 @@ private:
     void connectSceneSignals();
     void connectModels();
     void connectTypedNames();
-    void resizeToText();
+    // The scene gives these songs the names that were typed for them and not confirmed.
+    void takeTypedNames(const QVector<quint16> &owners);
     void setUpLinks();
     void setUpUpdates();
     void updateActions();
     void searchInBrowser(const ModelItem *item);
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
-    // Runs an action that ends the program, once nothing is lost by that which the user wants to keep.
-    void beforeLeaving(const std::function<void()> &leave);
-    void askToQuit(const std::function<void()> &quit);
-    [[nodiscard]] QStringList fileUrls() const;
-    void saveState() const;
 
     const Parts m_parts;
     LyricsEdit *const m_lyricsEdit;
@@ -173,12 +168,12 @@ private:
     SongRemoval m_removal;
     ForcedSearches *const m_forcedSearches;
     LyricsExport *const m_export;
+    Leaving *const m_leaving;
     const std::unique_ptr<WindowActions> m_actions;
     StatusLine *const m_status;
-    QPointer<ExitWidget> m_exitWidget; // while it is open
     const SearchProvider m_searchProvider;
-    bool m_quitting = false;
     QTimer m_statusUpdate; // one update for all changes of a turn of the event loop
-    // The last member, since it has to go before what it shows.
+    // After the others, since it has to go before what it shows.
     const std::unique_ptr<SceneWidget> m_scene;
+    WindowState m_state;
 };

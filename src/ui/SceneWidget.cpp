@@ -171,9 +171,29 @@ void SceneWidget::focusInEvent(QFocusEvent *event)
 
 void SceneWidget::watchFocus()
 {
+    QQuickItem *item = quickWindow()->activeFocusItem();
+    watchText(item);
+    disconnect(m_focusHidden);
+    if (!item)
+        return;
+    // Not at once: much may be changing.
+    m_focusHidden = connect(item, &QQuickItem::visibleChanged, this, &SceneWidget::rescueFocus, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &SceneWidget::rescueFocus, Qt::QueuedConnection);
+}
+
+// What is hidden keeps the keyboard in Qt, and of what is disabled or deleted its scope gets it, where no key does
+// anything.
+void SceneWidget::rescueFocus()
+{
+    const QQuickItem *item = quickWindow()->activeFocusItem();
+    if (item && rootObject() && (!item->isVisible() || item->isFocusScope()))
+        QMetaObject::invokeMethod(rootObject(), "rescueKeyboard");
+}
+
+void SceneWidget::watchText(QQuickItem *item)
+{
     if (m_focusedText)
         m_focusedText->removeEventFilter(this);
-    QQuickItem *item = quickWindow()->activeFocusItem();
     const bool isText = item && (item->inherits("QQuickTextEdit") || item->inherits("QQuickTextInput"));
     m_focusedText = isText ? item : nullptr;
     if (isText)

@@ -70,11 +70,14 @@ protected:
 private:
     [[nodiscard]] QQuickItem *firstTabStop() const;
     void watchFocus();
+    void watchText(QQuickItem *item);
+    void rescueFocus();
     void endFirstFrame();
     Q_SLOT void reportPart(const QUrl &source);
 
     QPointer<QQuickItem> m_focusedText;
-    bool m_isRendered = false; // what is painted before that shows nothing of the scene
+    QMetaObject::Connection m_focusHidden; // whatever has the keyboard was hidden
+    bool m_isRendered = false;             // what is painted before that shows nothing of the scene
     bool m_isFirstFrame = true;
     bool m_isPartMissing = false;
 };

@@ -274,12 +274,15 @@ private slots:
     void nothingIsCutAtTheLeastSize()
     {
         addCopies(1);
+        const QSize screen = m_window->screen()->availableSize();
+        QCOMPARE(m_window->size().boundedTo(screen), m_window->size());
         scene()->rootObject()->setProperty("listWidth", 900);
         m_window->resize(1, 1);
         QTRY_COMPARE(m_window->size(), m_window->minimumSize());
         QTRY_VERIFY(part("lyricsItem")->mapRectToScene(part("lyricsItem")->boundingRect()).right() <= scene()->width());
         QVERIFY(part("songList")->width() >= 200 && part("lyricsItem")->width() >= 260);
-        QVERIFY(m_window->width() <= 640 && m_window->height() <= 400);
+        QVERIFY(part("lyricsItem")->height() > 180); // with some words
+        QVERIFY(m_window->width() <= 640 && m_window->height() <= 480);
     }
 
     void theMenusHaveTheirActions()
@@ -471,20 +474,105 @@ private slots:
             QTRY_VERIFY(song(row)->processState() != ModelItem::ProcessIdle);
     }
 
+    void theListKeepsItsPlaceWhenManySongsGo_data()
+    {
+        QTest::addColumn<int>("place");
+        QTest::addColumn<int>("placeAfter");
+        addRow("the current row is out of sight", 1500, 1500);
+        addRow("the current row is seen", 3500, 1700); // thirty rows of 60 above it have gone
+    }
+
     void theListKeepsItsPlaceWhenManySongsGo()
     {
+        QFETCH(int, place);
+        QFETCH(int, placeAfter);
         const QList<QUrl> urls = listGoneSongs(400);
         QVector<int> odd;
         for (int i = 1; i < urls.size(); i += 2)
             odd.append(i);
         m_proxy->setCurrentIndex(60);
-        part("songList")->setProperty("contentY", 1500);
+        part("songList")->setProperty("contentY", place);
         QSignalSpy resets(m_proxy.get(), &QAbstractItemModel::modelReset);
         m_model->removeScattered(odd);
         QCOMPARE(resets.count(), 1);
         QCOMPARE(m_proxy->currentItem()->url(), urls.at(60));
-        QTRY_COMPARE(part("songList")->property("contentY").toInt(), 1500);
+        QTRY_COMPARE(part("songList")->property("contentY").toInt(), placeAfter);
         QCOMPARE(part("songList")->property("currentIndex").toInt(), 30);
+    }
+
+    void theSongAfterOneThatGoesIsSelected_data()
+    {
+        addTextColumns("cause");
+        addRow("hidden with all that have lyrics", "actionHideWithLyrics");
+        addRow("removed with all that have lyrics", "actionRemoveWithLyrics");
+        addRow("found while such songs are hidden", "");
+    }
+
+    void theSongAfterOneThatGoesIsSelected()
+    {
+        QFETCH(QString, cause);
+        addCopies(3);
+        const ModelItem *next = song(2);
+        m_proxy->setCurrentIndex(1);
+        if (cause.isEmpty())
+            m_proxy->setShowFound(false);
+        song(1)->setFoundLyricsTag({}, {}, "la"_s);
+        if (!cause.isEmpty())
+            action(qPrintable(cause))->trigger();
+        if (cause == "actionRemoveWithLyrics"_s)
+            answer(QMessageBox::Discard); // they are in no file
+        QTRY_COMPARE(m_proxy->selectedItem(), next);
+        QTRY_VERIFY(part("lyricsText")->isVisible());
+    }
+
+    void theKeyboardOutlivesWhatHadIt_data()
+    {
+        addTextColumns("holder", "heir");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        const Qt::KeyboardModifiers none;
+        const Qt::KeyboardModifiers control = Qt::ControlModifier;
+        addRow("Play, when all songs are selected", "playButton", "songList", Qt::Key_A, control);
+        addRow("a field, when all songs are hidden", "artistField", "songList", Qt::Key_L, control);
+        addRow("Save", "saveButton", "lyricsText", Qt::Key_Return, none);
+        addRow("Cancel", "cancelButton", "lyricsText", Qt::Key_Space, none);
+        addRow("the least size of text", "smallerButton", "lyricsText", Qt::Key_Space, none);
+    }
+
+    void theKeyboardOutlivesWhatHadIt()
+    {
+        QFETCH(QString, holder);
+        QFETCH(QString, heir);
+        QFETCH(Qt::Key, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        addCopies(2);
+        giveLyricsToAll();
+        beginDraft(0);
+        m_settings->setLyricsFontSize(7);
+        if (heir == "songList"_s)
+            m_window->lyricsEdit()->cancel();
+        part(qPrintable(holder))->forceActiveFocus();
+        QTRY_VERIFY(part(qPrintable(holder))->hasActiveFocus());
+        press(key, modifiers);
+        const QQuickItem *inheriting = part(qPrintable(heir));
+        QTRY_VERIFY(inheriting == focusItem() || inheriting->isAncestorOf(focusItem()));
+    }
+
+    void whatIsTypedIsSearchedFor()
+    {
+        BrowserStandIn browser;
+        addCopies(3);
+        for (int row = 0; row < 3; ++row) {
+            m_proxy->setCurrentIndex(row);
+            part("titleField")->forceActiveFocus();
+            press(Qt::Key_T);
+        }
+        m_window->searchLyricsInBrowser(2);
+        QVERIFY(browser.pages.value(0).endsWith("q=t"));
+        m_proxy->extendSelection(1);
+        press(Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(song(1)->titleTag(), "t"_s);
+        QCOMPARE(song(0)->titleTag(), QString());
     }
 
     void quittingAsksWhileSongsAreSearchedFor_data()
