@@ -43,9 +43,9 @@ public:
 
 signals:
     // Once for each search that was accepted, never from inside search(). Empty `lyrics`: nothing found, or failed
-    // with errorString(). Names of
-    // characters are decoded (withNamedCharacters), and what no tag can hold is gone (withoutBrokenCharacters). The
-    // provider is idle again, so another search may be started at once.
+    // with errorString(). Names of characters are decoded (withNamedCharacters), and what no tag can hold is gone
+    // (withoutBrokenCharacters).
+    // The provider is idle again, so another search may be started at once.
     void finished(const QString &lyrics);
 
 protected:

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QStringView>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int longestName = 6;
@@ -53,7 +55,7 @@ QString withNamedCharacters(const QString &text)
     QString decoded;
     int copied = 0;
     for (int at = text.indexOf(QLatin1Char('&')); at >= 0; at = text.indexOf(QLatin1Char('&'), at + 1)) {
-        const QStringView rest = QStringView(text).mid(at + 1).left(longestName + 1);
+        const QStringView rest = QStringView(text).mid(at + 1, std::min(longestName + 1, text.size() - at - 1));
         const int length = static_cast<int>(rest.indexOf(QLatin1Char(';')));
         const QChar character = length > 0 ? characterOf(rest.left(length)) : QChar();
         if (character.isNull())
