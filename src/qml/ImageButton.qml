@@ -80,7 +80,7 @@ Item {
 
     Timer {
         interval: Measures.toolTipDelay
-        running: (button.hovered || button.activeFocus) && !mouseArea.pressed && Qt.application.state === Qt.ApplicationActive
+        running: button.visible && (button.hovered || button.activeFocus) && !mouseArea.pressed && Qt.application.state === Qt.ApplicationActive
         onTriggered: {
             var place = button.hovered ? Qt.point(mouseArea.mouseX, mouseArea.mouseY) : Qt.point(0, button.height);
             Tooltip.showText(mouseArea, place, button.text);
