@@ -56,22 +56,44 @@ struct DelayedFolderScanner::Listing
     std::vector<Entry> folders;
 };
 
+static FolderScanProgress::Work allOf(const QString &folder)
+{
+    FolderScanProgress::Work work;
+    if (!folder.isEmpty())
+        work.folders.push_back(QFile::encodeName(folder));
+    return work;
+}
+
 DelayedFolderScanner::DelayedFolderScanner(const QString &folder, std::shared_ptr<WalkedEntries> walked)
+    : DelayedFolderScanner(folder, std::move(walked), allOf(folder))
+{
+}
+
+DelayedFolderScanner::DelayedFolderScanner(const QString &folder, std::shared_ptr<WalkedEntries> walked,
+                                           FolderScanProgress::Work work)
     : m_folder(folder)
     , m_walked(std::move(walked))
+    , m_progress(std::make_shared<FolderScanProgress>(std::move(work)))
 {
 }
 
 void DelayedFolderScanner::run()
 {
     const UncountedThread uncounted;
-    m_files.clear();
     m_pattern = namePattern();
-    if (!m_folder.isEmpty())
-        scan(QFile::encodeName(m_folder));
-    if (m_progress->isCancelled())
-        m_files.clear();
-    emit scanned(m_folder, m_files);
+    while (const std::optional<QByteArray> folder = m_progress->nextFolder())
+        scan(*folder);
+    emit scanned(m_folder, report(m_progress->finish(), m_walked.get()));
+}
+
+QList<QUrl> DelayedFolderScanner::report(const std::vector<FolderScanProgress::File> &files, WalkedEntries *walked)
+{
+    QList<QUrl> urls;
+    for (const FolderScanProgress::File &file : files) {
+        if (!file.isLink || walked->keepLink(file.id))
+            urls.append(file.url);
+    }
+    return urls;
 }
 
 QRegularExpression DelayedFolderScanner::namePattern() const
@@ -88,16 +110,17 @@ QRegularExpression DelayedFolderScanner::namePattern() const
 void DelayedFolderScanner::scan(const QByteArray &folder)
 {
     const Listing listing = list(folder);
-    for (const Entry &file : listing.files) {
-        if (m_progress->isCancelled())
-            return;
-        take(folder, file);
-    }
+    FolderScanProgress::Work found;
+    for (const Entry &file : listing.files)
+        take(folder, file, &found);
     for (const Entry &subfolder : listing.folders) {
-        if (m_progress->isCancelled())
-            return;
-        scan(joined(folder, subfolder.name));
+        if (subfolder.isLink)
+            found.linkedFolders.push_back(joined(folder, subfolder.name));
+        else
+            found.folders.push_back(joined(folder, subfolder.name));
     }
+    std::reverse(found.folders.begin(), found.folders.end());
+    m_progress->add(std::move(found));
 }
 
 // Type and identity are looked up on the disk only when the directory entry tells no type or names a link.
@@ -136,6 +159,7 @@ DelayedFolderScanner::Listing DelayedFolderScanner::list(const QByteArray &folde
         return listing;
     const int handle = dirfd(directory.get());
     while (const dirent *found = readdir(directory.get())) {
+        m_progress->noteMove();
         // Hidden entries are left out, "." and ".." among them.
         if (m_progress->isCancelled() || found->d_name[0] == '.')
             continue;
@@ -150,13 +174,13 @@ DelayedFolderScanner::Listing DelayedFolderScanner::list(const QByteArray &folde
     return listing;
 }
 
-void DelayedFolderScanner::take(const QByteArray &folder, const Entry &file)
+void DelayedFolderScanner::take(const QByteArray &folder, const Entry &file, FolderScanProgress::Work *found)
 {
     const QByteArray path = joined(folder, file.name);
     if (!isUsable(path)) {
         m_progress->noteLeftOut();
     } else if (m_walked->take(file.id, file.isLink)) {
-        m_files.append(QUrl::fromLocalFile(QFile::decodeName(path)));
+        found->files.push_back({QUrl::fromLocalFile(QFile::decodeName(path)), file.id, file.isLink});
         m_progress->noteFile(QFile::decodeName(file.name));
     }
 }

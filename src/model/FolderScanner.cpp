@@ -3,23 +3,36 @@
 
 #include "model/DelayedFolderScanner.h"
 
+#include <QLoggingCategory>
 #include <QThreadPool>
-#include <QTimer>
 
 #include <chrono>
 
 // A walk that was cancelled and has not reported by then waits for a disk that may never answer.
 constexpr std::chrono::milliseconds cancelPatience(100);
+// So many parts of one folder may fail to answer before the next folder has its turn.
+constexpr int mostStalls = 8;
+
+Q_LOGGING_CATEGORY(scanLog, "versewell.model")
 
 FolderScanner::FolderScanner(QObject *parent)
     : QObject(parent)
 {
+    connect(&m_stallCheck, &QTimer::timeout, this, &FolderScanner::passStalled);
 }
 
 FolderScanner::~FolderScanner()
 {
     if (m_current)
         m_current->cancel();
+    cancelStalled();
+}
+
+void FolderScanner::cancelStalled()
+{
+    for (const Progress &walked : qAsConst(m_stalled))
+        walked->cancel();
+    m_stalled.clear();
 }
 
 QString FolderScanner::lastFile() const
@@ -54,16 +67,53 @@ void FolderScanner::scanNext()
         return;
     if (!m_walked)
         m_walked = std::make_shared<WalkedEntries>();
-    auto *walk = new DelayedFolderScanner(m_folders.first(), m_walked);
+    m_stalls = 0;
+    walk(new DelayedFolderScanner(m_folders.first(), m_walked));
+    m_stallCheck.start(m_patience / 4);
+    emit processingChanged(true);
+}
+
+void FolderScanner::walk(DelayedFolderScanner *walk)
+{
     walk->setNameFilters(nameFilters());
     m_current = walk->progress();
-    const auto report = [this, walked = m_current](const QString &folder, const QList<QUrl> &files) {
+    const auto take = [this, walked = m_current](const QString &folder, const QList<QUrl> &files) {
         if (walked == m_current)
             scanned(folder, files);
+        else
+            reportLate(walked, files);
     };
-    connect(walk, &DelayedFolderScanner::scanned, this, report, Qt::QueuedConnection);
+    connect(walk, &DelayedFolderScanner::scanned, this, take, Qt::QueuedConnection);
     QThreadPool::globalInstance()->start(walk);
-    emit processingChanged(true);
+}
+
+// Leaves a folder that does not answer to the walk that waits for it. Another walk goes on with the others beside it,
+// and reports what has been found until now along with them; when too many of them stall, the next in the queue does.
+void FolderScanner::passStalled()
+{
+    if (!m_current || m_current->isCancelled() || !m_current->isStalled(m_patience))
+        return;
+    qCWarning(scanLog, "A folder does not answer; others are looked at meanwhile.");
+    m_stalled.append(m_current);
+    const QString folder = m_folders.first();
+    if (++m_stalls < mostStalls)
+        walk(new DelayedFolderScanner(folder, m_walked, m_current->giveUpOthers()));
+    else
+        scanned(folder, DelayedFolderScanner::report(m_current->giveUpFiles(), m_walked.get()));
+}
+
+void FolderScanner::reportLate(const Progress &walked, const QList<QUrl> &files)
+{
+    if (m_stalled.removeOne(walked))
+        report(walked, files);
+}
+
+void FolderScanner::report(const Progress &walked, const QList<QUrl> &files)
+{
+    if (!files.isEmpty())
+        emit found(files);
+    if (const int leftOut = walked ? walked->takeLeftOut() : 0; leftOut > 0)
+        emit filesLeftOut(leftOut);
 }
 
 QString FolderScanner::nameFilters() const
@@ -75,10 +125,8 @@ void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
 {
     // A walk may have ended just before it was cancelled.
     const bool wasCancelled = m_current && m_current->isCancelled();
-    if (!files.isEmpty() && !wasCancelled)
-        emit found(files);
-    if (const int leftOut = m_current ? m_current->leftOut() : 0; leftOut > 0 && !wasCancelled)
-        emit filesLeftOut(leftOut);
+    if (!wasCancelled)
+        report(m_current, files);
     // Cancelling has emptied the queue: what stands there now was added later and is still to be walked.
     if (!wasCancelled && m_folders.removeOne(folder))
         emit foldersChanged();
@@ -86,14 +134,17 @@ void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
     // What a cancelled walk came past was not reported.
     if (wasCancelled || m_folders.isEmpty())
         m_walked.reset();
-    if (m_folders.isEmpty())
+    if (m_folders.isEmpty()) {
+        m_stallCheck.stop();
         emit processingChanged(false);
-    else
+    } else {
         scanNext();
+    }
 }
 
 void FolderScanner::cancel()
 {
+    cancelStalled();
     if (!m_current)
         return;
     m_current->cancel();

@@ -4,14 +4,20 @@
 #include <QList>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QUrl>
+#include <QVector>
 
+#include <chrono>
 #include <memory>
 
+class DelayedFolderScanner;
 class FolderScanProgress;
 class WalkedEntries;
 
 // Turns folders into the audio files in them: keeps a queue of folders and walks one tree at a time on the thread pool.
+// A folder whose disk does not answer for some seconds holds up nothing but what is in it: that is reported when the
+// disk answers, whenever that may be.
 //
 // Main thread only; a walk that is still under way when the scanner goes is cancelled.
 class FolderScanner : public QObject
@@ -26,6 +32,8 @@ public:
 
     // Extensions of the wanted files, without dots.
     void setTypes(const QStringList &types) { m_types = types; }
+    // How long a disk may take for one answer, before others are asked. For tests.
+    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
 
     [[nodiscard]] bool processing() const { return m_current != nullptr; }
     // Paths of the folders still to be done; the one being walked is the first.
@@ -40,7 +48,8 @@ signals:
     void processingChanged(bool processing);
     void foldersChanged();
     // All files of one folder that was added, at the end of its walk and never empty: those of each folder by name,
-    // before those of its subfolders. Their being regular files has been checked.
+    // before those of its subfolders. Their being regular files has been checked. What is in a folder that did not
+    // answer comes by itself.
     void found(const QList<QUrl> &files);
     // After `found`: so many files of that folder are left out, since their names or paths cannot be used. Never 0.
     void filesLeftOut(int count);
@@ -50,15 +59,27 @@ public slots:
     void scanned(const QString &folder, const QList<QUrl> &files);
     void scanNext();
     void addFolder(const QUrl &folder);
-    // Ends the walk under way, which then reports no files, and empties the queue. A walk whose disk does not answer
-    // within a tenth of a second is left to itself: it counts as ended, and other folders can be walked.
+    // Ends the walk under way and those that wait for their disks, which then report no files, and empties the queue. A
+    // walk whose disk does not answer within a tenth of a second is left to itself: it counts as ended, and other
+    // folders can be walked.
     void cancel();
 
 private:
+    using Progress = std::shared_ptr<FolderScanProgress>;
+
     [[nodiscard]] QString nameFilters() const;
+    void walk(DelayedFolderScanner *walk);
+    void passStalled();
+    void cancelStalled();
+    void reportLate(const Progress &walked, const QList<QUrl> &files);
+    void report(const Progress &walked, const QList<QUrl> &files);
 
     QStringList m_types;
     QStringList m_folders;
-    std::shared_ptr<FolderScanProgress> m_current; // of the walk under way
-    std::shared_ptr<WalkedEntries> m_walked;       // until the queue is empty
+    Progress m_current;                      // of the walk under way
+    std::shared_ptr<WalkedEntries> m_walked; // until the queue is empty
+    std::chrono::milliseconds m_patience = std::chrono::seconds(5);
+    QTimer m_stallCheck;         // runs while there is a walk
+    int m_stalls = 0;            // of the folder that is walked
+    QVector<Progress> m_stalled; // walks whose disk may answer yet
 };

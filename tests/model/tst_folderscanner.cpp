@@ -15,9 +15,23 @@
 #include <QTest>
 #include <QThreadPool>
 
+#include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+static QSemaphore deadDisk;
+
+// In the stead of the C library's, for walks into folders called "dead".
+extern "C" DIR *opendir(const char *path)
+{
+    using Open = DIR *(*)(const char *);
+    static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "opendir"));
+    if (getpid() != gettid() && QByteArray(path).endsWith("/dead"))
+        deadDisk.acquire();
+    return next(path);
+}
 
 namespace {
 
@@ -107,11 +121,13 @@ private slots:
         songs.link("elsewhere", "music/link");
         songs.link("elsewhere/c.mp3", "music/file.mp3"); // comes before the file itself
         songs.link("music/a.mp3", "music/deep/again.mp3");
+        songs.link("music/a.mp3", "music/0 best.mp3");
+        songs.link("music/deep", "music/0 deep");
         songs.link("gone", "music/broken.mp3");
         QCOMPARE(::link(songs.native("music/a.mp3"_s).constData(), songs.native("music/hard.mp3"_s).constData()),
                  0); // a file of its own
         QVERIFY(songs.scan({songs.folder.url("music"_s), songs.folder.url("elsewhere"_s)}));
-        QCOMPARE(songs.found(), words("music/a.mp3|music/file.mp3|music/hard.mp3|music/deep/b.mp3"));
+        QCOMPARE(songs.found(), words("music/a.mp3|music/hard.mp3|music/deep/b.mp3|music/link/c.mp3"));
         QVERIFY(songs.scan({songs.folder.url("elsewhere"_s)})); // in a queue of its own
         QCOMPARE(songs.found().last(), "elsewhere/c.mp3"_s);
     }
@@ -194,6 +210,17 @@ private slots:
         songs.scanner.addFolder(a); // again, before the cancelled walk has ended
         QTRY_VERIFY(!songs.scanner.processing());
         QCOMPARE(songs.found(), words("a/1.mp3"));
+    }
+
+    void aFolderThatDoesNotAnswerHoldsUpItsOwnFilesOnly()
+    {
+        Tree songs(words("a/1.mp3|a/dead/2.mp3|a/dead/3/4.mp3|a/last/5.mp3|b/6.mp3"));
+        songs.scanner.setPatience(std::chrono::milliseconds(100));
+        QVERIFY(songs.scan({songs.folder.url("a"_s), songs.folder.url("b"_s)}));
+        QCOMPARE(songs.found(), words("a/1.mp3|a/last/5.mp3|b/6.mp3"));
+        deadDisk.release();
+        QTRY_COMPARE(songs.batches.count(), 3);
+        QCOMPARE(songs.found().mid(3), words("a/dead/2.mp3|a/dead/3/4.mp3"));
     }
 
     void aCancelledWalkThatDoesNotEndHoldsUpNothing()
