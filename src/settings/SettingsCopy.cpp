@@ -66,14 +66,16 @@ bool SettingsCopy::write(const QByteArray &content)
     }
     QFile file(fileName()); // QSettings may have put another one under this name
     const bool isWritten = file.open(QIODevice::WriteOnly) && giveSameOwner(&file, m_path) &&
-                           file.write(content) == content.size() && file.flush() && fsync(file.handle()) == 0;
+                           file.write(content) == content.size() && file.flush();
     file.close();
     return isWritten && holds(fileName(), content);
 }
 
 bool SettingsCopy::takePlace()
 {
+    QFile file(fileName());
     const bool isRenamed =
+        file.open(QIODevice::ReadOnly) && fsync(file.handle()) == 0 &&
         std::rename(QFile::encodeName(fileName()).constData(), QFile::encodeName(m_path).constData()) == 0;
     m_file.setAutoRemove(!isRenamed);
     return isRenamed;
