@@ -277,8 +277,11 @@ int MainModel::gapsFor(const LooseItems &items) const
 {
     int gaps = 0;
     int lastRow = -1;
-    for (const ItemStore::LooseItem &item : items)
-        gaps += m_items.rowFor(item.sequence) == std::exchange(lastRow, m_items.rowFor(item.sequence)) ? 0 : 1;
+    for (const ItemStore::LooseItem &item : items) {
+        const int row = m_items.rowFor(item.sequence);
+        gaps += row == lastRow ? 0 : 1;
+        lastRow = row;
+    }
     return gaps;
 }
 
