@@ -31,9 +31,9 @@ constexpr qint64 windowBytes = 2 * pageBytes;
 
 ReadBudget ReadBudget::forSize(qint64 fileBytes)
 {
-    constexpr qint64 mostOperations = 200'000;
+    constexpr qint64 mostOperations = 60'000; // a long file of zeros takes seconds for them
     constexpr qint64 bytesEach = 512;
-    constexpr qint64 mostBytes = qint64{192} * 1024 * 1024;
+    constexpr qint64 mostBytes = qint64{128} * 1024 * 1024;
     const ReadBudget least;
     return {std::min(least.operations + fileBytes / bytesEach, mostOperations),
             std::min(least.bytes + fileBytes, mostBytes)};
