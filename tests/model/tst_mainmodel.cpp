@@ -188,6 +188,38 @@ private slots:
         QCOMPARE(stage.model.urls(), QList<QUrl>());
     }
 
+    void songsWhoseDiskHasComeGoToTheirPlaces_data()
+    {
+        QTest::addColumn<int>("count");
+        addRow("in ranges", 10);
+        addRow("so many ranges that it is one reset", 140);
+    }
+
+    void songsWhoseDiskHasComeGoToTheirPlaces()
+    {
+        QFETCH(int, count);
+        Stage stage;
+        stage.model.setAutoStart(false);
+        QVERIFY(QDir(stage.folder.path()).mkdir("stick"_s));
+        QList<QUrl> away;
+        QList<QUrl> list;
+        for (int i = 0; i < count / 2; ++i) {
+            away.append(stage.folder.url("stick/%1.mp3"_s.arg(i)));
+            list << stage.song("%1.mp3"_s.arg(i)) << away.last();
+        }
+        stage.model.keep(QUrl::toStringList(list));
+        stage.model.restore();
+        QTRY_COMPARE(stage.model.rowCount(), count / 2);
+        for (int i = 0; i < count / 2; ++i)
+            stage.song("stick/%1.mp3"_s.arg(i));
+        QSignalSpy resets(&stage.model, &MainModel::modelReset);
+        stage.model.add(away);
+        QCOMPARE(stage.model.rowCount(), count);
+        QCOMPARE(resets.count(), count > 100 ? 1 : 0);
+        for (int row = 0; row < count; ++row)
+            QCOMPARE(stage.model.itemAt(row)->url(), list.at(row));
+    }
+
     void aSongThatComesBackDuringItsWriteIsReadAfterwards()
     {
         Stage stage;
