@@ -44,6 +44,13 @@ bool hasSocksLogin(const QNetworkProxy &proxy)
     return proxy.type() == QNetworkProxy::Socks5Proxy && !proxy.user().isEmpty();
 }
 
+// Whether the proxy is not there for any request.
+bool isOutOfReach(QNetworkReply::NetworkError ofProxy)
+{
+    return ofProxy == QNetworkReply::ProxyConnectionRefusedError || ofProxy == QNetworkReply::ProxyNotFoundError ||
+           ofProxy == QNetworkReply::ProxyTimeoutError;
+}
+
 bool isPlain(const QUrl &url)
 {
     return url.scheme() == QLatin1String("http");
@@ -308,10 +315,13 @@ void AccessManager::noteLoginOf(const LimitedReply *reply, const QNetworkReply &
         return;
     if (ofProxy == loginRefused)
         m_login->endCheck(Login::Refused);
-    else if (ofProxy != QNetworkReply::NoError)
+    else if (isOutOfReach(ofProxy))
         m_login->endCheck(Login::Unknown, ofProxy);
+    else if (ofProxy == QNetworkReply::ProxyConnectionClosedError ||
+             source.error() == QNetworkReply::OperationCanceledError)
+        m_login->endCheck(Login::Unknown); // the next one tells
     else
-        m_login->endCheck(source.error() == QNetworkReply::OperationCanceledError ? Login::Unknown : Login::Works);
+        m_login->endCheck(Login::Works); // whatever became of the request, it got past the log-in
 }
 
 void AccessManager::doubt(LimitedReply *reply, bool withLogin)
