@@ -39,7 +39,7 @@ QtObject {
     // The preview, two fields, a header of two lines, some lines of lyrics and what is said below them.
     readonly property int minimumHeight: 6 * margin + playButton + 2 * fieldHeight + grid + toolbarHeight + leastWords + barHeight
     // Three lines of usual lyrics.
-    readonly property int leastWords: scaled(88)
+    readonly property int leastWords: scaled(100)
     // What a key moves the border between list and details by.
     readonly property int splitterStep: 16
 
