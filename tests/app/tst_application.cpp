@@ -106,8 +106,12 @@ private slots:
 
     void aDamagedSettingsFileIsMended()
     {
-        Stage app({}, [&](const Stage &stage) { stage.folder.write(stage.settingsFile, endlessLists()); });
+        Stage app({}, [&](const Stage &stage) {
+            stage.folder.write(stage.settingsFile, endlessLists());
+            stage.folder.write(stage.settingsFile + QLatin1String(".AbCdEf.part")); // of a program that was killed
+        });
         QCOMPARE(app->settings()->lyricsFontSize(), 20);
+        QVERIFY(!QFile::exists(app.settingsFile + QLatin1String(".AbCdEf.part")));
         QVERIFY(app->settingsMending().damaged && app->areSettingsStored());
         QCOMPARE(app->settingsMending().copy, app.settingsFile + QLatin1String(".bad"));
         QCOMPARE(app.folder.read(app->settingsMending().copy), endlessLists());

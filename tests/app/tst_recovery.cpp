@@ -93,6 +93,8 @@ private slots:
         QSettings().setValue("openGlMethod"_s, 3);
         QSettings().setValue("proxy/type"_s, 2);
         QSettings().setValue("endpoints/Genius"_s, "http://127.0.0.1:9"_s);
+        QFile damaged(QSettings().fileName() + QLatin1String(".bad"));
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
         TerminationSignals signalsToEnd;
         QTimer::singleShot(0, this, [person, &signalsToEnd] {
             auto *dialog = qobject_cast<RecoveryDialog *>(QApplication::activeModalWidget());
@@ -103,6 +105,7 @@ private slots:
         });
         QTEST(offerRecovery(Qt::ShiftModifier, signalsToEnd), "expected");
         QTEST(QSettings().allKeys(), "keys");
+        QCOMPARE(damaged.exists(), QSettings().contains("proxy/type"_s));
         QCOMPARE(QSettings().value("openGlMethod"_s).toInt(), 3);
     }
 
