@@ -26,8 +26,8 @@ namespace tags {
 
 namespace {
 
-constexpr int longestStartBytes = 16; // by which a format is told
-constexpr int apeHeaderBytes = 32;    // header and footer alike; https://wiki.hydrogenaud.io/index.php?title=APEv2
+constexpr int longestStartBytes = 8; // by which a format is told
+constexpr int apeHeaderBytes = 32;   // header and footer alike; https://wiki.hydrogenaud.io/index.php?title=APEv2
 
 template<typename... Files>
 bool isOneOf(const TagLib::File &file)
@@ -147,9 +147,9 @@ bool beginsAnotherFormat(const QByteArray &bytes)
                                        "OggS",
                                        "fLaC",
                                        "FLV\1",
-                                       QByteArray::fromHex("3026b2758e66cf11a6d900aa0062ce6c"), // ASF
-                                       QByteArray::fromHex("1a45dfa3"),                         // Matroska
-                                       QByteArray::fromHex("000001ba")};                        // MPEG program stream
+                                       QByteArray::fromHex("3026b275"),  // ASF
+                                       QByteArray::fromHex("1a45dfa3"),  // Matroska
+                                       QByteArray::fromHex("000001ba")}; // MPEG program stream
     static const QByteArrayList atoms{"ftyp", "moov", "mdat", "free", "wide", "skip"};
     return atoms.contains(bytes.mid(4, 4)) ||
            std::any_of(starts.begin(), starts.end(), [&](const QByteArray &start) { return bytes.startsWith(start); });
