@@ -4,7 +4,7 @@
 #include <QFileInfo>
 
 SettingsStore::SettingsStore()
-    : QSettings(path(), QSettings::NativeFormat)
+    : QSettings(path(), QSettings::defaultFormat())
 {
 }
 
@@ -12,7 +12,9 @@ QString SettingsStore::path(const QString &organisation, const QString &applicat
 {
     // By the name of a neighbour that is never there: QSettings reads its files as soon as it is made, and those of the
     // program may be damaged, or a FIFO that never answers.
-    const QFileInfo neighbour(QSettings(organisation + QLatin1String(" place"), application).fileName());
+    const QSettings place(QSettings::defaultFormat(), QSettings::UserScope, organisation + QLatin1String(" place"),
+                          application);
+    const QFileInfo neighbour(place.fileName());
     return QFileInfo(neighbour.path()).path() + QLatin1Char('/') + organisation + QLatin1Char('/') +
            neighbour.fileName();
 }

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "ui/AddDialogs.h"
 
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
 #include "ui/QuestionBox.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QSettings>
 
 static QFileDialog *makeDialog(const QString &title, SettingsKey folder, QFileDialog::FileMode mode, QWidget *parent)
 {
-    auto *dialog = new QFileDialog(parent, title, storedValue(QSettings(), folder).toString());
+    auto *dialog = new QFileDialog(parent, title, storedValue(SettingsStore(), folder).toString());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(mode);
     if (const auto *buttons = dialog->findChild<QDialogButtonBox *>()) // the desktop's own dialog has none

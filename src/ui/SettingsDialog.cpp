@@ -6,6 +6,7 @@
 #include "lyrics/providers/ProviderCatalogue.h"
 #include "network/Endpoints.h"
 #include "network/ProxyTester.h"
+#include "network/SettingsStore.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
 #include "ui/AppPalette.h"
@@ -20,7 +21,6 @@
 #include <QEvent>
 #include <QIntValidator>
 #include <QLocale>
-#include <QSettings>
 #include <QShowEvent>
 #include <QTimer>
 
@@ -45,7 +45,7 @@ const QString disabledMark = QStringLiteral("0");
 // Whether new versions are looked for by themselves, as the updater reads it.
 bool checksForUpdates()
 {
-    return storedValue(QSettings(), SettingsKey::UpdaterPeriod).toLongLong() > 0;
+    return storedValue(SettingsStore(), SettingsKey::UpdaterPeriod).toLongLong() > 0;
 }
 
 void select(QComboBox *box, int index)

@@ -2,13 +2,13 @@
 #include "ui/UsageConsent.h"
 
 #include "network/Endpoints.h"
+#include "network/SettingsStore.h"
 #include "settings/SettingsChange.h"
 #include "settings/SettingsKeys.h"
 #include "tracking/AppTracker.h"
 #include "ui/UsageExample.h"
 
 #include <QApplication>
-#include <QSettings>
 
 static bool environmentForbids()
 {
@@ -25,7 +25,7 @@ UsageConsent::UsageConsent(AppTracker *tracker, QObject *parent)
 
 void UsageConsent::load()
 {
-    const QSettings store;
+    const SettingsStore store;
     m_isPossible = endpointExists(Endpoint::Collector);
     m_isForbidden = environmentForbids();
     const QVariant stored = storedValue(store, SettingsKey::UsageStatistics);
@@ -50,7 +50,7 @@ void UsageConsent::answer(bool yes)
     SettingsChange change;
     change.set(SettingsKey::UsageStatistics, yes);
     if (yes) {
-        const QString stored = storedValue(QSettings(), SettingsKey::TrackerClientId).toString();
+        const QString stored = storedValue(SettingsStore(), SettingsKey::TrackerClientId).toString();
         change.set(SettingsKey::TrackerClientId, m_tracker->allow(stored));
     } else {
         m_tracker->forbid();

@@ -2,6 +2,7 @@
 #include "ui/WindowState.h"
 
 #include "model/MainModel.h"
+#include "network/SettingsStore.h"
 #include "settings/Settings.h"
 #include "settings/SettingsChange.h"
 #include "ui/Legibility.h"
@@ -9,7 +10,6 @@
 
 #include <QMainWindow>
 #include <QScreen>
-#include <QSettings>
 
 #include <optional>
 
@@ -45,7 +45,7 @@ void WindowState::bound()
 
 void WindowState::restore()
 {
-    const QSettings stored;
+    const SettingsStore stored;
     m_window->restoreGeometry(storedValue(stored, SettingsKey::Geometry).toByteArray());
     if (const std::optional<int> width = storedListWidth(stored))
         m_scene->setListWidth(*width);
