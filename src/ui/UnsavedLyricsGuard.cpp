@@ -35,13 +35,12 @@ void UnsavedLyricsGuard::beforeRemoving(std::function<Songs()> songs, std::funct
 
 void UnsavedLyricsGuard::beforeSearching(const Songs &ids, std::function<void()> action)
 {
-    const auto songs = [this, ids] {
-        return those(ids, [this](quint16 id) {
-            const ModelItem *song = m_model->item(id);
-            return song && song->lyricsArtist().isNull() && m_model->hasUnsavedLyrics(id);
-        });
+    const auto hasTypedLyrics = [this](quint16 id) {
+        const ModelItem *song = m_model->item(id);
+        return song && song->lyricsArtist().isNull() && m_model->hasUnsavedLyrics(id);
     };
-    beforeRemoving(songs, std::move(action));
+    const Songs typed = those(ids, hasTypedLyrics);
+    beforeRemoving([typed, hasTypedLyrics] { return those(typed, hasTypedLyrics); }, std::move(action));
 }
 
 void UnsavedLyricsGuard::beforeQuitting(std::function<void()> action)
