@@ -13,7 +13,7 @@ constexpr std::chrono::milliseconds cancelPatience(100);
 // So many parts of one folder may fail to answer before the next folder has its turn.
 constexpr int mostStalls = 8;
 
-Q_LOGGING_CATEGORY(scanLog, "versewell.model")
+Q_LOGGING_CATEGORY(lcModel, "versewell.model")
 
 FolderScanner::FolderScanner(QObject *parent)
     : QObject(parent)
@@ -93,7 +93,7 @@ void FolderScanner::passStalled()
 {
     if (!m_current || m_current->isCancelled() || !m_current->isStalled(m_patience))
         return;
-    qCWarning(scanLog, "A folder does not answer; others are looked at meanwhile.");
+    qCWarning(lcModel, "A folder does not answer; others are looked at meanwhile.");
     m_stalled.append(m_current);
     const QString folder = m_folders.first();
     if (++m_stalls < mostStalls)
