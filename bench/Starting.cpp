@@ -96,11 +96,47 @@ struct Waits
     std::vector<double> list;  // until its first rows are, or, where no list is kept, it was made; not of a bare window
 };
 
+// The screen of a start: none, as the other benches have it, or one of an X server that shows it to nobody.
+class Screen
+{
+public:
+    explicit Screen(const QString &platform)
+        : m_environment(QProcessEnvironment::systemEnvironment())
+    {
+        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+    }
+    ~Screen()
+    {
+        m_server.terminate();
+        m_server.waitForFinished();
+    }
+    Screen(const Screen &) = delete;
+    Screen &operator=(const Screen &) = delete;
+
+    // Ends the bench when there is no such server.
+    void startServer()
+    {
+        m_server.start(QStringLiteral("Xvfb"),
+                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                        QStringLiteral("0"), QStringLiteral("1600x1000x24"), QStringLiteral("-nolisten"),
+                        QStringLiteral("tcp")});
+        if (!m_server.waitForReadyRead())
+            qFatal("Xvfb does not start");
+        m_environment.insert(QStringLiteral("DISPLAY"),
+                             QLatin1Char(':') + QString::fromLatin1(m_server.readLine().trimmed()));
+    }
+    [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
+
+private:
+    QProcess m_server;
+    QProcessEnvironment m_environment;
+};
+
 // One start more, in a home of its own with its settings.
-void start(const QStringList &role, const QString &home, Waits *waits)
+void start(const Screen &screen, const QStringList &role, const QString &home, Waits *waits)
 {
     QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = screen.environment();
     for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         environment.insert(QLatin1String(folder), home);
     process.setProcessEnvironment(environment);
@@ -130,6 +166,52 @@ QString writeBareScene(const QTemporaryDir &folder)
     return document.fileName();
 }
 
+// The rows of starts on one screen.
+class Starts
+{
+public:
+    Starts()
+    {
+        m_songs.addOriginal(QStringLiteral("plain-v23.mp3"));
+        m_many = m_songs.links(benchSize(20000));
+        storeList(m_emptyHome.path(), {});
+        storeList(m_fewHome.path(), m_many.mid(0, m_many.size() / 4));
+        storeList(m_manyHome.path(), m_many);
+    }
+
+    void print(const Screen &screen, const QString &place) const
+    {
+        const QStringList bare{QLatin1String(bareRole), writeBareScene(m_bareHome)};
+        const QStringList program{QLatin1String(programRole)};
+        Waits ofBare;
+        Waits ofEmpty;
+        Waits ofFew;
+        Waits ofMany;
+        for (int round = 0; round < 21; ++round) {
+            start(screen, bare, m_bareHome.path(), &ofBare);
+            start(screen, program, m_emptyHome.path(), &ofEmpty);
+            start(screen, program, m_fewHome.path(), &ofFew);
+            start(screen, program, m_manyHome.path(), &ofMany);
+        }
+        BenchTable::printRow(place + QStringLiteral("start to the first frame, empty list / a bare window"), 0,
+                             median(ofEmpty.frame), median(ofBare.frame), 0, 0, {1.5});
+        BenchTable::printRow(place + QStringLiteral("the same, kept list, no rows yet / empty list"), m_many.size(),
+                             median(ofMany.frame), median(ofEmpty.frame), median(ofFew.frame), 4,
+                             {2, BenchTable::inStep});
+        BenchTable::printRow(place + QStringLiteral("first rows of a kept list / until the empty list is made"),
+                             m_many.size(), median(ofMany.list), median(ofEmpty.list), median(ofFew.list), 4,
+                             {2, BenchTable::inStep});
+    }
+
+private:
+    SongFolder m_songs;
+    QList<QUrl> m_many;
+    QTemporaryDir m_bareHome;
+    QTemporaryDir m_emptyHome;
+    QTemporaryDir m_fewHome;
+    QTemporaryDir m_manyHome;
+};
+
 } // namespace
 
 bool isStartCall(int argc, const char *const *argv)
@@ -147,33 +229,10 @@ void runStart(int &argc, char **argv)
 
 void benchStarting()
 {
-    SongFolder songs;
-    songs.addOriginal(QStringLiteral("plain-v23.mp3"));
-    const QList<QUrl> many = songs.links(benchSize(20000));
-    const QTemporaryDir bareHome;
-    const QTemporaryDir emptyHome;
-    const QTemporaryDir fewHome;
-    const QTemporaryDir manyHome;
-    storeList(emptyHome.path(), {});
-    storeList(fewHome.path(), many.mid(0, many.size() / 4));
-    storeList(manyHome.path(), many);
-    const QStringList bare{QLatin1String(bareRole), writeBareScene(bareHome)};
-    const QStringList program{QLatin1String(programRole)};
-    Waits ofBare;
-    Waits ofEmpty;
-    Waits ofFew;
-    Waits ofMany;
-    for (int round = 0; round < 21; ++round) {
-        start(bare, bareHome.path(), &ofBare);
-        start(program, emptyHome.path(), &ofEmpty);
-        start(program, fewHome.path(), &ofFew);
-        start(program, manyHome.path(), &ofMany);
-    }
-    BenchTable::printRow(QStringLiteral("start to the first frame, empty list / a bare window with a scene"), 0,
-                         median(ofEmpty.frame), median(ofBare.frame), 0, 0, {1.5});
-    BenchTable::printRow(QStringLiteral("start to the first frame, kept list, no rows yet / empty list"), many.size(),
-                         median(ofMany.frame), median(ofEmpty.frame), median(ofFew.frame), 4, {2, BenchTable::inStep});
-    BenchTable::printRow(QStringLiteral("start to the first rows of a kept list / until the empty list is made"),
-                         many.size(), median(ofMany.list), median(ofEmpty.list), median(ofFew.list), 4,
-                         {2, BenchTable::inStep});
+    const Starts starts;
+    const Screen none(QStringLiteral("offscreen"));
+    starts.print(none, QStringLiteral("no screen, "));
+    Screen x(QStringLiteral("xcb"));
+    x.startServer();
+    starts.print(x, QStringLiteral("X, "));
 }
