@@ -116,7 +116,7 @@ void IncomingFiles::takeFound()
     fetchPlaces();
     for (Job &job : m_jobs) {
         passStalled(job);
-        if (!m_places && !job.isKept)
+        if (!m_places)
             continue;
         Found found = takeFrom(job);
         const bool isFirst = !job.hasReported && (job.isKept || !isKeptBusy);
