@@ -173,10 +173,9 @@ private slots:
         stage.model.keep(QUrl::toStringList(list.mid(0, 3)) + QStringList(odd.toLocalFile()) +
                          QUrl::toStringList(list.mid(4)));
         QCOMPARE(stage.model.urls(), list); // also when the program ends before it looks at them
+        QVERIFY(stage.model.isRestoring());
         stage.model.restore();
-        QVERIFY(stage.model.isRestoring() && stage.model.urls() == list);
         stage.model.add({songs.at(1)});
-        QCOMPARE(stage.model.rowCount(), 1);
         QTRY_COMPARE(stage.model.urls(), (QList<QUrl>{songs.at(2), away, odd, songs.at(0), songs.at(1)}));
         QCOMPARE(stage.model.entries().at(2), odd.toLocalFile()); // its url could not be read back
         QCOMPARE(stage.model.rowCount(), 4);
