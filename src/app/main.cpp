@@ -65,13 +65,14 @@ QString damageText(const QString &copy)
         .arg(QDir::toNativeSeparators(copy));
 }
 
-// Brings the songs into the list, which is searched for then. After damage not before the user has seen that: the proxy
-// may be among what was lost, and the sites would be asked without it.
+// Brings the songs into the list, which is searched for then, and lets usage events go. After damage not before the
+// user has seen that: the proxy may be among what was lost, and all would go out without it.
 void beginWithSongs(Application &app, MainWindow *window, const QList<QUrl> &songs)
 {
     const auto begin = [&app, songs] {
         app.mainModel()->restore();
         app.mainModel()->addUrlsFromDrop(songs);
+        app.tracker()->release();
     };
     if (!app.settingsMending().damaged) {
         begin();
@@ -111,7 +112,6 @@ int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSigna
     });
     QObject::connect(&window, &MainWindow::firstFrameShown, &app, [&app, &window, songs] {
         beginWithSongs(app, &window, songs);
-        app.tracker()->release();
         app.updater()->setParentWindow(&window);
         // The way of the window's own "Quit", so that the end of the session is reported. It ends in the application's
         // quit() as well, when the window has gone.

@@ -248,6 +248,15 @@ bool isNotice(const QString &lyrics)
     return text.size() <= mostOfShort && (holdsOneOf(text, shortNotices()) || wholeNotices().contains(bare(text)));
 }
 
+// Characters that could not be read. One or two in many words were cut by the site.
+bool isBroken(const QString &text)
+{
+    constexpr int mostBroken = 2;
+    constexpr int lettersToEach = 100;
+    const int broken = text.count(QChar::ReplacementCharacter);
+    return broken > mostBroken || broken * lettersToEach > text.size();
+}
+
 } // namespace
 
 bool isJunk(const QString &lyrics, const QString &markup)
@@ -257,5 +266,5 @@ bool isJunk(const QString &lyrics, const QString &markup)
     if (lyrics.toUtf8().size() > mostBytes || holdsLeftOvers(markup))
         return true;
     const QString text = asStored(lyrics);
-    return !holdsWords(text) || text.contains(QChar::ReplacementCharacter) || holdsLeftOvers(text) || isNotice(text);
+    return !holdsWords(text) || isBroken(text) || holdsLeftOvers(text) || isNotice(text);
 }

@@ -119,8 +119,9 @@ void IncomingFiles::takeFound()
         if (!m_places)
             continue;
         Found found = takeFrom(job);
-        const bool isFirst = !job.hasReported && (job.isKept || !isKeptBusy);
+        const bool isFirst = !job.hasReported && (job.isKept ? !m_haveOthersCome : !isKeptBusy);
         job.hasReported = !isFirst || !found.files.isEmpty();
+        m_haveOthersCome = m_haveOthersCome || (!job.isKept && !found.files.isEmpty());
         if (!found.isEmpty())
             reports.push_back({job.use, std::move(found), isFirst});
     }

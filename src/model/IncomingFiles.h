@@ -96,6 +96,7 @@ private:
 
     const DelayedFileCheck::Look m_look;
     std::unique_ptr<DelayedFileCheck> m_kept; // until restore()
+    bool m_haveOthersCome = false;            // than those of the kept list; their reads go on with its own
     bool m_isRestoring = false;
     std::vector<Job> m_jobs;
     QTimer m_nextLook; // runs while there are jobs

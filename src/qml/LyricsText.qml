@@ -98,7 +98,7 @@ ScrollView {
                 view.edited(text);
         }
         onCursorRectangleChanged: {
-            if (view.editing && activeFocus)
+            if (view.editing && activeFocus && !replacing)
                 view.showCursor();
         }
         // What can only be read is scrolled, and its cursor moves only when something is selected, by key or by mouse.

@@ -32,9 +32,9 @@ ScrollView {
             select(row);
     }
 
-    // Selects this row alone; one that is current but not selected as well, which the model takes for no change.
+    // Selects this row alone; the current one as well, which the model takes for no change.
     function select(row) {
-        if (row === proxyModel.currentIndex && !proxyModel.isSelected(row))
+        if (row === proxyModel.currentIndex && (!proxyModel.isSelected(row) || proxyModel.selectedCount > 1))
             proxyModel.currentIndex = -1;
         proxyModel.currentIndex = row;
     }
@@ -68,8 +68,10 @@ ScrollView {
     // Keys without a modifier. Whether the key was one of them.
     function moveByKey(key) {
         var target = key === Qt.Key_Space ? list.currentIndex : targetOf(key);
-        if (target >= 0)
+        if (target >= 0) {
             select(target);
+            showCurrentRow();
+        }
         return target >= 0 || stepOf(key) !== 0;
     }
 
@@ -84,7 +86,13 @@ ScrollView {
             proxyModel.moveCurrent(target);
         else
             return false;
+        showCurrentRow();
         return true;
+    }
+
+    // Rows that go in the same moment keep the view from following.
+    function showCurrentRow() {
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain);
     }
 
     function requestMenuByKey() {
@@ -110,8 +118,8 @@ ScrollView {
         property int countBefore: 0
 
         function keepPlace() {
-            keptY = contentY;
-            keptTop = currentIndex * Measures.rowHeight - contentY;
+            keptY = contentY - originY; // rows that went above the view have moved its origin
+            keptTop = currentItem !== null ? currentItem.y - contentY : -Measures.rowHeight;
         }
 
         // The current row stays where it was seen; where it was not, the view does.
@@ -124,19 +132,26 @@ ScrollView {
         }
 
         // The song that takes the place of one that is hidden or removed: where none is selected, keys and clicks
-        // would have nothing to work on.
+        // would have nothing to work on. A song that goes by itself while its names are typed leaves the keyboard where
+        // it is: what is typed on must not remove songs.
         function selectSuccessor() {
             if (proxyModel.selectedCount === 0 && proxyModel.currentIndex >= 0)
                 songList.select(proxyModel.currentIndex);
+        }
+
+        function keyboardInText() {
+            var item = Window.activeFocusItem;
+            return item !== null && item.cursorPosition !== undefined && !item.readOnly;
         }
 
         function showCurrent() {
             songList.follow();
             // Rows that come and go around the current song move its row, which is no reason to take the keyboard away.
             var song = proxyModel.currentItem();
-            if (song !== shownSong && song !== null)
+            var isSuccessor = song !== null && shownId >= 0 && proxyModel.rowOf(shownId) < 0;
+            if (song !== shownSong && song !== null && !(isSuccessor && keyboardInText()))
                 songList.takeFocus();
-            if (song !== null && shownId >= 0 && proxyModel.rowOf(shownId) < 0)
+            if (isSuccessor && !keyboardInText())
                 Qt.callLater(selectSuccessor); // the selection is told of after the current row
             shownSong = song;
             shownId = song ? song.id : -1;

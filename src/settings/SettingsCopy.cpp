@@ -44,9 +44,14 @@ bool giveSameOwner(QFile *file, const QString &path)
         return errno == ENOENT;
     if (fstat(file->handle(), &own) != 0)
         return false;
+    mode_t mode = wanted.st_mode & ACCESSPERMS;
     const bool isSame = own.st_uid == wanted.st_uid && own.st_gid == wanted.st_gid;
-    return (isSame || fchown(file->handle(), wanted.st_uid, wanted.st_gid) == 0) &&
-           fchmod(file->handle(), wanted.st_mode & ACCESSPERMS) == 0;
+    if (!isSame && fchown(file->handle(), wanted.st_uid, wanted.st_gid) != 0) {
+        if (own.st_uid != wanted.st_uid)
+            return false;
+        mode &= ~static_cast<mode_t>(S_IRWXG); // a group that the user is not in, and cannot give
+    }
+    return fchmod(file->handle(), mode) == 0;
 }
 
 // A name that was never used: QSettings remembers what it could not write under a name, and would add it later. And one

@@ -241,7 +241,7 @@ SettingsFileCheck checkSettingsFile(const QByteArray &content)
 {
     static const QByteArray byteOrderMark("\xef\xbb\xbf");
     SettingsFileCheck check;
-    const bool hasLostItsEnd = content.startsWith(firstLine) && !content.contains('\n' + lastLine);
+    const bool hasLostItsEnd = content.startsWith(firstLine) && !content.contains('\n' + lastLine.trimmed());
     check.damaged = hasLostItsEnd || content.isEmpty();
     bool isGroupReadable = true;
     QByteArray group;

@@ -124,7 +124,7 @@ bool overwritesWithoutRoom(int descriptor)
 qint64 freeBytes(int descriptor)
 {
     struct statvfs status = {};
-    if (::fstatvfs(descriptor, &status) != 0)
+    if (::fstatvfs(descriptor, &status) != 0 || status.f_blocks == 0) // some file systems of user space do not tell
         return -1;
     return static_cast<qint64>(status.f_bavail) * static_cast<qint64>(status.f_frsize);
 }

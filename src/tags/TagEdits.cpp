@@ -126,14 +126,20 @@ NewTag newTagOf(TagLib::File &file)
     return {};
 }
 
-// What ID3v1 had to cut.
+// Whether ID3v1 holds no more than this of the whole text: so many bytes of Latin-1, with "?" for other characters.
+bool isRestOf(const QString &whole, const QString &cut, int bytes)
+{
+    return QString::fromLatin1(whole.toLatin1().left(bytes)).trimmed() == cut;
+}
+
+// What ID3v1 had to cut, or could not spell.
 void fillCutTexts(TagLib::Tag &tag, const TagLib::Tag *source)
 {
     for (const QLatin1String key : {keys::title, keys::artist, keys::album, keys::comment}) {
         const QString whole = source ? value(*source, key) : QString();
         const QString cut = value(tag, key);
-        const int mostBytes = key == keys::comment ? id3v1FieldBytes - 2 : id3v1FieldBytes; // of version 1.1
-        if (cut.size() >= mostBytes && whole.startsWith(cut))
+        const bool isComment = key == keys::comment; // two bytes shorter in version 1.1
+        if (isRestOf(whole, cut, id3v1FieldBytes) || (isComment && isRestOf(whole, cut, id3v1FieldBytes - 2)))
             setValue(tag, key, whole);
     }
 }

@@ -131,8 +131,11 @@ ProviderStep readGeniusContainers(const QString &songPage)
     int searched = 0;
     while (const auto container = containers.next(searched)) {
         const QString element = elementAt(songPage, container->position);
-        if (element.isEmpty()) // the page was cut off, and half a song is none
-            return ProviderStep::notUnderstood();
+        if (element.isEmpty()) {
+            if (songPage.contains(QLatin1String("</html"), Qt::CaseInsensitive))
+                break;                            // bad markup behind the words
+            return ProviderStep::notUnderstood(); // the page was cut off, and half a song is none
+        }
         const QString fragment = withoutBlocksOnOneLine(withPlainBreaksAsNewlines(withoutScriptsAndStyles(element)));
         const QString text = lyricsOfContainer(fragment);
         if (!text.isEmpty() && !lyrics.isEmpty())
