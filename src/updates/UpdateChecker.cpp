@@ -4,7 +4,6 @@
 #include "network/Endpoints.h"
 #include "network/Redirects.h"
 #include "updates/OwnFile.h"
-#include "updates/SetupVerifier.h"
 #include "updates/UpdateInformation.h"
 #include "updates/UpdateSignature.h"
 #include "updates/UpdatesLog.h"
@@ -68,6 +67,7 @@ UpdateChecker::UpdateChecker(const UpdateEnvironment &environment, QObject *pare
     : QObject(parent)
     , m_environment(environment)
     , m_folder(environment.folder)
+    , m_installation(environment)
     , m_downloadAction(tr("Download update", "Action text"))
     , m_abortAction(tr("Cancel downloading", "Action text"))
     , m_installAction(tr("Exit and install update", "Action text"))
@@ -75,6 +75,9 @@ UpdateChecker::UpdateChecker(const UpdateEnvironment &environment, QObject *pare
     connect(&m_downloadAction, &QAction::triggered, this, &UpdateChecker::download);
     connect(&m_abortAction, &QAction::triggered, this, &UpdateChecker::abortDownload);
     connect(&m_installAction, &QAction::triggered, this, &UpdateChecker::install);
+    connect(&m_installation, &SetupInstallation::changed, this, &UpdateChecker::installingChanged);
+    connect(&m_installation, &SetupInstallation::handedOver, this, &UpdateChecker::exitRequest);
+    connect(&m_installation, &SetupInstallation::failed, this, &UpdateChecker::installFailed);
     updateActions();
 }
 
@@ -558,88 +561,18 @@ bool UpdateChecker::isInstallable() const
     return !m_setupPath.isEmpty() && !m_environment.keys.isEmpty() && isUpdateSignature(latest().signature);
 }
 
-void UpdateChecker::setStep(Step step)
-{
-    if (std::exchange(m_step, step) != step)
-        emit installingChanged();
-}
-
 void UpdateChecker::install()
 {
-    if (m_state != InstallAvailable || isInstalling())
+    if (m_state != InstallAvailable)
         return;
-    if (m_step == Step::Asking) {
-        askToInstall();
-        return;
-    }
-    if (!isInstallable()) {
+    if (isInstallable())
+        m_installation.begin(m_setupPath, latest());
+    else
         installFailed("there is no setup file, no signature, or no key to check it with");
-        return;
-    }
-    m_verifier = std::make_shared<SetupVerifier>(m_setupPath, latest(), m_environment.keys);
-    connect(m_verifier.get(), &QThread::finished, this, &UpdateChecker::setupVerified);
-    m_verifier->start();
-    setStep(Step::Checking);
-}
-
-void UpdateChecker::abortInstall()
-{
-    m_verifier.reset();
-    setStep(Step::None);
-}
-
-void UpdateChecker::setupVerified()
-{
-    // A call that was queued by one that was dropped says nothing of another.
-    if (m_step != Step::Checking || !m_verifier->isFinished())
-        return;
-    if (m_verifier->isGood()) {
-        setStep(Step::Asking);
-        askToInstall();
-        return;
-    }
-    if (m_verifier->isForged())
-        QFile::remove(m_setupPath); // or the next check would take it for a complete download
-    installFailed("the setup file is not what the maker signed");
-}
-
-void UpdateChecker::askToInstall()
-{
-    const auto open = [this, known = std::weak_ptr<SetupVerifier>(m_verifier)] {
-        // As long as the verifier is there, so is this. The user may be asked twice and agree twice.
-        if (!known.expired() && m_step == Step::Asking)
-            openSetup();
-    };
-    if (m_beforeInstall)
-        m_beforeInstall(open);
-    else
-        open();
-}
-
-void UpdateChecker::openSetup()
-{
-    if (!m_verifier->isGood()) { // any more
-        installFailed("the setup file has changed since it was checked");
-        return;
-    }
-    setStep(Step::Opening);
-    m_environment.open(m_setupPath, [this, known = std::weak_ptr<SetupVerifier>(m_verifier)](bool opened) {
-        if (!known.expired())
-            setupOpened(opened);
-    });
-}
-
-void UpdateChecker::setupOpened(bool opened)
-{
-    if (opened)
-        emit exitRequest();
-    else
-        installFailed("nothing on this desktop opens the setup file");
 }
 
 void UpdateChecker::installFailed(const char *reason)
 {
     qCWarning(updatesLog, "The update is not installed: %s.", reason);
-    abortInstall();
     setError(tr("Can't install update"));
 }

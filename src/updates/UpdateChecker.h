@@ -4,6 +4,7 @@
 #include "network/AccessManager.h"
 #include "updates/PartialDownload.h"
 #include "updates/ReleasedVersion.h"
+#include "updates/SetupInstallation.h"
 #include "updates/UpdateEnvironment.h"
 #include "updates/UpdateFolder.h"
 
@@ -14,12 +15,9 @@
 #include <QObject>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
-
-class SetupVerifier;
 
 // Asks the maker's site for a newer version, downloads its setup file and hands it to the desktop, as a state machine:
 //
@@ -45,8 +43,7 @@ public:
     enum States { Normal, Checking, UpdateAvailable, Downloading, InstallAvailable, Error, UpToDate };
     Q_ENUM(States)
 
-    // Runs its argument, at once, later or never: when the user agrees to leave what would be lost.
-    using Question = std::function<void(std::function<void()> then)>;
+    using Question = SetupInstallation::Question;
 
     explicit UpdateChecker(const UpdateEnvironment &environment = {}, QObject *parent = nullptr);
     ~UpdateChecker() override;
@@ -67,10 +64,10 @@ public:
     // Of the setup file, in bytes, with what an earlier download left.
     [[nodiscard]] qint64 downloaded() const { return m_downloaded; }
     // Whether the setup file is being checked or opened, which may take seconds.
-    [[nodiscard]] bool isInstalling() const { return m_step == Step::Checking || isOpening(); }
+    [[nodiscard]] bool isInstalling() const { return m_installation.isBusy(); }
     // Whether the user has agreed to leave and the setup file is being opened. Nothing that could be lost may be begun
     // then.
-    [[nodiscard]] bool isOpening() const { return m_step == Step::Opening; }
+    [[nodiscard]] bool isOpening() const { return m_installation.isOpening(); }
     [[nodiscard]] bool isQuiet() const { return m_quiet; }
 
     // "Download update", "Cancel downloading", "Exit and install update". Visible in the states in which they work;
@@ -83,7 +80,7 @@ public:
     // same.
     void setQuiet(bool quiet) { m_quiet = quiet; }
     // Asked when the setup file has proved to be the maker's, and before it is opened. None: nothing is asked.
-    void setBeforeInstall(Question question) { m_beforeInstall = std::move(question); }
+    void setBeforeInstall(Question question) { m_installation.setQuestion(std::move(question)); }
     // For the requests from now on.
     void useProxy(const QNetworkProxy &proxy);
 
@@ -98,7 +95,7 @@ public slots:
     // called again, as long as the user does not agree.
     void install();
     // Drops what install() began, at the latest after a block of the file; the state stays.
-    void abortInstall();
+    void abortInstall() { m_installation.abort(); }
     // In Downloading; what has come is kept for the next time.
     void abortDownload();
     // In Checking; the state becomes Normal.
@@ -125,8 +122,6 @@ private slots:
 
 private:
     AccessManager &manager();
-    // Of the installation.
-    enum class Step { None, Checking, Asking, Opening };
     using Handler = void (UpdateChecker::*)();
     // Where an answer leads: the target, or, when that is empty, why nobody goes there.
     struct Redirect
@@ -172,11 +167,6 @@ private:
     void downloadFailed(const QString &reason);
 
     [[nodiscard]] bool isInstallable() const;
-    void setStep(Step step);
-    void setupVerified();
-    void askToInstall();
-    void openSetup();
-    void setupOpened(bool opened);
     void installFailed(const char *reason);
 
     UpdateEnvironment m_environment;
@@ -198,9 +188,7 @@ private:
     qint64 m_discarded = 0; // bytes of the answer in flight
     PartialDownload m_partial;
     std::optional<PartialDownload::Rest> m_rest; // that the request in flight is to be the other part of
-    Step m_step = Step::None;
-    std::shared_ptr<SetupVerifier> m_verifier; // of the installation under way; holds what is compared with the path
-    Question m_beforeInstall;
+    SetupInstallation m_installation;
     QAction m_downloadAction;
     QAction m_abortAction;
     QAction m_installAction;
