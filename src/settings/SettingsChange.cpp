@@ -42,7 +42,35 @@ bool isStored(const QVariant &stored, const QVariant &value)
 bool isWhole(const QByteArray &content, int entries)
 {
     const SettingsFileCheck check = checkSettingsFile(content);
-    return check.clean && check.entries == entries && content.size() <= largestSettingsFileBytes;
+    return check.clean && check.entries == entries;
+}
+
+const QByteArray firstGroup("[General]\n");
+
+// Takes the line of the kept list out. Nothing, and all stays, unless it stands where the store writes it, and once.
+QByteArray takeListLine(QByteArray *content)
+{
+    const QByteArray begin = '\n' + keyName(SettingsKey::FilesList).toLatin1() + '=';
+    const int group = content->indexOf('[');
+    if (group < 0 || content->mid(group, firstGroup.size()) != firstGroup)
+        return {};
+    const int start = content->indexOf(begin, group) + 1;
+    const int end = content->indexOf('\n', start) + 1;
+    const int nextGroup = content->indexOf("\n[", group + firstGroup.size() - 1);
+    const bool isUsual = start > 0 && end > 0 && (nextGroup < 0 || nextGroup > start);
+    if (!isUsual || content->indexOf(begin, end - 1) >= 0)
+        return {};
+    const QByteArray line = content->mid(start, end - start);
+    content->remove(start, line.size());
+    return line;
+}
+
+QByteArray withListLine(const QByteArray &content, const QByteArray &line)
+{
+    if (line.isEmpty())
+        return content;
+    const bool hasGroup = content.startsWith(firstGroup);
+    return firstGroup + line + content.mid(hasGroup ? firstGroup.size() : 0);
 }
 
 void clearAllBut(const QVector<SettingsKey> &keys, QSettings *store)
@@ -100,13 +128,24 @@ bool SettingsChange::writeNewFile(const QString &path, SettingsMending *mended) 
     *mended = mendSettingsFile(path, SettingsFileAccess::Mend);
     if (mended->standIn)
         return false;
-    const std::optional<QByteArray> old = contentOf(path);
+    std::optional<QByteArray> old = contentOf(path);
+    const QByteArray listLine = old && keepsList() ? takeListLine(&*old) : QByteArray();
     SettingsCopy copy(path);
     if (!old || !copy.write(*old))
         return false;
     const std::optional<int> entries = edit(copy.fileName());
     const std::optional<QByteArray> edited = contentOf(copy.fileName());
-    return entries && edited && isWhole(*edited, *entries) && copy.write(markedAsWhole(*edited)) && copy.takePlace();
+    if (!entries || !edited || !isWhole(*edited, *entries))
+        return false;
+    const QByteArray content = withListLine(*edited, listLine);
+    return content.size() <= largestSettingsFileBytes && copy.write(markedAsWhole(content)) && copy.takePlace();
+}
+
+// The list of tens of thousands of songs then goes round QSettings, for which it is most of the work.
+bool SettingsChange::keepsList() const
+{
+    return !m_kept && std::none_of(m_values.begin(), m_values.end(),
+                                   [](const auto &entry) { return entry.first == SettingsKey::FilesList; });
 }
 
 std::optional<int> SettingsChange::edit(const QString &file) const

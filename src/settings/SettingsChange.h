@@ -38,6 +38,8 @@ public:
 private:
     [[nodiscard]] bool changesNothing() const;
     [[nodiscard]] bool writeNewFile(const QString &path, SettingsMending *mended) const;
+    // Whether the kept list of songs stays as it is.
+    [[nodiscard]] bool keepsList() const;
     // How many entries the file holds then; nothing when it cannot be changed.
     [[nodiscard]] std::optional<int> edit(const QString &file) const;
 

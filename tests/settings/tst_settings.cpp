@@ -244,6 +244,40 @@ private slots:
         QVERIFY(m_folder.read(m_path).contains("prependNewLine=false"));
     }
 
+    void theKeptListOutlivesSmallChanges_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const QByteArray list("filesList=file:///a, \"file:///b;c,[General]\", file:///d%20e\n");
+        const QByteArray general("[General]\n");
+        const QByteArray proxy("\n[proxy]\naddress=[General]\n");
+        addRow("between others", general + "language=de\n" + list + "FirstStart=1.5.6\n" + proxy);
+        addRow("alone in its group", general + list + proxy);
+        addRow("without any group", list + proxy);
+        addRow("behind another group", proxy + '\n' + general + list);
+        addRow("twice", general + "filesList=file:///old\n" + list);
+        addRow("in two groups", general + list + "\n[other]\n" + list);
+        addRow("of another group", general + "language=de\n\n[other]\n" + list);
+    }
+
+    void theKeptListOutlivesSmallChanges()
+    {
+        QFETCH(QByteArray, content);
+        m_folder.write(m_path, content);
+        QVariantMap expected = stored();
+        QVERIFY(!expected.isEmpty());
+        for (const QVariant &width : {QVariant("300"_s), QVariant()}) { // stored, and removed
+            SettingsChange change;
+            change.set(SettingsKey::ListWidth, width);
+            QVERIFY(change.commit());
+            if (width.isValid())
+                expected.insert("listWidth"_s, width);
+            else
+                expected.remove("listWidth"_s);
+            QCOMPARE(stored(), expected);
+            QVERIFY(!checkSettingsFile(m_folder.read(m_path)).damaged);
+        }
+    }
+
     void aStoredFileThatLostItsEndIsDamaged()
     {
         QVERIFY(Settings().save());
@@ -291,6 +325,16 @@ private slots:
     }
 
 private:
+    static QVariantMap stored()
+    {
+        const SettingsStore store;
+        QVariantMap values;
+        const QStringList keys = store.allKeys();
+        for (const QString &key : keys)
+            values.insert(key, store.value(key));
+        return values;
+    }
+
     TestFolder m_folder;
     QString m_path;
 };
