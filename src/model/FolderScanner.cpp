@@ -35,14 +35,19 @@ void FolderScanner::cancelStalled()
     m_stalled.clear();
 }
 
+const FolderScanProgress *FolderScanner::shown() const
+{
+    return m_current || m_stalled.isEmpty() ? m_current.get() : m_stalled.last().get();
+}
+
 QString FolderScanner::lastFile() const
 {
-    return m_current ? m_current->lastFile() : QString();
+    return shown() ? shown()->lastFile() : QString();
 }
 
 int FolderScanner::lastCount() const
 {
-    return m_current ? m_current->count() : 0;
+    return shown() ? shown()->count() : 0;
 }
 
 void FolderScanner::addFolder(const QUrl &folder)
@@ -104,8 +109,11 @@ void FolderScanner::passStalled()
 
 void FolderScanner::reportLate(const Progress &walked, const QList<QUrl> &files)
 {
-    if (m_stalled.removeOne(walked))
-        report(walked, files);
+    if (!m_stalled.removeOne(walked))
+        return;
+    report(walked, files);
+    if (!processing())
+        emit processingChanged(false);
 }
 
 void FolderScanner::report(const Progress &walked, const QList<QUrl> &files)
@@ -134,19 +142,24 @@ void FolderScanner::scanned(const QString &folder, const QList<QUrl> &files)
     // What a cancelled walk came past was not reported.
     if (wasCancelled || m_folders.isEmpty())
         m_walked.reset();
-    if (m_folders.isEmpty()) {
-        m_stallCheck.stop();
-        emit processingChanged(false);
-    } else {
+    if (!m_folders.isEmpty()) {
         scanNext();
+        return;
     }
+    m_stallCheck.stop();
+    if (!processing())
+        emit processingChanged(false);
 }
 
 void FolderScanner::cancel()
 {
+    const bool wasProcessing = processing();
     cancelStalled();
-    if (!m_current)
+    if (!m_current) {
+        if (wasProcessing)
+            emit processingChanged(false);
         return;
+    }
     m_current->cancel();
     m_folders.clear();
     emit foldersChanged();

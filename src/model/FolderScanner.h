@@ -35,16 +35,18 @@ public:
     // How long a disk may take for one answer, before others are asked. For tests.
     void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
 
-    [[nodiscard]] bool processing() const { return m_current != nullptr; }
+    // Whether a walk is under way, or waits for a disk that does not answer.
+    [[nodiscard]] bool processing() const { return m_current || !m_stalled.isEmpty(); }
     // Paths of the folders still to be done; the one being walked is the first.
     [[nodiscard]] QStringList folders() const { return m_folders; }
 
-    // For a progress text while a walk is under way: the name of its newest file, and how many it has found.
+    // For a progress text while a walk is under way: the name of its newest file, and how many it has found. Of one
+    // that waits for its disk when there is no other.
     Q_INVOKABLE QString lastFile() const;
     Q_INVOKABLE int lastCount() const;
 
 signals:
-    // True at the start of each walk, false once at the end of the last.
+    // True at the start of each walk, false once at the end of the last, also of those that wait for their disks.
     void processingChanged(bool processing);
     void foldersChanged();
     // All files of one folder that was added, at the end of its walk and never empty: those of each folder by name,
@@ -67,6 +69,7 @@ public slots:
 private:
     using Progress = std::shared_ptr<FolderScanProgress>;
 
+    [[nodiscard]] const FolderScanProgress *shown() const;
     [[nodiscard]] QString nameFilters() const;
     void walk(DelayedFolderScanner *walk);
     void passStalled();

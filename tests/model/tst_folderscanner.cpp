@@ -216,11 +216,23 @@ private slots:
     {
         Tree songs(words("a/1.mp3|a/dead/2.mp3|a/dead/3/4.mp3|a/last/5.mp3|b/6.mp3"));
         songs.scanner.setPatience(std::chrono::milliseconds(100));
-        QVERIFY(songs.scan({songs.folder.url("a"_s), songs.folder.url("b"_s)}));
-        QCOMPARE(songs.found(), words("a/1.mp3|a/last/5.mp3|b/6.mp3"));
-        deadDisk.release();
-        QTRY_COMPARE(songs.batches.count(), 3);
-        QCOMPARE(songs.found().mid(3), words("a/dead/2.mp3|a/dead/3/4.mp3"));
+        const QStringList others = words("a/1.mp3|a/last/5.mp3|b/6.mp3");
+        QSignalSpy processing(&songs.scanner, &FolderScanner::processingChanged);
+        for (const bool isCancelled : {true, false}) {
+            songs.batches.clear();
+            songs.scanner.addFolders({songs.folder.url("a"_s), songs.folder.url("b"_s)});
+            QTRY_COMPARE(songs.found(), others);
+            QVERIFY(songs.scanner.processing() && processing.last() == QVariantList{true}); // can be cancelled
+            QCOMPARE(songs.scanner.lastCount(), 1);                                         // of the one that waits
+            if (isCancelled)
+                songs.scanner.cancel();
+            QCOMPARE(songs.scanner.processing(), !isCancelled);
+            deadDisk.release();
+            QTRY_VERIFY(!songs.scanner.processing() && processing.last() == QVariantList{false});
+            QVERIFY(QThreadPool::globalInstance()->waitForDone(20000));
+            QCoreApplication::processEvents();
+            QCOMPARE(songs.found(), isCancelled ? others : others + words("a/dead/2.mp3|a/dead/3/4.mp3"));
+        }
     }
 
     void aCancelledWalkThatDoesNotEndHoldsUpNothing()
