@@ -149,6 +149,7 @@ void Application::connectModels()
     connect(&m_folderScanner, &FolderScanner::found, &m_mainModel,
             [this](const QList<QUrl> &files) { m_mainModel.add(files, MainModel::IsRegularFile); });
     connect(&m_mainModel, &MainModel::scanFolders, &m_folderScanner, &FolderScanner::addFolders);
+    connect(&m_mainModel, &MainModel::cleared, &m_folderScanner, &FolderScanner::cancel);
     connect(&m_mainModel, &MainModel::searchStarted, this, &Application::trackUsage);
 }
 

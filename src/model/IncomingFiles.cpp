@@ -125,12 +125,18 @@ void IncomingFiles::takeFound()
         if (!found.isEmpty())
             reports.push_back({job.use, std::move(found), isFirst});
     }
-    m_jobs.erase(std::remove_if(m_jobs.begin(), m_jobs.end(), [](const Job &job) { return job.checks.empty(); }),
-                 m_jobs.end());
+    const auto isDone = [](const Job &job) {
+        return job.checks.empty();
+    };
+    const bool isKeptDone =
+        std::any_of(m_jobs.begin(), m_jobs.end(), [isDone](const Job &job) { return job.isKept && isDone(job); });
+    m_jobs.erase(std::remove_if(m_jobs.begin(), m_jobs.end(), isDone), m_jobs.end());
     if (m_jobs.empty())
         m_nextLook.stop();
     for (const Report &report : reports)
         report.use(report.found, report.isFirst);
+    if (isKeptDone)
+        forgetMissing();
     if (m_jobs.empty() && !m_kept)
         setRestoring(false); // nothing was left of the list
 }
@@ -141,6 +147,19 @@ void IncomingFiles::fetchPlaces()
         if (job.isKept && !m_places)
             m_places = job.checks.front()->takePlaces();
     }
+}
+
+// Songs of the kept list that were deleted have no place any more: one that is added again is a new one.
+void IncomingFiles::forgetMissing()
+{
+    DelayedFileCheck::Places places;
+    for (const QList<QUrl> *urls : {&m_away, &m_known}) {
+        for (const QUrl &url : *urls) {
+            if (placeOf(url) != noPlace)
+                places.insert(url, m_places->value(url));
+        }
+    }
+    m_places = places;
 }
 
 bool IncomingFiles::isKeptComing() const
@@ -209,6 +228,13 @@ QVector<IncomingFiles::Waiting> IncomingFiles::waiting() const
             add(check->untaken(), job.isKept);
     }
     return all;
+}
+
+bool IncomingFiles::isAnyWaiting() const
+{
+    const bool isAnyAway =
+        std::any_of(m_away.begin(), m_away.end(), [this](const QUrl &url) { return placeOf(url) != noPlace; });
+    return isAnyAway || m_kept || !m_known.isEmpty() || !m_jobs.empty();
 }
 
 void IncomingFiles::clear()

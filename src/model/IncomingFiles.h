@@ -61,11 +61,13 @@ public:
     void clear();
 
     // Each place is given once, for the row that the file becomes: noPlace for one that does not come from the kept
-    // list, and for one that has become a row before.
+    // list, for one that has become a row before, and, once that list was looked at, for one that was missing.
     [[nodiscard]] quint64 takePlace(const QUrl &url);
     // What may become rows, now or in a later run: of the kept list, of what was added, and of what is looked at,
     // whatever it is.
     [[nodiscard]] QVector<Waiting> waiting() const;
+    // Whether there are such files, or some that nobody has looked at yet.
+    [[nodiscard]] bool isAnyWaiting() const;
 
 signals:
     // In the order in which they were taken; those of the kept list as their disks answer. `isFirst` says that no block
@@ -86,6 +88,7 @@ private:
     void begin(std::unique_ptr<DelayedFileCheck> check, const Use &use, bool isKept);
     void takeFound();
     void fetchPlaces();
+    void forgetMissing();
     void useKept(Found found, bool isFirst);
     [[nodiscard]] quint64 placeOf(const QUrl &url) const;
     [[nodiscard]] static Found takeFrom(Job &job);

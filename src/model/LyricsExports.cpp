@@ -9,9 +9,9 @@ static bool canBeExported(const ModelItem &item)
     return item.url().isLocalFile() && !item.lyricsTag().isEmpty();
 }
 
-static void queueTo(LyricsFileWriter &writer, const ModelItem &item)
+static void queueTo(LyricsFileWriter &writer, const ModelItem &item, const LyricsFileWriter::Condition &isWanted)
 {
-    writer.queueWrite(item.id(), item.url().toLocalFile(), item.lyricsTag());
+    writer.queueWrite(item.id(), item.url().toLocalFile(), item.lyricsTag(), isWanted);
 }
 
 LyricsExports::LyricsExports(QObject *parent)
@@ -27,11 +27,11 @@ bool LyricsExports::queue(const ModelItem &item)
         m_writer.reset(new LyricsFileWriter);
         connect(m_writer.data(), &LyricsFileWriter::written, this, &LyricsExports::exported);
     }
-    queueTo(*m_writer, item);
+    queueTo(*m_writer, item, [] { return true; });
     return true;
 }
 
-void LyricsExports::queueAutomatic(const ModelItem &item)
+void LyricsExports::queueAutomatic(const ModelItem &item, const LyricsFileWriter::Condition &isWanted)
 {
     if (!canBeExported(item))
         return;
@@ -43,5 +43,5 @@ void LyricsExports::queueAutomatic(const ModelItem &item)
                         emit automaticFailed(textFile);
                 });
     }
-    queueTo(*m_automaticWriter, item);
+    queueTo(*m_automaticWriter, item, isWanted);
 }

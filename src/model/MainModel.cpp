@@ -446,6 +446,7 @@ void MainModel::removeAll()
 {
     m_incoming.clear();
     removeRows(0, m_items.count());
+    emit cleared();
 }
 
 // Reading tags
@@ -593,13 +594,18 @@ bool MainModel::writeTagsUnlessForeign(quint16 id)
 
 void MainModel::startWriting(ModelItem *item, SongWrites::Kind kind)
 {
-    // The export comes first.
-    if (m_settings && m_settings->generateLyricsFileAuto())
-        m_exports.queueAutomatic(*item);
+    const bool isExported = m_settings && m_settings->generateLyricsFileAuto();
+    const bool isFound = kind == SongWrites::Kind::Found;
+    // The export comes first, but for lyrics that were found: whether these are the song's shows only when it is
+    // written, and where another program has changed its names, the text file stays as it is.
+    if (isExported && !isFound)
+        m_exports.queueAutomatic(*item, [] { return true; });
     item->setErrorString(QString());
     item->setFoundNothing(false);
     item->setProcessState(ModelItem::ProcessWritingTags);
-    m_writes.start(*item, kind);
+    const SongWrites::IsRenamed isRenamed = m_writes.start(*item, kind);
+    if (isExported && isFound)
+        m_exports.queueAutomatic(*item, [isRenamed] { return !isRenamed(); });
 }
 
 void MainModel::tagsWritten(quint16 id)

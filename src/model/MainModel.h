@@ -97,7 +97,7 @@ public:
     // -1 when no item has this id.
     [[nodiscard]] int rowOf(quint16 id) const { return m_items.rowOf(id); }
     // Whether its read was overtaken by a newer one: it stays unread until a search of it is forced.
-    [[nodiscard]] bool isReadOvertaken(quint16 id) const { return m_reads.isOvertaken(id); }
+    [[nodiscard]] bool isReadOvertaken(quint16 id) const { return m_reads.isOvertakenDuringRead(id); }
     // Whether a write of this song is under way, also when it was removed meanwhile.
     [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.isWriting(id); }
     // Whether the song has lyrics that are in the list only: their last write has failed, or may still fail. Not so
@@ -116,6 +116,8 @@ public:
     [[nodiscard]] QList<QUrl> urls() const;
     // The same as texts that keep() reads.
     [[nodiscard]] QStringList entries() const;
+    // Whether some of these are no rows: they are on their way, or their disk is away.
+    [[nodiscard]] bool isAnyWaiting() const { return m_incoming.isAnyWaiting(); }
 
     // Takes a list that was kept across runs, of urls and absolute paths; once. It counts as part of the list from now
     // on, but becomes rows only after restore(). Entries that are neither are left out.
@@ -178,6 +180,8 @@ signals:
     void activeCountChanged();
     void restoringChanged();
     void scanFolders(const QList<QUrl> &folders);
+    // By removeAll(): what was asked to be scanned is not wanted any more.
+    void cleared();
     // A search was handed to the coordinator.
     void searchStarted(const QString &artist, const QString &title);
     // For so many songs of the list the last write failed for this one reason; again when the number has grown, so that

@@ -57,6 +57,8 @@ void ReadQueue::requestNext()
     const quint16 id = queue.begin()->second;
     queue.erase(queue.begin());
     m_inFlight.append(id);
+    if (isReading())
+        m_overtaken = m_reader.isReading() ? m_current : none;
     m_current = id;
     m_reader.request(m_items->pathOf(id), m_isCurrentSlow ? tags::ReadPatience::Long : tags::ReadPatience::Usual);
 }

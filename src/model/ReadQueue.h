@@ -39,6 +39,8 @@ public:
     [[nodiscard]] bool isInFlight(quint16 id) const { return m_inFlight.contains(id); }
     // In flight, but the reader has been given a newer request since.
     [[nodiscard]] bool isOvertaken(quint16 id) const { return id != m_current && isInFlight(id); }
+    // The same, and the reader was at it then. Otherwise its answer was lost, which no song's may be.
+    [[nodiscard]] bool isOvertakenDuringRead(quint16 id) const { return id == m_overtaken && isOvertaken(id); }
 
     // A result of the reader; nothing happens when no item in flight has this path.
     void take(const QString &file, const MediaFileTags &tags);
@@ -64,6 +66,7 @@ private:
     Queue m_slow;   // took too long once
     int m_stallsInARow = 0;
     QVector<quint16> m_inFlight;
-    int m_current = none; // id of the newest request while it is unanswered
+    int m_current = none;   // id of the newest request while it is unanswered
+    int m_overtaken = none; // id of the last one that the reader was at when a newer one came
     bool m_isCurrentSlow = false;
 };

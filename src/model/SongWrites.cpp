@@ -4,6 +4,7 @@
 #include "tags/TagWriter.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -31,7 +32,7 @@ SongWrites::SongWrites(QObject *parent)
 {
 }
 
-void SongWrites::start(const ModelItem &item, Kind kind)
+SongWrites::IsRenamed SongWrites::start(const ModelItem &item, Kind kind)
 {
     const quint16 id = item.id();
     const tags::SongTexts texts = item.texts();
@@ -42,6 +43,10 @@ void SongWrites::start(const ModelItem &item, Kind kind)
     writes.enqueue({texts, item.url()});
     ++m_files[item.url()];
     auto *writer = new TagWriter(m_dataFolder);
+    const auto isRenamed = std::make_shared<bool>(false); // of the writer thread alone
+    connect(writer, &TagWriter::updated, writer, [isRenamed](quint16, tags::UpdateResult result) {
+        *isRenamed = result == tags::UpdateResult::RenamedMeanwhile;
+    });
     connect(writer, &TagWriter::updated, this,
             [this](quint16 updatedId, tags::UpdateResult result) { m_results.insert(updatedId, result); });
     connect(writer, &TagWriter::failed, this,
@@ -49,6 +54,9 @@ void SongWrites::start(const ModelItem &item, Kind kind)
     connect(writer, &TagWriter::written, this, &SongWrites::written);
     connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
     writer->queueWrite(item.url(), id, texts.artist, texts.title, texts.lyrics, shown);
+    return [isRenamed] {
+        return *isRenamed;
+    };
 }
 
 bool SongWrites::isWritingOther(quint16 id, const QString &lyrics) const

@@ -33,6 +33,8 @@ public:
 
     // Gives up the read under way, which is answered as if there was no reader; for the end of the program.
     void stop();
+    // Whether a request is unanswered.
+    [[nodiscard]] bool isReading() const { return m_busy; }
 
 public slots:
     // Takes a local path. A read with long patience is given up for it; any other one that is under way is not.

@@ -187,6 +187,8 @@ void MainWindow::connectModels()
     connect(m_parts.proxyModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateActions);
     connect(m_parts.proxyModel, &QAbstractItemModel::rowsRemoved, this, &MainWindow::updateActions);
     connect(m_parts.proxyModel, &QAbstractItemModel::modelReset, this, &MainWindow::updateActions);
+    connect(m_parts.mainModel, &MainModel::restoringChanged, this, &MainWindow::updateActions);
+    connect(m_parts.mainModel, &MainModel::cleared, this, &MainWindow::updateActions);
 }
 
 // The links are in no menu but in the status bar; without a site of the maker they are nowhere.
@@ -212,7 +214,9 @@ void MainWindow::updateActions()
     const bool hasRows = m_parts.proxyModel->rowCount() > 0;
     const bool hasSelection = m_parts.proxyModel->selectedCount() > 0;
     m_actions->selectAll->setEnabled(hasRows);
-    m_actions->clearList->setEnabled(hasRows);
+    // An empty list may hold songs whose disk is away, which clearing forgets.
+    const bool isAnyWaiting = m_parts.mainModel->rowCount() == 0 && m_parts.mainModel->isAnyWaiting();
+    m_actions->clearList->setEnabled(hasRows || isAnyWaiting);
     m_actions->removeSelected->setEnabled(hasSelection);
     m_actions->exportLyrics->setEnabled(hasSelection);
     m_actions->removeWithLyrics->setEnabled(m_parts.mainModel->rowCount() > 0);

@@ -495,27 +495,33 @@ private slots:
     {
         QTest::addColumn<bool>("isForced");
         QTest::addColumn<bool>("isElsewhere");
-        addRow("corrected in the list", false, false);
-        addRow("corrected, and the search is forced", true, false);
-        addRow("corrected in the file by another program", false, true);
+        addTextColumns("newTitle", "lyrics");
+        addRow("corrected in the list", false, false, "Reign", "of Reign");
+        addRow("corrected, and the search is forced", true, false, "Reign", "of Reign");
+        addRow("corrected in the file by another program", false, true, "Reign", "of Reign");
+        addRow("given there to a song that no site has", false, true, "Rein", "");
     }
 
     void aSongIsSearchedForAnewUnderItsNewNames()
     {
         QFETCH(bool, isForced);
         QFETCH(bool, isElsewhere);
+        QFETCH(QString, newTitle);
+        QFETCH(QString, lyrics);
         Stage stage({{"Rain"_s, "of Rain"_s}, {"Reign"_s, "of Reign"_s}});
+        stage.settings.setGenerateLyricsFileAuto(true);
         const QUrl url = stage.song("A - Rain.mp3"_s);
         QVERIFY(stage.load({url}) && stage.model.startSearch(1));
         if (isElsewhere)
-            Stage::retag(url, {{}, "Reign"_s, {}});
+            Stage::retag(url, {{}, newTitle, {}});
         else
-            stage.model.itemAt(0)->setTitleTag("Reign"_s);
+            stage.model.itemAt(0)->setTitleTag(newTitle);
         QVERIFY(!isForced || stage.model.startSearch(1));
         QTRY_VERIFY(stage.isSettled() && stage.isComplete());
-        QCOMPARE(Stage::stored(url, "title"), "Reign"_s);
-        QCOMPARE(Stage::stored(url, "lyrics"), "of Reign"_s);
-        QCOMPARE(stage.model.itemAt(0)->titleTag(), "Reign"_s);
+        QCOMPARE(Stage::stored(url, "title"), newTitle);
+        QCOMPARE(Stage::stored(url, "lyrics"), lyrics);
+        QCOMPARE(stage.model.itemAt(0)->titleTag(), newTitle);
+        QCOMPARE(stage.folder.read("A - Rain.txt"_s), lyrics.isEmpty() ? "(no file)" : lyrics.toUtf8());
     }
 
     void wordsTypedDuringASearchStay()

@@ -836,6 +836,16 @@ private slots:
         QCOMPARE(m_model->rowCount(), 0);
     }
 
+    void songsWhoseDiskIsAwayCanBeForgotten()
+    {
+        QVERIFY(!action("actionClearList")->isEnabled());
+        m_model->keep({"/no such stick/album/song.mp3"_s});
+        m_model->restore();
+        QTRY_VERIFY(!m_model->isRestoring());
+        action("actionClearList")->trigger();
+        QVERIFY(m_model->urls().isEmpty() && !action("actionClearList")->isEnabled());
+    }
+
     void rowsAreSelectedHiddenAndRemovedByKey()
     {
         listSamples({"lyrics.mp3", "untagged.mp3", "plain.flac"});
