@@ -842,6 +842,7 @@ private slots:
         m_model->keep({"/no such stick/album/song.mp3"_s});
         m_model->restore();
         QTRY_VERIFY(!m_model->isRestoring());
+        QVERIFY(action("actionClearList")->isEnabled());
         action("actionClearList")->trigger();
         QVERIFY(m_model->urls().isEmpty() && !action("actionClearList")->isEnabled());
     }
