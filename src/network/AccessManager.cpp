@@ -7,8 +7,7 @@
 #include "network/Redirects.h"
 #include "network/RefusedReply.h"
 #include "network/RetryAfter.h"
-
-#include <QTimer>
+#include "network/SocksLoginCheck.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,8 +18,6 @@ using Login = ProxyLogin::State;
 
 constexpr auto loginRefused = QNetworkReply::ProxyAuthenticationRequiredError;
 constexpr int shownAddressCharacters = 120; // a data: address can be as long as a page
-// Proxies take a few seconds to refuse a log-in; more than that is the site's time.
-constexpr std::chrono::seconds socksLoginPatience(10);
 
 // A name that is reserved for never existing (RFC 2606): whatever comes of it was said by the proxy.
 const QUrl nowhere(QStringLiteral("http://login.invalid/"));
@@ -42,13 +39,6 @@ bool hasHttpLogin(const QNetworkProxy &proxy)
 bool hasSocksLogin(const QNetworkProxy &proxy)
 {
     return proxy.type() == QNetworkProxy::Socks5Proxy && !proxy.user().isEmpty();
-}
-
-// Whether the proxy is not there for any request.
-bool isOutOfReach(QNetworkReply::NetworkError ofProxy)
-{
-    return ofProxy == QNetworkReply::ProxyConnectionRefusedError || ofProxy == QNetworkReply::ProxyNotFoundError ||
-           ofProxy == QNetworkReply::ProxyTimeoutError;
 }
 
 bool isPlain(const QUrl &url)
@@ -211,12 +201,11 @@ QNetworkReply *AccessManager::send(LimitedReply *reply, QIODevice *outgoingData)
         return nullptr;
     }
     const bool isUnknown = m_login->state() == Login::Unknown;
-    if (m_login->isBeingChecked() || (isUnknown && hasHttpLogin(proxy()) && !isPlain(reply->url()))) {
+    const bool isGivenLogin = hasSocksLogin(proxy()) || (hasHttpLogin(proxy()) && !isPlain(reply->url()));
+    if (m_login->isBeingChecked() || (isUnknown && isGivenLogin)) {
         hold(reply, outgoingData);
         return nullptr;
     }
-    if (isUnknown && hasSocksLogin(proxy()))
-        checkLoginBy(reply);
     return sendNow(reply, outgoingData);
 }
 
@@ -234,8 +223,6 @@ QNetworkReply *AccessManager::sendNow(LimitedReply *reply, QIODevice *outgoingDa
                     if (waiting && (data || !uploads))
                         repeatWithLogin(*source, used, waiting, data);
                 });
-    connect(source, &QNetworkReply::metaDataChanged, this,
-            [this, source, waiting] { noteLoginOf(waiting, *source, QNetworkReply::NoError); });
     // Here and not where the outcome is handed out, so that it is known before the next one in the queue is sent.
     connect(source, &QNetworkReply::finished, this,
             [this, source, used, waiting, withLogin] { noteProxy(*source, used, waiting, withLogin); });
@@ -261,7 +248,11 @@ void AccessManager::repeatWithLogin(const QNetworkReply &source, const QNetworkP
 void AccessManager::hold(LimitedReply *reply, QIODevice *outgoingData)
 {
     m_held.append({reply, outgoingData, outgoingData != nullptr, false});
-    if (!m_login->isBeingChecked())
+    if (m_login->isBeingChecked())
+        return;
+    if (hasSocksLogin(proxy()))
+        checkSocksLogin();
+    else
         checkLogin(false);
 }
 
@@ -299,29 +290,15 @@ void AccessManager::loginChecked(LimitedReply *check, bool withLogin)
         m_login->endCheck(Login::Unknown, check->error());
 }
 
-void AccessManager::checkLoginBy(LimitedReply *reply)
+void AccessManager::checkSocksLogin()
 {
-    m_login->beginCheck(reply);
-    QTimer::singleShot(socksLoginPatience, this, [this, check = static_cast<const QObject *>(reply)] {
-        if (m_login->isCheck(check))
-            m_login->endCheck(Login::Works);
+    auto *check = new SocksLoginCheck(proxy(), m_limits.idle, this);
+    m_login->beginCheck(check);
+    connect(check, &SocksLoginCheck::finished, this, [this, check](Login state, QNetworkReply::NetworkError error) {
+        check->deleteLater();
+        if (m_login->isCheck(check)) // else of a proxy that is not used any more
+            m_login->endCheck(state, error);
     });
-}
-
-void AccessManager::noteLoginOf(const LimitedReply *reply, const QNetworkReply &source,
-                                QNetworkReply::NetworkError ofProxy)
-{
-    if (!m_login->isCheck(reply))
-        return;
-    if (ofProxy == loginRefused)
-        m_login->endCheck(Login::Refused);
-    else if (isOutOfReach(ofProxy))
-        m_login->endCheck(Login::Unknown, ofProxy);
-    else if (ofProxy == QNetworkReply::ProxyConnectionClosedError ||
-             source.error() == QNetworkReply::OperationCanceledError)
-        m_login->endCheck(Login::Unknown); // the next one tells
-    else
-        m_login->endCheck(Login::Works); // whatever became of the request, it got past the log-in
 }
 
 void AccessManager::doubt(LimitedReply *reply, bool withLogin)
@@ -354,7 +331,6 @@ void AccessManager::noteProxy(const QNetworkReply &source, const QNetworkProxy &
                               bool withLogin)
 {
     const QNetworkReply::NetworkError error = proxyError(source, proxy);
-    noteLoginOf(reply, source, error);
     if (error == QNetworkReply::NoError || !reply || reply->isSettled())
         return;
     const bool isAnswered = source.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();

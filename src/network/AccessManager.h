@@ -30,7 +30,7 @@
 // - An HTTP proxy gets the user name and the password only after it asked for them, and is asked first for an address
 //   that does not exist, so that no site sees a log-in and a wrong one is tried once. What is asked for meanwhile
 //   waits.
-// - A SOCKS5 proxy gets it with one request first; what is asked for until that one is through waits.
+// - A SOCKS5 proxy is given it first without a request (SocksLoginCheck); what is asked for meanwhile waits.
 // - After a proxy refused a log-in, requests fail with that error and are not sent, until the proxy changes: somebody
 //   who tries over and over gets the account locked. Managers that share a ProxyLogin try it once for all of them.
 // - A site that speaks of a log-in at the proxy is not believed: an HTTP proxy is asked first for that address.
@@ -107,9 +107,7 @@ private:
     void hold(LimitedReply *reply, QIODevice *outgoingData);
     void checkLogin(bool withLogin);
     void loginChecked(LimitedReply *check, bool withLogin);
-    // The request with which a SOCKS5 proxy is given the log-in first.
-    void checkLoginBy(LimitedReply *reply);
-    void noteLoginOf(const LimitedReply *reply, const QNetworkReply &source, QNetworkReply::NetworkError ofProxy);
+    void checkSocksLogin();
     // Keeps a reply that asks for a log-in until it is clear whether the proxy does.
     void doubt(LimitedReply *reply, bool withLogin);
     // Sends what was held, or lets it fail as the check did.

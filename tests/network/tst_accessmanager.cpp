@@ -8,6 +8,8 @@
 #include <QNetworkReply>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 #include <memory>
 #include <vector>
@@ -340,6 +342,38 @@ private slots:
         QCOMPARE(m_server->requests().size(), 2);
         for (const LoopbackRequest &sent : m_server->requests())
             QCOMPARE(sent.header("Proxy-Authorization"), QByteArray());
+    }
+
+    void aSocksProxyIsGivenAWrongLoginOnce_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        addRow("it says so", QByteArray("\1\1"));
+        addRow("it hangs up", QByteArray());
+    }
+
+    void aSocksProxyIsGivenAWrongLoginOnce()
+    {
+        QFETCH(QByteArray, answer);
+        QTcpServer proxy;
+        QVERIFY(proxy.listen(QHostAddress::LocalHost));
+        int logins = 0;
+        connect(&proxy, &QTcpServer::newConnection, &proxy, [&] {
+            QTcpSocket *client = proxy.nextPendingConnection();
+            connect(client, &QTcpSocket::readyRead, client, [&logins, client, answer] {
+                const bool isGreeting = client->readAll().startsWith('\5');
+                logins += isGreeting ? 0 : 1;
+                client->write(isGreeting ? QByteArray("\5\2") : answer);
+                if (!isGreeting && answer.isEmpty())
+                    client->disconnectFromHost();
+            });
+        });
+        m_manager->useProxy({QNetworkProxy::Socks5Proxy, "127.0.0.1"_s, proxy.serverPort(), "nora"_s, "word"_s});
+        const std::vector<QNetworkReply *> replies = getMany(9, "/page");
+        for (QNetworkReply *reply : replies) {
+            QTRY_VERIFY(reply->isFinished());
+            QCOMPARE(reply->error(), QNetworkReply::ProxyAuthenticationRequiredError);
+        }
+        QCOMPARE(logins, 1);
     }
 
     void waitingRequestsGoOutInOrder()
