@@ -11,7 +11,7 @@ Item {
 
     signal searchRequested()
 
-    implicitHeight: visible ? Measures.barHeight : 0
+    implicitHeight: visible ? Math.max(Measures.barHeight, words.implicitHeight) : 0
     visible: text !== "" || searchOffered
 
     Rectangle {
@@ -22,6 +22,8 @@ Item {
     }
 
     Text {
+        id: words
+
         objectName: "stateLine"
         anchors {
             left: parent.left; right: line.searchOffered ? link.left : parent.right; verticalCenter: parent.verticalCenter
@@ -30,7 +32,7 @@ Item {
         text: line.text
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        maximumLineCount: 2
+        maximumLineCount: 3
         elide: Text.ElideRight
         font { pixelSize: Measures.textFont; italic: true }
         color: appPalette.text
