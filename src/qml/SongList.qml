@@ -39,57 +39,6 @@ ScrollView {
         proxyModel.currentIndex = row;
     }
 
-    // By how many rows a key moves; 0 for other keys.
-    function stepOf(key) {
-        switch (key) {
-        case Qt.Key_Up:
-            return -1;
-        case Qt.Key_Down:
-            return 1;
-        case Qt.Key_PageUp:
-            return -list.rowsInView;
-        case Qt.Key_PageDown:
-            return list.rowsInView;
-        }
-        return 0;
-    }
-
-    // Where a key moves to; -1 for other keys, and for a step without a current row.
-    function targetOf(key) {
-        var last = list.count - 1;
-        if (key === Qt.Key_Home)
-            return Math.min(0, last);
-        if (key === Qt.Key_End)
-            return last;
-        var step = stepOf(key);
-        return step === 0 || list.currentIndex < 0 ? -1 : Math.max(0, Math.min(last, list.currentIndex + step));
-    }
-
-    // Keys without a modifier. Whether the key was one of them.
-    function moveByKey(key) {
-        var target = key === Qt.Key_Space ? list.currentIndex : targetOf(key);
-        if (target >= 0) {
-            select(target);
-            showCurrentRow();
-        }
-        return target >= 0 || stepOf(key) !== 0;
-    }
-
-    // Keys with a modifier, which select several songs. Whether the key was one of them.
-    function selectByKey(key, modifiers) {
-        var target = targetOf(key);
-        if (modifiers === Qt.ControlModifier && key === Qt.Key_Space)
-            proxyModel.toggleCurrent();
-        else if (modifiers === Qt.ShiftModifier && target >= 0 && list.currentIndex >= 0)
-            proxyModel.extendSelection(target);
-        else if (modifiers === Qt.ControlModifier && target >= 0 && list.currentIndex >= 0)
-            proxyModel.moveCurrent(target);
-        else
-            return false;
-        showCurrentRow();
-        return true;
-    }
-
     // Rows that go in the same moment keep the view from following.
     function showCurrentRow() {
         list.positionViewAtIndex(list.currentIndex, ListView.Contain);
@@ -98,7 +47,7 @@ ScrollView {
     function requestMenuByKey() {
         var item = list.currentItem;
         if (item)
-            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            showCurrentRow();
         var place = item ? item.mapToItem(null, Measures.textColumn, item.height / 2) : mapToItem(null, width / 2, height / 2);
         menuRequested(list.currentIndex, place.x, place.y, true);
     }
@@ -110,52 +59,7 @@ ScrollView {
         id: list
 
         readonly property int rowsInView: Math.max(1, Math.floor(height / Measures.rowHeight))
-        // Before a reset: how far the view was scrolled, and where in it the current row was.
-        property real keptY: 0
-        property real keptTop: 0
-        property var shownSong: null
-        property int shownId: -1
         property int countBefore: 0
-
-        function keepPlace() {
-            keptY = contentY - originY; // rows that went above the view have moved its origin
-            keptTop = currentItem !== null ? currentItem.y - contentY : -Measures.rowHeight;
-        }
-
-        // The current row stays where it was seen; where it was not, the view does.
-        function restorePlace() {
-            var seen = currentIndex >= 0 && keptTop > -Measures.rowHeight && keptTop < height;
-            var wanted = seen ? currentIndex * Measures.rowHeight - keptTop : keptY;
-            contentY = Math.max(0, Math.min(wanted, count * Measures.rowHeight - height));
-            if (seen)
-                positionViewAtIndex(currentIndex, ListView.Contain);
-        }
-
-        // The song that takes the place of one that is hidden or removed: where none is selected, keys and clicks
-        // would have nothing to work on. A song that goes by itself while its names are typed leaves the keyboard where
-        // it is: what is typed on must not remove songs.
-        function selectSuccessor() {
-            if (proxyModel.selectedCount === 0 && proxyModel.currentIndex >= 0)
-                songList.select(proxyModel.currentIndex);
-        }
-
-        function keyboardInText() {
-            var item = Window.activeFocusItem;
-            return item !== null && item.cursorPosition !== undefined && !item.readOnly;
-        }
-
-        function showCurrent() {
-            songList.follow();
-            // Rows that come and go around the current song move its row, which is no reason to take the keyboard away.
-            var song = proxyModel.currentItem();
-            var isSuccessor = song !== null && shownId >= 0 && proxyModel.rowOf(shownId) < 0;
-            if (song !== shownSong && song !== null && !(isSuccessor && keyboardInText()))
-                songList.takeFocus();
-            if (isSuccessor && !keyboardInText())
-                Qt.callLater(selectSuccessor); // the selection is told of after the current row
-            shownSong = song;
-            shownId = song ? song.id : -1;
-        }
 
         objectName: "songList"
         focus: true
@@ -170,8 +74,7 @@ ScrollView {
 
         Component.onCompleted: {
             songList.follow();
-            shownSong = proxyModel.currentItem();
-            shownId = shownSong ? shownSong.id : -1;
+            current.note();
         }
         // The first songs of an empty list make the first of them current.
         onCountChanged: {
@@ -183,18 +86,7 @@ ScrollView {
             if (currentIndex !== proxyModel.currentIndex)
                 proxyModel.currentIndex = currentIndex;
         }
-        Keys.onPressed: {
-            var modifiers = event.modifiers & ~Qt.KeypadModifier;
-            event.accepted = true;
-            if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && modifiers === Qt.ShiftModifier))
-                songList.requestMenuByKey();
-            else if (modifiers !== Qt.NoModifier)
-                event.accepted = songList.selectByKey(event.key, modifiers);
-            else if (event.key === Qt.Key_Backspace)
-                songList.removeSelectedRequested();
-            else
-                event.accepted = songList.moveByKey(event.key);
-        }
+        Keys.onPressed: event.accepted = keys.press(event.key, event.modifiers & ~Qt.KeypadModifier)
 
         Accessible.role: Accessible.List
         Accessible.name: songList.label
@@ -206,6 +98,30 @@ ScrollView {
                 songList.takeFocus();
                 songList.click(index);
             }
+        }
+
+        ListKeys {
+            id: keys
+
+            view: list
+            onRowChosen: songList.select(row)
+            onRemoveSelectedRequested: songList.removeSelectedRequested()
+            onMenuRequested: songList.requestMenuByKey()
+            onMoved: songList.showCurrentRow()
+        }
+
+        ListPlace {
+            id: keptPlace
+
+            view: list
+        }
+
+        CurrentSong {
+            id: current
+
+            focusItem: list.Window.activeFocusItem
+            onKeyboardWanted: songList.takeFocus()
+            onSuccessorWanted: songList.select(row)
         }
 
         MouseArea {
@@ -238,16 +154,17 @@ ScrollView {
             target: proxyModel
 
             function onCurrentIndexChanged() {
-                list.showCurrent();
+                songList.follow();
+                current.follow();
             }
 
             function onModelAboutToBeReset() {
-                list.keepPlace();
+                keptPlace.keep();
             }
 
             function onModelReset() {
                 songList.follow();
-                Qt.callLater(list.restorePlace); // the view hears of the reset after this, and begins at its top
+                Qt.callLater(keptPlace.restore); // the view hears of the reset after this, and begins at its top
             }
         }
     }
