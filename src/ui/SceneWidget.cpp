@@ -18,6 +18,7 @@
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickWindow>
+#include <QResizeEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -207,6 +208,17 @@ void SceneWidget::paintEvent(QPaintEvent *event)
     QQuickWidget::paintEvent(event);
     if (m_isRendered && m_isFirstFrame)
         QTimer::singleShot(frameTime, this, &SceneWidget::endFirstFrame);
+}
+
+void SceneWidget::resizeEvent(QResizeEvent *event)
+{
+    QQuickWidget::resizeEvent(event);
+    if (event->size() == size())
+        return;
+    // A scene that needs more room at this width has resized the widget, and Qt forgets to tell that of a widget that
+    // is being shown.
+    QResizeEvent last(size(), event->size());
+    QQuickWidget::resizeEvent(&last);
 }
 
 void SceneWidget::endFirstFrame()

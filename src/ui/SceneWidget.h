@@ -60,6 +60,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     // A change of the language changes the scene's texts at once.
     void changeEvent(QEvent *event) override;
     // The Tab key goes round in the scene as one part of the window: its last item hands on to the window's buttons,

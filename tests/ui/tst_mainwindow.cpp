@@ -271,6 +271,18 @@ private slots:
         QCOMPARE(part("songList")->width(), 321.0);
     }
 
+    // As one does whose words take another line at this width.
+    void aSceneThatNeedsMoreRoomWhileItIsShownFillsIt()
+    {
+        const QQuickItem *root = scene()->rootObject();
+        m_window->hide();
+        m_window->resize(700, 420);
+        connect(root, &QQuickItem::widthChanged, scene(), [this] { scene()->setMinimumHeight(500); });
+        m_window->show();
+        QCOMPARE(scene()->height(), 500);
+        QCOMPARE(root->height(), 500.0);
+    }
+
     void nothingIsCutAtTheLeastSize()
     {
         addCopies(1);
