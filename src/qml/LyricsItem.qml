@@ -38,7 +38,7 @@ FocusScope {
             return;
         edit.begin(song);
         if (editing) {
-            words.toTop();
+            words.cursorIntoView();
             takeFocus();
         }
     }

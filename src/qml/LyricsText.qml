@@ -24,9 +24,19 @@ ScrollView {
         flickableItem.contentY = 0;
     }
 
-    function scrollBy(distance) {
+    // The cursor goes to the first line that is seen whole, so that an edit begins where the user reads.
+    function cursorIntoView() {
+        var top = flickableItem.contentY;
+        area.cursorPosition = top === 0 ? 0 : area.positionAt(0, top + spacing.lineHeight);
+    }
+
+    function scrollTo(y) {
         var end = Math.max(0, flickableItem.contentHeight - flickableItem.height);
-        flickableItem.contentY = Math.max(0, Math.min(end, flickableItem.contentY + distance));
+        flickableItem.contentY = Math.max(0, Math.min(end, y));
+    }
+
+    function scrollBy(distance) {
+        scrollTo(flickableItem.contentY + distance);
     }
 
     function showCursor() {
@@ -70,11 +80,14 @@ ScrollView {
 
         property bool replacing: false
 
+        // The view stays where it is, as far as the new words go: those of another song go to their top by themselves.
         function replace(words) {
+            var y = view.flickableItem.contentY;
             replacing = true;
             text = words;
             spacing.apply();
             replacing = false;
+            view.scrollTo(y);
         }
 
         objectName: "lyricsText"
@@ -93,6 +106,8 @@ ScrollView {
         selectedTextColor: appPalette.highlightedText
         font.pointSize: view.fontSize
 
+        // The text that it was made with came later than its spacing.
+        Component.onCompleted: spacing.apply()
         onTextChanged: {
             if (!replacing)
                 view.edited(text);

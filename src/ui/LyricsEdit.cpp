@@ -44,17 +44,25 @@ void LyricsEdit::save()
     const QString text = m_text;
     if (song && m_model->item(song->id()) == song && !song->tagsLoaded())
         return;
+    // The song has the text before the edit ends, so that whoever shows one or the other never shows the old one.
+    giveText(song, text);
     cancel();
     write(song, text);
 }
 
-void LyricsEdit::write(ModelItem *song, const QString &text)
+bool LyricsEdit::giveText(ModelItem *song, const QString &text)
 {
     if (!song || m_model->item(song->id()) != song || !song->tagsLoaded())
-        return;
+        return false;
     // What nobody changed goes back as the song has it, down to the kind of its line breaks.
     song->setEditedLyricsTag(editorText(song->lyricsTag()) == text ? song->lyricsTag() : text);
-    m_model->writeTags(song->id());
+    return true;
+}
+
+void LyricsEdit::write(ModelItem *song, const QString &text)
+{
+    if (giveText(song, text))
+        m_model->writeTags(song->id());
 }
 
 void LyricsEdit::handOver()

@@ -39,7 +39,7 @@ public:
     // Begins with the lyrics that the song has. Nothing when the song is null, not editable or its tags are not loaded,
     // or while a modified draft is there: it has to be saved or cancelled first.
     Q_INVOKABLE void begin(ModelItem *song);
-    // Ends the edit, gives the draft to the song and has it written into the file. A draft whose song cannot be
+    // Gives the draft to its song, ends the edit and has the song written. A draft whose song cannot be
     // written, because its tags are not loaded any more, stays and is still edited.
     Q_INVOKABLE void save();
     // Gives a text to a song and has it written, past all edits. Nothing when the song is null, not in the list, or its
@@ -66,6 +66,8 @@ signals:
 private:
     static constexpr int noSong = -1;
 
+    // Whether the song could take it.
+    bool giveText(ModelItem *song, const QString &text);
     void change(ModelItem *song, const QString &startText, const QString &text);
 
     MainModel *m_model;

@@ -9,6 +9,7 @@ Item {
     height: 400
 
     LyricsItem { id: sheet; anchors.fill: parent; edit: mainWindow.lyricsEdit }
+    Component { id: lyricsText; LyricsText { width: 400; height: 300; shownText: "first\nsecond\nthird" } }
     SignalSpy { id: searches; target: sheet; signalName: "forceSearchRequested" }
 
     TestCase {
@@ -74,6 +75,39 @@ Item {
             words().forceActiveFocus();
             keyClick(Qt.Key_End, Qt.ControlModifier | Qt.ShiftModifier);
             verify(words().mapToItem(sheet, 0, 0).y < -100);
+        }
+
+        function test_words_that_a_text_is_made_with_have_their_spacing() {
+            var made = createTemporaryObject(lyricsText, sheet);
+            var height = made.area.contentHeight;
+            made.shownText = "other";
+            made.shownText = "first\nsecond\nthird";
+            compare(made.area.contentHeight, height);
+        }
+
+        function test_the_view_stays_where_it_is() {
+            var view = words().parent.parent;
+            song.setEditedLyricsTag(new Array(100).join("la\n"));
+            view.contentY = 500;
+            press("editButton");
+            compare(view.contentY, 500);
+            var line = words().cursorRectangle.y;
+            verify(line >= 500 && line < 600);
+            words().cursorPosition = words().length;
+            keyClick(Qt.Key_Return);
+            keyClick(Qt.Key_Return);
+            var end = view.contentY;
+            verify(end > 600);
+            press("saveButton");
+            compare(view.contentY, end);
+            tryCompare(song, "processState", ModelItem.ProcessComplete);
+            press("editButton");
+            keyClick(Qt.Key_X);
+            press("cancelButton");
+            compare(view.contentY, end);
+            sheet.song = null;
+            sheet.song = mainWindow.song(0);
+            compare(view.contentY, 0);
         }
 
         function test_looking_at_lyrics_never_changes_them() {
