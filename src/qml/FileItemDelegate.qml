@@ -48,6 +48,7 @@ Item {
         errorString: itemRole ? itemRole.errorString : ""
         readFailed: itemRole ? itemRole.unreadable : false
         writeError: itemRole ? itemRole.writeError : ""
+        namesEdited: itemRole ? itemRole.artistEdited || itemRole.titleEdited : false
         foundNothing: itemRole ? itemRole.foundNothing : false
     }
 

@@ -14,6 +14,8 @@ QtObject {
     property bool readFailed: false
     // Why the last write failed; empty when it did not.
     property string writeError
+    // The artist or the title was changed, and is in no file yet.
+    property bool namesEdited: false
     // The last search ended without lyrics.
     property bool foundNothing: false
 
@@ -25,14 +27,14 @@ QtObject {
     readonly property bool bad: (tagsLoaded && badFile) || processState === ModelItem.ProcessNotSuitable
 
     // What the row's word says then is a warning, which the light is not.
-    readonly property bool unsaved: !unreadable && processState === ModelItem.ProcessComplete && writeError !== ""
+    readonly property bool unsaved: !unreadable && (namesEdited ? !busy : processState === ModelItem.ProcessComplete && writeError !== "")
 
     // "yellow", "green", "red", or empty for none. A song that is bad is red, whatever lyrics it has.
     readonly property string light: busy ? "yellow" : bad ? "red" : hasLyrics && settled ? "green" : ""
     readonly property string lightSource: light === "" ? "" : "qrc:/img/" + light + "Light.png"
 
     // For the row: empty when there is nothing to say that the green light does not say.
-    readonly property string word: unreadable ? qsTr("cannot be read") : wordOf(processState)
+    readonly property string word: unreadable ? qsTr("cannot be read") : unsaved ? qsTr("not saved") : wordOf(processState)
     // For a screen reader, which sees no light.
     readonly property string spokenWord: word !== "" ? word : light === "green" ? qsTr("has lyrics") : qsTr("no lyrics")
     // For the details.
@@ -51,7 +53,7 @@ QtObject {
         case ModelItem.ProcessFailed:
             return qsTr("failed");
         case ModelItem.ProcessComplete:
-            return writeError !== "" ? qsTr("not saved") : errorString !== "" ? qsTr("search failed")
+            return errorString !== "" ? qsTr("search failed")
                  : hasLyrics && !foundNothing ? "" : qsTr("no lyrics found");
         }
         return "";

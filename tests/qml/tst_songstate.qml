@@ -40,6 +40,8 @@ TestCase {
                 "green", "no lyrics found", "no lyrics found"),
             row("write failed, then a search", complete, { writeError: "disk full", errorString: "down" },
                 "", "not saved", "Not saved: disk full"),
+            row("names that are in no file yet", complete, { namesEdited: true }, "", "not saved", "no lyrics found"),
+            row("other names, searched for", waiting, { namesEdited: true }, "yellow", "queued", queued),
             row("failed", ModelItem.ProcessFailed, {}, "", "failed", "failed"),
             row("no names, after a search that failed", unsuitable, { errorString: "down" },
                 "red", "no names", noNames),
