@@ -3,6 +3,7 @@
 
 #include "network/Server.h"
 
+#include <algorithm>
 #include <utility>
 
 RestingHosts::RestingHosts(Clock clock)
@@ -13,27 +14,32 @@ RestingHosts::RestingHosts(Clock clock)
 std::chrono::seconds RestingHosts::remaining(const QUrl &url) const
 {
     const auto found = m_servers.constFind(serverOf(url));
-    const auto now = m_clock();
-    if (found == m_servers.constEnd() || found->until <= now)
+    if (found == m_servers.constEnd())
         return std::chrono::seconds(0);
-    return std::chrono::ceil<std::chrono::seconds>(found->until - now);
+    const Moment now = m_clock();
+    const Moment until = std::max({found->askedUntil, found->silentUntil, now});
+    return std::chrono::ceil<std::chrono::seconds>(until - now);
 }
 
 QString RestingHosts::silence(const QUrl &url) const
 {
-    return m_servers.value(serverOf(url)).silence;
+    const Server server = m_servers.value(serverOf(url));
+    return server.silentUntil > server.askedUntil ? server.silence : QString();
 }
 
 void RestingHosts::rest(const QUrl &url, std::chrono::seconds pause)
 {
-    restFor(m_servers[serverOf(url)], pause, {});
+    Server &server = m_servers[serverOf(url)];
+    server.askedUntil = std::max(server.askedUntil, m_clock() + pause);
 }
 
 void RestingHosts::noteTimeout(const QUrl &url, const QString &text)
 {
     Server &server = m_servers[serverOf(url)];
-    if (++server.timeouts >= mostTimeouts)
-        restFor(server, pauseOfSilence, text);
+    if (++server.timeouts < mostTimeouts)
+        return;
+    server.silentUntil = m_clock() + pauseOfSilence;
+    server.silence = text;
 }
 
 void RestingHosts::noteAnswer(const QUrl &url)
@@ -42,17 +48,6 @@ void RestingHosts::noteAnswer(const QUrl &url)
     if (found == m_servers.end())
         return;
     found->timeouts = 0;
-    if (found->silence.isEmpty())
-        return;
+    found->silentUntil = Moment::min();
     found->silence.clear();
-    found->until = Server().until;
-}
-
-void RestingHosts::restFor(Server &server, std::chrono::seconds pause, const QString &silence)
-{
-    const auto until = m_clock() + pause;
-    if (until <= server.until)
-        return;
-    server.until = until;
-    server.silence = silence;
 }

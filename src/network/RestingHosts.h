@@ -24,10 +24,10 @@ public:
 
     // Rounded up to whole seconds; 0 when the server of this address may be asked.
     [[nodiscard]] std::chrono::seconds remaining(const QUrl &url) const;
-    // What the last request met, for users, when the server rests for its silence; empty when it asked for the pause.
+    // What the last request met, for users, when it is for its silence that the server rests longest.
     [[nodiscard]] QString silence(const QUrl &url) const;
 
-    // The server asked for a pause. One that ends earlier than the one that holds already changes nothing.
+    // The server asked for a pause. Of several pauses, and a rest for silence, the one that ends last holds.
     void rest(const QUrl &url, std::chrono::seconds pause);
     // A request timed out; `text` says so to users.
     void noteTimeout(const QUrl &url, const QString &text);
@@ -38,14 +38,16 @@ public:
     void clear() { m_servers.clear(); }
 
 private:
+    using Moment = std::chrono::steady_clock::time_point;
+
     struct Server
     {
-        std::chrono::steady_clock::time_point until = std::chrono::steady_clock::time_point::min();
-        QString silence;
+        // Apart from each other: an answer ends the rest for silence alone.
+        Moment askedUntil = Moment::min();
+        Moment silentUntil = Moment::min();
+        QString silence;  // as long as silentUntil is known
         int timeouts = 0; // in a row
     };
-
-    void restFor(Server &server, std::chrono::seconds pause, const QString &silence);
 
     Clock m_clock;
     QHash<QString, Server> m_servers;
