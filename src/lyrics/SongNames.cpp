@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "lyrics/SongNames.h"
 
+#include "lyrics/LyricsText.h"
+#include "lyrics/NamedCharacters.h"
+
 #include <QStringList>
 #include <QUrl>
 
@@ -102,6 +105,11 @@ QString normalisedTitle(const QString &title)
             name.chop(suffix.size());
     }
     return name.trimmed();
+}
+
+QString foundName(const QString &encoded)
+{
+    return withoutBrokenCharacters(withNamedCharacters(decodeHtmlEntities(encoded))).trimmed();
 }
 
 bool looselyAgree(const QString &wanted, const QString &found)

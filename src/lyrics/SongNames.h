@@ -16,6 +16,10 @@ constexpr int longestName = 1000;
 // The title without a guest (as above), then without " (official)" and " (Extended Video)" at its end, trimmed.
 [[nodiscard]] QString normalisedTitle(const QString &title);
 
+// A name out of a page: references to characters decoded, by number or by name, and trimmed. What windows-1252 has for
+// "&#146;" counts, and so does what was encoded twice. Tags stay.
+[[nodiscard]] QString foundName(const QString &encoded);
+
 // Whether two names resemble each other: one holds the other once both are in lower case and without quotation marks,
 // spaces, commas and ampersands. Characters that Unicode takes for forms of others count as those: an accent of its
 // own, a wide letter (NFKC, https://unicode.org/reports/tr15). A name of which nothing is left resembles every other.

@@ -2,7 +2,6 @@
 #include "lyrics/providers/AZLyricsProvider.h"
 
 #include "lyrics/ChainScan.h"
-#include "lyrics/LyricsText.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/LinkList.h"
 #include "lyrics/providers/TextSearch.h"
@@ -25,11 +24,10 @@ QString firstTable(const QString &page)
     return end > 0 ? page.mid(begin, end - begin) : QString();
 }
 
-QString foundArtist(QString cell)
+QString artistIn(QString cell)
 {
     cell.remove(QLatin1String("&middot;"));
-    cell.replace(QLatin1String("&nbsp;"), QLatin1String(" "));
-    return decodeHtmlEntities(cell).trimmed();
+    return foundName(cell);
 }
 
 // What a match of the row pattern names. It runs on into the next rows where a row has one name only.
@@ -49,7 +47,7 @@ Row rowOf(const ChainMatch &match, const QString &table)
     const QString artist = match.captures.at(2);
     const int begin = text.lastIndexOf(QLatin1String("<tr"), text.lastIndexOf(QStringLiteral("<b>%1</b>").arg(artist)));
     const bool isWhole = holdsText(text.mid(begin), QStringLiteral("href=\"%1\"").arg(link));
-    return {link, foundArtist(artist), begin, isWhole};
+    return {link, artistIn(artist), begin, isWhole};
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "lyrics/providers/DarkLyricsProvider.h"
 
 #include "lyrics/ChainScan.h"
-#include "lyrics/LyricsText.h"
 #include "lyrics/NestedElements.h"
 #include "lyrics/SongNames.h"
 #include "lyrics/providers/TextSearch.h"
@@ -144,7 +143,7 @@ SongLink DarkLyricsProvider::songLink(const QString &searchPage, const QString &
     const ChainScan links(linkPattern, songs);
     int read = 0;
     for (auto link = links.next(); link; link = links.next(link->end())) {
-        const QString found = decodeHtmlEntities(link->captures.at(1)).trimmed();
+        const QString found = foundName(link->captures.at(1));
         if (found.isEmpty())
             continue;
         if (looselyAgree(wanted, found))

@@ -27,8 +27,8 @@ QString textOf(const QJsonValue &value)
 bool resembles(const QJsonObject &song, const QString &artist, const QString &title)
 {
     const QJsonObject primaryArtist = song.value(QLatin1String("primary_artist")).toObject();
-    return looselyAgree(artist, decodeHtmlEntities(textOf(primaryArtist.value(QLatin1String("name"))))) &&
-           looselyAgree(title, decodeHtmlEntities(textOf(song.value(QLatin1String("title")))));
+    return looselyAgree(artist, foundName(textOf(primaryArtist.value(QLatin1String("name"))))) &&
+           looselyAgree(title, foundName(textOf(song.value(QLatin1String("title")))));
 }
 
 // The song that a hit stands for; an empty object when it stands for something else.

@@ -2,7 +2,6 @@
 #include "lyrics/providers/LyricsFreakProvider.h"
 
 #include "lyrics/ChainScan.h"
-#include "lyrics/LyricsText.h"
 #include "lyrics/NestedElements.h"
 #include "lyrics/SongNames.h"
 #include "network/Endpoints.h"
@@ -18,16 +17,11 @@ QUrl searchPageUrl()
     return endpointUrl(Endpoint::LyricsFreak, QStringLiteral("/search.php"));
 }
 
-QString trimmedName(const QString &encoded)
-{
-    return decodeHtmlEntities(encoded).trimmed();
-}
-
 // The song that the opening tag of a row names; empty when it names none.
 QString songOfRow(const QString &openingTag)
 {
     static const ChainPattern song(QStringLiteral("data-sorting-song=\"([^\"]*)\""), Matching::Longest);
-    return trimmedName(firstCapture(song, openingTag).value_or(QString()));
+    return foundName(firstCapture(song, openingTag).value_or(QString()));
 }
 
 std::optional<QString> linkInBlock(const QString &block)
@@ -78,7 +72,7 @@ SongLink LyricsFreakProvider::songLink(const QString &searchPage, const QString 
     bool linkMissing = false;
     for (auto row = rows.next(); row; row = rows.next(row->end())) {
         const QString openingTag = searchPage.mid(row->position, row->length);
-        const bool wanted = row->position >= searchedEnd && looselyAgree(artist, trimmedName(row->captures.at(0))) &&
+        const bool wanted = row->position >= searchedEnd && looselyAgree(artist, foundName(row->captures.at(0))) &&
                             looselyAgree(title, songOfRow(openingTag));
         ++read;
         linkMissing |= wanted;

@@ -12,9 +12,9 @@
 
 namespace {
 
-QString foundName(const QString &cell)
+QString nameIn(const QString &cell)
 {
-    return decodeHtmlEntities(decodeMegaLyricsText(stripTags(cell))).trimmed();
+    return foundName(decodeMegaLyricsText(stripTags(cell)));
 }
 
 // The newer layout: a block of text for each part of the song.
@@ -71,8 +71,8 @@ SongLink MegaLyricsProvider::songLink(const QString &searchPage, const QString &
     const ChainScan rows(rowPattern, *body);
     int read = 0;
     for (auto row = rows.next(); row; row = rows.next(row->end())) {
-        const QString foundTitle = foundName(row->captures.at(1));
-        const QString foundArtist = foundName(row->captures.at(2));
+        const QString foundTitle = nameIn(row->captures.at(1));
+        const QString foundArtist = nameIn(row->captures.at(2));
         if (foundTitle.isEmpty() || foundArtist.isEmpty())
             continue;
         if (looselyAgree(artist, foundArtist) && looselyAgree(title, foundTitle))

@@ -33,7 +33,7 @@ QString linkOf(const QString &titleElement)
 // The name that an element shows; empty when there is no such element, or only a picture in it.
 QString nameIn(const QString &element)
 {
-    return decodeHtmlEntities(stripTags(element)).trimmed();
+    return foundName(stripTags(element));
 }
 
 struct Track
