@@ -72,8 +72,8 @@ QByteArray escapedCharacter(const QByteArray &bytes, int position)
             return {};
         character.append(static_cast<char>(byte));
     }
-    const bool plain = count == 1;
-    return plain || !QString::fromUtf8(character).contains(QChar::ReplacementCharacter) ? character : QByteArray();
+    // As it is what it says, U+FFFD may be escaped itself.
+    return count == 1 || QString::fromUtf8(character).toUtf8() == character ? character : QByteArray();
 }
 
 } // namespace

@@ -169,6 +169,7 @@ void tst_Texts::areConverted_data()
     addRow("escapes, in either case, once", withoutEscapes, "a%20b%C3%a9%2541%%41", "a bé%41%A");
     addRow("percent signs that are no escapes", withoutEscapes, "100% sure, 5%! %4 %4", "100% sure, 5%! %4 %4");
     addRow("escapes of bytes that are no UTF-8", withoutEscapes, "100%baby %d0%41 %d0%b0%d0", "100%baby %d0A а%d0");
+    addRow("the sign for what is no character", withoutEscapes, "a%EF%BF%BDb", "a\ufffdb");
 
     addRow("named references", decodeMegaLyricsText, "&quot;&lt;&gt;&nbsp;&middot;&AMP;&apos;", "\"<> &AMP;&apos;");
     addRow("an ampersand uncovers the names behind it", decodeMegaLyricsText, "&amp;lt;&amp;quot;&amp;#1040;",
