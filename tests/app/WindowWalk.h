@@ -23,6 +23,6 @@ private:
     const std::unique_ptr<const Texts> m_texts;
 };
 
-// Looks at a window that is shown: what is English, cut or lies over other words, what a screen reader cannot name, and
-// what the Tab key does not reach or reaches out of order. One sentence a fault.
+// Looks at a window that is shown: what is English, cut or lies over other words, and what the Tab key does not reach
+// or reaches out of order. One sentence a fault.
 QStringList faultsOf(QWidget *window, const Catalogue &catalogue);
