@@ -81,14 +81,6 @@ private slots:
         QVERIFY(isRefused || unreadable < model.rowCount() / 20);
     }
 
-    void whatIsNoFileStaysOut()
-    {
-        QCOMPARE(files("special").size(), 5);
-        MainModel model;
-        model.add(files("special"));
-        QCOMPARE(model.rowCount(), 0);
-    }
-
 private:
     QList<QUrl> files(const char *part) const
     {

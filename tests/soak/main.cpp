@@ -35,15 +35,17 @@ Wishes readWishes()
                                                     "that fail at random; tells whether memory grew, a "
                                                     "song got stuck, or the list and the files disagree."));
     parser.addHelpOption();
-    const QCommandLineOption seconds(QStringLiteral("seconds"), QStringLiteral("How long to work."),
-                                     QStringLiteral("n"), QStringLiteral("1800"));
-    const QCommandLineOption songs(QStringLiteral("songs"), QStringLiteral("How many files to make."),
-                                   QStringLiteral("n"), QStringLiteral("5000"));
-    const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("What the dice begin with."),
-                                  QStringLiteral("n"), QStringLiteral("1"));
-    parser.addOptions({seconds, songs, seed});
+    const auto addNumber = [&parser](const char *name, const char *description, const char *usual) {
+        parser.addOption({QLatin1String(name), QLatin1String(description), QStringLiteral("n"), QLatin1String(usual)});
+    };
+    addNumber("seconds", "How long to work.", "1800");
+    addNumber("songs", "How many files to make.", "5000");
+    addNumber("seed", "What the dice begin with.", "1");
     parser.process(*QCoreApplication::instance());
-    return {parser.value(seconds).toInt(), parser.value(songs).toInt(), parser.value(seed).toUInt()};
+    const auto number = [&parser](const char *name) {
+        return parser.value(QLatin1String(name)).toUInt();
+    };
+    return {static_cast<int>(number("seconds")), static_cast<int>(number("songs")), number("seed")};
 }
 
 // With an empty list.

@@ -4,7 +4,6 @@
 
 FOLDER/refused/ gets files on which a reader would crash, hang or take all memory; each has to be given up.
 FOLDER/odd/ gets files that are broken, huge or random, but may be read: among them every sample cut at 64 places.
-FOLDER/special/ gets what is no file at all: a FIFO, and links to a FIFO, a device and a directory.
 """
 import os
 import pathlib
@@ -142,15 +141,6 @@ def write_odd(folder, samples):
             (folder / f"{sample.stem}-{cut}{sample.suffix}").write_bytes(content[:len(content) * cut // CUTS])
 
 
-def make_special(folder):
-    write_all(folder, {})
-    os.mkfifo(folder / "fifo.mp3")
-    (folder / "folder.mp3").mkdir()
-    for name, target in {"link-to-fifo.mp3": "fifo.mp3", "link-to-device.mp3": "/dev/zero", "link-to-folder.mp3": "."}.items():
-        (folder / name).symlink_to(target)
-
-
 samples, target = map(pathlib.Path, sys.argv[1:])
 write_refused(target / "refused")
 write_odd(target / "odd", sorted(path for path in samples.iterdir() if path.suffix[1:] in EXTENSIONS))
-make_special(target / "special")
