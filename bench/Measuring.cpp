@@ -35,6 +35,11 @@ double secondsOfChildren()
 
 } // namespace
 
+double now()
+{
+    return secondsOfClock(CLOCK_MONOTONIC);
+}
+
 double secondsOf(const std::function<void()> &work)
 {
     QElapsedTimer timer;

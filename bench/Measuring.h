@@ -9,6 +9,9 @@
 #include <functional>
 #include <vector>
 
+// The moment in seconds, by a clock that is the same in all processes.
+[[nodiscard]] double now();
+
 // Wall time of the work in seconds: where waiting is what is measured.
 [[nodiscard]] double secondsOf(const std::function<void()> &work);
 

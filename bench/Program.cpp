@@ -11,6 +11,8 @@
 #include <QQuickWidget>
 #include <QQuickWindow>
 
+#include <optional>
+
 Program::Program()
 {
     model.setReaderProgram(QCoreApplication::applicationFilePath());
@@ -47,38 +49,45 @@ QQuickItem *findSongList(const QMainWindow *window)
     return scene->rootObject()->findChild<QQuickItem *>(QStringLiteral("songList"));
 }
 
-void paintOnce(QMainWindow *window)
+double paintOnce(QMainWindow *window)
 {
-    paintOnce(window, [] { return true; });
+    return paintOnce(window, [] { return true; });
 }
 
-void paintOnce(QMainWindow *window, const std::function<bool()> &isThere)
+double paintOnce(QMainWindow *window, const std::function<bool()> &isThere)
 {
     // A paint before the scene was rendered shows nothing of it.
     struct PaintWatch : QObject
     {
-        bool eventFilter(QObject *, QEvent *event) override
+        bool eventFilter(QObject *scene, QEvent *event) override
         {
-            isPainted = isPainted || (isRendered && event->type() == QEvent::Paint);
-            return false;
+            if (!isRendered || painted || event->type() != QEvent::Paint)
+                return false;
+            scene->event(event);
+            painted = now();
+            return true;
         }
         bool isRendered = false;
-        bool isPainted = false;
+        std::optional<double> painted;
     } watch;
     auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
     scene->installEventFilter(&watch);
     QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch,
                      [&] { watch.isRendered = watch.isRendered || isThere(); });
     window->show();
-    turnUntil([&watch] { return watch.isPainted; });
+    turnUntil([&watch] { return watch.painted.has_value(); });
+    return *watch.painted;
 }
 
-void renderOnce(const QMainWindow *window, const std::function<bool()> &isThere)
+double renderOnce(const QMainWindow *window, const std::function<bool()> &isThere)
 {
     const auto *scene = qobject_cast<QQuickWidget *>(window->centralWidget());
-    bool isRendered = false;
+    std::optional<double> rendered;
     const QObject watch;
-    QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch,
-                     [&] { isRendered = isRendered || isThere(); });
-    turnUntil([&isRendered] { return isRendered; });
+    QObject::connect(scene->quickWindow(), &QQuickWindow::afterRendering, &watch, [&] {
+        if (!rendered && isThere())
+            rendered = now();
+    });
+    turnUntil([&rendered] { return rendered.has_value(); });
+    return *rendered;
 }

@@ -36,11 +36,12 @@ struct Program
     std::unique_ptr<MainWindow> window;
 };
 
-// Shows a window whose central widget is a QQuickWidget, and returns when a frame of its scene was painted.
-void paintOnce(QMainWindow *window);
+// Shows a window whose central widget is a QQuickWidget, until a frame of its scene was painted. Returns the moment
+// when it was (Measuring.h).
+double paintOnce(QMainWindow *window);
 // The same for a frame whose scene held what `isThere` asks for when it was rendered.
-void paintOnce(QMainWindow *window, const std::function<bool()> &isThere);
-// Returns when a frame was rendered whose scene held that: one that looks like the last one is not painted.
-void renderOnce(const QMainWindow *window, const std::function<bool()> &isThere);
+double paintOnce(QMainWindow *window, const std::function<bool()> &isThere);
+// The moment when a frame was rendered whose scene held that: one that looks like the last one is not painted.
+double renderOnce(const QMainWindow *window, const std::function<bool()> &isThere);
 // The list in such a window; null before it was made, which is after the first frame.
 [[nodiscard]] QQuickItem *findSongList(const QMainWindow *window);

@@ -2,12 +2,14 @@
 #include "Starting.h"
 
 #include "Benches.h"
+#include "Measuring.h"
 #include "Program.h"
 #include "SongFolder.h"
 #include "Table.h"
 
 #include "app/Application.h"
 #include "app/GraphicsBackend.h"
+#include "app/ProcessTuning.h"
 #include "ui/MainWindow.h"
 
 #include <QProcess>
@@ -15,7 +17,6 @@
 #include <QQuickWidget>
 #include <QSettings>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -25,16 +26,9 @@ namespace {
 const char bareRole[] = "--start-bare";
 const char programRole[] = "--start-program";
 
-double now()
+void tell(double moment)
 {
-    using Seconds = std::chrono::duration<double>;
-    return std::chrono::duration_cast<Seconds>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
-
-// The clock is the same in all processes.
-void tellTime()
-{
-    std::printf("%.6f\n", now());
+    std::printf("%.6f\n", moment);
 }
 
 [[noreturn]] void leave()
@@ -52,8 +46,7 @@ void tellTime()
     scene->setResizeMode(QQuickWidget::SizeRootObjectToView);
     window.setCentralWidget(scene);
     window.resize(1040, 680); // as large as the program's
-    paintOnce(&window);
-    tellTime();
+    tell(paintOnce(&window));
     leave();
 }
 
@@ -67,6 +60,7 @@ int rowCount(const MainWindow &window)
 // As main() does it, without the questions that nobody is there to answer. Nothing is searched for.
 [[noreturn]] void startProgram(int &argc, char **argv)
 {
+    tuneProcess();
     Application app(argc, argv, QStringLiteral("/proc/self/exe"));
     chooseGraphicsBackend();
     app.mainModel()->setAutoStart(false);
@@ -79,13 +73,12 @@ int rowCount(const MainWindow &window)
     if (!window.sceneErrors().isEmpty())
         qFatal("%s", qPrintable(window.sceneErrors()));
     QObject::connect(&window, &MainWindow::firstFrameShown, app.mainModel(), &MainModel::restore);
-    paintOnce(&window);
-    tellTime();
+    tell(paintOnce(&window));
     if (isListKept)
-        paintOnce(&window, [&window] { return rowCount(window) > 0; });
+        tell(paintOnce(&window, [&window] { return rowCount(window) > 0; }));
     else
-        renderOnce(&window, [&window] { return rowCount(window) == 0; });
-    tellTime();
+        tell(renderOnce(&window, [&window] { return rowCount(window) == 0; }));
+    app.mainModel()->stopReading(); // or its process would read on beside the next start
     leave();
 }
 
@@ -135,6 +128,7 @@ private:
 // One start more, in a home of its own with its settings.
 void start(const Screen &screen, const QStringList &role, const QString &home, Waits *waits)
 {
+    QFile::remove(home + QStringLiteral("/Quillmarsh/Versewell.lock")); // as after a start that was left in order
     QProcess process;
     QProcessEnvironment environment = screen.environment();
     for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})

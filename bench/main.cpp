@@ -3,7 +3,7 @@
 #include "Starting.h"
 #include "Table.h"
 
-#include "app/ProcessMemory.h"
+#include "app/ProcessTuning.h"
 #include "tags/TagReaderService.h"
 
 #include <QApplication>
@@ -50,7 +50,7 @@ int main(int argc, char **argv)
         return tags::runReader(argc, argv);
     if (isStartCall(argc, argv))
         runStart(argc, argv);
-    keepFreedMemory(); // this and the next as the program does
+    tuneProcess(); // this and the next as the program does
     qputenv("QMLSCENE_DEVICE", "softwarecontext");
     const QApplication app(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("versewell.*=false")); // a line for each page

@@ -2,7 +2,7 @@
 #include "app/Application.h"
 #include "app/CommandLine.h"
 #include "app/GraphicsBackend.h"
-#include "app/ProcessMemory.h"
+#include "app/ProcessTuning.h"
 #include "app/Recovery.h"
 #include "app/TerminationSignals.h"
 #include "model/UnsavedTexts.h"
@@ -228,7 +228,7 @@ int main(int argc, char **argv)
         std::fputs(answer.constData(), stdout);
         return Done;
     }
-    keepFreedMemory();
+    tuneProcess();
     std::signal(SIGXFSZ, SIG_IGN); // a limit on file sizes is an error to report, not the end of the program
     int status = Done;             // outlives the application object
     // This very program, also after its file was replaced by another version.

@@ -23,6 +23,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 // The version of Qt that the scene is told, as one number: it opens its menus in the way of 5.5 and later.
 static constexpr int qtVersion = 551;
@@ -206,8 +207,10 @@ void SceneWidget::watchText(QQuickItem *item)
 void SceneWidget::paintEvent(QPaintEvent *event)
 {
     QQuickWidget::paintEvent(event);
-    if (m_isRendered && m_isFirstFrame)
-        QTimer::singleShot(frameTime, this, &SceneWidget::endFirstFrame);
+    if (!m_isRendered || !std::exchange(m_isFirstPaint, false))
+        return;
+    QMetaObject::invokeMethod(this, &SceneWidget::firstFramePainted, Qt::QueuedConnection);
+    QTimer::singleShot(frameTime, this, &SceneWidget::endFirstFrame);
 }
 
 void SceneWidget::resizeEvent(QResizeEvent *event)
@@ -226,7 +229,6 @@ void SceneWidget::endFirstFrame()
     if (!m_isFirstFrame)
         return;
     m_isFirstFrame = false;
-    emit firstFramePainted();
     if (rootObject())
         rootObject()->setProperty("complete", true);
     if (!m_isPartMissing)

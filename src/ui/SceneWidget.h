@@ -49,7 +49,8 @@ public slots:
     void focusLyrics();
 
 signals:
-    // Right before the scene makes what its first frame did without: time for what can be done elsewhere meanwhile.
+    // Once, from the event loop, and a moment before the next: time for what can be done in another thread while the
+    // scene makes what its first frame did without. Never where no frame comes.
     void firstFramePainted();
     // Once, from the event loop: the first frame is on the screen, or none has come for two seconds, as in a window
     // that starts minimized. The scene is told before this and makes what that frame could do without.
@@ -79,6 +80,7 @@ private:
     QPointer<QQuickItem> m_focusedText;
     QMetaObject::Connection m_focusHidden; // whatever has the keyboard was hidden
     bool m_isRendered = false;             // what is painted before that shows nothing of the scene
+    bool m_isFirstPaint = true;
     bool m_isFirstFrame = true;
     bool m_isPartMissing = false;
 };

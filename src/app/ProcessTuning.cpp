@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "app/ProcessMemory.h"
+#include "app/ProcessTuning.h"
+
+#include <QByteArray>
 
 #include <cstdlib>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
 
-void keepFreedMemory()
+static constexpr char callsBeforeCompiling[] = "QV4_JIT_CALL_THRESHOLD";
+
+static void keepFreedMemory()
 {
 #ifdef __GLIBC__
     constexpr int mebibyte = 1024 * 1024;
@@ -14,4 +18,11 @@ void keepFreedMemory()
     mallopt(M_MMAP_THRESHOLD, 32 * mebibyte);
     mallopt(M_TRIM_THRESHOLD, 64 * mebibyte);
 #endif
+}
+
+void tuneProcess()
+{
+    keepFreedMemory();
+    if (!qEnvironmentVariableIsSet(callsBeforeCompiling))
+        qputenv(callsBeforeCompiling, QByteArrayLiteral("1000"));
 }
