@@ -3,6 +3,7 @@
 
 #include "app/RecoveryDialog.h"
 #include "app/TerminationSignals.h"
+#include "support/TestFolder.h"
 #include "support/TestTable.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QTimer>
 
 using Person = void (*)(RecoveryDialog *dialog, TerminationSignals *signalsToEnd);
@@ -29,11 +29,6 @@ void askAndAnswer(RecoveryDialog *dialog, QMessageBox::StandardButton button)
 {
     ask(dialog);
     QTest::mouseClick(dialog->findChild<QMessageBox *>()->button(button), Qt::LeftButton);
-}
-
-void pressOk(RecoveryDialog *dialog, TerminationSignals *)
-{
-    QTest::keyClick(dialog, Qt::Key_Return);
 }
 
 void refuse(RecoveryDialog *dialog, TerminationSignals *)
@@ -63,10 +58,8 @@ class tst_Recovery : public QObject
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder->path());
-        QCoreApplication::setOrganizationName("Quillmarsh"_s);
-        QCoreApplication::setApplicationName("Versewell"_s);
+        m_folder = std::make_unique<TestFolder>();
+        m_folder->holdSettings();
     }
 
     void withoutShiftNothingIsShown()
@@ -81,7 +74,6 @@ private slots:
         QTest::addColumn<AfterRecovery>("expected");
         QTest::addColumn<QStringList>("keys"); // that are left
         const QStringList all{"endpoints/Genius"_s, "openGlMethod"_s, "proxy/type"_s};
-        addRow("OK alone", Person(pressOk), AfterRecovery::GoOn, all);
         addRow("the question is denied", Person(refuse), AfterRecovery::GoOn, all);
         addRow("cleared, and closed otherwise", Person(clearAndEscape), AfterRecovery::StartAnew, QStringList{all[1]});
         addRow("the program is to end meanwhile", Person(endTheProgram), AfterRecovery::End, all);
@@ -93,8 +85,7 @@ private slots:
         QSettings().setValue("openGlMethod"_s, 3);
         QSettings().setValue("proxy/type"_s, 2);
         QSettings().setValue("endpoints/Genius"_s, "http://127.0.0.1:9"_s);
-        QFile damaged(QSettings().fileName() + QLatin1String(".bad"));
-        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        const QString damaged = m_folder->write(QSettings().fileName() + QLatin1String(".bad"));
         TerminationSignals signalsToEnd;
         QTimer::singleShot(0, this, [person, &signalsToEnd] {
             auto *dialog = qobject_cast<RecoveryDialog *>(QApplication::activeModalWidget());
@@ -105,13 +96,13 @@ private slots:
         });
         QTEST(offerRecovery(Qt::ShiftModifier, signalsToEnd), "expected");
         QTEST(QSettings().allKeys(), "keys");
-        QCOMPARE(damaged.exists(), QSettings().contains("proxy/type"_s));
+        QCOMPARE(QFile::exists(damaged), QSettings().contains("proxy/type"_s));
         QCOMPARE(QSettings().value("openGlMethod"_s).toInt(), 3);
     }
 
     void aStoreThatCannotBeWrittenIsReported()
     {
-        QVERIFY(QDir(m_folder->path()).mkpath("Quillmarsh/Versewell.conf/in the way"_s));
+        m_folder->write("Quillmarsh/Versewell.conf/in the way"_s);
         RecoveryDialog dialog;
         dialog.show();
         QTest::ignoreMessage(QtWarningMsg, "The settings cannot be stored: their file cannot be written.");
@@ -121,7 +112,7 @@ private slots:
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestFolder> m_folder;
 };
 
 QTEST_MAIN(tst_Recovery)
