@@ -1,73 +1,65 @@
 // SPDX-License-Identifier: MIT
 #include "ui/AppPalette.h"
 
+#include "support/TestTable.h"
+
 #include <QSignalSpy>
-#include <QTest>
 
 class tst_AppPalette : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void coloursFollowThePalette();
-    void theGroupCountsFromTheNextPaletteOn();
-    void coloursAreMixed_data();
-    void coloursAreMixed();
+    void coloursFollowThePalette()
+    {
+        AppPalette colours;
+        QSignalSpy themes(&colours, &AppPalette::themeChanged);
+        QPalette dark;
+        dark.setColor(QPalette::Base, Qt::black);
+        dark.setColor(QPalette::Text, QColor(200, 100, 50));
+        dark.setColor(QPalette::Mid, Qt::green);
+        colours.setPalette(dark);
+        colours.setTheme("dark"_s);
+        QCOMPARE(color(colours, "listBackground"), QColor(Qt::black));
+        QCOMPARE(color(colours, "placeholderText"), QColor(Qt::green));
+        QCOMPARE(color(colours, "label"), QColor(120, 60, 30));
+        QCOMPARE(colours.theme(), "system"_s);
+        QCOMPARE(themes.count(), 0);
+        const AppPalette copy(colours);
+        QCOMPARE(color(copy, "label"), color(colours, "label"));
+    }
+
+    void theGroupCountsFromTheNextPaletteOn()
+    {
+        QPalette palette(Qt::lightGray);
+        palette.setColor(QPalette::Active, QPalette::Text, Qt::red);
+        palette.setColor(QPalette::Disabled, QPalette::Text, Qt::blue);
+        AppPalette colours;
+        colours.setPalette(palette);
+        QSignalSpy groups(&colours, &AppPalette::colorGroupChanged);
+        colours.setColorGroup(QPalette::Disabled);
+        colours.setColorGroup(QPalette::Disabled);
+        QCOMPARE(groups.count(), 1);
+        QCOMPARE(color(colours, "text"), QColor(Qt::red));
+        colours.updateColorProperties();
+        QCOMPARE(color(colours, "text"), QColor(Qt::blue));
+    }
+
+    // Outside of 0 to 1 it is the other colour than one would think.
+    void coloursAreMixed()
+    {
+        const QVector<std::pair<double, QColor>> mixtures = {
+            {0.6, QColor(153, 153, 153)}, {1.0, Qt::white}, {0.0, Qt::black}, {1.5, Qt::black}, {-0.5, Qt::white}};
+        for (const auto &[q, expected] : mixtures)
+            QCOMPARE(AppPalette::mixedColor(Qt::white, Qt::black, q), expected);
+    }
+
+private:
+    static QColor color(const AppPalette &colours, const char *name)
+    {
+        return colours.value(QLatin1String(name)).value<QColor>();
+    }
 };
-
-void tst_AppPalette::coloursFollowThePalette()
-{
-    AppPalette colours;
-    QCOMPARE(colours.keys().size(), 43);
-    QCOMPARE(colours.colorGroup(), int(QPalette::Active));
-    QSignalSpy themes(&colours, &AppPalette::themeChanged);
-    QPalette dark;
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::Text, QColor(200, 100, 50));
-    dark.setColor(QPalette::Mid, Qt::green);
-    colours.setPalette(dark);
-    colours.setTheme(QStringLiteral("dark"));
-    QCOMPARE(colours.value(QStringLiteral("listBackground")).value<QColor>(), QColor(Qt::black));
-    QCOMPARE(colours.value(QStringLiteral("placeholderText")).value<QColor>(), QColor(Qt::green));
-    QCOMPARE(colours.value(QStringLiteral("label")).value<QColor>(), QColor(120, 60, 30));
-    QCOMPARE(colours.theme(), QStringLiteral("system"));
-    QCOMPARE(themes.count(), 0);
-    const AppPalette copy(colours);
-    QCOMPARE(copy.value(QStringLiteral("label")), colours.value(QStringLiteral("label")));
-}
-
-void tst_AppPalette::theGroupCountsFromTheNextPaletteOn()
-{
-    QPalette palette(Qt::lightGray);
-    palette.setColor(QPalette::Active, QPalette::Text, Qt::red);
-    palette.setColor(QPalette::Disabled, QPalette::Text, Qt::blue);
-    AppPalette colours;
-    colours.setPalette(palette);
-    QSignalSpy groups(&colours, &AppPalette::colorGroupChanged);
-    colours.setColorGroup(QPalette::Disabled);
-    colours.setColorGroup(QPalette::Disabled);
-    QCOMPARE(groups.count(), 1);
-    QCOMPARE(colours.value(QStringLiteral("text")).value<QColor>(), QColor(Qt::red));
-    colours.updateColorProperties();
-    QCOMPARE(colours.value(QStringLiteral("text")).value<QColor>(), QColor(Qt::blue));
-}
-
-void tst_AppPalette::coloursAreMixed_data()
-{
-    QTest::addColumn<double>("q");
-    QTest::addColumn<QColor>("expected");
-    QTest::newRow("within the range") << 0.6 << QColor(153, 153, 153);
-    QTest::newRow("all of the first") << 1.0 << QColor(Qt::white);
-    QTest::newRow("all of the second") << 0.0 << QColor(Qt::black);
-    QTest::newRow("above the range") << 1.5 << QColor(Qt::black);
-    QTest::newRow("below the range") << -0.5 << QColor(Qt::white);
-}
-
-void tst_AppPalette::coloursAreMixed()
-{
-    QFETCH(double, q);
-    QTEST(AppPalette::mixedColor(Qt::white, Qt::black, q), "expected");
-}
 
 QTEST_MAIN(tst_AppPalette)
 #include "tst_apppalette.moc"

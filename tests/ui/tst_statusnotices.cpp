@@ -5,7 +5,6 @@
 #include "ui/StatusLine.h"
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QToolButton>
@@ -31,55 +30,41 @@ class tst_StatusNotices : public QObject
 private slots:
     void savesThatWaitAreToldOfUntilTheyAreUndone()
     {
-        QMainWindow window;
-        StatusLine line(window.statusBar());
         tags::MendedSaves mended;
         mended.waiting.append("/stick/song.mp3"_s);
         mended.underWay.append("/share/song.mp3"_s);
-        line.showSavesMended(mended);
-        const QPointer<QToolButton> dismiss = window.findChild<QToolButton *>();
-        QVERIFY(dismiss && dismiss->accessibleDescription().contains(mended.waiting.first()));
-        QVERIFY(dismiss->accessibleDescription().endsWith("still being restored: /share/song.mp3"_s));
-        line.showSavesMended({});
-        QTRY_VERIFY(!dismiss);
+        m_line.showSavesMended(mended);
+        QVERIFY(text().contains(mended.waiting.first()));
+        QVERIFY(text().endsWith("still being restored: /share/song.mp3"_s));
+        m_line.showSavesMended({});
+        QCOMPARE(text(), QString());
     }
 
     void songsThatCouldNotBeWrittenAreCountedUntilTheyAre()
     {
-        QMainWindow window;
-        StatusLine line(window.statusBar());
-        const auto text = [&window] {
-            for (const auto *button : window.findChildren<QToolButton *>()) {
-                if (!button->parentWidget()->isHidden())
-                    return button->accessibleDescription();
-            }
-            return QString();
-        };
-        line.showWritesFailed("no room"_s, 2);
-        line.showWritesFailed("gone"_s, 1);
+        m_line.showWritesFailed("no room"_s, 2);
+        m_line.showWritesFailed("gone"_s, 1);
         QVERIFY(text().contains(": 3 (gone; no room)"_s));
-        line.updateWritesFailed("gone"_s, 0);
+        m_line.updateWritesFailed("gone"_s, 0);
         QVERIFY(text().contains(": 2 (no room)"_s));
-        line.updateWritesFailed("no room"_s, 0);
+        m_line.updateWritesFailed("no room"_s, 0);
         QCOMPARE(text(), QString());
-        line.showWritesFailed("no room"_s, 2);
-        window.findChildren<QToolButton *>().last()->click();
-        line.updateWritesFailed("no room"_s, 1); // dismissed is dismissed
+        m_line.showWritesFailed("no room"_s, 2);
+        dismissal()->click();
+        m_line.updateWritesFailed("no room"_s, 1); // dismissed is dismissed
         QCOMPARE(text(), QString());
     }
 
     void noticesFollowTheLanguage()
     {
-        QMainWindow window;
-        StatusLine line(window.statusBar());
-        line.addUnsupportedFiles(2);
-        line.addUnsupportedFiles(1);
-        const auto *dismiss = window.findChildren<QToolButton *>().last();
-        QVERIFY(dismiss->accessibleDescription().endsWith("supported: 3"_s));
+        m_line.addUnsupportedFiles(2);
+        m_line.addUnsupportedFiles(1);
+        QVERIFY(text().endsWith("supported: 3"_s));
         Shouting language;
         QCoreApplication::installTranslator(&language);
-        line.retranslate();
-        QVERIFY(dismiss->accessibleDescription().startsWith("FILES LEFT OUT"_s));
+        m_line.retranslate();
+        QVERIFY(text().startsWith("FILES LEFT OUT"_s));
+        dismissal()->click();
     }
 
     void automaticExportsThatFailAreCountedUntilTheNextExport()
@@ -101,6 +86,21 @@ private slots:
         emit model.automaticExportFailed("/m/third.txt"_s);
         QCOMPARE(failed.last(), 1);
     }
+
+private:
+    // The button of the notice that is shown; null for none.
+    [[nodiscard]] QToolButton *dismissal() const
+    {
+        for (auto *button : m_window.findChildren<QToolButton *>()) {
+            if (!button->parentWidget()->isHidden())
+                return button;
+        }
+        return nullptr;
+    }
+    [[nodiscard]] QString text() const { return dismissal() ? dismissal()->accessibleDescription() : QString(); }
+
+    QMainWindow m_window;
+    StatusLine m_line{m_window.statusBar()};
 };
 
 QTEST_MAIN(tst_StatusNotices)
