@@ -158,7 +158,8 @@ void LyricsProvider::follow(const QNetworkReply &reply)
 
 void LyricsProvider::readPage(QNetworkReply &reply)
 {
-    const Page page{decodedBody(reply), reply.request().url()};
+    const QByteArray source = pageInUtf8(reply.readAll(), reply.rawHeader("Content-Type"));
+    const Page page{textOf(source), reply.request().url(), source};
     const ProviderStep::PageFunction read = std::exchange(m_readPage, {});
     carryOut(read(page));
 }
@@ -181,11 +182,9 @@ void LyricsProvider::finish(const ProviderStep &result, const QByteArray &failur
     emit finished(text);
 }
 
-QString LyricsProvider::decodedBody(QNetworkReply &reply) const
+QString LyricsProvider::textOf(const QByteArray &source) const
 {
-    QByteArray body = pageInUtf8(reply.readAll(), reply.rawHeader("Content-Type"));
-    if (hasPercentEncodedPages())
-        body = decodePercentEscapes(body);
+    QByteArray body = hasPercentEncodedPages() ? decodePercentEscapes(source) : source;
     const int nul = body.indexOf('\0');
     if (nul >= 0)
         body.truncate(nul);

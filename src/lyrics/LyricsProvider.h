@@ -73,7 +73,7 @@ private:
     void readPage(QNetworkReply &reply);
     // `failure` is for the log, when the result is one.
     void finish(const ProviderStep &result, const QByteArray &failure = QByteArrayLiteral("failed"));
-    [[nodiscard]] QString decodedBody(QNetworkReply &reply) const;
+    [[nodiscard]] QString textOf(const QByteArray &source) const;
 
     NetworkSource m_network;
     QNetworkAccessManager *m_ownNetworkManager = nullptr;

@@ -16,6 +16,7 @@ struct Page
 {
     QString text;
     QUrl url;
+    QByteArray source = {}; // the whole page in UTF-8, before escapes were decoded
 };
 
 // What a site client makes of a page: ask for another one, these are the lyrics, nothing here, or a failure.

@@ -3,6 +3,7 @@
 
 #include "lyrics/ChainScan.h"
 #include "lyrics/SongNames.h"
+#include "lyrics/providers/LinkEscapes.h"
 #include "lyrics/providers/LinkList.h"
 #include "lyrics/providers/TextSearch.h"
 #include "network/Endpoints.h"
@@ -83,7 +84,8 @@ ProviderStep AZLyricsProvider::infoRequestFinished(const Page &page) const
     const SongLink link = songLink(page.text, artist());
     if (!link)
         return ProviderStep::without(link.missing());
-    return ProviderStep::ask(browserRequest(QUrl(*link), searchPageUrl()), &AZLyricsProvider::lyricsRequestFinished);
+    return ProviderStep::ask(browserRequest(QUrl(linkInSource(page, *link)), searchPageUrl()),
+                             &AZLyricsProvider::lyricsRequestFinished);
 }
 
 ProviderStep AZLyricsProvider::lyricsRequestFinished(const Page &page)

@@ -4,6 +4,7 @@
 #include "lyrics/ChainScan.h"
 #include "lyrics/NestedElements.h"
 #include "lyrics/SongNames.h"
+#include "lyrics/providers/LinkEscapes.h"
 #include "lyrics/providers/TextSearch.h"
 #include "network/Endpoints.h"
 
@@ -102,7 +103,7 @@ ProviderStep DarkLyricsProvider::infoRequestFinished(const Page &page) const
     if (!link)
         return ProviderStep::without(link.missing());
     // The fragment, which names the song's anchor, stays in the address.
-    return ProviderStep::ask(siteRequest(page.url.resolved(QUrl(*link)), browserUserAgent()),
+    return ProviderStep::ask(siteRequest(page.url.resolved(QUrl(linkInSource(page, *link))), browserUserAgent()),
                              &DarkLyricsProvider::lyricsRequestFinished);
 }
 

@@ -4,6 +4,7 @@
 #include "lyrics/ChainScan.h"
 #include "lyrics/NestedElements.h"
 #include "lyrics/SongNames.h"
+#include "lyrics/providers/LinkEscapes.h"
 #include "network/Endpoints.h"
 
 #include <QUrlQuery>
@@ -52,11 +53,12 @@ QNetworkRequest LyricsFreakProvider::redirectedRequest(const QUrl &target) const
 
 ProviderStep LyricsFreakProvider::infoRequestFinished(const Page &page) const
 {
-    const SongLink link = songLink(page.text, artist(), title());
-    if (!link)
-        return ProviderStep::without(link.missing());
-    const bool onSite = link->startsWith(QLatin1Char('/'));
-    const QUrl url = onSite ? endpointUrl(Endpoint::LyricsFreak, *link) : QUrl(*link);
+    const SongLink found = songLink(page.text, artist(), title());
+    if (!found)
+        return ProviderStep::without(found.missing());
+    const QString link = linkInSource(page, *found);
+    const bool onSite = link.startsWith(QLatin1Char('/'));
+    const QUrl url = onSite ? endpointUrl(Endpoint::LyricsFreak, link) : QUrl(link);
     return ProviderStep::ask(QNetworkRequest(url), &LyricsFreakProvider::lyricsRequestFinished);
 }
 

@@ -54,7 +54,7 @@ ProviderStep MegaLyricsProvider::infoRequestFinished(const Page &page) const
     const SongLink link = songLink(page.text, artist(), title());
     if (!link)
         return ProviderStep::without(link.missing());
-    return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, withLinkEscapes(*link))),
+    return ProviderStep::ask(QNetworkRequest(endpointUrl(Endpoint::Megalyrics, withLinkEscapes(page, *link))),
                              &MegaLyricsProvider::lyricsRequestFinished);
 }
 

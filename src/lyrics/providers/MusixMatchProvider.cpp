@@ -89,7 +89,7 @@ ProviderStep MusixMatchProvider::requestFinished(const Page &page)
         return lyricsOfBlock(block).value_or(ProviderStep::notUnderstood(tooIntricate));
     }
     const SongLink link = trackLink(page.text, artist(), title());
-    return link ? askFor(page.url.resolved(QUrl(withLinkEscapes(*link)))) : ProviderStep::without(link.missing());
+    return link ? askFor(page.url.resolved(QUrl(withLinkEscapes(page, *link)))) : ProviderStep::without(link.missing());
 }
 
 QString MusixMatchProvider::lyricsBlock(const QString &page)
