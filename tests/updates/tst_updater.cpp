@@ -167,9 +167,7 @@ private slots:
 
     void theUserCanStopWaiting()
     {
-        LoopbackResponse never;
-        never.hang = true;
-        Rig rig(never);
+        Rig rig(LoopbackResponse::hanging());
         rig.updater->checkByUser();
         rig.window.findChild<UpdateInfoDialog *>()->reject();
         QCOMPARE(rig.state(), UpdateChecker::Normal);
@@ -247,32 +245,26 @@ private slots:
         QCOMPARE(rig.checks(), 1);
     }
 
-    void theDesktopIsAskedWhetherItOpensAFile_data()
-    {
-        QTest::addColumn<QByteArray>("command");
-        QTest::addColumn<bool>("isOpened");
-        addRow("it does", QByteArray("test \"$1\" = /a"), true);
-        addRow("nothing on it does", QByteArray("exit 3"), false);
-        addRow("the program that does stays", QByteArray("exec sleep 5"), true);
-        addRow("there is no desktop", QByteArray(), false);
-    }
-
     void theDesktopIsAskedWhetherItOpensAFile()
     {
-        QFETCH(QByteArray, command);
-        TestFolder folder;
-        if (!command.isEmpty()) {
-            const QString script =
-                folder.write("xdg-open"_s, QByteArrayLiteral("#!/bin/sh\nPATH=/usr/bin:/bin\n") + command);
-            QVERIFY(QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        }
+        const QVector<QPair<QByteArray, bool>> rows{{"test \"$1\" = /a", true}, // it does
+                                                    {"exit 3", false},          // nothing on it does
+                                                    {"exec sleep 5", true},     // the program that does stays
+                                                    {{}, false}};               // there is no desktop
         const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", QFile::encodeName(folder.path()));
-        QVector<bool> reports;
-        openOnDesktop("/a"_s, [&reports](bool opened) { reports.append(opened); });
-        QTRY_VERIFY(!reports.isEmpty());
-        qputenv("PATH", path);
-        QTEST(reports.first(), "isOpened");
+        for (const auto &[command, isOpened] : rows) {
+            const TestFolder folder;
+            if (!command.isEmpty()) {
+                const QString script = folder.write("xdg-open"_s, "#!/bin/sh\nPATH=/usr/bin:/bin\n" + command);
+                QVERIFY(QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+            }
+            qputenv("PATH", QFile::encodeName(folder.path()));
+            QVector<bool> reports;
+            openOnDesktop("/a"_s, [&reports](bool opened) { reports.append(opened); });
+            QTRY_VERIFY(!reports.isEmpty());
+            qputenv("PATH", path);
+            QVERIFY2(reports.first() == isOpened, command.constData());
+        }
     }
 };
 
