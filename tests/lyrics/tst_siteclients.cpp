@@ -432,6 +432,11 @@ void tst_SiteClients::findTheLyrics_data()
     newer("Genius: an empty older block hides the newer layout", "<div class=\"lyrics\"></div>@la</div>", {});
     newer("Genius: references of any length, through others too",
           "@&#0000000065;&#38;#66;&#9;&#x43;&amp;lt;&#1114112;</div>", "AB\tC<\ufffd"_s);
+    newer("Genius: elements in one another, and one that closes itself", "@a<div\n>b</div><div />c</div>d", "abc"_s);
+    newer("Genius: a head on one line goes", "@<div>head</div>a</div>", "a"_s);
+    newer("Genius: containers, one of them without words", "@a</div>x@</div>@b<br/>c</div>", "a\r\nb\nc"_s);
+    newer("Genius: half a song, whose page was cut off", "@a</div>@b", {});
+    newer("Genius: a container that is not closed on a whole page", "@a</div>@b</html>", "a"_s);
     newer("Genius: a list of songs is no song",
           "@1. <a href=\"/1-lyrics\">Harbour Bells</a> 2. <a href='/2-lyrics' x>Harbour Lights</a></div>", {});
     newer("Genius: words with notes", "@<a href=\"/1/one/la\">la</a></div>", "la"_s);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RandomText.h"
-#include "lyrics/LyricsText.h"
 #include "lyrics/providers/ElementFinder.h"
-#include "lyrics/providers/GeniusProvider.h"
 #include "support/TestTable.h"
 
 #include <QRegExp>
@@ -10,33 +8,21 @@
 
 namespace {
 
-// What the clients do, written with the regular expressions themselves, however long they take.
-namespace plain {
-
-QRegExp minimal(const QString &pattern)
+// The position of the tag that closes the element at the start; -1 when nothing does.
+int closingTag(const QString &html, const QString &name)
 {
-    QRegExp expression(pattern);
-    expression.setMinimal(true);
-    return expression;
-}
-
-// The position of the tag that closes the element whose opening tag begins at `from`; -1 when nothing does.
-int closingTag(const QString &html, const QString &pattern, int from, int *length = nullptr)
-{
-    QRegExp tag(pattern);
+    QRegExp tag("</?%1"_s.arg(name));
     int depth = 0;
-    for (int at = tag.indexIn(html, from); at >= 0; at = tag.indexIn(html, at + tag.matchedLength())) {
-        if (!tag.cap(0).endsWith("/>"_s))
-            depth += tag.cap(0).startsWith("</"_s) ? -1 : 1;
-        if (length)
-            *length = tag.matchedLength();
+    for (int at = tag.indexIn(html); at >= 0; at = tag.indexIn(html, at + tag.matchedLength())) {
+        depth += tag.cap(0).startsWith("</"_s) ? -1 : 1;
         if (depth == 0)
             return at;
     }
     return -1;
 }
 
-QString elementOf(const QString &html, const QString &tag, const QStringList &classes, bool withOpeningTag)
+// findElement(), written with the regular expressions themselves, however long they take.
+QString plainlyFound(const QString &html, const QString &tag, const QStringList &classes, bool withOpeningTag)
 {
     const QRegularExpression opening("<%1\\s+[^>]*class=(['\"])(.+?)\\1.*?>"_s.arg(tag),
                                      QRegularExpression::CaseInsensitiveOption);
@@ -49,7 +35,7 @@ QString elementOf(const QString &html, const QString &tag, const QStringList &cl
         if (fits) {
             // The opening tag counts without its first character, so that its letter case does not matter.
             const QString rest = QLatin1Char('<') + tag + html.mid(match.capturedStart() + tag.size() + 1);
-            const int size = closingTag(rest, "</?%1"_s.arg(tag), 0);
+            const int size = closingTag(rest, tag);
             const int skipped = withOpeningTag ? 0 : match.capturedLength();
             if (size > 0)
                 return html.mid(match.capturedStart() + skipped, std::max(0, size - skipped));
@@ -58,45 +44,6 @@ QString elementOf(const QString &html, const QString &tag, const QStringList &cl
     }
     return {};
 }
-
-QString elementAt(const QString &page, int start)
-{
-    const QString rest = page.mid(start);
-    const QString name = QRegExp::escape(rest.mid(1, std::max(0, rest.indexOf(QLatin1Char(' '), 1) - 1)));
-    int length = 0;
-    const int end = name.isEmpty() ? -1 : closingTag(rest, "<%1[^>]+/>|<%1|</%1"_s.arg(name), 0, &length);
-    return end < 0 ? QString() : rest.left(end + length);
-}
-
-QString lyricsOfContainer(QString text)
-{
-    text.replace(QRegExp("<br/?>"_s), "\n"_s);
-    text.replace(QRegularExpression("<div.*?</div>"_s), "\n"_s);
-    text = stripTags(text).trimmed();
-    return decodeHtmlEntities(decodeDecimalReferences(text)).remove("</div"_s);
-}
-
-QString lyricsOfPage(const QString &page)
-{
-    QRegExp older = minimal("<div class=\"lyrics\"*>(.*)</div>"_s);
-    if (older.indexIn(page) >= 0) {
-        QString block = older.cap(1).remove(QLatin1Char('\n')).remove(QLatin1Char('\r'));
-        return stripTags(block.replace(QRegExp("<br/?>"_s), "\n"_s)).trimmed();
-    }
-    QStringList texts;
-    QRegExp container = minimal("<div[^>]*class=\"Lyrics__Container.*>"_s);
-    for (int at = container.indexIn(page); at >= 0;) {
-        const QString element = elementAt(page, at);
-        if (element.isEmpty())
-            return {};
-        texts << lyricsOfContainer(element);
-        at = container.indexIn(page, at + element.size());
-    }
-    texts.removeAll(QString());
-    return texts.join("\r\n"_s);
-}
-
-} // namespace plain
 
 } // namespace
 
@@ -115,21 +62,8 @@ private slots:
                     return finder(page, "div"_s, {"a"_s, "B"_s}, withTag);
                 };
             };
-            compareOnRandomTexts(pieces, find(findElement), find(plain::elementOf));
+            compareOnRandomTexts(pieces, find(findElement), find(plainlyFound));
         }
-    }
-
-    void geniusReadsContainers()
-    {
-        const auto lyricsOf = [](const QString &page) {
-            return GeniusProvider::lyricsRequestFinished({page, {}}).lyrics();
-        };
-        const QString pieces =
-            "<div~class=\"Lyrics__Container </div </div> </div> <div~ <div /> > <br> <br/> x \n \r ~ "
-            "class=\"Lyrics__Container &#65; &#38; amp; #66; <div~class=\"Lyrics__Container\"> </div> "
-            "/ &lt; <b>"_s;
-        compareOnRandomTexts(pieces, lyricsOf, plain::lyricsOfPage);
-        compareOnRandomTexts(pieces + " <div~class=\"lyrics\">"_s, lyricsOf, plain::lyricsOfPage);
     }
 };
 
