@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandLine.h"
-
-#include <QTest>
+#include "support/TestTable.h"
 
 class tst_CommandLine : public QObject
 {
@@ -12,29 +11,29 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QStringList>("paths");
-        QTest::addColumn<QString>("unknownOption");
-        const QString none;
-        QTest::newRow("relative") << QStringList{"a.mp3", "../b"} << QStringList{"/music/x/a.mp3", "/music/b"} << none;
-        QTest::newRow("characters of addresses")
-            << QStringList{"/m/50% #1?.mp3"} << QStringList{"/m/50% #1?.mp3"} << none;
-        QTest::newRow("an address") << QStringList{"file:///m/a%20b.mp3"} << QStringList{"/m/a b.mp3"} << none;
-        QTest::newRow("looks like a site") << QStringList{"http:"} << QStringList{"/music/x/http:"} << none;
-        QTest::newRow("behind the options") << QStringList{"--", "--x"} << QStringList{"/music/x/--x"} << none;
-        QTest::newRow("an option nobody knows")
-            << QStringList{"--recursive", "a"} << QStringList{"/music/x/a"} << "--recursive";
-        QTest::newRow("empty") << QStringList{""} << QStringList() << none;
+        QTest::addColumn<QString>("unknown");
+        const auto row = [](const char *name, const QStringList &arguments, const QStringList &paths,
+                            const QString &unknown = {}) {
+            addRow(name, arguments, paths, unknown);
+        };
+        row("relative", {"a.mp3", "../b"}, {"/music/x/a.mp3", "/music/b"});
+        row("characters of addresses", {"/m/50% #1?.mp3"}, {"/m/50% #1?.mp3"});
+        row("an address", {"file:///m/a%20b.mp3"}, {"/m/a b.mp3"});
+        row("looks like a site", {"http:"}, {"/music/x/http:"});
+        row("behind the options", {"--", "--x"}, {"/music/x/--x"});
+        row("an option nobody knows", {"--recursive", "a"}, {"/music/x/a"}, "--recursive");
+        row("empty", {""}, {});
     }
 
     void reads()
     {
         QFETCH(QStringList, arguments);
-        arguments.prepend("versewell");
-        const CommandLine line = readCommandLine(arguments, "/music/x");
+        const CommandLine line = readCommandLine(QStringList("versewell") + arguments, "/music/x");
         QStringList paths;
         for (const QUrl &song : line.songs)
             paths.append(song.toLocalFile());
         QTEST(paths, "paths");
-        QTEST(line.unknownOption, "unknownOption");
+        QTEST(line.unknownOption, "unknown");
     }
 
     void answers()

@@ -64,30 +64,30 @@ private slots:
 
     void theAnswerDecides_data()
     {
-        addTextColumns("answer", "doNotTrack", "storedId");
+        QTest::addColumn<QVariantMap>("stored");
+        QTest::addColumn<QByteArray>("doNotTrack");
         QTest::addColumn<bool>("isAsked");
         QTest::addColumn<bool>("isSent");
-        addRow("a yes", "true", "", clientId, false, true);
-        addRow("a yes with an identifier that is none", "true", "0", "x", false, true);
-        addRow("not asked yet", "", "", "", true, false);
-        addRow("a no", "false", "", clientId, false, false);
-        addRow("a yes, and the environment says no", "true", "1", clientId, false, false);
-        addRow("not asked yet, and the environment says no", "", "1", "", false, false);
+        const auto answered = [](bool yes, const QString &id) {
+            return QVariantMap{{"usageStatistics"_s, yes}, {"tracker/clientId"_s, id}};
+        };
+        addRow("a yes", answered(true, clientId), QByteArray(), false, true);
+        addRow("a yes with an identifier that is none", answered(true, "x"_s), QByteArray("0"), false, true);
+        addRow("not asked yet", QVariantMap(), QByteArray(), true, false);
+        addRow("a no", answered(false, clientId), QByteArray(), false, false);
+        addRow("a yes, and the environment says no", answered(true, clientId), QByteArray("1"), false, false);
+        addRow("not asked yet, and the environment says no", QVariantMap(), QByteArray("1"), false, false);
     }
 
     void theAnswerDecides()
     {
-        QFETCH(QString, answer);
-        QFETCH(QString, doNotTrack);
-        QFETCH(QString, storedId);
+        QFETCH(QVariantMap, stored);
+        QFETCH(QByteArray, doNotTrack);
         QFETCH(bool, isSent);
-        qputenv("DO_NOT_TRACK", doNotTrack.toLatin1());
+        qputenv("DO_NOT_TRACK", doNotTrack);
         QVariantMap settings = someCollector;
         settings.insert("FirstStart"_s, "1.5.5"_s);
-        if (!answer.isEmpty())
-            settings.insert("usageStatistics"_s, answer);
-        if (!storedId.isEmpty())
-            settings.insert("tracker/clientId"_s, storedId);
+        settings.insert(stored);
         Stage app(settings);
         const Collector collector;
         QTEST(app->usageConsent()->isPending(), "isAsked");
@@ -113,7 +113,7 @@ private slots:
         QVERIFY(isSent || collector.mostConnections() == 0);
         const QString keptId = QSettings().value("tracker/clientId"_s).toString();
         QCOMPARE(AppTracker::isClientId(keptId), isSent);
-        QVERIFY(keptId.isEmpty() || storedId != clientId || keptId == clientId);
+        QVERIFY(!isSent || stored.value("tracker/clientId"_s) != clientId || keptId == clientId);
     }
 
     void nobodyIsAskedWithoutACollector()
@@ -191,8 +191,8 @@ private slots:
     void theEndWaitsForItsReport_data()
     {
         QTest::addColumn<bool>("isAnswered");
-        QTest::newRow("that arrives") << true;
-        QTest::newRow("that is never answered") << false;
+        addRow("that arrives", true);
+        addRow("that is never answered", false);
     }
 
     void theEndWaitsForItsReport()

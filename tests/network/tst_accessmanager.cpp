@@ -417,27 +417,21 @@ private slots:
         QTRY_COMPARE(m_server->requestCount("/setup"_s), 4);
     }
 
-    void abortMidway()
+    void repliesEndMidway()
     {
         m_server->route("/page"_s, dripped(LoopbackResponse::page(QByteArray(100000, 'x')), 1ms));
-        const std::unique_ptr<QNetworkReply> reply(start("/page"));
-        QVERIFY(QSignalSpy(reply.get(), &QNetworkReply::downloadProgress).wait());
-        reply->abort();
-        reply->abort();
-        waitFor(reply.get());
-        QCOMPARE(reply->error(), QNetworkReply::OperationCanceledError);
-        QVERIFY(reply->readAll().isEmpty());
-        QTRY_COMPARE(m_server->openConnections(), 0);
-    }
-
-    void repliesDeletedMidway()
-    {
-        m_server->route("/page"_s, dripped(LoopbackResponse::page(QByteArray(100000, 'x')), 1ms));
-        const QPointer<QNetworkReply> page(start("/page"));
-        connect(page, &QNetworkReply::downloadProgress, this, [page] { delete page.data(); });
+        const std::unique_ptr<QNetworkReply> aborted(start("/page"));
+        QVERIFY(QSignalSpy(aborted.get(), &QNetworkReply::downloadProgress).wait());
+        aborted->abort();
+        aborted->abort();
+        waitFor(aborted.get());
+        QCOMPARE(aborted->error(), QNetworkReply::OperationCanceledError);
+        QVERIFY(aborted->readAll().isEmpty());
+        const QPointer<QNetworkReply> deleted(start("/page"));
+        connect(deleted, &QNetworkReply::downloadProgress, this, [deleted] { delete deleted.data(); });
         const QPointer<QNetworkReply> upload(m_manager->post(form("/form"), QByteArray(32 * limitBytes, 'x')));
         connect(upload, &QNetworkReply::uploadProgress, this, [upload] { delete upload.data(); });
-        QTRY_VERIFY(!page && !upload);
+        QTRY_VERIFY(!deleted && !upload);
         QTRY_COMPARE(m_server->openConnections(), 0);
         QCOMPARE(get("/other")->error(), QNetworkReply::ContentNotFoundError);
     }
