@@ -77,8 +77,6 @@ struct SongLayout
     Id3v2View id3v2View = Id3v2View::Stored;
     ByteRange id3v2; // the tag with its header, in the chunk where it has one; of length 0 when there is none
     ByteRange id3v1; // of length 0 when there is none
-    // Of ASF only: the extension of the header comes before the extended content description.
-    bool isExtensionFirst = false;
     // Of MP4 only:
     QVector<AudioOffset> audioOffsets;
     bool hasFragmentIndex = false; // some of the offsets are of an index of fragments

@@ -11,7 +11,6 @@
 #include <taglib/aifffile.h>
 #include <taglib/apefile.h>
 #include <taglib/apetag.h>
-#include <taglib/asffile.h>
 #include <taglib/id3v1tag.h>
 #include <taglib/id3v2header.h>
 #include <taglib/id3v2tag.h>
@@ -185,14 +184,6 @@ AppliedEdits applyToOther(const TagEdits &edits, TagLib::File &file)
     return applied;
 }
 
-// What TagLib stores of an attribute in the extended content description.
-bool fitsDescription(const TagLib::ASF::Attribute &attribute)
-{
-    constexpr int largestBytes = 65535;
-    return attribute.type() != TagLib::ASF::Attribute::GuidType && attribute.dataSize() <= largestBytes &&
-           attribute.language() == 0 && attribute.stream() == 0;
-}
-
 void keepOldCover(TagLib::Ogg::XiphComment &comment, const QByteArray &text)
 {
     const TagLib::ByteVector stored(text.constData(), static_cast<unsigned int>(text.size()));
@@ -279,21 +270,6 @@ void keepOldCovers(TagLib::File &file, const QVector<TagItem> &items)
             if (comment && item.key == "Xiph/COVERART")
                 keepOldCover(*comment, item.value);
         }
-    }
-}
-
-void keepOrder(TagLib::File &file, const SongLayout &layout)
-{
-    auto *asf = dynamic_cast<TagLib::ASF::File *>(&file);
-    if (!asf || !layout.isExtensionFirst)
-        return;
-    for (auto &[name, values] : asf->tag()->attributeListMap()) {
-        const TagLib::ASF::Attribute last = values.isEmpty() ? TagLib::ASF::Attribute() : values.back();
-        if (values.size() < 2 || !fitsDescription(last))
-            continue;
-        auto end = values.end();
-        values.erase(--end);
-        values.prepend(last);
     }
 }
 

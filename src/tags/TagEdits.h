@@ -55,10 +55,6 @@ QHash<QByteArray, int> editableFrames(TagLib::File &file);
 // one, which leaves programs that know the old one alone without it. `items`: what is stored in the file.
 void keepOldCovers(TagLib::File &file, const QVector<TagItem> &items);
 
-// To be called before a file is saved: TagLib stores the first of several values of an ASF attribute in one object of
-// the header and the others in another, which would turn them round where that one comes first.
-void keepOrder(TagLib::File &file, const SongLayout &layout);
-
 // Saves what was applied, as the format asks, but for ID3v1 beside MPEG; false when TagLib says that it failed.
 bool save(const AppliedEdits &applied, TagLib::File &file);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tags/TagUpdate.h"
 
+#include "tags/AsfKeeping.h"
 #include "tags/CheckedFileStream.h"
 #include "tags/FileAccess.h"
 #include "tags/FileCopying.h"
@@ -180,10 +181,11 @@ UpdateResult Update::writeTags(int copy)
         return UpdateResult::DiskError; // it was readable where it came from
     const AppliedEdits applied = apply(m_edits, song.file());
     keepOldCovers(song.file(), m_layout.items);
-    keepOrder(song.file(), m_layout);
     const bool saved = save(applied, song.file());
     const UpdateResult kept = song.stream().error() == 0 ? keepFrames(song.stream()) : UpdateResult::Saved;
     keepId3v1(song.stream());
+    if (m_layout.format == SongFormat::Asf && song.stream().error() == 0)
+        keepAsfAttributes(*song.stream().stream(), FileBytes(copy), FileBytes(m_original), m_applied.keys);
     if (song.stream().error() != 0)
         return resultOfError(song.stream().error());
     return saved ? kept : UpdateResult::SaveFailed;

@@ -3,6 +3,7 @@
 #include "tags/MediaFileTags.h"
 #include "tags/SongFiles.h"
 
+#include <QJsonArray>
 #include <QTest>
 #include <QtEndian>
 
@@ -64,6 +65,41 @@ QByteArray utf16(const char *text)
     for (; *text != '\0'; ++text)
         bytes += QByteArray(1, *text) + '\0';
     return bytes;
+}
+
+QByteArray asfObject(const char *kind, const QByteArray &content)
+{
+    QByteArray size(8, '\0');
+    qToLittleEndian(qint64{content.size()} + 24, size.data());
+    return QByteArray::fromHex(kind) + size + content;
+}
+
+QByteArray asfNumber(int number, int bytes = 2)
+{
+    QByteArray stored(4, '\0');
+    qToLittleEndian(number, stored.data());
+    return stored.left(bytes);
+}
+
+// The song with nothing but these covers in the extension of its header, and none elsewhere.
+QByteArray withAsfCovers(QByteArray song, const QVector<int> &sizes)
+{
+    const char *extension = "b503bf5f2ea9cf118ee300c00c205365";
+    const QByteArray name = utf16("WM/Picture") + asfNumber(0);
+    song.replace(name, utf16("WM/Another") + asfNumber(0));
+    QByteArray covers = asfNumber(sizes.size());
+    for (const int size : sizes) {
+        const QByteArray cover = '\3' + asfNumber(size, 4) + utf16("image/png") + QByteArray(4, '\0') +
+                                 QByteArray(size, static_cast<char>('a' + size % 7));
+        covers += asfNumber(0, 4) + asfNumber(name.size()) + asfNumber(1) + asfNumber(cover.size(), 4) + name + cover;
+    }
+    const QByteArray library = asfObject("941c23449894d149a1411d134e457054", covers);
+    const int place = song.indexOf(QByteArray::fromHex(extension));
+    const int oldSize = qFromLittleEndian<int>(song.constData() + place + 16);
+    const QByteArray made = asfObject(extension, song.mid(place + 24, 18) + asfNumber(library.size(), 4) + library);
+    song.replace(place, oldSize, made);
+    qToLittleEndian(qFromLittleEndian<int>(song.constData() + 16) + made.size() - oldSize, song.data() + 16);
+    return song;
 }
 
 // Of a page of sound each.
@@ -157,6 +193,34 @@ private slots:
         QCOMPARE(qFromBigEndian<int>(after.constData() + 4) + 8, after.size());
         QCOMPARE(files.audioDigest(path), audio);
         QCOMPARE(SongFiles::tagsOf(path).value("title"_s).toString(), "Song"_s);
+    }
+
+    void coversOfEachSizeStayInTheirOrder_data()
+    {
+        QTest::addColumn<QVector<int>>("sizes");
+        addRow("a small one first", QVector<int>{1000, 70000});
+        addRow("a large one first", QVector<int>{70000, 1000});
+        addRow("a small one between large ones", QVector<int>{70001, 1000, 70000});
+        addRow("small ones alone", QVector<int>{1000, 1001, 1002});
+    }
+
+    void coversOfEachSizeStayInTheirOrder()
+    {
+        QFETCH(QVector<int>, sizes);
+        const SongFiles files;
+        const QString path = files.write("song.wma"_s, withAsfCovers(files.bytesOf("lyrics.wma"_s), sizes));
+        const QJsonObject before = SongFiles::tagsOf(path);
+        const QByteArray audio = files.audioDigest(path);
+        QCOMPARE(before.value("pictures"_s).toArray().size(), sizes.size());
+        for (const QString &lyrics : {"new words"_s, "long words "_s.repeated(5000)}) {
+            QCOMPARE(files.update(path, {{}, "New Title"_s, lyrics}), UpdateResult::Saved);
+            const QJsonObject after = SongFiles::tagsOf(path);
+            QCOMPARE(after.value("pictures"_s), before.value("pictures"_s));
+            QCOMPARE(after.value("others"_s), before.value("others"_s));
+            QCOMPARE(after.value("title"_s).toString(), "New Title"_s);
+            QCOMPARE(after.value("lyrics"_s).toVariant().toStringList(), QStringList{lyrics});
+            QCOMPARE(files.audioDigest(path), audio);
+        }
     }
 
     void aNewChunkHasVersionThreeAndKeepsIt()
