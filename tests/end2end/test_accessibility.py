@@ -24,7 +24,8 @@ LAUNCHER = next((path for path in ("/usr/libexec/at-spi-bus-launcher", "/usr/lib
 STARTS = 2
 PATIENCE_SECONDS = 8
 IN_SESSION = "VERSEWELL_PRIVATE_BUS"
-LANGUAGES = ("en", "de")  # the other ones differ in texts, which tst_languages looks at
+LANGUAGES = ["en", *sorted(path.stem.split("_", 1)[1] for path in (rig.TOP / "translations").glob("versewell_*.ts"))]
+WALKED_WHOLLY = ("en", "de")
 CONTROLS = {"push button", "toggle button", "text", "list item", "slider", "check box", "link", "menu item", "page tab",
             "combo box", "spin button", "split pane"}
 # What one comes through with the Tab key, as it stands from top to bottom and from left to right.
@@ -286,19 +287,20 @@ class Walk(unittest.TestCase):
         self.assertTrue(rig.wait_until(lambda: "showing" in self.states(save), PATIENCE_SECONDS), "the edit did not begin")
 
 
-class WindowsTest(Walk):
+class EveryLanguageTest(Walk):
     def test_whatever_opens(self):
         for language in LANGUAGES:
             with self.subTest(language):
                 self.start_searching(language)
                 self.check(self.window)
-                self.walk_dialogs()
-                self.walk_updates()
-                self.walk_questions()
+                self.visit("Preferences", "Preferences", "Cancel")
+                if language in WALKED_WHOLLY:
+                    self.walk_dialogs()
+                    self.walk_updates()
+                    self.walk_questions()
                 rig.end(self.program)
 
     def walk_dialogs(self):
-        self.visit("Preferences", "Preferences", "Cancel")
         self.visit("About", "About", "Close")
         self.visit("Add file", "Select file(s) to add", "Cancel", is_ours=False)
         self.visit("Add folder", "Select folder to add", "Cancel", is_ours=False)
@@ -336,7 +338,7 @@ class WindowsTest(Walk):
         broken = self.session.stage.home / "QtQuick.2"
         broken.mkdir()
         (broken / "qmldir").write_text("module QtQuick\nplugin none\n")
-        for language in LANGUAGES:
+        for language in WALKED_WHOLLY:
             with self.subTest(language):
                 self.start(language=language, QML2_IMPORT_PATH=str(self.session.stage.home))
                 self.look("Versewell", "Close")
