@@ -9,8 +9,7 @@ namespace {
 
 QString corrections(const QString &content)
 {
-    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
-           "<lfm status=\"ok\"><corrections for=\"x\">%1</corrections></lfm>\n"_s.arg(content);
+    return "<lfm status=\"ok\"><corrections for=\"x\">%1</corrections></lfm>"_s.arg(content);
 }
 
 QString correction(const QString &artist, const QString &title)
@@ -48,14 +47,11 @@ private slots:
         addTextColumns("getCorrection", "search", "pairs"); // "failed" is among them when there is an error text
         const QString one = corrections(correction("Tin &amp; Lanterns"_s, "Огни 🎵"_s));
         const QString two = found(track("A"_s, "1"_s) + track("B"_s, "2"_s));
-        const QString error = "<lfm status=\"failed\"><error code=\"10\">Invalid API key</error></lfm>"_s;
         addRow("corrections before what the search found", one, two, "Tin & Lanterns/Огни 🎵 A/1 B/2");
         addRow("a second correction, and one without a track's name",
                corrections(correction("X"_s, {}) + correction("C"_s, "3"_s)), two, "C/3 A/1 B/2");
-        addRow("the service reports an error", error, error, "");
         addRow("the service fails at once", "", two, "failed");
         addRow("the search fails", one, "", "Tin & Lanterns/Огни 🎵 failed");
-        addRow("a correction that is cut off", one.left(one.size() - 9), two, "A/1 B/2");
         addRow("an answer that is a page", "<html><body>Busy<br></body></html>", two, "A/1 B/2");
         const QString longName = QString(1001, QLatin1Char('x'));
         addRow("what is too long for a name, and more than was asked for", corrections(correction("A"_s, longName)),

@@ -143,11 +143,7 @@ private slots:
         QStringList names;
         for (const auto &provider : makeProviders(m_rig->manager())) {
             names.append(provider->name());
-            const QString slash = provider->name() == "Genius"_s ? "/"_s : QString();
-            QCOMPARE(provider->siteUrl(), m_rig->server().base() + slash);
-            QObject owner;
-            const LyricsProvider *copy = provider->clone(&owner);
-            QCOMPARE(copy->parent(), &owner);
+            const std::unique_ptr<LyricsProvider> copy(provider->clone(nullptr));
             QCOMPARE(copy->metaObject(), provider->metaObject());
         }
         QCOMPARE(names.join(QLatin1Char(' ')), "LyricsFreak Genius Megalyrics AZLyrics DarkLyrics MusixMatch"_s);
@@ -478,7 +474,6 @@ void tst_SiteClients::answerHostilePages_data()
     };
     for (const char *name : {"LyricsFreak", "Megalyrics", "AZLyrics", "MusixMatch"})
         row(name, {}, "<");
-    row("LyricsFreak: openings, then nearly a content block", {}, "<div ", "id=\"content\"> x</div"_s);
     const QString freak = "<div data-sorting-artist=\"\"><a href=\""_s;
     addRow("LyricsFreak: matching rows with half a link",
            repeated(freak, hostileSize * 17 / 20) + repeated("</div>"_s, hostileSize * 3 / 20));
@@ -489,18 +484,10 @@ void tst_SiteClients::answerHostilePages_data()
     addRow("Genius: elements in one another", container + half("<div ") + half("</div") + "</div"_s);
     row("Genius: references to references", container, "&#38;#38;", "</div>"_s);
 
-    const QString table = "<div class=\"songs-table\"><table><tbody>"_s;
-    row("Megalyrics: tables without an end", {}, "<div class=\"songs-table\"><table><tbody>");
-    row("Megalyrics: cells in one row", table + "<tr>"_s, "<td><a href=\"\">x</a></td>", "</tr></tbody>"_s);
-
-    row("AZLyrics: names without an end", " <table><tr><td class><a href=\"\">"_s, "<b>x</b>", "</table>"_s);
+    listed("Megalyrics: cells in one row", "<tr><td><a href=\"\">x</a></td>");
     listed("AZLyrics: links in one row", "<tr><td class><a href=\"\"><b>x</b><b>x</b>");
-
-    row("DarkLyrics: wrappers", {}, "<div class='cntwrap'");
-    listed("DarkLyrics: headings without an end of the tag", "<h3 ");
     listed("DarkLyrics: links without an end of the address", "<h2><a x href=\"x");
 
-    listed("MusixMatch: items of other songs", "<li x><a class=\"title\" href=\"/\">x</a></li");
     listed("MusixMatch: anchors in one item", "<a class=\"title\" href=\"/\">");
     const QString block = "<div class=\"mxm-lyrics\">"_s;
     const QString span = "<span class=\"lyrics__content__ok\">"_s;
