@@ -13,6 +13,7 @@
 #include "tags/SavesMending.h"
 #include "tracking/AppTracker.h"
 #include "ui/AppPalette.h"
+#include "ui/SceneEngine.h"
 #include "ui/UsageConsent.h"
 #include "updates/Updater.h"
 
@@ -77,6 +78,7 @@ public:
     [[nodiscard]] ProxyModel *proxyModel() { return &m_proxyModel; }
     [[nodiscard]] FolderScanner *folderScanner() { return &m_folderScanner; }
     [[nodiscard]] Settings *settings() { return &m_settings; }
+    [[nodiscard]] SceneEngine *sceneEngine() { return &m_sceneEngine; }
     [[nodiscard]] AppPalette *appPalette() { return &m_palette; }
     [[nodiscard]] LyricsSearch *lyricsSearch() { return &m_search; }
     // Made with the first request.
@@ -135,6 +137,7 @@ private:
     [[nodiscard]] bool hasTranslation(const QString &code) const;
     [[nodiscard]] static std::unique_ptr<QTranslator> loadTranslator(const QString &name, const QString &folder);
 
+    SceneEngine m_sceneEngine; // first, so that it loads the scene meanwhile
     SingleInstance m_instance;
     SettingsMending m_settingsMending;
     std::unique_ptr<SettingsStandIn> m_standIn; // where the settings file must not be read

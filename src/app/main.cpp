@@ -97,7 +97,7 @@ void tellOfSettings(const Application &app, MainWindow *window)
 int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSignals &signalsToEnd)
 {
     MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app,
-                       app.tracker(), app.usageConsent(), app.updater()});
+                       app.tracker(), app.usageConsent(), app.updater(), app.sceneEngine()});
     if (!window.sceneErrors().isEmpty())
         return showSceneError(app, window.sceneErrors());
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, &QWidget::hide);

@@ -16,6 +16,7 @@
 #include "ui/LyricsEditGuard.h"
 #include "ui/LyricsExport.h"
 #include "ui/MakerSite.h"
+#include "ui/SceneEngine.h"
 #include "ui/SettingsDialog.h"
 #include "ui/StatusLine.h"
 #include "ui/WindowActions.h"
@@ -49,6 +50,7 @@ static void openMakerPage(const QString &path, const QString &source)
 MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     : QMainWindow(parent)
     , m_parts(parts)
+    , m_ownEngine(parts.sceneEngine ? nullptr : std::make_unique<SceneEngine>())
     , m_lyricsEdit(new LyricsEdit(parts.mainModel, this))
     , m_editGuard(new LyricsEditGuard(m_lyricsEdit, parts.mainModel, parts.proxyModel, this))
     , m_unsavedGuard(parts.mainModel, this)
@@ -58,7 +60,8 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_leaving(new Leaving(this, parts.mainModel, m_editGuard, &m_unsavedGuard, parts.tracker))
     , m_actions(std::make_unique<WindowActions>(this))
     , m_status(new StatusLine(statusBar()))
-    , m_scene(std::make_unique<SceneWidget>(sceneNames(), parts.mainModel, this))
+    , m_scene(std::make_unique<SceneWidget>(parts.sceneEngine ? parts.sceneEngine : m_ownEngine.get(), sceneNames(),
+                                            parts.mainModel, this))
     , m_state(this, m_scene.get(), parts.mainModel, parts.settings)
 {
     setWindowTitle(QStringLiteral("Versewell"));

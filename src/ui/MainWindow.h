@@ -27,6 +27,7 @@ class LyricsExport;
 class MainModel;
 class ModelItem;
 class ProxyModel;
+class SceneEngine;
 class QUrl;
 class Settings;
 class StatusLine;
@@ -59,6 +60,8 @@ public:
         UsageConsent *usageConsent = nullptr;
         // Null: there are no updates.
         Updater *updater = nullptr;
+        // For this window alone. Null: the window makes its own, and waits for what it loads.
+        SceneEngine *sceneEngine = nullptr;
     };
 
     explicit MainWindow(const Parts &parts, QWidget *parent = nullptr);
@@ -161,6 +164,7 @@ private:
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
 
     const Parts m_parts;
+    const std::unique_ptr<SceneEngine> m_ownEngine; // where it was given none
     LyricsEdit *const m_lyricsEdit;
     LyricsEditGuard *const m_editGuard;
     UnsavedLyricsGuard m_unsavedGuard;

@@ -4,11 +4,9 @@
 #include "model/MainModel.h"
 #include "ui/ButtonImageProvider.h"
 #include "ui/FileImageProvider.h"
-#include "ui/Legibility.h"
-#include "ui/LineSpacing.h"
 #include "ui/Pictures.h"
 #include "ui/SceneAccessibility.h"
-#include "ui/SpokenFocus.h"
+#include "ui/SceneEngine.h"
 
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -35,13 +33,6 @@ static constexpr std::chrono::milliseconds frameTime(10);
 // A window that nobody sees is not painted; by then one that is seen has been.
 static constexpr std::chrono::seconds framePatience(2);
 
-// The scene lies in a static library, so its resources have to be asked for; the macro must stand outside any
-// namespace.
-static void initSceneResources()
-{
-    Q_INIT_RESOURCE(qml);
-}
-
 // A line for each module of the scene that is not installed, with the Debian package that holds it. Sound is left out:
 // without it the scene is loaded as well.
 static QStringList missingModules(const QStringList &importPaths)
@@ -61,10 +52,9 @@ static QStringList missingModules(const QStringList &importPaths)
     return lines;
 }
 
-SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *parent)
-    : QQuickWidget(parent)
+SceneWidget::SceneWidget(SceneEngine *engine, const Names &names, const MainModel *model, QWidget *parent)
+    : QQuickWidget(engine, parent)
 {
-    initSceneResources();
     initPictures();
     setResizeMode(SizeRootObjectToView);
     setAcceptDrops(true);
@@ -74,16 +64,13 @@ SceneWidget::SceneWidget(const Names &names, const MainModel *model, QWidget *pa
     auto *covers = new FileImageProvider;
     covers->setModel(model);
     // Both are owned by the engine.
-    engine()->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider);
-    engine()->addImageProvider(QStringLiteral("file-cover"), covers);
+    engine->addImageProvider(QStringLiteral("btnimage"), new ButtonImageProvider);
+    engine->addImageProvider(QStringLiteral("file-cover"), covers);
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &SceneWidget::watchFocus);
     connect(quickWindow(), &QQuickWindow::afterRendering, this, [this] { m_isRendered = true; });
     QTimer::singleShot(framePatience, this, &SceneWidget::endFirstFrame);
-    LineSpacing::registerType();
-    Legibility::registerType();
-    SpokenFocus::registerType();
     SceneAccessibility::install(this);
-    setSource(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    setSource(SceneEngine::document());
     if (rootObject())
         rootObject()->setProperty("qtVersion", qtVersion);
     connectRoot("partFailed(QUrl)", this, "reportPart(QUrl)");

@@ -8,6 +8,7 @@
 #include <utility>
 
 class MainModel;
+class SceneEngine;
 
 // The scene inside the main window: makes it from its document, gives it what it works on and serves its pictures.
 class SceneWidget : public QQuickWidget
@@ -18,8 +19,9 @@ public:
     // Objects that the scene knows by these names. Not owned; they must outlive the widget.
     using Names = QList<std::pair<QString, QObject *>>;
 
-    // Covers are those of the model, which must outlive the widget.
-    SceneWidget(const Names &names, const MainModel *model, QWidget *parent);
+    // The engine is for this scene alone and must outlive the widget. Covers are those of the model, which must outlive
+    // it as well.
+    SceneWidget(SceneEngine *engine, const Names &names, const MainModel *model, QWidget *parent);
     ~SceneWidget() override;
 
     // Why the scene could not be loaded, in words for the user; empty when it could.
