@@ -87,9 +87,7 @@ private slots:
         addRow("xiph: older name of the number", xiph({{"DISC", "2"}, {"DISCTOTAL", "4"}}), "disc", "2/4");
         addRow("xiph: total without number", xiph({{"TRACKTOTAL", "9"}}), "track", "");
         addRow("xiph: rating in stars", xiph({{"RATING", "5"}}), "rating", "5");
-        addRow("xiph: rating in percent", xiph({{"RATING", "50"}}), "rating", "3");
         addRow("xiph: rating beyond all percents", xiph({{"RATING", "2000000000"}}), "rating", "5");
-        addRow("xiph: rating that is no number", xiph({{"RATING", "good"}}), "rating", "");
         addRow("xiph: empty lyrics before others", xiph({{"LYRICS", ""}, {"LYRICS", "words"}}), "lyrics", "words");
         addRow("xiph: cue sheet", xiph({{"CUESHEET", "FILE x"}}), "cuesheet", "FILE x");
 
@@ -97,15 +95,11 @@ private slots:
         addRow("mp4: total without number", mp4("trkn", MpItem(0, 9)), "track", "");
         addRow("mp4: rating 0", mp4("rate", MpItem(TagLib::StringList("0"))), "rating", "0");
         addRow("mp4: rating 39", mp4("rate", MpItem(TagLib::StringList("39"))), "rating", "1");
-        addRow("mp4: rating out of range", mp4("rate", MpItem(TagLib::StringList("999"))), "rating", "5");
         addRow("mp4: rating of the wrong type", mp4("rate", MpItem(7)), "rating", "");
 
-        addRow("asf: track as number", asf("WM/TrackNumber", AsfItem(7U)), "track", "7");
         addRow("asf: older track", asf("WM/Track", AsfItem(2000U)), "track", "2000");
         addRow("asf: older track, too large", asf("WM/Track", AsfItem(2001U)), "track", "");
-        addRow("asf: older track, zero", asf("WM/Track", AsfItem(0U)), "track", "");
         addRow("asf: unset rating", asf("WM/SharedUserRating", AsfItem(0U)), "rating", "1");
-        addRow("asf: rating 99", asf("WM/SharedUserRating", AsfItem(99U)), "rating", "5");
         addRow("asf: rating 25", asf("WM/SharedUserRating", AsfItem(25U)), "rating", "2");
         addRow("asf: rating over 100", asf("WM/SharedUserRating", AsfItem(101U)), "rating", "");
         addRow("asf: rating of the content description first", made<TagLib::ASF::Tag>([](auto &tag) {

@@ -71,8 +71,8 @@ private slots:
         QTest::addColumn<bool>("valid");
         addRow("as it should be", forged(0, 0, "x"_s), true);
         addRow("nothing", QByteArray(), false);
-        addRow("a failure that only the program finds", forged(static_cast<quint8>(ReadFailure::Died), 0, QString()),
-               false);
+        const auto died = static_cast<quint8>(ReadFailure::Died);
+        addRow("a failure that only the program finds", forged(died, 0, {}), false);
         addRow("a failure that there is not", forged(255, 0, QString()), false);
         addRow("a negative duration", forged(0, -1, QString()), false);
         addRow("a cover", forged(0, 0, QString(), QSize(50, 20), 4000), true);
