@@ -18,11 +18,10 @@ TlsFront::TlsFront(quint16 plainPort, Trust trust)
     const QString certificate = folder.path(QStringLiteral("certificate"));
     QProcess openssl;
     openssl.start(QStringLiteral("openssl"),
-                  {QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-nodes"), QStringLiteral("-newkey"),
-                   QStringLiteral("ec"), QStringLiteral("-pkeyopt"), QStringLiteral("ec_paramgen_curve:prime256v1"),
-                   QStringLiteral("-subj"), QStringLiteral("/CN=localhost"), QStringLiteral("-addext"),
-                   QStringLiteral("subjectAltName=DNS:localhost"), QStringLiteral("-keyout"), key,
-                   QStringLiteral("-out"), certificate});
+                  QStringLiteral("req -x509 -nodes -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -subj /CN=localhost"
+                                 " -addext subjectAltName=DNS:localhost")
+                          .split(QLatin1Char(' ')) +
+                      QStringList{QStringLiteral("-keyout"), key, QStringLiteral("-out"), certificate});
     const bool isMade = openssl.waitForFinished() && openssl.exitCode() == 0;
     m_identity.setPrivateKey(QSslKey(folder.read(key), QSsl::Ec));
     m_identity.setLocalCertificate(QSslCertificate(folder.read(certificate)));
