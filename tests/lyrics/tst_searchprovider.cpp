@@ -28,7 +28,6 @@ private slots:
     {
         addTextColumns("engine", "query", "address");
         addRow("an engine at another address", "Bing", "x", "http://127.0.0.1:9/mirror/?q=x");
-        addRow("an engine with another key", "Yahoo", "x", "https://search.yahoo.com/search?p=x");
         addRow("an engine with a folder", "Yandex", "Дом", "https://yandex.com/search/?q=%D0%94%D0%BE%D0%BC");
         addRow("no engine chosen", "", "", "https://www.google.com/search?q=");
         addRow("told apart by case", "bing", "a&q=b#c", "https://www.google.com/search?q=a%26q%3Db%23c");

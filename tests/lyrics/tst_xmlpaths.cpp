@@ -12,12 +12,10 @@ private slots:
         addTextColumns("path", "text");
         QTest::addColumn<int>("count");
         addRow("a name means the first child, and all when counted", "lfm.list.track", "one", 3);
-        addRow("an index counts children of that name only", "lfm.list.track[1]", "two", 1);
         addRow("an index that is no number of ours", "lfm.list.track[99999999999]", "", 0);
         addRow("behind an index", "lfm.list.track[2].artist.name", "Мельница 🎵", 1);
         addRow("several attributes", "lfm.list.track[rank=2,kind=live]", "three & more", 1);
         addRow("a missing attribute is not an empty one", "lfm.list.track[kind=]", "", 0);
-        addRow("the text is that of the element alone, trimmed", "lfm.list.track[2]", "three & more", 1);
         addRow("the first one of a name decides", "lfm.other.name", "", 0);
         addRow("a prefix is part of the name", "lfm.x:name", "prefixed", 1);
         addRow("no path", "", "", 0);
