@@ -24,10 +24,10 @@ ScrollView {
         flickableItem.contentY = 0;
     }
 
-    // The cursor goes to the first line that is seen whole, so that an edit begins where the user reads.
+    // The cursor goes to the first line for which nothing has to be scrolled, so that an edit begins where the user reads.
     function cursorIntoView() {
         var top = flickableItem.contentY;
-        area.cursorPosition = top === 0 ? 0 : area.positionAt(0, top + spacing.lineHeight);
+        area.cursorPosition = top === 0 ? 0 : area.positionAt(0, top + Measures.margin + spacing.lineHeight);
     }
 
     function scrollTo(y) {
