@@ -604,17 +604,15 @@ private slots:
         Stage stage;
         QVERIFY(stage.load(stage.songs(25)));
         QSignalSpy started(&stage.model, &MainModel::searchStarted);
+        QSignalSpy counts(&stage.model, &MainModel::searchCountChanged);
         for (quint16 id = 25; id > 0; --id)
             QVERIFY(stage.model.startSearch(id));
         QCOMPARE(stage.model.searchCount(), 10);
         QCOMPARE(stage.model.activeCount(), 25);
-        // Those that were asked for first have started; from then on it goes by row.
-        int most = 0;
-        connect(&stage.model, &MainModel::searchCountChanged, this,
-                [&most](int count) { most = std::max(most, count); });
         QTRY_COMPARE(stage.model.activeCount(), 0);
-        QCOMPARE(most, 10);
+        QVERIFY(!counts.contains(QVariantList{11}));
         QCOMPARE(started.count(), 25);
+        // Those that were asked for first have started; from then on it goes by row.
         QCOMPARE(started.at(10).at(1).toString(), "S000"_s);
         QCOMPARE(started.at(24).at(1).toString(), "S014"_s);
     }
@@ -712,18 +710,16 @@ private slots:
         const auto install = [&](const QString &name, const QByteArray &end) {
             const QByteArray echo = "echo \"" + name.toUtf8() + " ${1##*/}\" >> '" + log.toUtf8() + "'\n";
             const QString program = stage.folder.write(name, "#!/bin/sh\n" + echo + end + "\n");
-            QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+            return QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         };
-        if (!nautilus.isEmpty())
-            install("nautilus"_s, nautilus);
-        install("xdg-open"_s, "exit 0");
+        QVERIFY(nautilus.isEmpty() || install("nautilus"_s, nautilus));
+        QVERIFY(install("xdg-open"_s, "exit 0"));
         stage.model.add({stage.song("music/a b.mp3"_s)});
 
         const QByteArray path = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(stage.folder.path()));
-        stage.model.locate(0);
-        stage.model.locate(1);
-        stage.model.locate(-1);
+        for (const int row : {0, 1, -1})
+            stage.model.locate(row);
         stage.model.removeAll();
         stage.folder.write("song gone"_s);
         QFETCH(QByteArray, expected);
