@@ -19,8 +19,7 @@ private slots:
         m_folder = std::make_unique<TestFolder>();
         m_model = std::make_unique<MainModel>();
         m_model->setReaderProgram(QStringLiteral(VERSEWELL_READER));
-        for (const QString &name : {"a.mp3"_s, "b.mp3"_s})
-            addSong(name);
+        addSongs({"a.mp3"_s, "b.mp3"_s});
         for (int row = 0; row < 2; ++row)
             QTRY_COMPARE(song(row)->processState(), ModelItem::ProcessNotSuitable);
         m_edit = std::make_unique<LyricsEdit>(m_model.get());
@@ -100,7 +99,8 @@ private slots:
         QCOMPARE(m_edit->text(), "words of my own"_s);
         m_edit->cancel();
         m_model->setAutoStart(false);
-        addSong("c.mp3"_s);
+        addSongs({"c.mp3"_s});
+        QVERIFY(!m_model->startSearch(song(2)->id())); // it has no names
         QVERIFY(song(2)->editable() && !song(2)->tagsLoaded());
         m_edit->begin(song(2));
         QVERIFY(!m_edit->active());
@@ -136,10 +136,14 @@ private slots:
 private:
     [[nodiscard]] ModelItem *song(int row) const { return m_model->itemAt(row); }
 
-    void addSong(const QString &name)
+    void addSongs(const QStringList &names)
     {
-        QVERIFY(QFile::copy(QStringLiteral(VERSEWELL_SAMPLES_DIR "/untagged.mp3"), m_folder->path(name)));
-        m_model->add({m_folder->url(name)});
+        QList<QUrl> urls;
+        for (const QString &name : names) {
+            QVERIFY(QFile::copy(QStringLiteral(VERSEWELL_SAMPLES_DIR "/untagged.mp3"), m_folder->path(name)));
+            urls.append(m_folder->url(name));
+        }
+        m_model->add(urls);
     }
 
     std::unique_ptr<TestFolder> m_folder;
