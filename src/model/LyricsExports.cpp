@@ -9,9 +9,9 @@ static bool canBeExported(const ModelItem &item)
     return item.url().isLocalFile() && !item.lyricsTag().isEmpty();
 }
 
-static void queueTo(LyricsFileWriter &writer, const ModelItem &item, const LyricsFileWriter::Condition &isWanted)
+static void queueTo(LyricsFileWriter &writer, const ModelItem &item)
 {
-    writer.queueWrite(item.id(), item.url().toLocalFile(), item.lyricsTag(), isWanted);
+    writer.queueWrite(item.id(), item.url().toLocalFile(), item.lyricsTag());
 }
 
 LyricsExports::LyricsExports(QObject *parent)
@@ -27,11 +27,11 @@ bool LyricsExports::queue(const ModelItem &item)
         m_writer.reset(new LyricsFileWriter);
         connect(m_writer.data(), &LyricsFileWriter::written, this, &LyricsExports::exported);
     }
-    queueTo(*m_writer, item, [] { return true; });
+    queueTo(*m_writer, item);
     return true;
 }
 
-void LyricsExports::queueAutomatic(const ModelItem &item, const LyricsFileWriter::Condition &isWanted)
+void LyricsExports::queueAutomatic(const ModelItem &item)
 {
     if (!canBeExported(item))
         return;
@@ -43,5 +43,5 @@ void LyricsExports::queueAutomatic(const ModelItem &item, const LyricsFileWriter
                         emit automaticFailed(textFile);
                 });
     }
-    queueTo(*m_automaticWriter, item, isWanted);
+    queueTo(*m_automaticWriter, item);
 }

@@ -19,9 +19,8 @@ public:
 
     // False, with nothing touched, when the song has no lyrics or is no local file.
     bool queue(const ModelItem &item);
-    // The export that comes with a write; the same, but only its failure is told. Nothing happens when it is not wanted
-    // any more once its turn has come.
-    void queueAutomatic(const ModelItem &item, const LyricsFileWriter::Condition &isWanted);
+    // The export that comes with a write; the same, but only its failure is told.
+    void queueAutomatic(const ModelItem &item);
 
 signals:
     // Once for each call of queue() that returned true.

@@ -9,13 +9,9 @@ LyricsFileWriter::LyricsFileWriter()
     moveToThread(tags::WriterThread::instance().thread());
 }
 
-void LyricsFileWriter::queueWrite(quint16 id, const QString &audioFile, const QString &lyrics,
-                                  const Condition &isWanted)
+void LyricsFileWriter::queueWrite(quint16 id, const QString &audioFile, const QString &lyrics)
 {
-    const auto writeNow = [this, id, audioFile, lyrics, isWanted,
-                           ticket = tags::WriterThread::instance().takeTicket()] {
-        if (!isWanted())
-            return;
+    const auto writeNow = [this, id, audioFile, lyrics, ticket = tags::WriterThread::instance().takeTicket()] {
         const bool isWritten = writeLyricsFile(audioFile, lyrics);
         emit written(id, lyricsFileName(audioFile), isWritten);
     };

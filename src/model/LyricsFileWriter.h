@@ -4,8 +4,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 // Writes lyrics into the text files beside songs (model/LyricsFile.h), on the thread that writes tags: in the order in
 // which all of these are queued, and waited for at the end of the program as they are (tags/WriterThread.h).
 //
@@ -18,12 +16,9 @@ class LyricsFileWriter : public QObject
 public:
     LyricsFileWriter();
 
-    // Asked on the writer thread, when the file's turn has come.
-    using Condition = std::function<bool()>;
-
-    void queueWrite(quint16 id, const QString &audioFile, const QString &lyrics, const Condition &isWanted);
+    void queueWrite(quint16 id, const QString &audioFile, const QString &lyrics);
 
 signals:
-    // Once for each that was queued and is wanted. When it was not written, what was there is unchanged.
+    // Once for each that was queued. When it was not written, what was there is unchanged.
     void written(quint16 id, const QString &textFile, bool isWritten);
 };

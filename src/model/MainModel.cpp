@@ -594,18 +594,14 @@ bool MainModel::writeTagsUnlessForeign(quint16 id)
 
 void MainModel::startWriting(ModelItem *item, SongWrites::Kind kind)
 {
-    const bool isExported = m_settings && m_settings->generateLyricsFileAuto();
-    const bool isFound = kind == SongWrites::Kind::Found;
-    // The export comes first, but for lyrics that were found: whether these are the song's shows only when it is
-    // written, and where another program has changed its names, the text file stays as it is.
-    if (isExported && !isFound)
-        m_exports.queueAutomatic(*item, [] { return true; });
+    // The export comes first, also of words for names that another program has changed meanwhile: whether it has shows
+    // only when the song is written. They are searched for anew then.
+    if (m_settings && m_settings->generateLyricsFileAuto())
+        m_exports.queueAutomatic(*item);
     item->setErrorString(QString());
     item->setFoundNothing(false);
     item->setProcessState(ModelItem::ProcessWritingTags);
-    const SongWrites::IsRenamed isRenamed = m_writes.start(*item, kind);
-    if (isExported && isFound)
-        m_exports.queueAutomatic(*item, [isRenamed] { return !isRenamed(); });
+    m_writes.start(*item, kind);
 }
 
 void MainModel::tagsWritten(quint16 id)

@@ -4,7 +4,6 @@
 #include "tags/TagWriter.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace {
 
@@ -32,7 +31,7 @@ SongWrites::SongWrites(QObject *parent)
 {
 }
 
-SongWrites::IsRenamed SongWrites::start(const ModelItem &item, Kind kind)
+void SongWrites::start(const ModelItem &item, Kind kind)
 {
     const quint16 id = item.id();
     const tags::SongTexts texts = item.texts();
@@ -43,10 +42,6 @@ SongWrites::IsRenamed SongWrites::start(const ModelItem &item, Kind kind)
     writes.enqueue({texts, item.url()});
     ++m_files[item.url()];
     auto *writer = new TagWriter(m_dataFolder);
-    const auto isRenamed = std::make_shared<bool>(false); // of the writer thread alone
-    connect(writer, &TagWriter::updated, writer, [isRenamed](quint16, tags::UpdateResult result) {
-        *isRenamed = result == tags::UpdateResult::RenamedMeanwhile;
-    });
     connect(writer, &TagWriter::updated, this,
             [this](quint16 updatedId, tags::UpdateResult result) { m_results.insert(updatedId, result); });
     connect(writer, &TagWriter::failed, this,
@@ -54,9 +49,6 @@ SongWrites::IsRenamed SongWrites::start(const ModelItem &item, Kind kind)
     connect(writer, &TagWriter::written, this, &SongWrites::written);
     connect(writer, &TagWriter::written, writer, &QObject::deleteLater);
     writer->queueWrite(item.url(), id, texts.artist, texts.title, texts.lyrics, shown);
-    return [isRenamed] {
-        return *isRenamed;
-    };
 }
 
 bool SongWrites::isWritingOther(quint16 id, const QString &lyrics) const

@@ -9,7 +9,6 @@
 #include <QUrl>
 #include <QVector>
 
-#include <functional>
 #include <optional>
 
 // The writes of songs that are under way. Main thread only; the files are written elsewhere (tags/TagWriter.h).
@@ -34,17 +33,13 @@ public:
         std::optional<ModelItem::FileKind> fileKind = {};
     };
 
-    // Whether a write was refused since another program has changed the names. To be asked on the writer thread, by
-    // what was queued after the write.
-    using IsRenamed = std::function<bool()>;
-
     explicit SongWrites(QObject *parent = nullptr);
 
     // The program's own folder for saves (tags/TagUpdate.h).
     void setDataFolder(const QString &folder) { m_dataFolder = folder; }
 
     // Queues a write of the item's texts.
-    IsRenamed start(const ModelItem &item, Kind kind);
+    void start(const ModelItem &item, Kind kind);
     [[nodiscard]] bool isWriting(quint16 id) const { return m_writes.contains(id); }
     [[nodiscard]] bool isWriting(const QUrl &file) const { return m_files.contains(file); }
     // Whether a write of this song is under way that stores other lyrics than these.
