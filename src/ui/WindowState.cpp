@@ -37,9 +37,11 @@ void WindowState::resizeToText()
 
 void WindowState::bound()
 {
+    const QSize before = m_scene->size();
     m_scene->setMinimumSize(m_scene->leastSize());
     const QSize excess = (m_window->minimumSizeHint() - m_window->screen()->availableSize()).expandedTo({0, 0});
     m_scene->setMinimumSize(m_scene->leastSize() - excess);
+    m_scene->resize(before.expandedTo(m_scene->minimumSize())); // which a screen that is too small has made too large
     m_window->setMinimumSize(m_window->minimumSizeHint().expandedTo(leastSize));
 }
 
