@@ -109,7 +109,8 @@ QString normalisedTitle(const QString &title)
 
 QString foundName(const QString &encoded)
 {
-    return withoutBrokenCharacters(withNamedCharacters(decodeHtmlEntities(encoded))).trimmed();
+    const QString decoded = decodeHtmlEntities(decodeHtmlEntities(encoded)); // the first uncovers no numbers
+    return withoutBrokenCharacters(withNamedCharacters(decoded)).trimmed();
 }
 
 bool looselyAgree(const QString &wanted, const QString &found)

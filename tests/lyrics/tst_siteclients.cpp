@@ -249,6 +249,7 @@ private slots:
         const QString escapes = "/a%20%D0%B0?c=%26%E9%25E9"_s;
         for (const char *name : {"LyricsFreak", "Genius", "Megalyrics", "AZLyrics", "DarkLyrics", "MusixMatch"})
             addRow(name, escapes, escapes);
+        addRow("AZLyrics: a percent sign beside escapes", "/100%/caf%C3%A9%u2019"_s, "/100%25/caf%C3%A9%25u2019"_s);
         addRow("LyricsFreak: two slashes", "//other.invalid/a", "/other.invalid/a");
         addRow("LyricsFreak: no path", "song", "");
         addRow("LyricsFreak: an empty path", "", "");
@@ -379,6 +380,7 @@ void tst_SiteClients::findTheSong_data()
     row("LyricsFreak: a row that is not closed has no block", freak + song, "");
     row("LyricsFreak: a link behind the row's own block", freak + "</div>"_s + song, "");
     row("LyricsFreak: a row within a row that has a link", freak + freak + "</div>"_s + song + "</div>"_s, "/1");
+    row("LyricsFreak: a row behind one without a block", freak + "<divider>"_s + freak + song + "</div>"_s, "/1");
 
     listed("Genius: marks, entities, and a percent sign", "Moth Lamp/Dont Dim", "/Moth-lamp-dont-dim-100%-lyrics");
     const QString hit = at(siteOf("Genius").row, {}).replace("LINK"_s, "/1"_s);
@@ -488,7 +490,10 @@ void tst_SiteClients::answerHostilePages_data()
     listed("AZLyrics: links in one row", "<tr><td class><a href=\"\"><b>x</b><b>x</b>");
     listed("DarkLyrics: links without an end of the address", "<h2><a x href=\"x");
 
+    row("AZLyrics: attributes in one line", {}, "setAttribute(\"x\",\"x\")");
     listed("MusixMatch: anchors in one item", "<a class=\"title\" href=\"/\">");
+    listed("MusixMatch: items of other songs", "<li x><a class=\"title\" href=\"/\">x</a></li");
+    row("MusixMatch: classes on lines of their own", {}, "<div class='a'\n");
     const QString block = "<div class=\"mxm-lyrics\">"_s;
     const QString span = "<span class=\"lyrics__content__ok\">"_s;
     row("MusixMatch: parts that are not closed", block, "<span class=\"lyrics__content__ok\">", "</div>"_s);

@@ -3,6 +3,8 @@
 
 #include "lyrics/PageBytes.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <optional>
 
@@ -11,6 +13,13 @@ namespace {
 bool isQuotationMark(char c)
 {
     return c == '"' || c == '\'';
+}
+
+// With an escape for each "%" that begins none: QUrl would take all others for text as well.
+QString withWholeEscapes(QString link)
+{
+    static const QRegularExpression bare(QStringLiteral("%(?![0-9A-Fa-f]{2})"));
+    return link.replace(bare, QStringLiteral("%25"));
 }
 
 // The link as it is quoted in the page's source; nothing when it holds no escape there, or its slashes
@@ -23,7 +32,7 @@ std::optional<QString> quotedInSource(const Page &page, const QString &link)
         const char *const mark = std::find_if(begin, end, isQuotationMark);
         const auto quoted = QByteArray::fromRawData(begin, static_cast<int>(mark - begin));
         if (quoted.contains('%') && quoted.count('/') == wanted.count('/') && decodePercentEscapes(quoted) == wanted)
-            return QString::fromUtf8(quoted);
+            return withWholeEscapes(QString::fromUtf8(quoted));
         begin = mark + 1;
     }
     return std::nullopt;
