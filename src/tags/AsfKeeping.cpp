@@ -92,8 +92,11 @@ Object withEdits(const Object &before, const Object &written, const EditedKeys &
         return editedKeys.contains("ASF/" + attribute.name);
     };
     Attributes attributes = attributesOf(before);
-    attributes.erase(std::remove_if(attributes.begin(), attributes.end(), isEdited), attributes.end());
     const Attributes writtenOnes = attributesOf(written);
+    if (std::none_of(attributes.begin(), attributes.end(), isEdited) &&
+        std::none_of(writtenOnes.begin(), writtenOnes.end(), isEdited))
+        return before;
+    attributes.erase(std::remove_if(attributes.begin(), attributes.end(), isEdited), attributes.end());
     std::copy_if(writtenOnes.begin(), writtenOnes.end(), std::back_inserter(attributes), isEdited);
     return asf::toObject(before.kind, attributes);
 }
@@ -110,6 +113,9 @@ Objects withEdits(const Objects &before, Objects written, const EditedKeys &edit
     }
     constexpr int countBytes = 2; // of an object that holds no attributes
     for (const Object &fresh : qAsConst(written)) {
+        if (fresh.kind == asf::headerExtension) // what it holds comes later
+            objects.append({fresh.kind, fresh.content.left(asf::extensionFieldBytes - sizeBytes) +
+                                            asf::littleEndian(static_cast<quint32>(0))});
         const Object object = withEdits(Object{fresh.kind, {}}, fresh, editedKeys);
         if (object.content.size() > countBytes)
             objects.append(object);
@@ -144,7 +150,7 @@ void keepAsfAttributes(TagLib::IOStream &copy, const FileBytes &written, const F
             object = extensionWithEdits(object, after, editedKeys);
     }
     const QByteArray parts = asf::toBytes(objects);
-    const auto size = static_cast<quint64>(asf::headerFieldBytes + parts.size());
+    const auto size = static_cast<quint64>(asf::headerFieldBytes) + static_cast<quint64>(parts.size());
     header = asf::headerObject + asf::littleEndian(size) + asf::littleEndian(static_cast<quint32>(objects.size())) +
              header.mid(reservedPlace, asf::headerFieldBytes - reservedPlace) + parts;
     copy.insert({header.constData(), static_cast<unsigned int>(header.size())}, 0,

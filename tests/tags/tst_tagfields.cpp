@@ -87,6 +87,7 @@ private slots:
         addRow("xiph: older name of the number", xiph({{"DISC", "2"}, {"DISCTOTAL", "4"}}), "disc", "2/4");
         addRow("xiph: total without number", xiph({{"TRACKTOTAL", "9"}}), "track", "");
         addRow("xiph: rating in stars", xiph({{"RATING", "5"}}), "rating", "5");
+        addRow("xiph: rating in percent", xiph({{"RATING", "50"}}), "rating", "3");
         addRow("xiph: rating beyond all percents", xiph({{"RATING", "2000000000"}}), "rating", "5");
         addRow("xiph: empty lyrics before others", xiph({{"LYRICS", ""}, {"LYRICS", "words"}}), "lyrics", "words");
         addRow("xiph: cue sheet", xiph({{"CUESHEET", "FILE x"}}), "cuesheet", "FILE x");
