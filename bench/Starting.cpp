@@ -69,7 +69,8 @@ int rowCount(const MainWindow &window)
     app.setUpLanguages();
     app.noteStart();
     MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app,
-                       app.tracker(), app.usageConsent(), app.updater(), app.sceneEngine()});
+                       app.tracker(), app.usageConsent(), app.updater()},
+                      app.takeSceneEngine());
     if (!window.sceneErrors().isEmpty())
         qFatal("%s", qPrintable(window.sceneErrors()));
     QObject::connect(&window, &MainWindow::firstFrameShown, app.mainModel(), &MainModel::restore);

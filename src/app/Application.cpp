@@ -48,6 +48,7 @@ QString lockFile()
 Application::Application(int &argc, char **argv, const QString &readerProgram)
     : QApplication(argc, argv)
     , m_instance(lockFile())
+    , m_sceneEngine(m_instance.isOtherRunning() ? nullptr : std::make_unique<SceneEngine>())
 {
     readSettings(); // mended first of all: every look at the settings reads the file
     setAttribute(Qt::AA_UseHighDpiPixmaps);

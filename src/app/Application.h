@@ -78,7 +78,8 @@ public:
     [[nodiscard]] ProxyModel *proxyModel() { return &m_proxyModel; }
     [[nodiscard]] FolderScanner *folderScanner() { return &m_folderScanner; }
     [[nodiscard]] Settings *settings() { return &m_settings; }
-    [[nodiscard]] SceneEngine *sceneEngine() { return &m_sceneEngine; }
+    // For the window, whose scene must not outlive what it shows. Null where there is to be no window, and later.
+    [[nodiscard]] std::unique_ptr<SceneEngine> takeSceneEngine() { return std::move(m_sceneEngine); }
     [[nodiscard]] AppPalette *appPalette() { return &m_palette; }
     [[nodiscard]] LyricsSearch *lyricsSearch() { return &m_search; }
     // Made with the first request.
@@ -137,8 +138,8 @@ private:
     [[nodiscard]] bool hasTranslation(const QString &code) const;
     [[nodiscard]] static std::unique_ptr<QTranslator> loadTranslator(const QString &name, const QString &folder);
 
-    SceneEngine m_sceneEngine; // first, so that it loads the scene meanwhile
     SingleInstance m_instance;
+    std::unique_ptr<SceneEngine> m_sceneEngine; // loads the scene while the others are made; until it is taken
     SettingsMending m_settingsMending;
     std::unique_ptr<SettingsStandIn> m_standIn; // where the settings file must not be read
     bool m_settingsStored = true;

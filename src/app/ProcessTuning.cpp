@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <cstdlib>
+#include <utility>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -20,9 +21,19 @@ static void keepFreedMemory()
 #endif
 }
 
+// Whether it is of this program's making.
+static bool isSet = false;
+
 void tuneProcess()
 {
     keepFreedMemory();
-    if (!qEnvironmentVariableIsSet(callsBeforeCompiling))
+    isSet = !qEnvironmentVariableIsSet(callsBeforeCompiling);
+    if (isSet)
         qputenv(callsBeforeCompiling, QByteArrayLiteral("1000"));
+}
+
+void forgetTuning()
+{
+    if (std::exchange(isSet, false))
+        qunsetenv(callsBeforeCompiling);
 }

@@ -97,7 +97,8 @@ void tellOfSettings(const Application &app, MainWindow *window)
 int runWindow(Application &app, const QList<QUrl> &songs, const TerminationSignals &signalsToEnd)
 {
     MainWindow window({app.mainModel(), app.proxyModel(), app.folderScanner(), app.settings(), app.appPalette(), &app,
-                       app.tracker(), app.usageConsent(), app.updater(), app.sceneEngine()});
+                       app.tracker(), app.usageConsent(), app.updater()},
+                      app.takeSceneEngine());
     if (!window.sceneErrors().isEmpty())
         return showSceneError(app, window.sceneErrors());
     QObject::connect(&signalsToEnd, &TerminationSignals::received, &window, &QWidget::hide);
@@ -233,6 +234,7 @@ int main(int argc, char **argv)
     int status = Done;             // outlives the application object
     // This very program, also after its file was replaced by another version.
     Application app(argc, argv, QStringLiteral("/proc/self/exe"));
+    forgetTuning();
     const CommandLine line = readCommandLine(Application::arguments(), QDir::currentPath());
     if (!line.unknownOption.isEmpty()) {
         std::fprintf(stderr, "versewell: the option %s is not known; --help lists all.\n",

@@ -16,7 +16,6 @@
 #include "ui/LyricsEditGuard.h"
 #include "ui/LyricsExport.h"
 #include "ui/MakerSite.h"
-#include "ui/SceneEngine.h"
 #include "ui/SettingsDialog.h"
 #include "ui/StatusLine.h"
 #include "ui/WindowActions.h"
@@ -47,10 +46,10 @@ static void openMakerPage(const QString &path, const QString &source)
         QDesktopServices::openUrl(page);
 }
 
-MainWindow::MainWindow(const Parts &parts, QWidget *parent)
+MainWindow::MainWindow(const Parts &parts, std::unique_ptr<SceneEngine> sceneEngine, QWidget *parent)
     : QMainWindow(parent)
     , m_parts(parts)
-    , m_ownEngine(parts.sceneEngine ? nullptr : std::make_unique<SceneEngine>())
+    , m_sceneEngine(sceneEngine ? std::move(sceneEngine) : std::make_unique<SceneEngine>())
     , m_lyricsEdit(new LyricsEdit(parts.mainModel, this))
     , m_editGuard(new LyricsEditGuard(m_lyricsEdit, parts.mainModel, parts.proxyModel, this))
     , m_unsavedGuard(parts.mainModel, this)
@@ -60,8 +59,7 @@ MainWindow::MainWindow(const Parts &parts, QWidget *parent)
     , m_leaving(new Leaving(this, parts.mainModel, m_editGuard, &m_unsavedGuard, parts.tracker))
     , m_actions(std::make_unique<WindowActions>(this))
     , m_status(new StatusLine(statusBar()))
-    , m_scene(std::make_unique<SceneWidget>(parts.sceneEngine ? parts.sceneEngine : m_ownEngine.get(), sceneNames(),
-                                            parts.mainModel, this))
+    , m_scene(std::make_unique<SceneWidget>(m_sceneEngine.get(), sceneNames(), parts.mainModel, this))
     , m_state(this, m_scene.get(), parts.mainModel, parts.settings)
 {
     setWindowTitle(QStringLiteral("Versewell"));

@@ -4,6 +4,7 @@
 #include "lyrics/SearchProvider.h"
 #include "tags/SaveJournal.h"
 #include "ui/LyricsEdit.h"
+#include "ui/SceneEngine.h"
 #include "ui/SceneWidget.h"
 #include "ui/SongRemoval.h"
 #include "ui/UnsavedLyricsGuard.h"
@@ -27,7 +28,6 @@ class LyricsExport;
 class MainModel;
 class ModelItem;
 class ProxyModel;
-class SceneEngine;
 class QUrl;
 class Settings;
 class StatusLine;
@@ -60,11 +60,10 @@ public:
         UsageConsent *usageConsent = nullptr;
         // Null: there are no updates.
         Updater *updater = nullptr;
-        // For this window alone. Null: the window makes its own, and waits for what it loads.
-        SceneEngine *sceneEngine = nullptr;
     };
 
-    explicit MainWindow(const Parts &parts, QWidget *parent = nullptr);
+    // An engine of this window's own may have been made before; otherwise the window waits for what it loads.
+    explicit MainWindow(const Parts &parts, std::unique_ptr<SceneEngine> sceneEngine = {}, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     [[nodiscard]] LyricsEdit *lyricsEdit() const { return m_lyricsEdit; }
@@ -164,7 +163,7 @@ private:
     [[nodiscard]] const ModelItem *itemAtRow(int row) const;
 
     const Parts m_parts;
-    const std::unique_ptr<SceneEngine> m_ownEngine; // where it was given none
+    const std::unique_ptr<SceneEngine> m_sceneEngine;
     LyricsEdit *const m_lyricsEdit;
     LyricsEditGuard *const m_editGuard;
     UnsavedLyricsGuard m_unsavedGuard;
