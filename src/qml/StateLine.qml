@@ -11,7 +11,7 @@ Item {
 
     signal searchRequested()
 
-    implicitHeight: visible ? Math.max(Measures.barHeight, words.implicitHeight) : 0
+    implicitHeight: visible ? Math.max(Measures.barHeight, words.implicitHeight + Measures.grid) : 0
     visible: text !== "" || searchOffered
 
     Rectangle {

@@ -45,9 +45,11 @@ void LyricsEdit::save()
     if (song && m_model->item(song->id()) == song && !song->tagsLoaded())
         return;
     // The song has the text before the edit ends, so that whoever shows one or the other never shows the old one.
-    giveText(song, text);
+    const int id = m_songId;
+    const bool isGiven = giveText(song, text);
     cancel();
-    write(song, text);
+    if (isGiven)
+        m_model->writeTags(static_cast<quint16>(id));
 }
 
 bool LyricsEdit::giveText(ModelItem *song, const QString &text)
