@@ -594,8 +594,9 @@ bool MainModel::writeTagsUnlessForeign(quint16 id)
 
 void MainModel::startWriting(ModelItem *item, SongWrites::Kind kind)
 {
-    // The export comes first, also of words for names that another program has changed meanwhile: whether it has shows
-    // only when the song is written. They are searched for anew then.
+    // The export comes first, and is meant to: also of words for names that another program has changed meanwhile,
+    // which shows only when the song is written. It is searched for anew then; where nothing is found, the text file
+    // stays.
     if (m_settings && m_settings->generateLyricsFileAuto())
         m_exports.queueAutomatic(*item);
     item->setErrorString(QString());

@@ -297,6 +297,10 @@ QStringList faultsOf(QWidget *window, const Catalogue &catalogue)
         return faults; // what else it has is Qt's or the desktop's
     Nodes nodes;
     collect(QAccessible::queryAccessibleInterface(window), nodes);
+    for (const QAccessibleInterface *node : qAsConst(nodes)) {
+        if (catalogue.isEnglish(node->text(QAccessible::Name)))
+            faults.append("English, as it is heard: %1"_s.arg(node->text(QAccessible::Name)));
+    }
     const QVector<Stop> stops = stopsOf(window);
     return faults + misplaced(stops) + unreached(nodes, stops);
 }

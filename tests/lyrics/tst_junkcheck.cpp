@@ -24,6 +24,7 @@ private slots:
         junk("a document", "<html lang=en>"_s);
         junk("a document type", "<!doctype html>"_s);
         junk("a script that the clean-up hides", "la li"_s, "la<Script>ad(1)</script>li"_s);
+        junk("a style sheet that the clean-up hides", "la li"_s, "<style>b{}</style>li"_s);
         junk("the end of a script", "la"_s, "ad(1)</script>la"_s);
         song("as long as it may be", QString(100000, QLatin1Char('a')));
         junk("too long in bytes", QString(50001, QChar(0x44f)));
@@ -38,6 +39,7 @@ private slots:
                  "Текст песни пока не добавлен",
                  "Lyrics coming soon...",
                  "Sorry, lyrics not available.",
+                 "[Lyrics not available]",
                  "Lyrics licensed & provided by LyricFind",
                  "We don&#x27;t have the lyrics for this song yet.",
                  "This song is instrumental. Let the music play...",
@@ -55,6 +57,7 @@ private slots:
         junk("an unmistakable notice below a song", long30 + "Cloudflare Ray ID: 7d2"_s);
         junk("a wall with much below it", "Please complete the captcha.\n"_s + long30);
         song("notices within a song", long30 + "Solve the captcha of my heart\nyou must be logged in to my love"_s);
+        song("words of short notices in a long song", long30 + "before you continue, verify you are human"_s);
         song("blocked", "You have been blocked, she told my number\nall rights are hers to keep"_s);
         song("a status in a line", "Access denied, says the door to your heart\nnot found, not found"_s);
         song("short, with words of walls", "Just a moment, before you go on\nthe song is not found, not for sale"_s);

@@ -116,6 +116,8 @@ private slots:
         addRow("nothing keeps the order", "", "Freak;;Genius;;Mega");
         addRow("disabled", "Mega::0;;Genius", "Mega::0;;Genius;;Freak");
         addRow("duplicates, any case, unknown ones", "genius;;GENIUS::0;;Foo", "Genius;;Freak;;Mega");
+        addRow("a mark needs the exact name", "genius::0;;Mega::1", "Genius;;Freak;;Mega");
+        addRow("another mark makes another name", "Mega::1", "Freak;;Genius;;Mega");
         addRow("blank ends", " Mega::0 ;;\tGenius", "Mega;;Genius;;Freak");
     }
 

@@ -345,6 +345,7 @@ private slots:
         QVERIFY(stage.model.writeTags(1) && stage.ends());
         QVERIFY(!item->unsaved() && !item->bad() && failures.isEmpty());
         QCOMPARE(left.takeFirst(), (QVariantList{reason, 0}));
+        QVERIFY(!stage.model.writeTags(99) && !stage.model.startSearch(99) && !stage.model.generateLyricsFile(99));
     }
 
     void whatIsInNoSongIsKeptAsText()
@@ -473,6 +474,7 @@ private slots:
         addRow("corrected in the list", false, false, "Reign", "of Reign");
         addRow("corrected, and the search is forced", true, false, "Reign", "of Reign");
         addRow("corrected in the file by another program", false, true, "Reign", "of Reign");
+        addRow("given there to a song that no site has", false, true, "Rein", "");
     }
 
     void aSongIsSearchedForAnewUnderItsNewNames()
@@ -494,7 +496,8 @@ private slots:
         QCOMPARE(Stage::stored(url, "title"), newTitle);
         QCOMPARE(Stage::stored(url, "lyrics"), lyrics);
         QCOMPARE(stage.model.itemAt(0)->titleTag(), newTitle);
-        QCOMPARE(stage.folder.read("A - Rain.txt"_s), lyrics.toUtf8());
+        QCOMPARE(stage.model.itemAt(0)->lyricsTag(), lyrics);
+        QCOMPARE(stage.folder.read("A - Rain.txt"_s), lyrics.isEmpty() ? "of Rain" : lyrics.toUtf8());
     }
 
     void wordsTypedDuringASearchStay()

@@ -191,7 +191,11 @@ private slots:
     {
         addCopies(3);
         m_window->showSettingsDamaged("/home/<b>x</b>"_s);
-        emit m_model->filesLeftOut(7);
+        emit m_model->filesLeftOut(4);
+        emit m_model->filesLeftOut(3);
+        m_proxy->selectAll();
+        action("actionExportLyrics")->trigger();
+        QTRY_VERIFY(labels().contains("There are no lyrics to export"_s));
         giveLyricsToAll();
         // A folder stands where the text file would.
         QVERIFY(QDir(m_songs->path()).mkdir("1.txt"_s));
