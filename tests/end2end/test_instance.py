@@ -104,6 +104,7 @@ class InstanceTest(unittest.TestCase):
                 before = rig.digest(path)
                 program.send_signal(number)
                 self.assertEqual(program.wait(20), 0, session.messages())
+                self.assertNotIn("qrc:/qml/", session.messages(), "the scene outlives what it shows")
                 self.assertEqual(rig.digest(path), before)
 
     def test_a_scene_that_cannot_be_loaded_ends_with_3_and_nothing_goes_on_behind_its_box(self):
